@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+namespace kivu::platform {
+
+// The host's files. Paths are text as the launcher holds it (see support/text.h); a name keeps its
+// bytes on the way through. Nothing here throws: a failure is a value, and a failed write leaves the
+// old file as it was.
+class FileSystem {
+ public:
+    virtual ~FileSystem() = default;
+
+    struct Entry {
+        std::string name;       // without its directory
+        bool isDirectory = false;
+    };
+
+    // Regular files (and links to them) and directories of one directory, in no particular order.
+    // Hidden names, names with CR or LF, devices, pipes, sockets and dangling links are left out.
+    // Empty optional: the directory cannot be entered or read.
+    virtual std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const = 0;
+
+    // A regular file of exactly this name. Empty or quoted text and directories are no files; "*"
+    // and "?" are plain characters.
+    virtual bool FileExists(const std::string& path) const = 0;
+    virtual bool IsDirectory(const std::string& path) const = 0;
+
+    // One value per directory, whatever path leads to it, so that a walk enters it once. 0: unknown.
+    struct Identity {
+        std::uint64_t device = 0;
+        std::uint64_t inode = 0;
+        auto operator<=>(const Identity&) const = default;
+    };
+    virtual std::optional<Identity> IdentityOf(const std::string& path) const = 0;
+    virtual bool IsLink(const std::string& path) const = 0;
+
+    // The whole file. Empty optional: missing, a directory, or unreadable.
+    virtual std::optional<std::string> ReadFile(const std::string& path) const = 0;
+
+    // Replaces the file in one step: written and flushed beside it, then renamed over it.
+    virtual std::error_code WriteFile(const std::string& path, std::string_view bytes) = 0;
+    virtual std::error_code AppendFile(const std::string& path, std::string_view bytes) = 0;
+    virtual std::error_code DeleteFile(const std::string& path) = 0;
+    virtual std::error_code MakeDirectory(const std::string& path) = 0;
+
+    virtual std::string CurrentDirectory() const = 0;
+    virtual std::error_code ChangeDirectory(const std::string& path) = 0;
+
+    // The host's short (8.3) and long form of an existing path; empty when there is no answer. A host
+    // without short names gives the path without enclosing quotes.
+    virtual std::string ShortPathName(const std::string& path) const = 0;
+    virtual std::string LongPathName(const std::string& path) const = 0;
+
+    // "\\" or "/": what joins fixed names such as "Config" to a path on this host.
+    virtual char Separator() const = 0;
+
+    // Text of the launcher's own files and of those it hands to others: 8-bit, in the system code
+    // page. On Linux that is UTF-8, and bytes that are not UTF-8 are taken as Windows-1252.
+    virtual std::string DecodeText(std::string_view bytes) const = 0;
+    virtual std::string EncodeText(std::string_view text) const = 0;
+};
+
+}  // namespace kivu::platform

@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+#include <system_error>
+#include <vector>
+
+namespace kivu::platform {
+
+enum class WindowStyle { Hidden, Normal, Minimized, Maximized, NormalNoFocus, MinimizedNoFocus };
+
+// One program to start. `command` is the literal command text, as it is shown and as Windows takes it;
+// `words` is the same split into its program and arguments, for hosts that start by words. The two
+// say the same thing; a host uses one of them.
+struct StartRequest {
+    std::string command;
+    std::vector<std::string> words;
+    std::string directory;   // absolute; empty: the launcher's current one
+    WindowStyle style = WindowStyle::Normal;
+    bool wait = false;       // return only when the program has ended
+    bool startFile = false;  // words[0] is a start file of the launcher, for the host's command processor
+    bool watched = false;    // the launch that ProcessList marks with ProcessEntry::ofLaunch
+};
+
+// Starts programs and holds no handle to them: nothing is left behind when they end.
+class ProgramStarter {
+ public:
+    virtual ~ProgramStarter() = default;
+    virtual std::error_code Run(const StartRequest& request) = 0;
+
+    // How this host runs a program: false, and the launcher writes start files for cmd.exe; true, and
+    // it writes them for /bin/sh (words in single quotes, lines ended by LF).
+    virtual bool UsesShell() const = 0;
+
+    // Hands an address or a document to the program that the user has chosen for it.
+    virtual std::error_code Open(const std::string& addressOrPath) = 0;
+};
+
+}  // namespace kivu::platform
