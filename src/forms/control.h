@@ -1,0 +1,152 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "forms/types.h"
+
+namespace kivu::forms {
+
+class Container;
+class Form;
+
+enum class Kind {
+    form,
+    listBox,
+    comboBox,
+    textBox,
+    label,
+    checkBox,
+    commandButton,
+    optionButton,
+    slider,
+    pictureBox,
+    image,
+    frame,
+    timer,
+    driveListBox,
+    dirListBox,
+    fileListBox,
+};
+
+// A control of a form: its state, and the handlers of what happens to it. No screen is involved; a
+// view that observes the form mirrors it.
+//
+// Handlers run before the assignment that causes them returns, and may be entered from one another.
+class Control {
+ public:
+    // `index` is the place in a control array, -1 outside of one.
+    Control(Container* parent, std::string name, int index = -1);
+    virtual ~Control() = default;
+    Control(const Control&) = delete;
+    Control& operator=(const Control&) = delete;
+
+    virtual Kind GetKind() const = 0;
+    const std::string& Name() const { return name; }
+    int Index() const { return index; }
+    std::string FullName() const;  // "Check_Dfx(0)" in an array
+    Container* Parent() const { return parent; }
+    Form* ParentForm() const { return form; }
+
+    // The control's own flag, whatever its container's says.
+    bool Visible() const { return visible; }
+    void SetVisible(bool value);
+    bool Enabled() const { return enabled; }
+    void SetEnabled(bool value);
+    // Visible and enabled, with all its containers.
+    bool IsReachable() const;
+
+    int Left() const { return left; }
+    int Top() const { return top; }
+    int Width() const { return width; }
+    int Height() const { return height; }
+    int Right() const { return left + width; }
+    int Bottom() const { return top + height; }
+    void SetLeft(int value) { Move(value, top, width, height); }
+    void SetTop(int value) { Move(left, value, width, height); }
+    void SetWidth(int value) { Move(left, top, value, height); }
+    void SetHeight(int value) { Move(left, top, width, value); }
+    // A negative width or height changes nothing at all.
+    void Move(int newLeft, int newTop, int newWidth, int newHeight);
+
+    const Font& GetFont() const { return font; }
+    void SetFont(Font value);
+    double FontSize() const { return font.size; }
+    // Sizes that are not above 0 change nothing.
+    void SetFontSize(double points);
+    Color BackColor() const { return backColor; }
+    Color ForeColor() const { return foreColor; }
+    void SetBackColor(Color value);
+    void SetForeColor(Color value);
+    const std::string& ToolTipText() const { return toolTipText; }
+    void SetToolTipText(std::string value);
+    const Picture& GetPicture() const { return picture; }
+    void SetPicture(Picture value);
+    void BringToFront();
+
+    // True: the user and the program can give it the focus.
+    virtual bool TakesFocus() const { return false; }
+    // No effect on a control that does not take it or cannot be reached.
+    void SetFocus();
+    bool HasFocus() const;
+
+    // The user's click, also from the program where a routine acts as the user would.
+    void Click() { Run(onClick); }
+    void DoubleClick() { Run(onDblClick); }
+
+    std::function<void()> onClick;
+    std::function<void()> onDblClick;
+    std::function<void()> onGotFocus;
+    std::function<void()> onLostFocus;
+    std::function<void(Key&)> onKeyDown;
+    std::function<void(Character&)> onKeyPress;
+    std::function<void(const Mouse&)> onMouseDown;
+    std::function<void(const Mouse&)> onMouseMove;
+    std::function<void(const Mouse&)> onMouseUp;
+    std::function<void()> onResize;
+
+ protected:
+    void Notify(Aspect aspect);
+    const Toolkit& GetToolkit() const;
+    // Measures that follow from the font or the text, for controls that have them.
+    virtual void Remeasure() {}
+    // A copy is run, so that a handler may be replaced while it runs.
+    template <typename Handler, typename... Arguments>
+    static void Run(const Handler& handler, Arguments&&... arguments) {
+        if (!handler) return;
+        const Handler copy = handler;
+        copy(std::forward<Arguments>(arguments)...);
+    }
+
+ private:
+    friend class Form;
+    friend class UserInput;
+
+    std::string name;
+    int index;
+    Container* parent;
+    Form* form = nullptr;
+    bool visible = true;
+    bool enabled = true;
+    int left = 0, top = 0, width = 0, height = 0;
+    Font font;
+    Color backColor = Rgb(0x00, 0x52, 0xbc);
+    Color foreColor = Rgb(0xff, 0xff, 0xff);
+    std::string toolTipText;
+    Picture picture;
+};
+
+// A control that holds others.
+class Container : public Control {
+ public:
+    using Control::Control;
+    // From the back to the front.
+    const std::vector<Control*>& Children() const { return children; }
+
+ private:
+    friend class Control;
+    std::vector<Control*> children;
+};
+
+}  // namespace kivu::forms

@@ -1,0 +1,176 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "forms/control.h"
+
+namespace kivu::forms {
+
+// One line of text to edit.
+class TextBox : public Control {
+ public:
+    TextBox(Container* parent, std::string name, int index = -1);
+    Kind GetKind() const override { return Kind::textBox; }
+    bool TakesFocus() const override { return true; }
+
+    const std::string& Text() const { return text; }
+    // A different text runs the change handler.
+    void SetText(std::string value);
+    int SelStart() const { return selStart; }  // code points
+    int SelLength() const { return selLength; }
+    void SetSelection(int start, int length);
+
+    std::function<void()> onChange;
+
+ protected:
+    void Remeasure() override;
+
+ private:
+    std::string text;
+    int selStart = 0;
+    int selLength = 0;
+};
+
+enum class Alignment { left, center, right };
+
+// Text on the window. Lines are split at CR LF, CR or LF.
+class Label : public Control {
+ public:
+    Label(Container* parent, std::string name, int index = -1);
+    Kind GetKind() const override { return Kind::label; }
+
+    const std::string& Caption() const { return caption; }
+    // A different caption runs the change handler.
+    void SetCaption(std::string value);
+    bool AutoSize() const { return autoSize; }
+    void SetAutoSize(bool value);
+    Alignment GetAlignment() const { return alignment; }
+    void SetAlignment(Alignment value);
+    bool IsOpaque() const { return opaque; }
+    void SetOpaque(bool value);
+    // Twips that the caption's longest line and all its lines take in the label's font.
+    int TextWidth() const;
+    int TextHeight() const;
+
+    std::function<void()> onChange;
+
+ protected:
+    void Remeasure() override;
+
+ private:
+    std::string caption;
+    bool autoSize = false;
+    bool opaque = false;
+    Alignment alignment = Alignment::left;
+};
+
+class CommandButton : public Control {
+ public:
+    using Control::Control;
+    Kind GetKind() const override { return Kind::commandButton; }
+    bool TakesFocus() const override { return true; }
+    const std::string& Caption() const { return caption; }  // "&" marks the access key
+    void SetCaption(std::string value);
+
+ private:
+    std::string caption;
+};
+
+// A box or a round button that holds a number: 0 off, 1 on, 2 greyed (boxes only). A different
+// value runs the click handler.
+class ValueButton : public Control {
+ public:
+    using Control::Control;
+    bool TakesFocus() const override { return true; }
+    const std::string& Caption() const { return caption; }
+    void SetCaption(std::string value);
+    int Value() const { return value; }
+    virtual void SetValue(int newValue);
+
+ protected:
+    void Store(int newValue);
+
+ private:
+    std::string caption;
+    int value = 0;
+};
+
+class CheckBox : public ValueButton {
+ public:
+    using ValueButton::ValueButton;
+    Kind GetKind() const override { return Kind::checkBox; }
+    void SetValue(int newValue) override;  // other values than 0 to 2 change nothing
+};
+
+// One of the option buttons of a container is on: switching one on switches the others off.
+class OptionButton : public ValueButton {
+ public:
+    using ValueButton::ValueButton;
+    Kind GetKind() const override { return Kind::optionButton; }
+    void SetValue(int newValue) override;
+};
+
+class Slider : public Control {
+ public:
+    using Control::Control;
+    Kind GetKind() const override { return Kind::slider; }
+    bool TakesFocus() const override { return true; }
+    int Min() const { return min; }
+    int Max() const { return max; }
+    void SetRange(int newMin, int newMax);
+    int Value() const { return value; }
+    void SetValue(int newValue);  // out of range changes nothing
+
+    std::function<void()> onChange;
+
+ private:
+    int min = 0, max = 10, value = 0;
+};
+
+// A picture that can hold controls.
+class PictureBox : public Container {
+ public:
+    using Container::Container;
+    Kind GetKind() const override { return Kind::pictureBox; }
+};
+
+// A picture alone, stretched to the control.
+class Image : public Control {
+ public:
+    using Control::Control;
+    Kind GetKind() const override { return Kind::image; }
+};
+
+class Frame : public Container {
+ public:
+    using Container::Container;
+    Kind GetKind() const override { return Kind::frame; }
+    const std::string& Caption() const { return caption; }
+    void SetCaption(std::string value);
+
+ private:
+    std::string caption;
+};
+
+// Ticks while it is enabled and its interval is above 0. Who keeps the time calls Tick.
+class Timer : public Control {
+ public:
+    Timer(Container* parent, std::string name, int intervalMilliseconds, bool on);
+    Kind GetKind() const override { return Kind::timer; }
+    int Interval() const { return interval; }
+    void SetInterval(int milliseconds);
+    // False: the timer is off. A tick inside its own handler does nothing.
+    bool Tick();
+
+    std::function<void()> onTimer;
+
+ private:
+    int interval;
+    bool ticking = false;
+};
+
+// Lines of a caption, split at CR LF, CR or LF.
+std::vector<std::string_view> CaptionLines(std::string_view caption);
+
+}  // namespace kivu::forms
