@@ -1,0 +1,397 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <limits>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <system_error>
+#include <vector>
+
+#include "platform/file_system.h"
+#include "support/text.h"
+
+namespace kivu::testing {
+
+// A disk in memory, for tests: it can be full, refuse a read or a write, and change under the
+// program's hands. With "/" as separator it behaves as the Linux host does (names exact, text UTF-8
+// with Windows-1252 for stray bytes); with "\\" as Windows does (drives, names without regard to
+// case, text Windows-1252).
+class MemoryFileSystem : public platform::FileSystem {
+ public:
+    explicit MemoryFileSystem(char separator = '/') : separator(separator) {
+        MakeNode({}).kind = Kind::Directory;
+        current = separator == '/' ? "/" : "C:\\";
+        AddDirectory(current);
+    }
+
+    // ---- what a test puts there and looks up; none of it counts as the program's own access ----
+
+    // Creates or replaces a file, with the directories above it.
+    void AddFile(const std::string& path, std::string_view bytes) {
+        Node& node = AddNode(path);
+        node.kind = Kind::File;
+        node.bytes = bytes;
+    }
+    void AddDirectory(const std::string& path) { AddNode(path).kind = Kind::Directory; }
+    void AddLink(const std::string& path, const std::string& target) {
+        Node& node = AddNode(path);
+        node.kind = Kind::Link;
+        node.target = target;
+    }
+    // With everything below it.
+    void Remove(const std::string& path) {
+        const std::string key = KeyOf(Parts(path));
+        std::erase_if(nodes, [&](const auto& entry) {
+            return entry.first == key || entry.first.starts_with(key + "/");
+        });
+    }
+    // The file's bytes whatever its rights; "(no file)" when there is none.
+    std::string BytesOf(const std::string& path) const {
+        const Node* node = Find(path);
+        return node != nullptr && node->kind == Kind::File ? node->bytes : "(no file)";
+    }
+
+    // ---- faults ----
+
+    // Reading (or listing) fails, as without the right to.
+    void SetUnreadable(const std::string& path, bool on = true) { Require(path).unreadable = on; }
+    // A file cannot be appended to or replaced; in a directory nothing can be made or taken away.
+    void SetReadOnly(const std::string& path, bool on = true) { Require(path).readOnly = on; }
+    // Bytes that still fit. A replacement needs the room of the whole new file, since the old one
+    // stays until the new one is complete.
+    void SetFreeSpace(std::uint64_t bytes) { freeSpace = bytes; }
+    // The next `count` changes of any kind fail with this.
+    void FailChanges(std::errc error, int count = std::numeric_limits<int>::max()) {
+        changeError = error;
+        changesToFail = count;
+    }
+    // Answer of ShortPathName (and, the other way, LongPathName).
+    void SetShortName(const std::string& longPath, const std::string& shortPath) {
+        shortNames[longPath] = shortPath;
+    }
+
+    // Run before the program reads or changes the path: the place to change the disk under it.
+    std::function<void(const std::string& path)> beforeRead;
+    std::function<void(const std::string& path)> beforeChange;
+
+    // The paths as the program gave them, in order; changes only when they succeeded.
+    mutable std::vector<std::string> reads;
+    std::vector<std::string> changes;
+
+    // ---- platform::FileSystem ----
+
+    std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override {
+        if (beforeRead) beforeRead(path);
+        const auto resolved = Resolve(path);
+        const Node* node = resolved ? At(*resolved) : nullptr;
+        if (node == nullptr || node->kind != Kind::Directory || node->unreadable) return {};
+        const std::string prefix = KeyOf(*resolved) + "/";
+        std::vector<Entry> entries;
+        for (auto it = nodes.lower_bound(prefix);
+             it != nodes.end() && it->first.starts_with(prefix); ++it) {
+            if (it->first.find('/', prefix.size()) != std::string::npos) continue;
+            const std::string& name = it->second.name;
+            if (separator == '/' && name.starts_with('.')) continue;
+            if (name.find_first_of("\r\n") != std::string::npos) continue;
+            const Node* target = Find(JoinPath(path, name));
+            if (target == nullptr) continue;
+            entries.push_back({name, target->kind == Kind::Directory});
+        }
+        return entries;
+    }
+
+    bool FileExists(const std::string& path) const override {
+        if (path.size() >= 2 && path.front() == '"' && path.back() == '"') return false;
+        if (path.empty() || IsSeparator(path.back())) return false;
+        const Node* node = Find(path);
+        return node != nullptr && node->kind == Kind::File;
+    }
+
+    bool IsDirectory(const std::string& path) const override {
+        const Node* node = Find(path);
+        return node != nullptr && node->kind == Kind::Directory;
+    }
+
+    std::optional<Identity> IdentityOf(const std::string& path) const override {
+        const Node* node = Find(path);
+        if (node == nullptr) return {};
+        return Identity{1, node->inode};
+    }
+
+    bool IsLink(const std::string& path) const override {
+        const auto resolved = Resolve(path, false);
+        const Node* node = resolved ? At(*resolved) : nullptr;
+        return node != nullptr && node->kind == Kind::Link;
+    }
+
+    std::optional<std::string> ReadFile(const std::string& path) const override {
+        if (beforeRead) beforeRead(path);
+        reads.push_back(path);
+        const Node* node = Find(path);
+        if (node == nullptr || node->kind != Kind::File || node->unreadable) return {};
+        return node->bytes;
+    }
+
+    std::error_code WriteFile(const std::string& path, std::string_view bytes) override {
+        return Change(path, [&](Node& node) {
+            if (bytes.size() > freeSpace) return Error(std::errc::no_space_on_device);
+            freeSpace = Freed(freeSpace - Charged(bytes.size()), node.bytes.size());
+            node.bytes = bytes;
+            return std::error_code{};
+        });
+    }
+
+    std::error_code AppendFile(const std::string& path, std::string_view bytes) override {
+        return Change(path, [&](Node& node) {
+            if (bytes.size() > freeSpace) return Error(std::errc::no_space_on_device);
+            freeSpace -= Charged(bytes.size());
+            node.bytes += bytes;
+            return std::error_code{};
+        });
+    }
+
+    std::error_code DeleteFile(const std::string& path) override {
+        if (const std::error_code error = BeginChange(path)) return error;
+        const auto resolved = Resolve(path, false);
+        const Node* node = resolved ? At(*resolved) : nullptr;
+        if (node == nullptr) return Error(std::errc::no_such_file_or_directory);
+        if (node->kind == Kind::Directory) return Error(std::errc::is_a_directory);
+        const Node* parent = ParentOf(*resolved);
+        if (parent != nullptr && parent->readOnly) return Error(std::errc::permission_denied);
+        freeSpace = Freed(freeSpace, node->bytes.size());
+        nodes.erase(KeyOf(*resolved));
+        changes.push_back(path);
+        return {};
+    }
+
+    std::error_code MakeDirectory(const std::string& path) override {
+        if (const std::error_code error = BeginChange(path)) return error;
+        const auto resolved = Resolve(path);
+        if (!resolved) return Error(std::errc::no_such_file_or_directory);
+        if (At(*resolved) != nullptr) return Error(std::errc::file_exists);
+        const Node* parent = ParentOf(*resolved);
+        if (parent == nullptr) return Error(std::errc::no_such_file_or_directory);
+        if (parent->kind != Kind::Directory) return Error(std::errc::not_a_directory);
+        if (parent->readOnly) return Error(std::errc::permission_denied);
+        MakeNode(*resolved).kind = Kind::Directory;
+        changes.push_back(path);
+        return {};
+    }
+
+    std::string CurrentDirectory() const override { return current; }
+
+    std::error_code ChangeDirectory(const std::string& path) override {
+        const auto resolved = Resolve(path);
+        const Node* node = resolved ? At(*resolved) : nullptr;
+        if (node == nullptr) return Error(std::errc::no_such_file_or_directory);
+        if (node->kind != Kind::Directory) return Error(std::errc::not_a_directory);
+        current = TextOf(*resolved);
+        return {};
+    }
+
+    std::string ShortPathName(const std::string& path) const override {
+        const auto found = shortNames.find(path);
+        if (found != shortNames.end()) return found->second;
+        return WithoutQuotes(path);
+    }
+
+    std::string LongPathName(const std::string& path) const override {
+        for (const auto& [longPath, shortPath] : shortNames) {
+            if (shortPath == path) return longPath;
+        }
+        return WithoutQuotes(path);
+    }
+
+    char Separator() const override { return separator; }
+
+    std::string DecodeText(std::string_view bytes) const override {
+        if (separator == '/' && support::IsUtf8(bytes)) return std::string(bytes);
+        return support::FromWindows1252(bytes);
+    }
+    std::string EncodeText(std::string_view text) const override {
+        return separator == '/' ? std::string(text) : support::ToWindows1252(text);
+    }
+
+ private:
+    enum class Kind { File, Directory, Link };
+    struct Node {
+        Kind kind = Kind::File;
+        std::uint64_t inode = 0;
+        std::string name;
+        std::string bytes;
+        std::string target;
+        bool unreadable = false;
+        bool readOnly = false;
+    };
+    using PathParts = std::vector<std::string>;
+
+    static std::error_code Error(std::errc error) { return std::make_error_code(error); }
+
+    bool IsSeparator(char c) const { return c == '/' || (separator == '\\' && c == '\\'); }
+    bool HasDrive(std::string_view path) const {
+        return separator == '\\' && path.size() >= 2 && path[1] == ':';
+    }
+
+    // The elements of an absolute path, "." and ".." still in it.
+    PathParts Parts(const std::string& path) const {
+        std::string full = path;
+        if (path.empty() || (!HasDrive(path) && !IsSeparator(path[0]))) {
+            full = JoinPath(current, path);
+        } else if (separator == '\\' && !HasDrive(path)) {
+            full = current.substr(0, 2) + path;
+        }
+        PathParts parts;
+        std::string part;
+        for (const char c : full + separator) {
+            if (!IsSeparator(c)) {
+                part += c;
+            } else if (!part.empty()) {
+                parts.push_back(std::move(part));
+                part.clear();
+            }
+        }
+        return parts;
+    }
+
+    // The path without links, "." and ".."; empty when links run in a circle or through a file.
+    std::optional<PathParts> Resolve(const std::string& path, bool followLast = true) const {
+        if (path.empty() || path.find('\0') != std::string::npos) return {};
+        PathParts todo = Parts(path);
+        PathParts done;
+        for (int links = 0; !todo.empty();) {
+            const std::string part = todo.front();
+            todo.erase(todo.begin());
+            if (part == ".") continue;
+            if (part == "..") {
+                if (!done.empty()) done.pop_back();
+                continue;
+            }
+            const Node* above = At(done);
+            if (above != nullptr && above->kind == Kind::File) return {};
+            done.push_back(part);
+            const Node* node = At(done);
+            if (node == nullptr || node->kind != Kind::Link) continue;
+            if (todo.empty() && !followLast) break;
+            if (++links > 40) return {};
+            done.pop_back();
+            const bool absolute =
+                HasDrive(node->target) || (!node->target.empty() && IsSeparator(node->target[0]));
+            PathParts target = Parts(absolute ? node->target : "/" + node->target);
+            if (separator == '\\' && !absolute) target.erase(target.begin());
+            if (absolute) done.clear();
+            todo.insert(todo.begin(), target.begin(), target.end());
+        }
+        return done;
+    }
+
+    std::string KeyOf(const PathParts& parts) const {
+        std::string key;
+        for (const std::string& part : parts)
+            key += "/" + part;
+        if (separator == '\\') return support::ToLower(key);
+        return key;
+    }
+
+    std::string TextOf(const PathParts& parts) const {
+        std::string text = separator == '/' ? "/" : "";
+        for (const std::string& part : parts) {
+            if (!text.empty() && text.back() != separator) text += separator;
+            text += part;
+        }
+        if (separator == '\\' && parts.size() == 1) text += separator;
+        return text;
+    }
+
+    std::string JoinPath(const std::string& directory, const std::string& name) const {
+        const bool closed = !directory.empty() && IsSeparator(directory.back());
+        return directory + (closed ? "" : std::string(1, separator)) + name;
+    }
+
+    const Node* At(const PathParts& parts) const {
+        const auto found = nodes.find(KeyOf(parts));
+        return found == nodes.end() ? nullptr : &found->second;
+    }
+    const Node* Find(const std::string& path) const {
+        const auto resolved = Resolve(path);
+        return resolved ? At(*resolved) : nullptr;
+    }
+    const Node* ParentOf(PathParts parts) const {
+        if (parts.empty()) return nullptr;
+        parts.pop_back();
+        return At(parts);
+    }
+    Node& Require(const std::string& path) { return nodes.at(KeyOf(Resolve(path).value())); }
+
+    Node& MakeNode(const PathParts& parts) {
+        Node& node = nodes[KeyOf(parts)];
+        if (node.inode == 0) node.inode = ++lastInode;
+        node.name = parts.empty() ? "" : parts.back();
+        return node;
+    }
+    Node& AddNode(const std::string& path) {
+        const PathParts parts = Resolve(path, false).value();
+        for (std::size_t count = 1; count < parts.size(); ++count) {
+            MakeNode(PathParts(parts.begin(), parts.begin() + static_cast<long>(count))).kind =
+                Kind::Directory;
+        }
+        return MakeNode(parts);
+    }
+
+    std::error_code BeginChange(const std::string& path) {
+        if (beforeChange) beforeChange(path);
+        if (changesToFail <= 0) return {};
+        --changesToFail;
+        return Error(changeError);
+    }
+
+    // Runs `apply` on a copy of the file (a new one when there is none) and keeps it if all went
+    // well.
+    std::error_code Change(const std::string& path,
+                           const std::function<std::error_code(Node&)>& apply) {
+        if (const std::error_code error = BeginChange(path)) return error;
+        const auto resolved = Resolve(path);
+        if (!resolved || IsSeparator(path.back())) {
+            return Error(std::errc::no_such_file_or_directory);
+        }
+        const Node* parent = ParentOf(*resolved);
+        const Node* old = At(*resolved);
+        if (old != nullptr && old->kind == Kind::Directory) return Error(std::errc::is_a_directory);
+        if (parent == nullptr) return Error(std::errc::no_such_file_or_directory);
+        if (parent->kind != Kind::Directory) return Error(std::errc::not_a_directory);
+        if (parent->readOnly || (old != nullptr && old->readOnly)) {
+            return Error(std::errc::permission_denied);
+        }
+        Node changed = old != nullptr ? *old : Node{};
+        if (const std::error_code error = apply(changed)) return error;
+        MakeNode(*resolved).bytes = std::move(changed.bytes);
+        changes.push_back(path);
+        return {};
+    }
+
+    // Room is only counted once a test has limited it.
+    std::uint64_t Charged(std::uint64_t bytes) const { return freeSpace == unlimited ? 0 : bytes; }
+    static std::uint64_t Freed(std::uint64_t space, std::uint64_t bytes) {
+        return space == unlimited ? unlimited : space + bytes;
+    }
+
+    static std::string WithoutQuotes(const std::string& path) {
+        const bool quoted = path.size() >= 2 && path.front() == '"' && path.back() == '"';
+        return quoted ? path.substr(1, path.size() - 2) : path;
+    }
+
+    static constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
+
+    char separator;
+    std::string current;
+    std::map<std::string, Node> nodes;  // by absolute path, "" the root, elements led by "/"
+    std::map<std::string, std::string> shortNames;
+    std::uint64_t lastInode = 0;
+    std::uint64_t freeSpace = unlimited;
+    std::errc changeError{};
+    int changesToFail = 0;
+};
+
+}  // namespace kivu::testing
