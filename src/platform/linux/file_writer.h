@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace kivu::platform {
+
+// Replaces the file in one step; see LinuxFileSystem::WriteFile. On any failure no temporary file
+// stays behind and the old file is as it was.
+std::error_code ReplaceFile(const std::string& path, std::string_view bytes);
+
+// Writes behind the file's end; see LinuxFileSystem::AppendFile.
+std::error_code AppendToFile(const std::string& path, std::string_view bytes);
+
+}  // namespace kivu::platform
