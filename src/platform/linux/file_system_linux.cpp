@@ -63,7 +63,8 @@ Kind KindOf(int directory, const dirent& entry) {
 
 bool IsShown(std::string_view name) {
     // Lists of files are kept one name a line.
-    return name.front() != '.' && name.find_first_of("\r\n") == std::string_view::npos;
+    return name.front() != '.' && name.find('\n') == std::string_view::npos &&
+           name.find('\r') == std::string_view::npos;
 }
 
 class DirectoryStream {
@@ -115,10 +116,12 @@ std::optional<std::vector<FileSystem::Entry>> LinuxFileSystem::ListDirectory(
     if (!stream) return std::nullopt;
 
     std::vector<Entry> entries;
+    entries.reserve(128);
     while (const dirent* entry = stream.Next()) {
-        if (!IsShown(entry->d_name)) continue;
+        const std::string_view name = entry->d_name;
+        if (!IsShown(name)) continue;
         const Kind kind = KindOf(stream.Descriptor(), *entry);
-        if (kind != Kind::Other) entries.push_back({entry->d_name, kind == Kind::Directory});
+        if (kind != Kind::Other) entries.push_back({std::string(name), kind == Kind::Directory});
     }
     if (errno != 0) return std::nullopt;
     return entries;
