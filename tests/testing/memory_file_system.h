@@ -171,7 +171,10 @@ class MemoryFileSystem : public platform::FileSystem {
         if (const std::error_code error = BeginChange(path)) return error;
         const auto resolved = Resolve(path);
         if (!resolved) return Error(std::errc::no_such_file_or_directory);
-        if (At(*resolved) != nullptr) return Error(std::errc::file_exists);
+        if (const Node* node = At(*resolved)) {
+            if (node->kind == Kind::Directory) return {};
+            return Error(std::errc::file_exists);
+        }
         const Node* parent = ParentOf(*resolved);
         if (parent == nullptr) return Error(std::errc::no_such_file_or_directory);
         if (parent->kind != Kind::Directory) return Error(std::errc::not_a_directory);

@@ -1,0 +1,160 @@
+#include "core/ini_document.h"
+
+#include <utility>
+
+namespace kivu::core {
+
+namespace {
+
+constexpr std::string_view kLineEnd = "\r\n";
+
+std::string_view WithoutLineEnd(std::string_view line) {
+    return line.substr(0, line.find_last_not_of(kLineEnd) + 1);
+}
+
+}  // namespace
+
+IniDocument::IniDocument(std::string bytes, IniCoding hostCoding)
+    : text(std::move(bytes)), coding(std::move(hostCoding)), markLength(ByteOrderMarkLength(text)) {
+    if (markLength > 0) coding = CodingOfMarkedFile(coding);
+    Parse();
+}
+
+void IniDocument::Parse() {
+    IniLineReader reader(text, markLength);
+    std::string section;         // folded
+    bool isSectionOpen = false;  // false before the first section and in one seen before
+    for (IniLine place; reader.Next(place);) {
+        const LineIndex line = AppendLine(place.begin, place.next - place.begin);
+        const std::string_view content =
+            std::string_view(text).substr(place.begin, place.end - place.begin);
+        if (const auto name = SectionNameOf(content)) {
+            section = FoldedName(*name, coding);
+            isSectionOpen = sectionEnds.try_emplace(section, line).second;
+            continue;
+        }
+        if (!isSectionOpen || IsBlankLine(content)) continue;
+        sectionEnds[section] = line;
+        if (const auto entry = EntryOf(content)) {
+            entries.try_emplace(EntryKey(section, FoldedName(entry->key, coding)), line);
+        }
+    }
+}
+
+std::string IniDocument::Value(std::string_view section, std::string_view key) const {
+    const LineIndex line = FindEntry(IniName::Section(section, coding), IniName::Key(key, coding));
+    if (line == kNone) return {};
+    return DecodeIni(coding, ReadableValue(EntryOf(WithoutLineEnd(TextOf(line)))->rawValue));
+}
+
+bool IniDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
+    const IniName sectionName = IniName::Section(section, coding);
+    const IniName keyName = IniName::Key(key, coding);
+    if (!sectionName.IsValid() || !keyName.IsValid()) return false;
+    const std::string encoded = EncodeIni(coding, value);
+    const std::string_view writable = WithinLine(encoded);
+    const LineIndex line = FindEntry(sectionName, keyName);
+    if (line != kNone && !ReplaceValue(line, writable)) return false;
+    if (line == kNone) AddEntry(sectionName, keyName, writable);
+    isChanged = true;
+    return true;
+}
+
+std::string IniDocument::Bytes() const {
+    if (!isChanged) return text;
+    std::string bytes(text, 0, markLength);
+    bytes.reserve(text.size());
+    for (LineIndex line = lines.empty() ? kNone : 0; line != kNone; line = lines[line].next) {
+        bytes += TextOf(line);
+    }
+    return bytes;
+}
+
+IniDocument::LineIndex IniDocument::AppendLine(std::size_t begin, std::size_t size) {
+    const LineIndex line = lines.size();
+    lines.push_back({begin, size, kNone});
+    if (last != kNone) lines[last].next = line;
+    last = line;
+    return line;
+}
+
+std::string_view IniDocument::TextOf(LineIndex line) const {
+    return std::string_view(text).substr(lines[line].begin, lines[line].size);
+}
+
+IniDocument::LineIndex IniDocument::FindEntry(const IniName& section, const IniName& key) const {
+    if (!section.IsValid() || !key.IsValid()) return kNone;
+    const auto found = entries.find(EntryKey(section.Folded(), key.Folded()));
+    return found == entries.end() ? kNone : found->second;
+}
+
+bool IniDocument::ReplaceValue(LineIndex line, std::string_view value) {
+    const IniEntry entry = *EntryOf(WithoutLineEnd(TextOf(line)));
+    if (entry.rawValue == value || TrimBlanksAndTabs(entry.rawValue) == value) return false;
+    std::string newText(entry.key);  // as the file spells it
+    newText.append("=").append(value).append(kLineEnd);
+    Rewrite(line, newText);
+    return true;
+}
+
+void IniDocument::AddEntry(const IniName& section, const IniName& key, std::string_view value) {
+    auto end = sectionEnds.find(section.Folded());
+    if (end == sectionEnds.end()) {
+        if (last != kNone) CloseLine(last);
+        const LineIndex header = AppendLine(text.size(), 0);
+        Rewrite(header, "[" + section.Bytes() + "]\r\n");
+        end = sectionEnds.emplace(section.Folded(), header).first;
+    }
+    const LineIndex before = end->second;
+    CloseLine(before);
+    const LineIndex line = lines.size();
+    lines.push_back({text.size(), 0, lines[before].next});
+    lines[before].next = line;
+    if (last == before) last = line;
+    Rewrite(line, key.Bytes() + "=" + std::string(value) + "\r\n");
+    end->second = line;
+    entries.emplace(EntryKey(section.Folded(), key.Folded()), line);
+}
+
+void IniDocument::CloseLine(LineIndex line) {
+    const std::string_view content = TextOf(line);
+    if (content.ends_with('\n') || content.ends_with('\r')) return;
+    Rewrite(line, std::string(content) + "\r\n");
+}
+
+void IniDocument::Rewrite(LineIndex line, std::string_view newText) {
+    lines[line].begin = text.size();
+    lines[line].size = newText.size();
+    text += newText;
+}
+
+std::string IniDocument::EntryKey(std::string_view foldedSection, std::string_view foldedKey) {
+    std::string key(foldedSection);
+    return key.append("\n").append(foldedKey);
+}
+
+std::string FindIniValue(std::string_view bytes, std::string_view section, std::string_view key,
+                         const IniCoding& hostCoding) {
+    const std::size_t markLength = ByteOrderMarkLength(bytes);
+    const IniCoding coding = markLength > 0 ? CodingOfMarkedFile(hostCoding) : hostCoding;
+    const IniName sectionName = IniName::Section(section, coding);
+    const IniName keyName = IniName::Key(key, coding);
+    if (!sectionName.IsValid() || !keyName.IsValid()) return {};
+    IniLineReader reader(bytes, markLength);
+    bool isInside = false;
+    for (IniLine place; reader.Next(place);) {
+        const std::string_view line = bytes.substr(place.begin, place.end - place.begin);
+        if (const auto name = SectionNameOf(line)) {
+            if (isInside) break;
+            isInside = sectionName.Matches(*name, coding);
+        } else if (isInside) {
+            const auto entry = EntryOf(line);
+            if (entry && keyName.Matches(entry->key, coding)) {
+                return DecodeIni(coding, ReadableValue(entry->rawValue));
+            }
+        }
+    }
+    return {};
+}
+
+}  // namespace kivu::core
