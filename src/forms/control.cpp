@@ -55,7 +55,8 @@ void Control::Move(int newLeft, int newTop, int newWidth, int newHeight) {
 }
 
 void Control::SetFont(Font value) {
-    if (value.size <= 0 || font == value) return;
+    const bool fits = value.size > 0 && value.size <= largestFont;  // not a number fits nowhere
+    if (!fits || font == value) return;
     font = std::move(value);
     Notify(Aspect::font);
     Remeasure();

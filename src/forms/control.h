@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/types.h"
@@ -71,9 +72,9 @@ class Control {
     void Move(int newLeft, int newTop, int newWidth, int newHeight);
 
     const Font& GetFont() const { return font; }
+    // A size that is not above 0, or is above largestFont, changes nothing.
     void SetFont(Font value);
     double FontSize() const { return font.size; }
-    // Sizes that are not above 0 change nothing.
     void SetFontSize(double points);
     Color BackColor() const { return backColor; }
     Color ForeColor() const { return foreColor; }

@@ -1,6 +1,7 @@
 #include "forms/controls.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <utility>
 
 #include "forms/form.h"
@@ -9,12 +10,16 @@ namespace kivu::forms {
 
 namespace {
 
+// Twips, far beyond any screen: sums of two measures stay within an int.
+constexpr std::int64_t largestMeasure = 1'000'000'000;
+
 // Without a measure a character counts as half its height, which keeps layouts in proportion.
 int LineWidth(const Toolkit& toolkit, const Font& font, std::string_view line) {
     if (toolkit.measure) return toolkit.measure->Width(font, line);
     const auto points =
         std::count_if(line.begin(), line.end(), [](char c) { return (c & 0xc0) != 0x80; });
-    return static_cast<int>(static_cast<double>(points) * font.size * 10);
+    const double width = static_cast<double>(points) * font.size * 10;
+    return static_cast<int>(std::min(width, static_cast<double>(largestMeasure)));
 }
 
 int LineHeight(const Toolkit& toolkit, const Font& font) {
@@ -42,17 +47,24 @@ TextBox::TextBox(Container* parent, std::string name, int index)
 }
 
 void TextBox::SetText(std::string value) {
-    if (text == value) return;
-    text = std::move(value);
-    Notify(Aspect::text);
-    Run(onChange);
+    TextField changed = field;
+    changed.SetText(std::move(value));
+    SetField(std::move(changed));
 }
 
 void TextBox::SetSelection(int start, int length) {
-    if (start < 0 || length < 0 || (start == selStart && length == selLength)) return;
-    selStart = start;
-    selLength = length;
-    Notify(Aspect::selection);
+    TextField changed = field;
+    changed.Select(start, length);
+    SetField(std::move(changed));
+}
+
+void TextBox::SetField(TextField value) {
+    const TextField old = std::exchange(field, std::move(value));
+    const bool changed = old.Text() != field.Text();
+    const bool moved = old.Start() != field.Start() || old.Length() != field.Length();
+    if (changed) Notify(Aspect::text);
+    if (moved) Notify(Aspect::selection);
+    if (changed) Run(onChange);
 }
 
 void TextBox::Remeasure() {
@@ -72,16 +84,19 @@ void Label::SetCaption(std::string value) {
 }
 
 void Label::SetAutoSize(bool value) {
+    if (autoSize == value) return;
     autoSize = value;
     Remeasure();
 }
 
 void Label::SetAlignment(Alignment value) {
+    if (alignment == value) return;
     alignment = value;
     Notify(Aspect::text);
 }
 
 void Label::SetOpaque(bool value) {
+    if (opaque == value) return;
     opaque = value;
     Notify(Aspect::colors);
 }
@@ -95,7 +110,9 @@ int Label::TextWidth() const {
 }
 
 int Label::TextHeight() const {
-    return static_cast<int>(CaptionLines(caption).size()) * LineHeight(GetToolkit(), GetFont());
+    const auto lines = static_cast<std::int64_t>(CaptionLines(caption).size());
+    const std::int64_t height = lines * LineHeight(GetToolkit(), GetFont());
+    return static_cast<int>(std::min(height, largestMeasure));
 }
 
 void Label::Remeasure() {
@@ -114,45 +131,44 @@ void ValueButton::SetCaption(std::string value) {
     Notify(Aspect::text);
 }
 
-void ValueButton::SetValue(int newValue) {
-    Store(newValue);
-}
-
-void ValueButton::Store(int newValue) {
+void ValueButton::Store(int newValue, Click click) {
     if (value == newValue) return;
     value = newValue;
     Notify(Aspect::text);
-    Run(onClick);
+    if (click == Click::run) Run(onClick);
 }
 
 void CheckBox::SetValue(int newValue) {
     if (newValue >= 0 && newValue <= 2) Store(newValue);
 }
 
-void OptionButton::SetValue(int newValue) {
-    if (newValue != 0) {
-        for (Control* sibling : Parent()->Children()) {
-            if (sibling != this && sibling->GetKind() == Kind::optionButton) {
-                static_cast<OptionButton*>(sibling)->SetValue(0);
-            }
-        }
+void OptionButton::Press() {
+    if (Value() != 0) {
+        Control::Click();
+    } else {
+        SetValue(1);
     }
-    const bool on = newValue != 0;
-    if (on == (Value() != 0)) return;
-    if (on) {
-        Store(1);
+}
+
+void OptionButton::SetValue(int newValue) {
+    if (newValue == 0) {
+        Store(0, Click::spare);
         return;
     }
-    // Only the button that comes on is clicked.
-    auto handler = std::exchange(onClick, nullptr);
-    Store(0);
-    onClick = std::move(handler);
+    for (Control* sibling : Parent()->Children()) {
+        if (sibling != this && sibling->GetKind() == Kind::optionButton) {
+            static_cast<OptionButton*>(sibling)->Store(0, Click::spare);
+        }
+    }
+    Store(1);
 }
 
 void Slider::SetRange(int newMin, int newMax) {
-    if (newMin > newMax) return;
+    if (newMin > newMax || (newMin == min && newMax == max)) return;
     min = newMin;
     max = newMax;
+    const bool kept = value >= min && value <= max;
+    if (kept) Notify(Aspect::text);
     SetValue(std::clamp(value, min, max));
 }
 
@@ -170,7 +186,7 @@ void Frame::SetCaption(std::string value) {
 }
 
 Timer::Timer(Container* parent, std::string name, int intervalMilliseconds, bool on)
-    : Control(parent, std::move(name)), interval(intervalMilliseconds) {
+    : Control(parent, std::move(name)), interval(std::max(0, intervalMilliseconds)) {
     SetEnabled(on);
 }
 

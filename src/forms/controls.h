@@ -2,8 +2,11 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "forms/control.h"
+#include "forms/text_field.h"
 
 namespace kivu::forms {
 
@@ -14,12 +17,15 @@ class TextBox : public Control {
     Kind GetKind() const override { return Kind::textBox; }
     bool TakesFocus() const override { return true; }
 
-    const std::string& Text() const { return text; }
+    const std::string& Text() const { return field.Text(); }
     // A different text runs the change handler.
     void SetText(std::string value);
-    int SelStart() const { return selStart; }  // code points
-    int SelLength() const { return selLength; }
+    int SelStart() const { return field.Start(); }  // code points
+    int SelLength() const { return field.Length(); }
     void SetSelection(int start, int length);
+    const TextField& Field() const { return field; }
+    // Text and selection in one step, as typing changes them: the change handler finds both.
+    void SetField(TextField value);
 
     std::function<void()> onChange;
 
@@ -27,9 +33,7 @@ class TextBox : public Control {
     void Remeasure() override;
 
  private:
-    std::string text;
-    int selStart = 0;
-    int selLength = 0;
+    TextField field;
 };
 
 enum class Alignment { left, center, right };
@@ -82,14 +86,17 @@ class CommandButton : public Control {
 class ValueButton : public Control {
  public:
     using Control::Control;
+    // The user's click.
+    virtual void Press() = 0;
     bool TakesFocus() const override { return true; }
     const std::string& Caption() const { return caption; }
     void SetCaption(std::string value);
     int Value() const { return value; }
-    virtual void SetValue(int newValue);
+    virtual void SetValue(int newValue) = 0;
 
  protected:
-    void Store(int newValue);
+    enum class Click { run, spare };
+    void Store(int newValue, Click click = Click::run);
 
  private:
     std::string caption;
@@ -100,14 +107,17 @@ class CheckBox : public ValueButton {
  public:
     using ValueButton::ValueButton;
     Kind GetKind() const override { return Kind::checkBox; }
+    void Press() override { SetValue(Value() == 0 ? 1 : 0); }
     void SetValue(int newValue) override;  // other values than 0 to 2 change nothing
 };
 
-// One of the option buttons of a container is on: switching one on switches the others off.
+// One of the option buttons of a container is on: switching one on switches the others off, which
+// runs the click handler of the first alone.
 class OptionButton : public ValueButton {
  public:
     using ValueButton::ValueButton;
     Kind GetKind() const override { return Kind::optionButton; }
+    void Press() override;
     void SetValue(int newValue) override;
 };
 
@@ -118,6 +128,7 @@ class Slider : public Control {
     bool TakesFocus() const override { return true; }
     int Min() const { return min; }
     int Max() const { return max; }
+    // Moves the value into the range. No effect if the least is above the most.
     void SetRange(int newMin, int newMax);
     int Value() const { return value; }
     void SetValue(int newValue);  // out of range changes nothing

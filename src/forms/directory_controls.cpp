@@ -15,8 +15,16 @@ void SortRows(const Toolkit& toolkit, std::vector<std::string>& rows) {
     });
 }
 
+// A path that begins with "/" has no other separator, and "\" may end a name in it.
 char SeparatorOf(const std::string& path) {
     return path.find('\\') != std::string::npos && path.front() != '/' ? '\\' : '/';
+}
+
+std::string WithoutClosingSeparator(std::string path) {
+    const bool drive = path.size() == 3 && path[1] == ':';
+    const bool closed = !path.empty() && (path.back() == '/' || path.back() == SeparatorOf(path));
+    if (closed && path.size() > 1 && !drive) path.pop_back();
+    return path;
 }
 
 }  // namespace
@@ -33,20 +41,30 @@ void DirectoryControl::SetListIndex(int row) {
     Run(onClick);
 }
 
+void DirectoryControl::ClickRow(int row) {
+    if (row < 0 || row >= ListCount()) return;
+    if (row != selected) {
+        SetListIndex(row);
+    } else {
+        Run(onClick);
+    }
+}
+
 void DirectoryControl::ReplaceRows(std::vector<std::string> newRows) {
     rows = std::move(newRows);
     selected = -1;
     Notify(Aspect::rows);
 }
 
-void DirListBox::SetPath(const std::string& value) {
+void DirListBox::SetPath(const std::string& given) {
     std::vector<std::string> directories, files;
     DirectorySource* source = GetToolkit().directories;
+    const std::string value = WithoutClosingSeparator(given);
     if (value.empty() || !source || !source->Read(value, directories, files)) return;
     SortRows(GetToolkit(), directories);
     const char separator = SeparatorOf(value);
+    const bool closed = value.back() == separator || value.back() == '/';
     for (std::string& name : directories) {
-        const bool closed = value.back() == '\\' || value.back() == '/';
         name = closed ? value + name : value + separator + name;
     }
     const bool changed = path != value;
@@ -55,24 +73,37 @@ void DirListBox::SetPath(const std::string& value) {
     if (changed) Run(onChange);
 }
 
+void DirListBox::ForgetPath() {
+    path.clear();
+    ReplaceRows({});
+}
+
 void FileListBox::SetPath(const std::string& value) {
+    std::vector<std::string> files;
+    if (!ReadFiles(value, files)) return;
     const bool changed = path != value;
     path = value;
-    Refresh();
+    ShowMatching(std::move(files));
     if (changed) Run(onChange);
 }
 
 void FileListBox::SetPattern(const std::string& value) {
     if (pattern == value) return;
     pattern = value;
-    Refresh();
+    std::vector<std::string> files;
+    ReadFiles(path, files);
+    ShowMatching(std::move(files));
     Run(onChange);
 }
 
-void FileListBox::Refresh() {
-    std::vector<std::string> directories, files;
+bool FileListBox::ReadFiles(const std::string& directory, std::vector<std::string>& files) {
+    std::vector<std::string> directories;
     DirectorySource* source = GetToolkit().directories;
-    if (path.empty() || !source || !source->Read(path, directories, files)) files.clear();
+    return !directory.empty() && source && source->Read(directory, directories, files);
+}
+
+void FileListBox::ShowMatching(std::vector<std::string> files) {
+    DirectorySource* source = GetToolkit().directories;
     std::erase_if(files, [&](const std::string& name) { return !source->Matches(pattern, name); });
     SortRows(GetToolkit(), files);
     ReplaceRows(std::move(files));

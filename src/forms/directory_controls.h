@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "forms/control.h"
@@ -16,7 +18,10 @@ class DirectoryControl : public Control {
     int ListCount() const { return static_cast<int>(rows.size()); }
     const std::string& List(int row) const;
     int ListIndex() const { return selected; }
+    // A different row in range (or -1) runs the click handler.
     void SetListIndex(int row);
+    // The user's click on a row: runs the click handler on the selected row too.
+    void ClickRow(int row);
     std::function<void()> onChange;
 
  protected:
@@ -42,8 +47,11 @@ class DirListBox : public DirectoryControl {
     using DirectoryControl::DirectoryControl;
     Kind GetKind() const override { return Kind::dirListBox; }
     const std::string& Path() const { return path; }
-    // A different path that can be entered runs the change handler.
+    // A different path that can be entered runs the change handler. It is kept without a closing
+    // separator, a root's own one excepted.
     void SetPath(const std::string& value);
+    // Back to no path and no rows, without a handler.
+    void ForgetPath();
 
  private:
     std::string path;
@@ -56,11 +64,15 @@ class FileListBox : public DirectoryControl {
     Kind GetKind() const override { return Kind::fileListBox; }
     const std::string& Path() const { return path; }
     const std::string& Pattern() const { return pattern; }
+    // A different path that can be entered runs the change handler. The same one is read anew.
     void SetPath(const std::string& value);
+    // A different pattern reads the directory anew and runs the change handler.
     void SetPattern(const std::string& value);
 
  private:
-    void Refresh();
+    // False: there is no such directory to enter, and no file is given.
+    bool ReadFiles(const std::string& directory, std::vector<std::string>& files);
+    void ShowMatching(std::vector<std::string> files);
 
     std::string path;
     std::string pattern = "*.*";

@@ -41,11 +41,13 @@ void Form::SetState(WindowState value) {
 
 void Form::MoveFocus(Control* next) {
     if (next == focus) return;
-    Control* old = focus;
     focus = next;
     Notify(Aspect::focus);
-    if (old) Run(old->onLostFocus);
-    if (focus == next && next) Run(next->onGotFocus);
+    if (Control* left = std::exchange(entered, nullptr)) Run(left->onLostFocus);
+    // The handler may have moved the focus on, and even back here.
+    if (!next || focus != next || entered == next) return;
+    entered = next;
+    Run(next->onGotFocus);
 }
 
 void Form::DropUnreachableFocus() {

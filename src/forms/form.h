@@ -43,7 +43,7 @@ class Form : public Container {
 
     Control* Focus() const { return focus; }
     // Null takes the focus away. The old control's lost-focus handler runs, then the new one's
-    // got-focus handler, unless the first has moved the focus on.
+    // got-focus handler. When the first moves the focus on, the control passed over gets neither.
     void MoveFocus(Control* next);
 
     // Radius of the corners in pixels, 0 for square ones.
@@ -74,6 +74,7 @@ class Form : public Container {
     std::string caption;
     WindowState state = WindowState::normal;
     Control* focus = nullptr;
+    Control* entered = nullptr;  // the focus, once its got-focus handler has been run
     int cornerRadius = 0;
     bool hasFrame = true;
     bool topmost = false;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iterator>
-#include <numeric>
 #include <utility>
 
 #include "forms/form.h"
@@ -32,13 +31,29 @@ void ListControl::Settle() const {
     const auto middle = rows.begin() + static_cast<std::ptrdiff_t>(settled);
     // Rows mostly arrive in order, from a cache or from another sorted list.
     if (!std::is_sorted(middle, rows.end(), before)) std::stable_sort(middle, rows.end(), before);
-    const bool merge = settled > 0 && before(*middle, *(middle - 1));
-    if (merge && selected >= 0) {
-        const std::string& kept = rows[static_cast<std::size_t>(selected)];
-        selected += static_cast<int>(std::lower_bound(middle, rows.end(), kept, before) - middle);
-    }
-    if (merge) std::inplace_merge(rows.begin(), middle, rows.end(), before);
+    if (settled > 0 && before(*middle, *(middle - 1))) PlaceNewRows();
     settled = rows.size();
+}
+
+// The new rows are in order among themselves. From the last to the first, each one's place among
+// the old rows is found by halving, and the old rows behind it move up once.
+void ListControl::PlaceNewRows() const {
+    const auto first = rows.begin();
+    const auto middle = first + static_cast<std::ptrdiff_t>(settled);
+    std::vector<std::string> added(std::make_move_iterator(middle),
+                                   std::make_move_iterator(rows.end()));
+    const auto before = [this](const std::string& a, const std::string& b) { return Before(a, b); };
+    const int oldSelected = selected;
+    auto unmoved = middle;
+    while (!added.empty()) {
+        const auto place = std::upper_bound(first, unmoved, added.back(), before);
+        const auto count = static_cast<std::ptrdiff_t>(added.size());
+        std::move_backward(place, unmoved, unmoved + count);
+        *(place + count - 1) = std::move(added.back());
+        added.pop_back();
+        if (place - first <= oldSelected) ++selected;
+        unmoved = place;
+    }
 }
 
 const std::string& ListControl::List(int row) const {
@@ -80,20 +95,23 @@ void ListControl::RemoveItem(int row) {
     Settle();
     rows.erase(rows.begin() + row);
     settled = rows.size();
-    if (selected == row) {
+    const bool deselected = selected == row;
+    if (deselected) {
         selected = -1;
     } else if (selected > row) {
         --selected;
     }
     Notify(Aspect::rows);
+    if (deselected) Notify(Aspect::selection);
 }
 
 void ListControl::Clear() {
     if (rows.empty() && selected == -1) return;
     rows.clear();
     settled = 0;
-    selected = -1;
+    const bool deselected = std::exchange(selected, -1) != -1;
     Notify(Aspect::rows);
+    if (deselected) Notify(Aspect::selection);
 }
 
 int ListControl::ListIndex() const {
@@ -104,8 +122,8 @@ int ListControl::ListIndex() const {
 void ListControl::SetListIndex(int row) {
     if (row < -1 || row >= ListCount() || row == ListIndex()) return;
     selected = row;
+    TakeSelection();
     Notify(Aspect::selection);
-    SelectionChanged();
     Run(onClick);
 }
 
@@ -114,6 +132,7 @@ void ListControl::ClickRow(int row) {
     if (row != ListIndex()) {
         SetListIndex(row);
     } else {
+        TakeSelection();
         Run(onClick);
     }
 }
@@ -124,23 +143,34 @@ ComboBox::ComboBox(Container* parent, std::string name, Order order, int index)
 }
 
 void ComboBox::SetText(std::string value) {
-    if (text == value) return;
-    text = std::move(value);
-    Notify(Aspect::text);
-    Run(onChange);
+    TextField changed = field;
+    changed.SetText(std::move(value));
+    SetField(std::move(changed));
 }
 
 void ComboBox::SetSelection(int start, int length) {
-    if (start < 0 || length < 0 || (start == selStart && length == selLength)) return;
-    selStart = start;
-    selLength = length;
-    Notify(Aspect::selection);
+    TextField changed = field;
+    changed.Select(start, length);
+    SetField(std::move(changed));
 }
 
-void ComboBox::SelectionChanged() {
-    if (text == SelectedText()) return;
-    text = SelectedText();
-    Notify(Aspect::text);
+void ComboBox::SetField(TextField value) {
+    if (Store(std::move(value))) Run(onChange);
+}
+
+void ComboBox::TakeSelection() {
+    TextField changed = field;
+    changed.SetText(SelectedText());
+    Store(std::move(changed));
+}
+
+bool ComboBox::Store(TextField value) {
+    const TextField old = std::exchange(field, std::move(value));
+    const bool changed = old.Text() != field.Text();
+    const bool moved = old.Start() != field.Start() || old.Length() != field.Length();
+    if (changed) Notify(Aspect::text);
+    if (moved) Notify(Aspect::selection);
+    return changed;
 }
 
 void ComboBox::Remeasure() {

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/text_field.h"
 
 namespace kivu::forms {
 
@@ -13,6 +15,7 @@ namespace kivu::forms {
 //
 // A sorted list places each new row by the toolkit's collation, behind the rows equal to it. The
 // placing is put off until somebody looks at the order, so that a fill of many rows costs one sort.
+// The selection stays on its row's text.
 class ListControl : public Control {
  public:
     enum class Order { asAdded, sorted };
@@ -45,10 +48,12 @@ class ListControl : public Control {
     void ClickRow(int row);
 
  protected:
-    virtual void SelectionChanged() {}
+    // The selected row is a new one, or has been clicked again.
+    virtual void TakeSelection() {}
 
  private:
     void Settle() const;
+    void PlaceNewRows() const;
     bool Before(std::string_view a, std::string_view b) const;
 
     Order order;
@@ -66,28 +71,34 @@ class ListBox : public ListControl {
 
 // A drop-down list with a text field. Selecting a row writes its text into the field and runs the
 // click handler alone; writing the field runs the change handler and leaves the selected row.
+// Clearing the list or removing its selected row leaves the field.
 class ComboBox : public ListControl {
  public:
     ComboBox(Container* parent, std::string name, Order order = Order::asAdded, int index = -1);
     Kind GetKind() const override { return Kind::comboBox; }
     bool TakesFocus() const override { return true; }
 
-    const std::string& Text() const { return text; }
+    const std::string& Text() const { return field.Text(); }
+    // A different text runs the change handler.
     void SetText(std::string value);
-    int SelStart() const { return selStart; }  // code points
-    int SelLength() const { return selLength; }
+    int SelStart() const { return field.Start(); }  // code points
+    int SelLength() const { return field.Length(); }
     void SetSelection(int start, int length);
+    const TextField& Field() const { return field; }
+    // Text and selection in one step, as typing changes them: the change handler finds both.
+    void SetField(TextField value);
 
     std::function<void()> onChange;
 
  protected:
-    void SelectionChanged() override;
+    void TakeSelection() override;
     void Remeasure() override;
 
  private:
-    std::string text;
-    int selStart = 0;
-    int selLength = 0;
+    // True: the text is another one.
+    bool Store(TextField value);
+
+    TextField field;
 };
 
 }  // namespace kivu::forms

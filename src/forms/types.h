@@ -18,9 +18,11 @@ constexpr Color Rgb(unsigned red, unsigned green, unsigned blue) {
     return (red & 0xff) | (green & 0xff) << 8 | (blue & 0xff) << 16;
 }
 
+inline constexpr double largestFont = 2160;  // points: 30 inches
+
 struct Font {
     std::string name;  // empty: the toolkit's own
-    double size = 10;  // points
+    double size = 10;  // points, above 0 and up to largestFont
     bool bold = false;
     bool operator==(const Font&) const = default;
 };
@@ -29,7 +31,8 @@ struct Font {
 namespace keys {
 inline constexpr int back = 8, tab = 9, enter = 13, escape = 27, space = 32, pageUp = 33,
                      pageDown = 34, end = 35, home = 36, left = 37, up = 38, right = 39, down = 40,
-                     insert = 45, del = 46, f1 = 112, f3 = 114, f4 = 115, f12 = 123;
+                     insert = 45, del = 46, f1 = 112, f3 = 114, f4 = 115, f12 = 123,
+                     otherCharacter = 231;  // comes with a character that has no key of its own
 }
 
 // Bits of a shift state.
@@ -46,11 +49,13 @@ inline constexpr int left = 1, right = 2, middle = 4;
 struct Key {
     int code = 0;
     int shift = 0;
+    bool operator==(const Key&) const = default;
 };
 
 // A typed character on its way through the handlers; 0 swallows it.
 struct Character {
     char32_t code = 0;
+    bool operator==(const Character&) const = default;
 };
 
 struct Mouse {

@@ -1,11 +1,10 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
 #include "forms/form.h"
-#include "forms/list_control.h"
+#include "forms/keys.h"
 
 namespace kivu::forms {
 
@@ -22,7 +21,7 @@ class UserInput {
     void MouseUp(Control& control, const Mouse& mouse);
     void Click(Control& control, std::optional<int> row = {});
     void DoubleClick(Control& control, std::optional<int> row = {});
-    // Selects the row under the mouse before the mouse goes down.
+    // Selects the row under the mouse, if there is one, before the mouse goes down.
     void RightClick(Control& control, std::optional<int> row = {});
 
     // Keys go to the control with the focus. Each gives what is left of the key: code 0 when a
@@ -30,14 +29,16 @@ class UserInput {
     Key KeyDown(Key key);
     Character KeyPress(Character character);
     // What the control itself makes of a key that nobody swallowed: a list moves its selection and
-    // clicks, a button is pressed, Tab moves on. False: nothing. Text boxes edit on a screen by
-    // themselves; for the others see EditKey and EditCharacter.
+    // clicks, a button is pressed, a slider moves by one, Tab moves on. False: nothing. Text boxes
+    // edit on a screen by themselves; for the others see EditKey and EditCharacter.
     bool DefaultKey(Key key);
     // Editing of a text box or of a combo box's field without a screen.
     bool EditKey(Key key);
     bool EditCharacter(Character character);
     // Down, press and default action of a whole key stroke without a screen.
-    void Stroke(Key key);
+    void Stroke(Key key) { Stroke(key, CharacterOf(key)); }
+    // Gives the control the focus, then strokes the keys that type the UTF-8 text; they go on to
+    // where the handlers move the focus. No effect on a control that the user cannot type into.
     void Type(Control& control, std::string_view text);
 
     void FocusNext(bool forward);
@@ -46,14 +47,9 @@ class UserInput {
     int pageRows = 10;
 
  private:
-    bool MoveSelection(ListControl& list, Key key);
+    void Stroke(Key key, Character typed);
 
     Form& form;
 };
-
-// "Ctrl+Enter", "Alt+F4", "Delete", "a": a key by its name. Empty: there is no such key.
-std::optional<Key> KeyByName(std::string_view name);
-// The character that a key types, 0 for none.
-Character CharacterOf(Key key);
 
 }  // namespace kivu::forms
