@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "core/ini_utf16.h"
+
 namespace kivu::core {
 
 namespace {
@@ -15,9 +17,19 @@ std::string_view WithoutLineEnd(std::string_view line) {
 }  // namespace
 
 IniDocument::IniDocument(std::string bytes, IniCoding hostCoding)
-    : text(std::move(bytes)), coding(std::move(hostCoding)), markLength(ByteOrderMarkLength(text)) {
-    if (markLength > 0) coding = CodingOfMarkedFile(coding);
+    : text(std::move(bytes)), coding(std::move(hostCoding)) {
+    ReadForm();
     Parse();
+}
+
+void IniDocument::ReadForm() {
+    isUtf16 = IsMarkedUtf16(text);
+    if (isUtf16) {
+        if (text.size() % 2 != 0) oddByte = text.back();
+        text = Utf16ToUtf8(text);
+    }
+    markLength = ByteOrderMarkLength(text);
+    if (markLength > 0) coding = CodingOfMarkedFile(coding);
 }
 
 void IniDocument::Parse() {
@@ -61,13 +73,12 @@ bool IniDocument::Set(std::string_view section, std::string_view key, std::strin
 }
 
 std::string IniDocument::Bytes() const {
-    if (!isChanged) return text;
     std::string bytes(text, 0, markLength);
     bytes.reserve(text.size());
     for (LineIndex line = lines.empty() ? kNone : 0; line != kNone; line = lines[line].next) {
         bytes += TextOf(line);
     }
-    return bytes;
+    return isUtf16 ? Utf8ToUtf16(bytes) + oddByte : bytes;
 }
 
 IniDocument::LineIndex IniDocument::AppendLine(std::size_t begin, std::size_t size) {
@@ -135,6 +146,7 @@ std::string IniDocument::EntryKey(std::string_view foldedSection, std::string_vi
 
 std::string FindIniValue(std::string_view bytes, std::string_view section, std::string_view key,
                          const IniCoding& hostCoding) {
+    if (IsMarkedUtf16(bytes)) return FindIniValue(Utf16ToUtf8(bytes), section, key, hostCoding);
     const std::size_t markLength = ByteOrderMarkLength(bytes);
     const IniCoding coding = markLength > 0 ? CodingOfMarkedFile(hostCoding) : hostCoding;
     const IniName sectionName = IniName::Section(section, coding);

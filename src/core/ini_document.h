@@ -13,7 +13,8 @@ namespace kivu::core {
 // A profile in memory: parsed once, read and changed by many keys, and then written at once, with
 // the bytes that writing key by key would give. Any bytes are taken; a line that is not changed
 // keeps every one of its bytes. Sections and keys are found without regard to case, and the first
-// match wins: of two sections of one name, the second is never looked into.
+// match wins: of two sections of one name, the second is never looked into. A file that begins with
+// a byte-order mark is UTF-8 or UTF-16 and stays so.
 class IniDocument {
  public:
     explicit IniDocument(std::string bytes = {}, IniCoding coding = {});
@@ -47,6 +48,7 @@ class IniDocument {
         LineIndex next = kNone;
     };
 
+    void ReadForm();
     void Parse();
     LineIndex AppendLine(std::size_t begin, std::size_t size);
     std::string_view TextOf(LineIndex line) const;
@@ -60,6 +62,8 @@ class IniDocument {
 
     std::string text;  // the file as it was, then each line written since
     IniCoding coding;
+    bool isUtf16 = false;  // the file; `text` is UTF-8 all the same
+    std::string oddByte;   // behind the last whole unit of a UTF-16 file
     std::size_t markLength = 0;
     bool isChanged = false;
     std::vector<Line> lines;

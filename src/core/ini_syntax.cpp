@@ -136,7 +136,13 @@ IniCoding CodingOfMarkedFile(const IniCoding& hostCoding) {
     return {[decode = hostCoding.decode](std::string_view bytes) {
                 return support::IsUtf8(bytes) || !decode ? std::string(bytes) : decode(bytes);
             },
-            {}};
+            [](std::string_view text) {
+                std::string valid;
+                for (std::size_t at = 0; at < text.size();) {
+                    support::AppendUtf8(valid, support::NextCodePoint(text, at));
+                }
+                return valid;
+            }};
 }
 
 }  // namespace kivu::core

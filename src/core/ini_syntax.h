@@ -94,8 +94,8 @@ std::string EncodeIni(const IniCoding& coding, std::string_view text);
 // Bytes of the UTF-8 byte-order mark that the file begins with, or 0.
 std::size_t ByteOrderMarkLength(std::string_view bytes);
 
-// A file with a byte-order mark says itself that it is UTF-8, whatever the host's code page is.
-// Stray bytes in it are still read as `hostCoding` does.
+// A file with a byte-order mark says itself that it is UTF-8, whatever the host's code page is, and
+// stays UTF-8. Stray bytes in it are still read as `hostCoding` does.
 IniCoding CodingOfMarkedFile(const IniCoding& hostCoding);
 
 }  // namespace kivu::core

@@ -1,9 +1,12 @@
+#include <algorithm>
 #include <gtest/gtest.h>
+#include <map>
 #include <random>
 #include <string>
 #include <vector>
 
 #include "core/ini.h"
+#include "core/ini_utf16.h"
 #include "support/text.h"
 #include "testing/ini_checks.h"
 #include "testing/memory_file_system.h"
@@ -64,6 +67,9 @@ std::string RandomProfile(Chance& chance) {
         bytes += chance.OneOf(lines) + chance.OneOf(ends);
     }
     if (chance.Below(3) == 0) bytes += chance.OneOf(lines);
+    if (chance.Below(10) == 0) {
+        return "\xFF\xFE" + Utf8ToUtf16(bytes) + (chance.Below(4) == 0 ? "x" : "");
+    }
     return bytes;
 }
 

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/ini_document.h"
+#include "core/ini_utf16.h"
 
 namespace kivu::testing {
 
@@ -16,7 +17,7 @@ class IniChecks {
  public:
     explicit IniChecks(std::string bytes, core::IniCoding hostCoding = {})
         : bytes(std::move(bytes)), hostCoding(std::move(hostCoding)), coding(this->hostCoding) {
-        if (core::ByteOrderMarkLength(this->bytes) > 0) {
+        if (core::ByteOrderMarkLength(Plain(this->bytes)) > 0) {
             coding = core::CodingOfMarkedFile(this->hostCoding);
         }
     }
@@ -36,7 +37,7 @@ class IniChecks {
             return "the value that was set is not read back";
         }
         if (profile.Set(section, key, value)) return "the same value again is a change";
-        std::string problem = CheckLines(after);
+        std::string problem = CheckLines(Plain(bytes), Plain(after));
         if (problem.empty()) problem = CheckOthers(after, section, key);
         bytes = after;
         return problem;
@@ -62,6 +63,11 @@ class IniChecks {
             coding, core::ReadableValue(core::WithinLine(core::EncodeIni(coding, value))));
     }
 
+    // 8-bit, whatever the file is.
+    static std::string Plain(const std::string& file) {
+        return core::IsMarkedUtf16(file) ? core::Utf16ToUtf8(file) : file;
+    }
+
     static std::vector<std::string_view> LinesOf(std::string_view from) {
         std::vector<std::string_view> lines;
         core::IniLineReader reader(from);
@@ -72,14 +78,14 @@ class IniChecks {
     }
 
     // All lines but the written one, and a last line that lacked its end, keep their bytes.
-    std::string CheckLines(std::string_view after) const {
-        const auto old = LinesOf(bytes);
+    static std::string CheckLines(std::string_view before, std::string_view after) {
+        const auto old = LinesOf(before);
         const auto now = LinesOf(after);
         std::size_t joined = 0;
         for (const std::string_view line : now)
             joined += line.size();
         if (joined != after.size()) return "lines with gaps";
-        if (after == bytes) return {};
+        if (after == before) return {};
         std::size_t front = 0;
         while (front < old.size() && front < now.size() && old[front] == now[front])
             ++front;
@@ -118,7 +124,7 @@ class IniChecks {
         };
         const auto setSection = core::IniName::Section(section, coding);
         const auto setKey = core::IniName::Key(key, coding);
-        for (const Name& name : NamesIn(bytes)) {
+        for (const Name& name : NamesIn(Plain(bytes))) {
             if (same(core::IniName::Section(name.section, coding), setSection) &&
                 same(core::IniName::Key(name.key, coding), setKey)) {
                 continue;

@@ -8,7 +8,8 @@
 #include "testing/ini_checks.h"
 
 // The input is a profile and, separated by the byte 0x1F, texts that are set in it three by three:
-// section, key, value. Its first byte says how names and values are coded.
+// section, key, value. Its first byte says how names and values are coded, and whether the profile
+// is turned into UTF-16 first.
 
 namespace {
 
@@ -46,10 +47,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size == 0) return 0;
     std::string_view input(reinterpret_cast<const char*>(data + 1), size - 1);
     const auto coding = CodingOf(data[0]);
-    const std::string_view bytes = NextPart(input);
-    kivu::testing::IniChecks checks(std::string(bytes), coding);
+    std::string bytes(NextPart(input));
+    if (data[0] >= 0xC0) bytes = "\xFF\xFE" + kivu::core::Utf8ToUtf16(bytes);
+    kivu::testing::IniChecks checks(bytes, coding);
     Report(checks.Set("Settings", "Fontsize", "16"));
-    kivu::core::IniDocument many(std::string(bytes), coding);
+    kivu::core::IniDocument many(bytes, coding);
     many.Set("Settings", "Fontsize", "16");
     while (!input.empty()) {
         const std::string_view section = NextPart(input);
