@@ -1,0 +1,147 @@
+#include <map>
+
+#include "forms_testing.h"
+
+namespace kivu::forms {
+namespace {
+
+class FakeDirectories : public DirectorySource {
+ public:
+    struct Content {
+        std::vector<std::string> directories, files;
+    };
+    bool Read(const std::string& path, std::vector<std::string>& directories,
+              std::vector<std::string>& files) override {
+        const auto found = contents.find(path);
+        if (found == contents.end()) return false;
+        directories = found->second.directories;
+        files = found->second.files;
+        return true;
+    }
+    bool Matches(const std::string& pattern, const std::string& name) override {
+        return pattern == "*.*" || name.ends_with(pattern.substr(1));
+    }
+    std::map<std::string, Content> contents;
+};
+
+struct DirectoryTest : testing::Test {
+    DirectoryTest() {
+        source.contents["/roms"] = {{"b", "A"}, {"z.adf", "Y.adf", "readme.txt"}};
+        source.contents["/roms/A"] = {{}, {"one.adf"}};
+        source.contents["/"] = {{"roms"}, {}};
+        source.contents["C:\\Roms"] = {{"Sub"}, {}};
+        source.contents["C:\\"] = {{"Roms"}, {}};
+        source.contents["/odd\\"] = {{"in"}, {}};
+    }
+    FakeDirectories source;
+    CountingCollation collation;
+    Form form{"Form1", Toolkit{nullptr, &collation, &source}};
+    DirListBox dirs{&form, "Dir1"};
+    FileListBox files{&form, "File1"};
+    DriveListBox drives{&form, "Drive1"};
+    Log log;
+
+    static std::vector<std::string> Shown(const DirectoryControl& control) {
+        std::vector<std::string> rows;
+        for (int i = 0; i < control.ListCount(); ++i)
+            rows.push_back(control.List(i));
+        return rows;
+    }
+};
+
+TEST_F(DirectoryTest, DirListShowsFullPathsInOrder) {
+    dirs.SetPath("/roms");
+    EXPECT_THAT(Shown(dirs), ElementsAre("/roms/A", "/roms/b"));
+}
+
+TEST_F(DirectoryTest, DirListJoinsWithTheSeparatorOfItsPath) {
+    dirs.SetPath("/");
+    EXPECT_THAT(Shown(dirs), ElementsAre("/roms"));
+    dirs.SetPath("C:\\");
+    EXPECT_THAT(Shown(dirs), ElementsAre("C:\\Roms"));
+    dirs.SetPath("C:\\Roms");
+    EXPECT_THAT(Shown(dirs), ElementsAre("C:\\Roms\\Sub"));
+    dirs.SetPath("/odd\\");
+    EXPECT_THAT(Shown(dirs), ElementsAre("/odd\\/in"));
+}
+
+TEST_F(DirectoryTest, PathThatCannotBeEnteredLeavesTheDirListWhereItWas) {
+    dirs.SetPath("/roms");
+    dirs.onChange = Writes(log, "change");
+    dirs.SetPath("/gone");
+    dirs.SetPath("");
+    EXPECT_EQ(dirs.Path(), "/roms");
+    EXPECT_EQ(dirs.ListCount(), 2);
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(DirectoryTest, DifferentPathRunsTheChangeHandlerAndTheSameOneReadsAnew) {
+    dirs.onChange = [this] { log.push_back(dirs.Path()); };
+    dirs.SetPath("/roms");
+    source.contents["/roms"].directories.push_back("c");
+    dirs.SetPath("/roms");
+    EXPECT_EQ(dirs.ListCount(), 3);
+    EXPECT_THAT(log, ElementsAre("/roms"));
+}
+
+TEST_F(DirectoryTest, DirListMayGoToOneOfItsOwnRows) {
+    dirs.SetPath("/roms");
+    dirs.SetPath(dirs.List(0));
+    EXPECT_EQ(dirs.Path(), "/roms/A");
+    EXPECT_EQ(dirs.ListCount(), 0);
+}
+
+TEST_F(DirectoryTest, FileListShowsTheNamesThatMatchInOrder) {
+    files.SetPath("/roms");
+    EXPECT_THAT(Shown(files), ElementsAre("readme.txt", "Y.adf", "z.adf"));
+    files.SetPattern("*.adf");
+    EXPECT_THAT(Shown(files), ElementsAre("Y.adf", "z.adf"));
+    files.SetPattern("*.iso");
+    EXPECT_THAT(Shown(files), IsEmpty());
+}
+
+TEST_F(DirectoryTest, PathThatCannotBeEnteredLeavesTheFileListWhereItWas) {
+    files.SetPath("/roms");
+    files.onChange = Writes(log, "change");
+    files.SetPath("/gone");
+    EXPECT_EQ(files.Path(), "/roms");
+    EXPECT_EQ(files.ListCount(), 3);
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(DirectoryTest, FileListOfADirectoryThatHasGoneIsEmptyForANewPattern) {
+    files.SetPath("/roms");
+    source.contents.clear();
+    files.SetPattern("*.adf");
+    EXPECT_THAT(Shown(files), IsEmpty());
+}
+
+TEST_F(DirectoryTest, WithoutASourceTheListsStayEmpty) {
+    Form plain("Form2");
+    DirListBox noDirs(&plain, "Dir1");
+    FileListBox noFiles(&plain, "File1");
+    noDirs.SetPath("/roms");
+    noFiles.SetPath("/roms");
+    noFiles.SetPattern("*.adf");
+    EXPECT_EQ(noDirs.Path(), "");
+    EXPECT_EQ(noFiles.ListCount(), 0);
+}
+
+TEST_F(DirectoryTest, SelectionFollowsTheRulesOfLists) {
+    drives.SetDrives({"C:", "D:"});
+    drives.onClick = [this] { log.push_back(drives.Drive()); };
+    drives.SetListIndex(1);
+    drives.SetListIndex(1);
+    drives.SetListIndex(2);
+    drives.ClickRow(1);
+    drives.ClickRow(2);
+    EXPECT_THAT(log, ElementsAre("D:", "D:"));
+    EXPECT_EQ(drives.List(2), "");
+    EXPECT_EQ(drives.List(-1), "");
+    drives.SetDrives({"E:"});
+    EXPECT_EQ(drives.ListIndex(), -1);
+    EXPECT_EQ(drives.Drive(), "");
+}
+
+}  // namespace
+}  // namespace kivu::forms

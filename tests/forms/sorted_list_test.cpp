@@ -1,0 +1,136 @@
+#include <cmath>
+#include <random>
+
+#include "forms_testing.h"
+
+namespace kivu::forms {
+namespace {
+
+constexpr int many = 30000;
+
+double SortCost(int rows) {
+    return 2.0 * rows * std::log2(rows);
+}
+
+std::vector<std::string> ShuffledNames(int count) {
+    std::mt19937 random(7);
+    std::vector<std::string> names;
+    for (int i = 0; i < count; ++i)
+        names.push_back("Game " + std::to_string(random() % 1000000));
+    return names;
+}
+
+struct SortedList : testing::Test {
+    CountingCollation collation;
+    Form form{"Form1", Toolkit{nullptr, &collation, nullptr}};
+    ListBox list{&form, "List1", ListControl::Order::sorted};
+};
+
+TEST_F(SortedList, AddedRowsStandInTheOrderOfTheCollation) {
+    for (const char* row : {"beta", "Alpha", "gamma", "ALPHABET"})
+        list.AddItem(row);
+    EXPECT_THAT(RowsOf(list), ElementsAre("Alpha", "ALPHABET", "beta", "gamma"));
+}
+
+TEST_F(SortedList, EqualRowsKeepTheirOrderOfArrival) {
+    list.AddItem("b");
+    list.AddItem("A");
+    EXPECT_EQ(list.List(0), "A");
+    list.AddItem("a");
+    EXPECT_EQ(list.List(1), "a");
+    list.AddItems({"B", "A", "aa"});
+    EXPECT_THAT(RowsOf(list), ElementsAre("A", "a", "A", "aa", "b", "B"));
+}
+
+TEST_F(SortedList, WithoutACollationRowsCompareByTheirBytes) {
+    Form plain("Form2");
+    ListBox bytes(&plain, "List1", ListControl::Order::sorted);
+    bytes.AddItems({"b", "B", "a", "A"});
+    EXPECT_THAT(RowsOf(bytes), ElementsAre("A", "B", "a", "b"));
+}
+
+TEST_F(SortedList, SelectionFollowsItsRowThroughLaterInsertions) {
+    list.AddItems({"d", "b"});
+    list.SetListIndex(1);
+    int clicks = 0;
+    list.onClick = [&] { ++clicks; };
+    list.AddItem("a");
+    EXPECT_EQ(list.ListIndex(), 2);
+    list.AddItems({"e", "c", "d", "D"});
+    EXPECT_EQ(list.ListIndex(), 3);
+    EXPECT_EQ(list.SelectedText(), "d");
+    EXPECT_EQ(clicks, 0);
+}
+
+TEST_F(SortedList, SetListKeepsItsPlaceAndTheSelectionStillFollowsItsRow) {
+    list.AddItems({"a", "b", "c"});
+    list.SetListIndex(1);
+    list.SetList(0, "z");
+    EXPECT_THAT(RowsOf(list), ElementsAre("z", "b", "c"));
+    list.AddItems({"0", "d"});
+    EXPECT_EQ(list.SelectedText(), "b");
+    EXPECT_EQ(list.ListCount(), 5);
+}
+
+TEST_F(SortedList, RemovingTakesTheRowOfTheSortedOrder) {
+    list.AddItems({"c", "a", "b"});
+    list.RemoveItem(0);
+    EXPECT_THAT(RowsOf(list), ElementsAre("b", "c"));
+}
+
+TEST_F(SortedList, RowsThatArriveBetweenLooksEqualAStableSortOfThemAll) {
+    std::vector<std::string> names = ShuffledNames(2000);
+    for (std::string& name : names)
+        name.resize(std::min<std::size_t>(name.size(), 7));
+    std::mt19937 random(3);
+    for (const std::string& name : names) {
+        list.AddItem(name);
+        if (random() % 5 == 0) list.ListIndex();
+    }
+    std::stable_sort(names.begin(), names.end(),
+                     [this](const auto& a, const auto& b) { return collation.Compare(a, b) < 0; });
+    EXPECT_EQ(list.Rows(), names);
+}
+
+TEST_F(SortedList, BulkFillCostsASort) {
+    list.AddItems(ShuffledNames(many));
+    EXPECT_EQ(list.Rows().size(), static_cast<std::size_t>(many));
+    EXPECT_LE(static_cast<double>(collation.comparisons), SortCost(many));
+}
+
+TEST_F(SortedList, SingleRowsThatNobodyLooksAtBetweenCostASort) {
+    for (std::string& name : ShuffledNames(many))
+        list.AddItem(std::move(name));
+    EXPECT_EQ(collation.comparisons, 0) << "the count alone needs no order";
+    EXPECT_EQ(list.Rows().size(), static_cast<std::size_t>(many));
+    EXPECT_LE(static_cast<double>(collation.comparisons), SortCost(many));
+}
+
+TEST_F(SortedList, LooksDuringAFillCostAHalvingEach) {
+    int added = 0;
+    for (std::string& name : ShuffledNames(many)) {
+        list.AddItem(std::move(name));
+        if (++added % 100 == 0) list.ListIndex();
+    }
+    list.ListIndex();
+    EXPECT_LE(static_cast<double>(collation.comparisons), SortCost(many));
+}
+
+TEST_F(SortedList, FillInOrderCostsOneComparisonARow) {
+    std::vector<std::string> names = ShuffledNames(many);
+    std::sort(names.begin(), names.end());
+    list.AddItems(names);
+    EXPECT_EQ(list.Rows(), names);
+    EXPECT_LE(collation.comparisons, many);
+}
+
+TEST_F(SortedList, ClearForgetsWhatWasInOrder) {
+    list.AddItems({"a", "b", "c"});
+    list.ListIndex();
+    list.Clear();
+    list.AddItems({"z", "y"});
+    EXPECT_THAT(RowsOf(list), ElementsAre("y", "z"));
+}
+
+}  // namespace
+}  // namespace kivu::forms
