@@ -140,8 +140,9 @@ void IniDocument::Rewrite(LineIndex line, std::string_view newText) {
 }
 
 std::string IniDocument::EntryKey(std::string_view foldedSection, std::string_view foldedKey) {
-    std::string key(foldedSection);
-    return key.append("\n").append(foldedKey);
+    std::string key;
+    key.reserve(foldedSection.size() + 1 + foldedKey.size());
+    return key.append(foldedSection).append("\n").append(foldedKey);
 }
 
 std::string FindIniValue(std::string_view bytes, std::string_view section, std::string_view key,

@@ -117,6 +117,8 @@ bool IniName::Matches(std::string_view nameInFile, const IniCoding& coding) cons
 }
 
 std::string FoldedName(std::string_view nameInFile, const IniCoding& coding) {
+    // Every code page agrees on ASCII, which nearly all names are.
+    if (IsAscii(nameInFile)) return support::ToLower(nameInFile);
     return support::ToLower(DecodeIni(coding, nameInFile));
 }
 
