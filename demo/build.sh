@@ -1,0 +1,116 @@
+#!/bin/bash
+# SPDX-License-Identifier: MIT
+# Copyright (c) 2026 The Kivu developers
+#
+# Builds the demo games and lays out the collection below OUTDIR, which is meant
+# to be the directory of the launcher's program file:
+#
+#     demo/build.sh OUTDIR
+#
+# Needs nasm, and what every Debian has. A profile or an alias list that is there
+# already is kept: it may be the user's own by now.
+
+set -euo pipefail
+
+here=$(cd -- "$(dirname -- "${BASH_SOURCE[0]}")" && pwd)
+if (($# != 1)) || [[ -z $1 ]]; then
+    echo "usage: ${0##*/} OUTDIR" >&2
+    exit 2
+fi
+command -v nasm >/dev/null || {
+    echo "${0##*/}: nasm is missing (Debian package \"nasm\")" >&2
+    exit 1
+}
+mkdir -p -- "$1"
+out=$(cd -- "$1" && pwd)
+# Sorting and case without regard to where this runs.
+export LC_ALL=C.UTF-8
+
+# BuildGames LIST GAMES: assembles what LIST names. Its lines hold the source,
+# options for the assembler and the file's place below GAMES, split by "|"; empty
+# lines and lines that begin with "#" are passed over.
+BuildGames() {
+    local source options target
+    local -a words
+    while IFS='|' read -r source options target; do
+        [[ -z $source || $source == \#* ]] && continue
+        read -ra words <<<"$options"
+        mkdir -p -- "$(dirname -- "$2/$target")"
+        nasm -f bin -Wall -Werror -I "$here/games/src/" ${words[@]+"${words[@]}"} \
+            -o "$2/$target" "$here/games/src/$source.asm"
+    done <"$1"
+}
+
+# WriteCache GAMES PATTERNS ALIASES: the list cache on standard output: for each
+# image its path relative to the program and its display name, as the launcher's
+# own scan of the same files gives them.
+WriteCache() {
+    local pattern
+    (
+        cd -- "$out"
+        set -f # the patterns are for find, not for this directory
+        for pattern in ${2//,/ }; do
+            find "Games/$1" -type f -name "$pattern" -not -name $'*[\n\r]*'
+        done
+    ) | sort -f | aliases=$3 root=$out awk '
+        # The name up to its second ")", its first, or less its extension; names
+        # of fewer than five characters keep their whole path.
+        function Shorten(path,    name, first, second) {
+            name = path
+            sub(/.*\//, "", name)
+            if (length(name) < 5) return ENVIRON["root"] "/" path
+            first = index(name, ")")
+            if (first < 5) return substr(name, 1, length(name) - 4)
+            second = index(substr(name, first + 1), ")")
+            return substr(name, 1, first + second)
+        }
+        function Trim(text) {
+            gsub(/^[ \t]+|[ \t\r]+$/, "", text)
+            return text
+        }
+        # The first row from "start" on that holds "find" in any case.
+        function Find(find, start,    row) {
+            for (row = start; row <= rows; ++row)
+                if (index(tolower(shown[row]), tolower(find))) return row
+            return 0
+        }
+        { paths[++rows] = $0; shown[rows] = Shorten($0) }
+        END {
+            start = 1
+            while ((getline line <ENVIRON["aliases"]) > 0) {
+                place = index(line, ";")
+                if (place < 2) continue
+                row = Find(Trim(substr(line, 1, place - 1)), start)
+                if (row) shown[row] = Trim(substr(line, place + 1))
+                start = row ? row + 1 : 1
+            }
+            for (row = 1; row <= rows; ++row) printf "/%s\r\n%s\r\n", paths[row], shown[row]
+        }'
+}
+
+# InstallEmulator NAME GAMES: the data directory of emulator NAME, whose images
+# lie in Games/GAMES.
+InstallEmulator() {
+    local config=$out/Config/$1 template=$here/config/$1
+    local patterns count kept
+    mkdir -p -- "$config"
+    rm -rf -- "$config.new"
+    cp -R -- "$template/." "$config.new"
+    # Profiles and lists are read on Windows as well: lines end in CR LF.
+    sed -i 's/\r*$/\r/' "$config.new/AliasList.txt" "$config.new/Kivu.ini"
+    patterns=$(sed -n 's/^Dir_Parameter=\(.*\)\r$/\1/p' "$config.new/Kivu.ini")
+    WriteCache "$2" "$patterns" "$config.new/AliasList.txt" >"$config.new/Kivu_Cache.txt"
+    count=$(($(wc -l <"$config.new/Kivu_Cache.txt") / 2))
+    sed -i "s/^RomCount=.*/RomCount=$count\r/" "$config.new/Kivu.ini"
+    for kept in Kivu.ini AliasList.txt; do
+        if [[ -e $config/$kept ]]; then rm -- "$config.new/$kept"; fi
+    done
+    cp -R -- "$config.new/." "$config"
+    rm -r -- "$config.new"
+    echo "$1: $count images"
+}
+
+BuildGames "$here/games/dos.list" "$out/Games/DOS"
+mkdir -p -- "$out/Emulators"
+install -m 755 -- "$here/kivu-dosbox.sh" "$out/Emulators/"
+InstallEmulator DOSBox DOS
