@@ -1,0 +1,146 @@
+#include "png/decoder.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "png/filters.h"
+
+namespace kivu::png {
+namespace {
+
+// Hands out the rows of the inflated data one after the other, with their filters undone.
+class RowSource {
+ public:
+    RowSource(const ImageHeader& imageHeader, std::span<std::uint8_t> inflated)
+        : header(imageHeader),
+          data(inflated),
+          filterStep(std::max(1U, BitsPerPixel(imageHeader) / 8)),
+          zeros(RowBytes(imageHeader, imageHeader.width) + 1),
+          partialRow(zeros.size()),
+          above(zeros.data()) {}
+
+    // Begins a picture or pass: rows of that many pixels, with zeros above the first.
+    void Begin(std::size_t pixels) {
+        rowBytes = RowBytes(header, pixels);
+        above = zeros.data();
+    }
+
+    const std::uint8_t* NextFiltered() {
+        std::uint8_t* row = NextBytes(rowBytes + 1);
+        // Behind the data every row is zeros, whatever was above: no filter is 0.
+        if (row == zeros.data()) return above = row;
+        UndoFilter(row[0], row + 1, above, rowBytes, filterStep);
+        return above = row + 1;
+    }
+
+    // A row without a filter byte in front.
+    const std::uint8_t* NextPlain() { return NextBytes(rowBytes); }
+
+ private:
+    std::uint8_t* NextBytes(std::size_t count) {
+        if (count <= data.size()) {
+            std::uint8_t* bytes = data.data();
+            data = data.subspan(count);
+            return bytes;
+        }
+        if (data.empty()) return zeros.data();
+        std::fill(std::copy(data.begin(), data.end(), partialRow.begin()), partialRow.end(), 0);
+        data = {};
+        return partialRow.data();
+    }
+
+    const ImageHeader& header;
+    std::span<std::uint8_t> data;
+    std::size_t filterStep;
+    std::vector<std::uint8_t> zeros;
+    std::vector<std::uint8_t> partialRow;
+    const std::uint8_t* above;
+    std::size_t rowBytes = 0;
+};
+
+// Converts and blends the rows of one picture.
+class RowFinisher {
+ public:
+    RowFinisher(const RowConverter& rowConverter, AlphaUse use, const Backdrop& behind, int width)
+        : converter(rowConverter),
+          alphaUse(use),
+          backdrop(behind),
+          scratch(use == AlphaUse::Blend && !behind.IsUniform() ? static_cast<std::size_t>(width)
+                                                                : 0) {}
+
+    void Convert(const std::uint8_t* row, std::span<Pixel> pixels) const {
+        converter.Convert(row, pixels);
+    }
+    void Finish(std::span<Pixel> pixels, int y) {
+        if (alphaUse == AlphaUse::Blend) {
+            backdrop.BlendRow(pixels, y, scratch);
+        } else if (alphaUse == AlphaUse::Ignore) {
+            for (Pixel& pixel : pixels) {
+                pixel |= opaqueBlack;
+            }
+        }
+    }
+
+ private:
+    const RowConverter& converter;
+    AlphaUse alphaUse;
+    const Backdrop& backdrop;
+    std::vector<Pixel> scratch;
+};
+
+// Without interlacing, row by row while the row is at hand. With an unknown interlace method the
+// rows are taken as they lie, filter bytes and all.
+void DecodePlain(const ImageHeader& header, RowSource& source, RowFinisher& finisher,
+                 Picture& picture) {
+    source.Begin(header.width);
+    for (int y = 0; y < picture.Height(); ++y) {
+        const std::span<Pixel> pixels = picture.Row(y);
+        finisher.Convert(header.interlacing == 0 ? source.NextFiltered() : source.NextPlain(),
+                         pixels);
+        finisher.Finish(pixels, y);
+    }
+}
+
+void DecodePass(const ImageHeader& header, const Pass& pass, RowSource& source,
+                RowFinisher& finisher, Picture& picture) {
+    const std::uint32_t columns = pass.Columns(header.width);
+    if (columns == 0) return;
+    source.Begin(columns);
+    std::vector<Pixel> passRow(pass.stepX == 1 ? 0 : columns);
+    for (std::uint32_t y = pass.startY; y < header.height; y += pass.stepY) {
+        const std::span<Pixel> pixels = picture.Row(static_cast<int>(y));
+        const std::uint8_t* row = source.NextFiltered();
+        if (pass.stepX == 1) {
+            finisher.Convert(row, pixels);
+            continue;
+        }
+        finisher.Convert(row, passRow);
+        std::size_t to = pass.startX;
+        for (const Pixel pixel : passRow) {
+            pixels[to] = pixel;
+            to += pass.stepX;
+        }
+    }
+}
+
+}  // namespace
+
+Picture DecodeRows(const ImageHeader& header, std::span<std::uint8_t> data,
+                   const RowConverter& converter, AlphaUse alphaUse, const Backdrop& backdrop) {
+    Picture picture(static_cast<int>(header.width), static_cast<int>(header.height));
+    RowSource source(header, data);
+    RowFinisher finisher(converter, alphaUse, backdrop, picture.Width());
+    if (header.interlacing != 1) {
+        DecodePlain(header, source, finisher, picture);
+        return picture;
+    }
+    for (const Pass& pass : adam7Passes) {
+        DecodePass(header, pass, source, finisher, picture);
+    }
+    for (int y = 0; y < picture.Height(); ++y) {
+        finisher.Finish(picture.Row(y), y);
+    }
+    return picture;
+}
+
+}  // namespace kivu::png
