@@ -40,6 +40,8 @@ class FileSystem {
     };
     virtual std::optional<Identity> IdentityOf(const std::string& path) const = 0;
     virtual bool IsLink(const std::string& path) const = 0;
+    // The path with every link on the way resolved; the path itself when it leads nowhere.
+    virtual std::string ResolvedPath(const std::string& path) const { return path; }
 
     // The whole file. Empty optional: missing, a directory, or unreadable.
     virtual std::optional<std::string> ReadFile(const std::string& path) const = 0;

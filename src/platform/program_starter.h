@@ -31,6 +31,9 @@ class ProgramStarter {
     // it writes them for /bin/sh (words in single quotes, lines ended by LF).
     virtual bool UsesShell() const = 0;
 
+    // A program by its bare name, where the system's search path finds it; empty where it does not.
+    virtual std::string FindInPath(const std::string&) const { return {}; }
+
     // Hands an address or a document to the program that the user has chosen for it.
     virtual std::error_code Open(const std::string& addressOrPath) = 0;
 };

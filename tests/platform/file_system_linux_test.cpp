@@ -152,6 +152,18 @@ TEST_F(FileSystemLinux, ADirectoryHasOneIdentityWhateverPathLeadsToIt) {
     EXPECT_FALSE(files.IsLink(""));
 }
 
+TEST_F(FileSystemLinux, APathIsResolvedThroughItsLinksOrStaysAsItIs) {
+    const std::string root = fs::canonical(directory.Root()).string();
+    fs::create_directory(directory.Path("sub"));
+    directory.Write("sub/game", "x");
+    fs::create_directory_symlink("sub", directory.Path("linked"));
+    fs::create_symlink("loop", directory.Path("loop"));
+    EXPECT_EQ(files.ResolvedPath(directory.Path("linked/../linked/game")), root + "/sub/game");
+    EXPECT_EQ(files.ResolvedPath(directory.Path("loop")), directory.Path("loop"));
+    EXPECT_EQ(files.ResolvedPath(directory.Path("missing")), directory.Path("missing"));
+    EXPECT_EQ(files.ResolvedPath(""), "");
+}
+
 TEST_F(FileSystemLinux, ReadsWholeFilesOfAnyBytes) {
     const std::string bytes("a\0b\r\n\xff", 6);
     directory.Write("bytes", bytes);

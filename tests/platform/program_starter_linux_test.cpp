@@ -11,6 +11,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "platform/environment_variable.h"
 #include "platform/eventually.h"
 #include "platform/linux/start_words.h"
 #include "platform/temporary_directory.h"
@@ -20,33 +21,13 @@ namespace fs = std::filesystem;
 namespace kivu::platform {
 namespace {
 
+using kivu::testing::EnvironmentVariable;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 const std::string surroundings = KIVU_HELPERS "/kivu_surroundings";
 const std::string awkward =
     "a 'b' \"c\" $HOME `touch pwned` $(touch pwned); touch pwned & |x<y>z*?[\\";
-
-class EnvironmentVariable {
- public:
-    EnvironmentVariable(const char* name, const std::string& value) : name(name) {
-        if (const char* old = std::getenv(name)) before = old;
-        ::setenv(name, value.c_str(), 1);
-    }
-    ~EnvironmentVariable() {
-        if (before) {
-            ::setenv(name, before->c_str(), 1);
-        } else {
-            ::unsetenv(name);
-        }
-    }
-    EnvironmentVariable(const EnvironmentVariable&) = delete;
-    EnvironmentVariable& operator=(const EnvironmentVariable&) = delete;
-
- private:
-    const char* name;
-    std::optional<std::string> before;
-};
 
 class ProgramStarterLinux : public ::testing::Test {
  protected:
@@ -271,6 +252,10 @@ TEST_F(ProgramStarterLinux, ABareNameIsLookedUpInThePathAndNeverInTheCurrentDire
                                                "::" + directory.Path("missing") + ":" +
                                                directory.Path("bin"));
     EXPECT_EQ(FindProgram("kivu-tool"), directory.Path("bin/kivu-tool"));
+    EXPECT_EQ(starter.FindInPath("kivu-tool"), directory.Path("bin/kivu-tool"));
+    EXPECT_EQ(starter.FindInPath("kivu-no-such-tool"), "");
+    EXPECT_EQ(starter.FindInPath(directory.Path("bin/kivu-tool")), "");
+    EXPECT_EQ(starter.FindInPath(""), "");
     fs::copy_file(surroundings, directory.Path("kivu-here"));
     fs::current_path(directory.Root());
     EXPECT_EQ(FindProgram("kivu-here"), "");

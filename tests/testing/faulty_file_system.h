@@ -53,6 +53,9 @@ class FaultyFileSystem : public platform::FileSystem {
         return inner.IdentityOf(path);
     }
     bool IsLink(const std::string& path) const override { return inner.IsLink(path); }
+    std::string ResolvedPath(const std::string& path) const override {
+        return inner.ResolvedPath(path);
+    }
     std::optional<std::string> ReadFile(const std::string& path) const override {
         if (Fault(Step::Read, path)) return std::nullopt;
         return inner.ReadFile(path);

@@ -149,6 +149,14 @@ bool LinuxFileSystem::IsLink(const std::string& path) const {
     return Usable(path) && ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
 }
 
+std::string LinuxFileSystem::ResolvedPath(const std::string& path) const {
+    if (!Usable(path)) return path;
+    char* resolved = ::realpath(path.c_str(), nullptr);
+    std::string answer = resolved ? resolved : path;
+    std::free(resolved);
+    return answer;
+}
+
 std::optional<std::string> LinuxFileSystem::ReadFile(const std::string& path) const {
     if (!Usable(path)) return std::nullopt;
     // Without O_NONBLOCK, opening a pipe would wait for somebody who writes to it.

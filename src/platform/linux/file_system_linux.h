@@ -25,6 +25,7 @@ class LinuxFileSystem : public FileSystem {
     bool IsDirectory(const std::string& path) const override;
     std::optional<Identity> IdentityOf(const std::string& path) const override;
     bool IsLink(const std::string& path) const override;
+    std::string ResolvedPath(const std::string& path) const override;
 
     std::optional<std::string> ReadFile(const std::string& path) const override;
 

@@ -33,6 +33,10 @@ std::error_code LinuxProgramStarter::Run(const StartRequest& request) {
     return {};
 }
 
+std::string LinuxProgramStarter::FindInPath(const std::string& name) const {
+    return name.find('/') == std::string::npos ? FindProgram(name) : std::string();
+}
+
 std::error_code LinuxProgramStarter::Open(const std::string& addressOrPath) {
     if (addressOrPath.empty()) return std::make_error_code(std::errc::invalid_argument);
     StartRequest request;

@@ -18,6 +18,8 @@ class LinuxProgramStarter : public ProgramStarter {
 
     std::error_code Run(const StartRequest& request) override;
     bool UsesShell() const override { return true; }
+    // A name with a directory is no bare one: empty.
+    std::string FindInPath(const std::string& name) const override;
     // By the desktop's own choice (xdg-open).
     std::error_code Open(const std::string& addressOrPath) override;
 
