@@ -1,0 +1,166 @@
+#include "platform/linux/instance_linux.h"
+
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <fcntl.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+#include <utility>
+
+#include "platform/linux/user_directories.h"
+
+namespace kivu::platform {
+
+namespace {
+
+constexpr int waitingCalls = 8;
+
+struct Address {
+    sockaddr_un text{};
+    socklen_t length = 0;
+
+    const sockaddr* Get() const { return reinterpret_cast<const sockaddr*>(&text); }
+};
+
+// False: the name is too long for a socket.
+bool MakeAddress(const std::string& name, bool abstract, Address& address) {
+    const std::size_t room = sizeof address.text.sun_path - 1;
+    if (name.empty() || name.size() > room) return false;
+    address.text.sun_family = AF_UNIX;
+    // A NUL in front marks an abstract name; a path has one behind it.
+    std::memcpy(address.text.sun_path + (abstract ? 1 : 0), name.data(), name.size());
+    address.length = static_cast<socklen_t>(offsetof(sockaddr_un, sun_path) + name.size() + 1);
+    return true;
+}
+
+FileDescriptor NewSocket() {
+    return FileDescriptor(::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+}
+
+bool IsOwnUsers(int connection) {
+    struct ucred peer {};
+    socklen_t length = sizeof peer;
+    return ::getsockopt(connection, SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 &&
+           peer.uid == ::getuid();
+}
+
+// A full queue means somebody who is only busy.
+bool Call(const Address& address) {
+    const FileDescriptor connection = NewSocket();
+    if (!connection) return false;
+    if (::connect(connection.Get(), address.Get(), address.length) != 0) return errno == EAGAIN;
+    return IsOwnUsers(connection.Get());
+}
+
+// The holder of the lock may be on its way from locking to listening.
+void CallPatiently(const Address& address) {
+    constexpr int trials = 40;
+    constexpr int pause = 25;  // milliseconds
+    for (int trial = 0; trial < trials && !Call(address); ++trial)
+        ::poll(nullptr, 0, pause);
+}
+
+// Program names are file names: any bytes, up to 255 of them. FNV-1a keeps them apart where they do
+// not fit or would be a path.
+std::string SocketName(const std::string& programName) {
+    constexpr std::size_t maxPlain = 32;
+    const bool isPlain = programName.size() <= maxPlain &&
+                         programName.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
+    if (isPlain) return "kivu-" + programName;
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char letter : programName)
+        hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
+    char text[32];
+    std::snprintf(text, sizeof text, "kivu-%016llx", static_cast<unsigned long long>(hash));
+    return text;
+}
+
+}  // namespace
+
+LinuxInstance::LinuxInstance(const std::string& programName) : programName(programName) {
+}
+
+LinuxInstance::~LinuxInstance() {
+    // While the lock is held, so that it is surely the own one.
+    if (!socketPath.empty()) ::unlink(socketPath.c_str());
+}
+
+bool LinuxInstance::HandOver(const std::string&) {
+    if (listener) return false;
+    const std::string name = SocketName(programName);
+    const std::string directory = UserRuntimeDirectory();
+    Address address;
+    const std::string path = directory + "/" + name + ".socket";
+    if (!directory.empty() && MakeAddress(path, false, address)) return !ListenAtPath(path);
+    return !ListenAbstract(name + "-" + std::to_string(::getuid()));
+}
+
+bool LinuxInstance::ListenAtPath(const std::string& path) {
+    Address address;
+    MakeAddress(path, false, address);
+    const std::string lockPath = path + ".lock";
+    FileDescriptor opened(
+        ::open(lockPath.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK, 0600));
+    if (!opened) return true;
+    if (::flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
+        if (errno != EWOULDBLOCK) return true;
+        CallPatiently(address);
+        return false;
+    }
+    lock = std::move(opened);
+
+    ::unlink(path.c_str());
+    FileDescriptor made = NewSocket();
+    if (made && ::bind(made.Get(), address.Get(), address.length) == 0 &&
+        ::listen(made.Get(), waitingCalls) == 0) {
+        listener = std::move(made);
+        socketPath = path;
+    }
+    return true;
+}
+
+bool LinuxInstance::ListenAbstract(const std::string& name) {
+    Address address;
+    if (!MakeAddress(name, true, address)) return true;
+    FileDescriptor made = NewSocket();
+    if (!made) return true;
+    if (::bind(made.Get(), address.Get(), address.length) == 0 &&
+        ::listen(made.Get(), waitingCalls) == 0) {
+        listener = std::move(made);
+        return true;
+    }
+    // Anybody may have taken such a name; only a call to the same user's process is one.
+    return !Call(address);
+}
+
+void LinuxInstance::OnSummoned(std::function<void()> handler) {
+    summon = std::move(handler);
+    if (summon && std::exchange(missedSummons, false)) summon();
+}
+
+void LinuxInstance::Serve() {
+    bool called = false;
+    while (listener) {
+        const FileDescriptor caller(
+            ::accept4(listener.Get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
+        if (!caller) {
+            if (errno == ECONNABORTED || errno == EINTR) continue;
+            break;
+        }
+        called |= IsOwnUsers(caller.Get());
+    }
+    if (!called) return;
+    if (summon) {
+        summon();
+    } else {
+        missedSummons = true;
+    }
+}
+
+}  // namespace kivu::platform
