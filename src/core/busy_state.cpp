@@ -1,0 +1,45 @@
+#include "core/busy_state.h"
+
+namespace kivu::core {
+
+void EventPacer::DoEventsWhenDue() {
+    using namespace std::chrono_literals;
+    const auto now = clock.Steady();
+    if (now - last < 30ms) return;
+    events.DoEvents();
+    last = clock.Steady();
+}
+
+void BusyState::HideAll(bool iVIsible) {
+    form.ListsVisible = iVIsible;
+    form.GlobalSearchList.SetVisible(false);
+    form.LoadingBtn.SetVisible(!iVIsible);
+    form.SettingsBtn.SetVisible(iVIsible);
+    form.SettingsShortBtn.SetVisible(!form.SettingsBtn.Visible());
+    form.AddToFavorit.SetVisible(false);
+    form.AddToFavorit_Global.SetVisible(false);
+    form.Label1.SetVisible(iVIsible);
+    form.Label2.SetVisible(iVIsible);
+    form.Label3.SetVisible(iVIsible);
+    form.EmulatorLongListbox.SetVisible(false);
+    form.SearchDblsTxt.SetVisible(iVIsible);
+    form.FavoritenListeGlobal.SetVisible(false);
+    form.Current_ProgramNameFull.SetCaption("");
+    if (!iVIsible) {
+        form.FavoritenListe.SetVisible(false);
+        form.WIthoutDoubles.SetVisible(false);
+        form.UAE_Short.SetVisible(false);
+        form.SuchErgList.SetVisible(false);
+    }
+    form.DeLFav.SetVisible(false);
+    form.SettingsSubPicture.SetVisible(iVIsible);
+    events.DoEvents();
+}
+
+void BusyState::MeCaption(const std::string& NewCaption) {
+    form.SetCaption(NewCaption);
+    form.MyCaptionLabel.SetCaption(NewCaption);
+    form.LoadingBtn.SetCaption(NewCaption);
+}
+
+}  // namespace kivu::core

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "core/form1.h"
+#include "platform/file_system.h"
+
+namespace kivu::core {
+
+// A file of this name in a directory, by the spelling that is on the disk when that differs in case
+// only: a data directory brought over from Windows may have any.
+std::string FindByName(const platform::FileSystem& files, const std::string& directory,
+                       const std::string& name);
+
+// The program's own files, and those of the state in which no emulator has been selected.
+void AssignProgramPaths(Form1& form, const platform::FileSystem& files);
+// The files of the emulator of this name.
+void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const std::string& name);
+
+}  // namespace kivu::core

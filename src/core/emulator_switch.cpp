@@ -1,0 +1,195 @@
+#include "core/emulator_switch.h"
+
+#include "core/emulator_paths.h"
+#include "support/file_ops.h"
+#include "support/text.h"
+
+namespace kivu::core {
+
+namespace {
+constexpr const char* settings = "Settings";
+}
+
+void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
+    if (form.Busy) return;
+    const Raised working(form.Busy);
+    form.Label4.SetCaption(" Suchergebnisse (0) ");
+    form.Label4.SetVisible(false);
+    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    form.Current_LoadingSmallBtn.SetVisible(true);
+    if (form.EmuListbox.ListIndex() == form.CurrentEmuIndex) {
+        ReturnToLoadedEmulator();
+        return;
+    }
+    if (!ClearForSwitch()) return;
+
+    AssignEmulatorPaths(form, files, form.EmuListbox.SelectedText());
+    const std::string name = form.EmuListbox.SelectedText();
+    InitEmulatorView();
+    if (form.Ended) return;
+
+    form.EmulatorLongListbox.SetVisible(false);
+    form.EmuListbox.SetText(name);
+    ini.WriteIniValue(settings, "LastEmulator", form.EmuListbox.Text(), form.BaseIniName, true);
+    ShowLoadedLists();
+    if (AddToGlobal) AppendToGlobalList();
+    hooks.RebuildLayout();
+    form.Current_LoadingSmallBtn.SetVisible(false);
+    form.EmuListbox.SetVisible(true);
+    if (form.EmulatorLongListbox.Visible()) return;
+    if (form.FavoritenListe.ListCount() > 0) {
+        hooks.Label1_Click();
+    } else {
+        hooks.Label2_Click();
+    }
+}
+
+void EmulatorSwitch::ReturnToLoadedEmulator() {
+    form.EmulatorLongListbox.SetVisible(false);
+    form.EmuListbox.SetVisible(false);
+    hooks.ShowEmulatorBox(false);
+    form.ListMode = "1";
+    hooks.RebuildLayout();
+    form.EmuListbox.SetVisible(true);
+    events.DoEvents();
+    form.Current_LoadingSmallBtn.SetVisible(false);
+    hooks.LeaveEmulatorBox();
+}
+
+// False: the switch is locked and stops here.
+bool EmulatorSwitch::ClearForSwitch() {
+    form.FavoritenListe.Clear();
+    form.EmuListbox.SetVisible(false);
+    form.EmulatorLongListbox.SetVisible(false);
+    busy.HideAll(false);
+    if (form.EmulatorLongListbox.ListIndex() != form.EmuListbox.ListIndex()) {
+        form.EmulatorLongListbox.SetListIndex(form.EmuListbox.ListIndex());
+    }
+    if (form.EmuListLocked) return false;
+    form.EmuBoxIndexSaved = form.EmuListbox.ListIndex();
+    form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
+    form.FavoritenListe.Clear();
+    form.UAE_Short.Clear();
+    form.UAE_FULL.Clear();
+    form.SuchErgList.Clear();
+    hooks.ShowEmulatorBox(false);
+    return true;
+}
+
+void EmulatorSwitch::ShowLoadedLists() {
+    const bool favourites = form.FavoritenListe.ListCount() > 0;
+    if (favourites) {
+        hooks.Label1_Click();
+        form.FavoritenListe.SetListIndex(0);
+    } else {
+        hooks.Label2_Click();
+        form.WIthoutDoubles.SetListIndex(0);
+    }
+    busy.HideAll(true);
+    form.ListMode = form.FavoritenListe.ListCount() > 0 ? "1" : "2";
+}
+
+void EmulatorSwitch::AppendToGlobalList() {
+    const std::string kept = form.Label1.Caption();
+    form.Label1.SetCaption("Global List: " + form.EmuListbox.SelectedText());
+    hooks.AddToALL_LIST();
+    form.Label1.SetCaption(kept);
+}
+
+void EmulatorSwitch::InitEmulatorView() {
+    hooks.LoadSkinPictures();
+    hooks.LoadFavoriten();
+    if (ini.ReadIniNumber(settings, "ResetScreenResolution", form.BaseIniName, "0", true) > 0) {
+        hooks.SaveAndSetDisplayMode();
+    }
+    form.GamePictureVis.SetPicture({});
+    form.GamePicture.SetPicture({});
+    hooks.SetVorschau();
+    form.CurrentEmuIndex = form.EmuListbox.ListIndex();
+    ShowDefaultTitle();
+    form.WIthoutDoubles.Clear();
+    form.UAE_FULL.Clear();
+    form.UAE_Short.Clear();
+    form.FavoritenListe.Clear();
+    form.TopRightPic.SetTop(20);
+    PrepareMasterConfig();
+    hooks.ArrangeWindow();
+    FillFontSizes();
+    hooks.SetToTop();
+    hooks.LoadSettings();
+    hooks.LoadFavoriten();
+    form.EmulatorLongListbox.SetVisible(false);
+    ReadTitle();
+    if (ServeCommandLine()) return;
+    if (form.FontSizeCombo.ListIndex() < 1) form.FontSizeCombo.SetListIndex(13);
+    FinishView();
+}
+
+void EmulatorSwitch::ShowDefaultTitle() {
+    form.TitleStr.SetCaption(defaultTitle);
+    form.SetCaption(defaultTitle);
+    form.MyCaptionLabel.SetCaption(defaultTitle);
+    form.SettingsSubPicture.BringToFront();
+}
+
+void EmulatorSwitch::PrepareMasterConfig() {
+    const int use = ini.ReadIniNumber(settings, "WinUAE_UseMasterConfig", form.IniPath, "1", true);
+    form.MasterConfigName.clear();
+    if (use != 1) return;
+    form.MasterConfigName = form.ConfigPath + form.EXE + "_Master.uaecfg";
+    hooks.GetMasterConfig();
+}
+
+void EmulatorSwitch::FillFontSizes() {
+    form.FontSizeCombo.Clear();
+    const std::string wording = form.Say("Schriftgröße: ", "Font size: ");
+    for (int size = 8; size <= 80; ++size) {
+        form.FontSizeCombo.AddItem(wording + std::to_string(size));
+    }
+}
+
+void EmulatorSwitch::ReadTitle() {
+    form.TitleString =
+        ini.ReadIniValue(settings, "TitleString", form.ColorsIniName, defaultTitle, true);
+    form.DownloadURL = ini.ReadIniValue(settings, "DownloadURL", form.ColorsIniName, "", true);
+    form.SetCaption(form.TitleString);
+    form.MyCaptionLabel.SetCaption(form.TitleString);
+}
+
+bool EmulatorSwitch::ServeCommandLine() {
+    if (commandLine.find('?') != std::string::npos) {
+        dialogs.MessageBox("Command Parameter: Not full supported yet!  *.adf Files should work!",
+                           defaultTitle, platform::Buttons::Ok, platform::Icon::None);
+    } else if (!support::Trim(commandLine).empty()) {
+        hooks.StartGame(support::QuoteIfNeeded(support::Trim(commandLine)));
+    } else {
+        return false;
+    }
+    form.Ended = true;
+    hooks.EndProgram();
+    return true;
+}
+
+void EmulatorSwitch::FinishView() {
+    events.DoEvents();
+    form.LoadingBtn.SetCaption(form.Say("Liste wird geladen...", "Loading list..."));
+    busy.HideAll(false);
+    events.DoEvents();
+    hooks.LoadCacheList();
+    hooks.ArrangeWindow();
+    events.DoEvents();
+    form.Current_ProgramNameFull.SetCaption("");
+    form.LoadingBtn.SetCaption("Loading..");
+    form.TitleString =
+        ini.ReadIniValue(settings, "TitleString", form.ColorsIniName, defaultTitle, true);
+    form.TitleStr.SetCaption(form.TitleString);
+    form.MyCaptionLabel.SetCaption(form.TitleString);
+    form.LoadingBtn.SetCaption(form.TitleString);
+    form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
+    hooks.BuildDoublesList();
+    hooks.WatchOnce();
+    busy.HideAll(false);
+    form.SettingsBtn.SetVisible(true);
+}
+
+}  // namespace kivu::core

@@ -1,0 +1,175 @@
+#include "core/form1.h"
+
+#include "support/text.h"
+
+namespace kivu::core {
+
+using forms::Rgb;
+
+FileScanControls::FileScanControls(forms::Container* parent)
+    : frame(parent, "FileScanRecursive1"),
+      ResultList(&frame, "ResultList", forms::ListControl::Order::sorted),
+      TmpDirList(&frame, "TmpDirList", forms::ListControl::Order::asAdded),
+      MyTmpFile(&frame, "MyTmpFile"),
+      MyTmpDir(&frame, "MyTmpDir") {
+    frame.Move(0, 0, 3000, 2000);
+    ResultList.SetVisible(false);
+    TmpDirList.SetVisible(false);
+    MyTmpFile.SetVisible(false);
+    MyTmpDir.SetVisible(false);
+}
+
+Form1::Form1(forms::Toolkit toolkit) : forms::Form("Form1", toolkit) {
+    DesignWindow();
+    DesignLists();
+    DesignFrame();
+    DesignDrives();
+    DesignCorner();
+}
+
+int Form1::Mode() const {
+    return support::ToNumber(ListMode).value_or(0);
+}
+
+std::string Form1::BaseDirectory() const {
+    std::string directory = AppDir;
+    if (!directory.empty() && (directory.back() == '\\' || directory.back() == '/'))
+        directory.pop_back();
+    return directory;
+}
+
+void Form1::DesignWindow() {
+    Move(600, 600, 14400, 10200);
+    SetCaption(defaultTitle);
+    SetFont({"", 10, false});
+    SetPicture({":/background", nullptr});
+    ListLeft = 300;
+
+    MyCaptionLabel.Move(ListLeft + 60, 110, 9000, 330);
+    MyCaptionLabel.SetFont({"", 10, true});
+    MyCaptionLabel.SetCaption(defaultTitle);
+
+    LoadingBtn.SetAlignment(forms::Alignment::center);
+    LoadingBtn.SetFont({"", 18, true});
+    LoadingBtn.SetVisible(false);
+    LoadingBtn.SetCaption("Liste wird geladen...");
+    Current_LoadingSmallBtn.SetAlignment(forms::Alignment::center);
+    Current_LoadingSmallBtn.SetFont({"", 10, false});
+    Current_LoadingSmallBtn.SetCaption(LoadingBtn.Caption());
+    AppRunningPicture.Move(0, 0, 1920, 1920);
+    AppRunningPicture.SetPicture({":/running", nullptr});
+    AppRunningPicture.SetToolTipText("Emulator beenden");
+    AppRunningPicture.SetVisible(false);
+}
+
+void Form1::DesignLists() {
+    EmuListbox.SetFont({"", 16, false});
+    EmuListbox.Move(ListLeft, 540, 3520, EmuListbox.Height());
+    EmuListbox.SetToolTipText("Emulator auswählen");
+    EmulatorLongListbox.SetToolTipText(
+        "Doppelklick öffneet den Emulator, Rechte Maustaste startet den Emulator im Setup-Modus");
+    for (forms::ListBox* list :
+         {&EmulatorLongListbox, &FavoritenListe, &WIthoutDoubles, &UAE_Short, &SuchErgList,
+          &UAE_FULL, &FavoritenListeGlobal, &GlobalSearchList}) {
+        list->SetFont({"", 11, false});
+        list->Move(ListLeft, 1300, 9033, 8600);
+        list->SetVisible(false);
+    }
+    EmulatorLongListbox.SetFontSize(14);
+    Label1.SetCaption("Favoriten");
+    Label2.SetCaption("Ohne Dubletten");
+    Label3.SetCaption("Komplette Liste");
+    Label4.SetCaption("Suchergebnisse");
+    for (forms::Label* tab : {&Label1, &Label2, &Label3, &Label4}) {
+        tab->SetFont({"", 10, true});
+        tab->SetTop(700);
+        tab->SetAutoSize(true);
+    }
+    Label4.SetVisible(false);
+    AddToFavorit.SetCaption("Add Favorite");
+    AddToFavorit_Global.SetCaption("Add to global Favorites");
+    DeLFav.SetCaption("Remove Favorite");
+    for (forms::CommandButton* button : {&AddToFavorit, &AddToFavorit_Global, &DeLFav}) {
+        button->Move(ListLeft, 0, 2200, 390);
+        button->SetVisible(false);
+    }
+}
+
+void Form1::DesignFrame() {
+    VorschauBild.SetVisible(false);
+    GamePicture.SetVisible(false);
+    SettingsFrame.Move(9433, 6000, 4800, 4000);
+    Current_ProgramNameFull.Move(100, 200, 4600, 1000);
+    Current_ProgramNameFull.SetFont({"", 15, false});
+    SearchDblsTxt.SetText("Suche..");
+    SearchDblsTxt.SetWidth(2250);
+    SuchErg.Move(0, 0, 330, 330);
+    SuchErg.SetPicture({":/search", nullptr});
+    SearchAllBtn.SetCaption("ALL");
+    SearchAllBtn.SetToolTipText("Srg + Return (Suche in allen Emulatoren)");
+    SearchAllBtn.SetEnabled(false);
+    SearchAllBtn.SetBackColor(Rgb(255, 255, 255));
+    SearchAllBtn.Move(0, 0, 660, 420);
+    LoadBtn.SetCaption("Liste Neu einlesen");
+    LoadBtn.Move(0, 0, 2100, 420);
+    SettingsBtn.SetCaption("Optionen..");
+    SettingsBtn.SetToolTipText("Optionen..");
+    SettingsShortBtn.SetCaption("Optionen..");
+    for (forms::CommandButton* button : {&SettingsBtn, &SettingsShortBtn, &DonateBtn}) {
+        button->Move(0, 0, 1200, 420);
+        button->SetVisible(false);
+    }
+    DonateBtn.SetCaption("Spenden");
+    ExitBtn.SetCaption("&Exit");
+    ExitBtn.Move(0, 0, 1050, 420);
+    FontSizeCombo.Move(0, 0, 2100, 420);
+    JoystickIcon.Move(0, 0, 420, 420);
+    JoystickIcon.SetPicture({":/joystick", nullptr});
+    JoystickIcon.SetToolTipText("Joysticksteuerung aktiv");
+    JoystickIcon.SetVisible(false);
+    AlwaysOnTop1.Move(0, 0, 420, 420);
+    AOT_Enabled.SetPicture({":/pin-enabled", nullptr});
+    AOT_Disabled.SetPicture({":/pin-disabled", nullptr});
+    AOT_MouseMove.SetPicture({":/pin-hover", nullptr});
+    for (forms::Image* pin : {&AOT_Enabled, &AOT_Disabled, &AOT_MouseMove}) {
+        pin->Move(0, 0, 420, 420);
+        pin->SetToolTipText("Always on top");
+        pin->SetVisible(pin == &AOT_Disabled);
+    }
+    Frame1.SetCaption("Invisible Controls");
+    Frame1.SetVisible(false);
+    OrgBackGround.SetPicture({":/background", nullptr});
+    OrgTopLeft.SetPicture({":/top-right", nullptr});
+}
+
+void Form1::DesignDrives() {
+    SettingsSubPicture.Move(9533, 8300, 4560, 480);
+    SettingsSubPicture.SetPicture({":/drivebox", nullptr});
+    Frame2.Move(45, 45, 4470, 390);
+    for (std::size_t i = 0; i < Check_Dfx.size(); ++i) {
+        Check_Dfx[i].SetCaption("Df" + std::to_string(i) + ":");
+        Check_Dfx[i].SetFont({"Arial Black", 8, true});
+        Check_Dfx[i].Move(60 + static_cast<int>(i) * 850, 45, 840, 300);
+    }
+    DrivesResizeLabel.SetCaption(std::string(10, ' '));
+    DrivesResizeLabel.Move(4360, 270, 200, 210);
+    SettingsSubPicture.SetVisible(false);
+}
+
+void Form1::DesignCorner() {
+    TopRightPic.Move(10900, 60, 3270, 960);
+    TopRightPic.SetPicture({":/top-right", nullptr});
+    TopRightPic.SetToolTipText("Double- click = minimize,  Alt + arrows = resize");
+    TitleStr.Move(60, 120, 1750, 300);
+    TitleStr.SetFont({"", 9, false});
+    TitleStr.SetCaption(defaultTitle);
+    TimeString.Move(1830, 60, 960, 420);
+    TimeString.SetFont({"", 15, true});
+    TimeString.SetAlignment(forms::Alignment::right);
+    NormalMaxCapt.Move(2850, 90, 360, 360);
+    NormalMaxCapt.SetFont({"", 12, true});
+    NormalMaxCapt.SetAlignment(forms::Alignment::center);
+    NormalMaxCapt.SetCaption("□");
+}
+
+}  // namespace kivu::core

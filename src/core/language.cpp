@@ -1,0 +1,26 @@
+#include "core/language.h"
+
+#include "support/text.h"
+
+namespace kivu::core {
+
+std::string GetLocaleString(const platform::Locale& locale, int LCType) {
+    return LCType == LOCALE_SENGLANGUAGE ? locale.LanguageEnglishName() : std::string{};
+}
+
+bool GetSystemLanguageIsGerman(const platform::Locale& locale) {
+    return support::ToUpperAscii(GetLocaleString(locale, LOCALE_SENGLANGUAGE)).find("GERMAN") !=
+           std::string::npos;
+}
+
+void ApplyEnglishCaptions(Form1& form) {
+    if (form.CurrentLanguage == 1) return;
+    form.DonateBtn.SetCaption("Donate");
+    form.ExitBtn.SetCaption("Exit");
+    form.SettingsBtn.SetToolTipText("Options..");
+    form.EmuListbox.SetToolTipText("Select emulator");
+    form.AppRunningPicture.SetToolTipText("Kill Emulator process");
+    form.JoystickIcon.SetToolTipText("Joystick / Gamepad navigation aktiv");
+}
+
+}  // namespace kivu::core

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <string>
+
+#include "core/form1.h"
+#include "core/hook.h"
+#include "core/ini.h"
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+
+namespace kivu::core {
+
+// Brings the emulator's profile, and what of the program's belongs to the window, into the
+// controls.
+class SettingsLoader {
+ public:
+    struct Hooks {
+        Hook<void()> SetColors;
+        Hook<void(bool)> JoystickEnable;
+        Hook<int()> JoystickCount;
+    };
+
+    SettingsLoader(Form1& form, Ini& ini, const platform::FileSystem& files,
+                   platform::Dialogs& dialogs)
+        : form(form), ini(ini), files(files), dialogs(dialogs) {}
+
+    void LoadSettings();
+
+    Hooks hooks;
+
+ private:
+    // A stored path as an absolute one. A path written by hand may be absolute already.
+    std::string AbsolutePath(const std::string& stored) const;
+    void LoadPaths();
+    void LoadDrivesPanel();
+    void LoadJoystick();
+
+    Form1& form;
+    Ini& ini;
+    const platform::FileSystem& files;
+    platform::Dialogs& dialogs;
+};
+
+}  // namespace kivu::core

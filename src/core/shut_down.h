@@ -1,0 +1,24 @@
+#pragma once
+
+#include "core/form1.h"
+#include "core/hook.h"
+#include "core/ini.h"
+
+namespace kivu::core {
+
+// The orderly end of the program. Everything else has been written when it changed.
+class ShutDown {
+ public:
+    ShutDown(Form1& form, Ini& ini) : form(form), ini(ini) {}
+
+    void ExitBtn_Click();
+
+    // Ends the program at once.
+    Hook<void()> EndProgram;
+
+ private:
+    Form1& form;
+    Ini& ini;
+};
+
+}  // namespace kivu::core

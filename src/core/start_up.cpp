@@ -1,0 +1,92 @@
+#include "core/start_up.h"
+
+#include <cstdio>
+
+#include "core/emulator_paths.h"
+#include "core/language.h"
+
+namespace kivu::core {
+
+namespace {
+constexpr const char* settings = "Settings";
+}
+
+void StartUp::Form_Load() {
+    form.EmulatorListColor = hooks.HexToLong("#F6F7D2");
+    form.FavouritesColor = hooks.HexToLong("#E0FFF1");
+    form.CurrentLanguage = 1;
+    hooks.KeepDesignPictures();
+    form.CurrentEmuIndex = -1;
+    Uhrzeit_Timer();
+    form.CurrentLanguage = GetSystemLanguageIsGerman(locale) ? 1 : 2;
+    ApplyEnglishCaptions(form);
+    form.GlobalSearchList.Clear();
+    if (hooks.PreviousInstance()) return;
+    MakeConfigDirectory();
+    AssignProgramPaths(form, files);
+    hooks.ChangeBorderstyle();
+    form.EmuListbox.Clear();
+    form.EmulatorLongListbox.Clear();
+    hooks.FillEmulatorLists();
+    RestoreWindow();
+    SelectLastEmulator();
+    if (form.Ended) return;
+    form.Current_LoadingSmallBtn.SetVisible(false);
+    WritePrompt();
+    form.Current_ProgramNameFull.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
+    form.WindowReady = true;
+}
+
+void StartUp::Uhrzeit_Timer() {
+    const platform::TimeOfDay now = clock.Now();
+    char text[16];
+    std::snprintf(text, sizeof text, "%02d:%02d", now.hour % 100, now.minute % 100);
+    form.TimeString.SetCaption(text);
+}
+
+void StartUp::MakeConfigDirectory() {
+    // The directory is mostly there already; whether it is shows in what follows.
+    (void)files.MakeDirectory(form.AppDir + "Config");
+    form.ConfigPath = form.AppDir + "Config" + files.Separator();
+    form.StartPfad = form.ConfigPath;
+    form.Current_ProgramNameFull.SetCaption("");
+}
+
+void StartUp::RestoreWindow() {
+    const auto read = [&](const char* key, int present) {
+        return ini.ReadIniWide(settings, key, form.BaseIniName, std::to_string(present), true)
+            .value_or(present);
+    };
+    const int state = read("WindowState", 0);
+    form.SetWidth(read("WindowX", form.Width()));
+    form.SetHeight(read("WindowY", form.Height()));
+    form.SetTop(read("WindowTop", form.Top()));
+    form.SetLeft(read("WindowLeft", form.Left()));
+    // Behind the geometry, which a maximised window goes back to.
+    if (state >= 0 && state <= 2) form.SetState(static_cast<forms::WindowState>(state));
+}
+
+void StartUp::SelectLastEmulator() {
+    const std::string last = ini.ReadIniValue(settings, "LastEmulator", form.BaseIniName, "", true);
+    if (last.empty()) {
+        form.EmuListbox.SetText("Default");
+        hooks.InitEmulatorView();
+        return;
+    }
+    for (int row = 0; row < form.EmuListbox.ListCount(); ++row) {
+        if (form.EmuListbox.List(row) != last) continue;
+        form.EmuListbox.SetListIndex(row);
+        hooks.SelectEmulator(false);
+        return;
+    }
+}
+
+void StartUp::WritePrompt() {
+    if (form.EmuListbox.ListCount() == 0) {
+        form.EmuListbox.SetText("No Emulator found");
+    } else {
+        form.EmuListbox.SetText(form.Say("Emulator auswählen:", "Select Emulator:"));
+    }
+}
+
+}  // namespace kivu::core

@@ -1,0 +1,68 @@
+#include "core/window_keys.h"
+
+namespace kivu::core {
+
+namespace keys = forms::keys;
+namespace shifts = forms::shifts;
+
+void WindowKeys::Form_KeyDown(forms::Key& key) {
+    if (key.code == keys::f4 && key.shift == shifts::alt) {
+        key = {};
+        CloseKey();
+        return;
+    }
+    if (key.code == 'F' && key.shift == shifts::ctrl) form.SearchDblsTxt.SetFocus();
+    const bool arrow = key.code >= keys::left && key.code <= keys::down;
+    if (arrow && key.shift == shifts::alt) {
+        ResizeBy(key.code);
+        return;
+    }
+    const bool sideways = key.code == keys::left || key.code == keys::right;
+    if (sideways && (form.Mode() != 7 || form.SearchDblsTxt.Text().empty()))
+        hooks.JoystickDirection(key.code);
+}
+
+void WindowKeys::CloseKey() {
+    if (form.AppRunningPicture.Visible()) hooks.AppRunningPicture_Click();
+    beeper.Beep();
+}
+
+void WindowKeys::ResizeBy(int keyCode) {
+    if (form.State() != forms::WindowState::normal) return;
+    constexpr int step = 200;
+    switch (keyCode) {
+        case keys::right:
+            form.SetWidth(form.Width() + step);
+            break;
+        case keys::left:
+            form.SetWidth(form.Width() - step);
+            break;
+        case keys::up:
+            form.SetHeight(form.Height() - step);
+            break;
+        case keys::down:
+            form.SetHeight(form.Height() + step);
+            break;
+        default:
+            break;
+    }
+}
+
+void WindowKeys::Form_KeyPress(forms::Character& character) {
+    if (character.code != keys::escape || form.Mode() == 5) return;
+    const std::string text = form.CurrentLanguage == 1 ? form.EXE + " jetzt wirklich beenden?"
+                                                       : "Quit " + form.EXE + " now?";
+    const std::string title =
+        form.CurrentLanguage == 1 ? form.EXE + " beenden?" : "Exit " + form.EXE + "?";
+    const auto answer =
+        dialogs.MessageBox(text, title, platform::Buttons::OkCancel, platform::Icon::Question);
+    if (answer == platform::Answer::Ok) hooks.ExitBtn_Click();
+}
+
+void WindowKeys::Form_QueryClose(bool& cancel) {
+    if (form.Ended) return;
+    cancel = true;
+    CloseKey();
+}
+
+}  // namespace kivu::core

@@ -1,0 +1,83 @@
+#include "joystick/list_navigation.h"
+
+#include <array>
+
+namespace kivu::joystick {
+
+namespace keys = forms::keys;
+
+void ListNavigation::JoystickDirection(int KeyValue) {
+    if (form.JoystickFocus < 0) return;
+    if (form.EmulatorLongListbox.Visible()) form.JoystickFocus = 5;
+    // The search box must not take the focus during the step.
+    form.SearchDblsTxt.SetEnabled(false);
+    if (form.JoystickFocus > 6) form.JoystickFocus = 1;
+    const int focus = form.JoystickFocus;
+    const bool vertical = KeyValue == keys::up || KeyValue == keys::down;
+    const int step = KeyValue == keys::up ? -1 : 1;
+    const std::array<forms::ListBox*, 4> lists{&form.FavoritenListe, &form.WIthoutDoubles,
+                                               &form.UAE_Short, &form.SuchErgList};
+    if (focus >= 1 && focus <= 4) {
+        if (vertical) {
+            MoveRow(*lists[static_cast<std::size_t>(focus - 1)], step);
+        } else if (KeyValue == keys::left || KeyValue == keys::right) {
+            Turn(focus, KeyValue == keys::right);
+        }
+    } else if (focus == 5 && vertical) {
+        MoveEmulator(step);
+    }
+    form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
+    form.SearchDblsTxt.SetEnabled(true);
+    form.EmuListbox.SetEnabled(true);
+}
+
+void ListNavigation::MoveRow(forms::ListBox& list, int step) {
+    const int row = list.ListIndex();
+    if (step < 0 && row < 1) return;
+    list.SetListIndex(row + step);
+}
+
+void ListNavigation::Turn(int focus, bool right) {
+    GoTo((focus - 1 + (right ? 1 : 3)) % 4 + 1);
+    if (focus == 2 && !right) form.FavoritenListe.SetFocus();
+}
+
+void ListNavigation::GoTo(int focus) {
+    switch (focus) {
+        case 1:
+            form.FavouritesListBusy = false;
+            hooks.FavoritenListe_GotFocus();
+            break;
+        case 2:
+            hooks.WIthoutDoubles_GotFocus();
+            break;
+        case 3:
+            hooks.UAE_Short_GotFocus();
+            break;
+        case 4:
+            hooks.SuchErgList_GotFocus();
+            break;
+        default:
+            break;
+    }
+}
+
+void ListNavigation::MoveEmulator(int step) {
+    form.EmuListbox.SetEnabled(true);
+    const int row = form.EmuListbox.ListIndex() + step;
+    const bool possible =
+        step < 0 ? form.EmuListbox.ListIndex() >= 1 : row < form.EmuListbox.ListCount();
+    if (possible) {
+        const core::Raised browsing(form.EmuListBrowsing);
+        form.EmuListbox.SetListIndex(row);
+        if (step < 0) {
+            form.EmuListbox.SetText(form.EmuListbox.SelectedText());
+            form.EmuListbox.SetFocus();
+        } else {
+            hooks.EmuListbox_GotFocus();
+        }
+    }
+    form.JoystickFocus = 5;
+}
+
+}  // namespace kivu::joystick

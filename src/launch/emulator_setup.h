@@ -1,0 +1,49 @@
+#pragma once
+
+#include <string>
+
+#include "core/busy_state.h"
+#include "core/form1.h"
+#include "core/hook.h"
+#include "core/ini.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+#include "platform/program_starter.h"
+
+namespace kivu::launch {
+
+// Opens an emulator alone, without a game, to set it up.
+class EmulatorSetup {
+ public:
+    struct Hooks {
+        core::Hook<void(const std::string&)> SetCurrentRunninApplication;
+        core::Hook<void()> EmuActiveTimer_Timer;
+    };
+
+    struct Services {
+        platform::FileSystem& files;
+        platform::ProgramStarter& starter;
+        platform::Clock& clock;
+        platform::Dialogs& dialogs;
+    };
+
+    EmulatorSetup(core::Form1& form, core::Ini& ini, core::EventPacer& pacer, Services services)
+        : form(form), ini(ini), pacer(pacer), services(services) {}
+
+    void StartEmulator(const std::string& EName, bool ConfirmationMessagebox);
+
+    Hooks hooks;
+
+ private:
+    std::string EmulatorOf(const std::string& name) const;
+    void SayMissing(const std::string& name, const std::string& path);
+
+    core::Form1& form;
+    core::Ini& ini;
+    core::EventPacer& pacer;
+    Services services;
+    bool starting = false;
+};
+
+}  // namespace kivu::launch

@@ -1,0 +1,277 @@
+#include "launch/game_launch.h"
+
+#include "launch/emulator_program.h"
+#include "launch/wait.h"
+#include "library/find_game.h"
+#include "library/short_names.h"
+#include "support/command_line.h"
+#include "support/file_ops.h"
+#include "support/path_forms.h"
+#include "support/run_file.h"
+#include "support/string_ops.h"
+#include "support/text.h"
+
+namespace kivu::launch {
+
+namespace {
+constexpr const char* settings = "Settings";
+}
+
+void GameLaunch::LaunchBtn_Click() {
+    const std::string path = form.UAE_FULL.List(form.UAE_Short.ListIndex());
+    hooks.SetToNormal();
+    form.EmuListbox.SetVisible(false);
+    StartGame(path);
+    form.EmuListbox.SetVisible(true);
+}
+
+void GameLaunch::StartGame(const std::string& GamePath) {
+    if (launching) return;
+    const core::Raised once(launching);
+    const std::string notedTitle = form.Caption();
+    Run run;
+    run.path = support::RemoveQuotes(GamePath);
+    // A name may end in a blank; trimmed, it would be another one.
+    if (services.files.FileExists(GamePath)) run.path = GamePath;
+    Prepare(run);
+    BuildParameters(run);
+    library::FindGameInFullList(form, busy, pacer, run.path);
+    if (!GameExists(run)) return;
+    if (run.useMasterConfig) hooks.WriteStartConfiguration();
+    if (!WriteStartFile(run)) return;
+    busy.MeCaption("Spiel Läuft");
+    pacer.DoEvents();
+    const std::string found = FindStartFile(form.TmpBatName);
+    if (!found.empty()) form.TmpBatName = found;
+    form.TmpBatName =
+        "\"" + support::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
+    EnterEmulatorDirectory(run);
+    ShowLoadingAndMount(run);
+    form.CurrentRunninApplication = WatchedName(run.emulator);
+    StartEmulatorProgram(run);
+    (void)services.files.ChangeDirectory(form.AppDir);
+    FinishStart(notedTitle);
+}
+
+int GameLaunch::Number(const char* key, const char* missing) const {
+    return ini.ReadIniNumber(settings, key, form.IniPath, missing, true);
+}
+
+std::string GameLaunch::Text(const char* key) const {
+    return ini.ReadIniValue(settings, key, form.IniPath, "", true);
+}
+
+void GameLaunch::Prepare(Run& run) {
+    const platform::FileSystem& files = services.files;
+    run.emulator = ResolveEmulator(form.txtWinUAEExe.Text(), form.AppDir, files, services.starter);
+    run.useQuote = Number("UseQuote", "0");
+    run.argument =
+        support::QuoteIfNeeded(run.useQuote >= 1 ? support::LongFileName(files, run.path)
+                                                 : support::ShortFileName(files, run.path));
+    form.TmpBatName = support::RemoveQuotes(form.TmpBatName);
+    hooks.SetToNormal();
+    busy.HideAll(false);
+    // Relative paths in the profile are meant from here.
+    (void)services.files.ChangeDirectory(form.AppDir);
+    std::string entry = run.argument;
+    Add_CURRENT_PROGRAM_STARTED(entry);
+    form.LoadingBtn.SetCaption(run.argument + "...");
+    hooks.SetWindowBackToNormal();
+    std::string title = support::GetFileNameOnly(run.path);
+    const std::size_t length = support::CodePointCount(title);
+    if (length > 4) title.resize(support::CodePointOffset(title, length - 4));
+    form.CURRENT_PROGRAM_STARTED = title;
+}
+
+void GameLaunch::BuildParameters(Run& run) {
+    const bool translate = services.starter.UsesShell() && support::IsWindowsProgram(run.emulator);
+    run.parameters = StartParameters(translate);
+    run.parameters.AppendTyped(Text("WinUAE_ConfigParameter"));
+    run.parameters.Pad();
+    run.useMasterConfig = Number("WinUAE_UseMasterConfig", "1") == 1;
+    if (run.useMasterConfig) {
+        const std::string configuration =
+            support::ShortFileName(services.files, form.StartScriptName);
+        run.parameters.AppendPath(configuration, configuration);
+    }
+    run.parameters.Pad();
+    run.parameters.AppendTyped(Text("EmulatorParameter"));
+    run.parameters.Pad();
+    AppendGame(run);
+    run.parameters.Pad();
+}
+
+void GameLaunch::AppendGame(Run& run) {
+    if (Number("EmulatorParameterAddDiskPath", "0") == 0) return;
+    if (Number("EmulatorParameterAddDiskPathWithoutPath", "0") == 0) {
+        run.parameters.AppendPath(run.argument, run.path);
+        return;
+    }
+    std::string name = support::replaceall(support::GetFileNameOnly(run.argument), "\"", "");
+    // Exactly 1, where the path itself is quoted from 1 upward.
+    if (run.useQuote == 1) name = support::QuoteIfNeeded(name);
+    run.parameters.AppendPath(name, support::GetFileNameOnly(run.path));
+}
+
+bool GameLaunch::GameExists(const Run& run) {
+    if (services.files.FileExists(run.path) || services.files.FileExists(run.argument)) return true;
+    services.dialogs.MessageBox("File not found:\r" + run.argument, "Game - File not found!",
+                                platform::Buttons::Ok, platform::Icon::Information);
+    return false;
+}
+
+// False: no start can be made safe, and the user has been told.
+bool GameLaunch::WriteStartFile(Run& run) {
+    platform::FileSystem& files = services.files;
+    (void)files.DeleteFile(form.TmpBatName);
+    pacer.DoEvents();
+    if (files.FileExists(form.TmpBatName)) {
+        (void)files.DeleteFile(support::ShortFileName(files, form.TmpBatName));
+        pacer.DoEvents();
+    }
+    const std::string directory = support::DirectoryOf(files, run.emulator);
+    if (services.starter.UsesShell()) return WriteShellStartFile(run, directory);
+    bool safe = run.parameters.IsBatchSafe();
+    const std::string cd =
+        BatchWord(support::QuoteIfNeeded(support::ShortFileName(files, directory)), safe);
+    const std::string program = BatchWord(support::QuoteIfNeeded(run.emulator), safe);
+    const std::string content =
+        BatchStartFile(cd, StartCommand(program, run.parameters.BatchText()));
+    // Written for nobody to run when it is not safe: the emulator is then started directly.
+    const bool written = safe && !files.WriteFile(form.TmpBatName, files.EncodeText(content));
+    run.startFileFailed = !written || !files.FileExists(form.TmpBatName);
+    return true;
+}
+
+bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
+    bool safe = true;
+    const std::vector<std::string> words = HostWords(run, safe);
+    if (!safe) {
+        services.dialogs.MessageBox(
+            "This file name cannot be given to a batch file safely:\r" + run.path,
+            "Game - File not found!", platform::Buttons::Ok, platform::Icon::Warning);
+        return false;
+    }
+    const auto failed = services.files.WriteFile(form.TmpBatName, ShellStartFile(directory, words));
+    run.startFileFailed = failed || !services.files.FileExists(form.TmpBatName);
+    return true;
+}
+
+// The emulator and its arguments as a POSIX host starts them. Windows programs run through Wine; a
+// batch file among them gets a batch file of its own, in which nothing of a path is acted upon.
+std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
+    std::vector<std::string> words = run.parameters.Words();
+    if (!support::IsWindowsProgram(run.emulator)) {
+        words.insert(words.begin(), run.emulator);
+        return words;
+    }
+    const bool batch = !support::ToLower(run.emulator).ends_with(".exe");
+    if (!batch) {
+        words.insert(words.begin(), {"wine", run.emulator});
+        return words;
+    }
+    safe = run.parameters.IsBatchSafe();
+    platform::FileSystem& files = services.files;
+    const std::string directory = support::ToWinePath(support::DirectoryOf(files, run.emulator));
+    const std::string cd = BatchWord(support::QuoteIfNeeded(directory), safe);
+    const std::string program =
+        BatchWord(support::QuoteIfNeeded(support::ToWinePath(run.emulator)), safe);
+    const std::string companion = form.StartPfad + form.EXE + "_tmp_wine.bat";
+    const std::string content = BatchStartFile(
+        cd, "call " + program + " " + std::string(support::Trim(run.parameters.BatchText())));
+    if (safe && files.WriteFile(companion, content)) safe = false;
+    return {"wine", "cmd", "/c", support::ToWinePath(companion)};
+}
+
+void GameLaunch::EnterEmulatorDirectory(const Run& run) {
+    const std::string directory = support::DirectoryOf(services.files, run.emulator);
+    (void)services.files.ChangeDirectory(support::ShortFileName(services.files, directory));
+    (void)services.files.ChangeDirectory(directory);
+}
+
+void GameLaunch::ShowLoadingAndMount(const Run& run) {
+    form.SplashSeconds = Number("SplashTimer", "6");
+    if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
+    if (Number("AutoMountDeamonTool", "0") <= 0) return;
+    const std::string noted = form.LoadingBtn.Caption();
+    form.LoadingBtn.SetCaption("Deamon Tools..");
+    pacer.DoEvents();
+    hooks.MountGameImage(run.path);
+    form.LoadingBtn.SetCaption(noted);
+}
+
+void GameLaunch::StartEmulatorProgram(const Run& run) {
+    platform::StartRequest request;
+    request.watched = true;
+    request.directory = services.files.CurrentDirectory();
+    if (!run.startFileFailed) {
+        request.command = form.TmpBatName;
+        request.words = {support::RemoveQuotes(form.TmpBatName)};
+        request.style = platform::WindowStyle::Minimized;
+        request.startFile = true;
+        (void)services.starter.Run(request);
+        return;
+    }
+    services.beeper.Beep();
+    request.command = support::QuoteIfNeeded(run.emulator) + " " +
+                      std::string(support::Trim(run.parameters.Text()));
+    bool safe = true;
+    request.words = HostWords(run, safe);
+    const bool program = support::ToLower(run.emulator).find(".exe") != std::string::npos;
+    request.style = program ? platform::WindowStyle::Maximized : platform::WindowStyle::Minimized;
+    if (safe) (void)services.starter.Run(request);
+}
+
+void GameLaunch::FinishStart(const std::string& notedTitle) {
+    const int exitButton =
+        ini.ReadIniNumber(settings, "UseJoystickExitbutton", form.BaseIniName, "1", true);
+    const int joystick = ini.ReadIniNumber(settings, "UseJoystick", form.BaseIniName, "0", true);
+    if (exitButton < 1 || joystick < 1) hooks.JoystickEnable(false);
+    if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
+    form.StartGraceTicks = 3;
+    form.EmuListbox.SetVisible(false);
+    form.EmuActiveTimer.SetEnabled(true);
+    form.GameIsRunning = true;
+    if (ini.ReadIniNumber(settings, "RunVBS_Script", form.IniPath, "0", false) > 0) {
+        form.LoadingBtn.SetCaption("Gamestart..");
+        WAIT(1, services.clock, pacer);
+        form.LoadingBtn.SetCaption("Running Startscript.vbs");
+        hooks.RunStartScript();
+    }
+    // In its quotes the path names no file: the start file stays until the next launch, as a look
+    // at what was started.
+    (void)services.files.DeleteFile(form.TmpBatName);
+    pacer.DoEvents();
+    form.SetCaption(notedTitle);
+}
+
+void GameLaunch::SetCurrentRunninApplication(const std::string& NewAppPAth) {
+    form.CurrentRunninApplication = NewAppPAth;
+}
+
+std::string GameLaunch::Add_CURRENT_PROGRAM_STARTED(std::string& name) {
+    name = library::CutShortName(support::LongFileName(services.files, name), ")", true);
+    const bool first = form.CURRENT_PROGRAM_STARTED.empty();
+    if (!first && support::CodePointCount(name) >= 30)
+        name.resize(support::CodePointOffset(name, 29));
+    if (!first) form.CURRENT_PROGRAM_STARTED += '\r';
+    form.CURRENT_PROGRAM_STARTED += name;
+    return {};
+}
+
+std::string GameLaunch::FindStartFile(const std::string& path) {
+    const platform::FileSystem& files = services.files;
+    std::string current(support::Trim(path));
+    if (current.empty() || files.FileExists(current)) return current;
+    const std::string shortName = support::ShortFileName(files, current);
+    for (const std::string& form :
+         {support::LongFileName(files, current), shortName, support::QuoteIfNeeded(shortName)}) {
+        if (!files.FileExists(form)) continue;
+        return form;
+    }
+    services.dialogs.MessageBox("Bat - Start-File not found: \r" + current, core::defaultTitle,
+                                platform::Buttons::Ok, platform::Icon::None);
+    return current;
+}
+
+}  // namespace kivu::launch

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "core/busy_state.h"
+#include "core/form1.h"
+#include "core/hook.h"
+#include "core/ini.h"
+#include "launch/start_parameters.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+#include "platform/program_starter.h"
+
+namespace kivu::launch {
+
+// From a chosen game to a running emulator: parameters, start file, start. Nothing waits for the
+// emulator; from then on the watch knows about it by its name.
+class GameLaunch {
+ public:
+    struct Hooks {
+        core::Hook<void()> SetToNormal;            // the window is no longer kept on top
+        core::Hook<void()> SetWindowBackToNormal;  // nor is it to be
+        core::Hook<void()> WriteStartConfiguration;
+        core::Hook<void()> ShowLoadingInfo;
+        core::Hook<void(const std::string&)> MountGameImage;
+        core::Hook<void()> RunStartScript;
+        core::Hook<void(bool)> JoystickEnable;
+    };
+
+    struct Services {
+        platform::FileSystem& files;
+        platform::ProgramStarter& starter;
+        platform::Clock& clock;
+        platform::Dialogs& dialogs;
+        platform::Beeper& beeper;
+    };
+
+    GameLaunch(core::Form1& form, core::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
+               Services services)
+        : form(form), ini(ini), busy(busy), pacer(pacer), services(services) {}
+
+    // The row of UAE_FULL at the selected row of UAE_Short.
+    void LaunchBtn_Click();
+    void StartGame(const std::string& GamePath);
+
+    void SetCurrentRunninApplication(const std::string& NewAppPAth);
+    // Appends one entry; the name becomes the short one that stands in the list.
+    std::string Add_CURRENT_PROGRAM_STARTED(std::string& name);
+    const std::string& Get_CURRENT_PROGRAM_STARTED() const { return form.CURRENT_PROGRAM_STARTED; }
+    std::string FindStartFile(const std::string& path);
+
+    Hooks hooks;
+
+ private:
+    // What one launch works out on its way; events run in between, and may change the window's
+    // fields.
+    struct Run {
+        std::string path;      // of the game, plain
+        std::string argument;  // the same as it goes on a command line
+        std::string emulator;
+        int useQuote = 0;
+        bool useMasterConfig = false;
+        bool startFileFailed = false;
+        StartParameters parameters;
+    };
+
+    int Number(const char* key, const char* missing) const;
+    std::string Text(const char* key) const;
+    void Prepare(Run& run);
+    void BuildParameters(Run& run);
+    void AppendGame(Run& run);
+    bool GameExists(const Run& run);
+    bool WriteStartFile(Run& run);
+    std::string BatchDirectory(const Run& run, bool& safe) const;
+    bool WriteShellStartFile(Run& run, const std::string& directory);
+    std::vector<std::string> HostWords(const Run& run, bool& safe);
+    void EnterEmulatorDirectory(const Run& run);
+    void ShowLoadingAndMount(const Run& run);
+    void StartEmulatorProgram(const Run& run);
+    void FinishStart(const std::string& notedTitle);
+
+    core::Form1& form;
+    core::Ini& ini;
+    core::BusyState& busy;
+    core::EventPacer& pacer;
+    Services services;
+    bool launching = false;
+};
+
+}  // namespace kivu::launch

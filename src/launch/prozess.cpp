@@ -1,0 +1,50 @@
+#include "launch/prozess.h"
+
+#include <algorithm>
+
+#include "support/run_file.h"
+#include "support/text.h"
+
+namespace kivu::launch {
+
+namespace {
+
+bool Carries(const platform::ProcessEntry& entry, const std::string& name) {
+    return std::any_of(entry.names.begin(), entry.names.end(),
+                       [&](const std::string& own) { return support::EqualsNoCase(own, name); });
+}
+
+bool Contains(const platform::ProcessEntry& entry, const std::string& name) {
+    return std::any_of(entry.names.begin(), entry.names.end(),
+                       [&](const std::string& own) { return support::ContainsNoCase(own, name); });
+}
+
+bool Matches(const platform::ProcessEntry& entry, const std::string& name, Reach reach) {
+    if (entry.foreign) return false;
+    return Carries(entry, name) || (reach == Reach::andLaunch && entry.ofLaunch);
+}
+
+}  // namespace
+
+std::int32_t Prozess::FindProcessId(const std::string& name, Reach reach) const {
+    const std::string own = support::GetFileNameOnly(name);
+    const auto snapshot = list.Snapshot();
+    if (own.empty() || !snapshot) return 0;
+    std::int32_t similar = 0;
+    for (const auto& entry : *snapshot) {
+        if (Matches(entry, own, reach)) return entry.id;
+        if (!entry.foreign && Contains(entry, own)) similar = entry.id;
+    }
+    return similar;
+}
+
+bool Prozess::IsProcessRunning(const std::string& name, Reach reach) const {
+    const std::string own = support::GetFileNameOnly(name);
+    const auto snapshot = list.Snapshot();
+    if (own.empty() || !snapshot) return false;
+    return std::any_of(
+        snapshot->begin(), snapshot->end(),
+        [&](const platform::ProcessEntry& entry) { return Matches(entry, own, reach); });
+}
+
+}  // namespace kivu::launch

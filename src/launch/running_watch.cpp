@@ -1,0 +1,103 @@
+#include "launch/running_watch.h"
+
+#include "support/file_ops.h"
+#include "support/run_file.h"
+
+namespace kivu::launch {
+
+namespace {
+constexpr const char* settings = "Settings";
+}
+
+void RunningWatch::EmuActiveTimer_Timer() {
+    if (looking) return;
+    const core::Raised once(looking);
+    if (form.StartGraceTicks > 0) --form.StartGraceTicks;
+    if (processes.IsProcessRunning(form.CurrentRunninApplication, Reach::andLaunch)) {
+        ShowRunning();
+    } else if (form.StartGraceTicks < 1) {
+        EndOfGame();
+    }
+}
+
+void RunningWatch::WatchOnce() {
+    if (!form.CurrentRunninApplication.empty()) EmuActiveTimer_Timer();
+}
+
+void RunningWatch::ShowRunning() {
+    form.AppRunningPicture.SetVisible(true);
+    busy.HideAll(false);
+    form.MyCaptionLabel.SetVisible(true);
+    form.MyCaptionLabel.SetCaption(form.Say("Gestartet: ", "Running: ") +
+                                   form.CurrentRunninApplication);
+}
+
+void RunningWatch::EndOfGame() {
+    const bool visible = form.EmuListbox.Visible();
+    form.EmuListbox.SetVisible(false);
+    events.DoEvents();
+    form.EmuListbox.SetVisible(visible);
+    hooks.ShowEmulatorBox(false);
+    hooks.WIthoutDoubles_GotFocus();
+    form.EmuActiveTimer.SetEnabled(false);
+    form.EmuListbox.SetVisible(true);
+    form.GameIsRunning = false;
+    form.AppRunningPicture.SetVisible(false);
+    form.MyCaptionLabel.SetVisible(false);
+    busy.HideAll(true);
+    hooks.RefreshList();
+    if (ini.ReadIniNumber(settings, "UseJoystick", form.BaseIniName, "1", true) >= 1)
+        hooks.JoystickEnable(true);
+    hooks.SetToTop();
+}
+
+void RunningWatch::AppRunningPicture_Click() {
+    EndEmulator();
+    if (form.FavoritenListe.ListCount() > 0) {
+        hooks.Label1_Click();
+    } else {
+        hooks.Label2_Click();
+    }
+}
+
+void RunningWatch::EndEmulator() {
+    if (form.CurrentRunninApplication.empty()) return;
+    const auto id = processes.FindProcessId(form.CurrentRunninApplication, Reach::andLaunch);
+    if (id == 0) return;
+    form.LoadingBtn.SetCaption(form.Say("Wird beendet..", "Killing process.."));
+    if (ini.ReadIniNumber(settings, "ResetScreenResolution", form.BaseIniName, "0", true) > 0) {
+        hooks.RestoreDisplayMode();
+    }
+    form.AppRunningPicture.SetVisible(false);
+    form.AppRunningPicture.SetEnabled(false);
+    processes.KillProcess(id);
+    form.AppRunningPicture.SetVisible(false);
+    form.AppRunningPicture.SetEnabled(true);
+    form.JoystickFocus = form.FavoritenListe.ListCount() > 0 ? 1 : 2;
+    hooks.RefreshList();
+}
+
+void RunningWatch::LoadingBtn_Click() {
+    if (form.AppRunningPicture.Visible()) {
+        AppRunningPicture_Click();
+        return;
+    }
+    // The emulator may run since an earlier start of the launcher.
+    const std::string stored =
+        ini.ReadIniValue(settings, "EmulatorPath", form.IniPath, "*.exe", true);
+    const std::string name =
+        support::MakeAbsolutePath(form.BaseDirectory(), support::GetFileNameOnly(stored));
+    if (name.empty()) return;
+    const auto id = processes.FindProcessId(name, Reach::nameOnly);
+    if (id <= 0) return;
+    const std::string text = form.Say("Emulator beenden?\r", "Kill Emulator - Program?\r") + name;
+    const auto answer = dialogs.MessageBox(text, form.Say("Programm killen?", "Kill Task?"),
+                                           platform::Buttons::YesNo, platform::Icon::Question);
+    if (answer == platform::Answer::Yes) processes.KillProcess(id);
+}
+
+void RunningWatch::LoadingBtn_Change() {
+    form.Current_LoadingSmallBtn.SetCaption(form.LoadingBtn.Caption());
+}
+
+}  // namespace kivu::launch

@@ -1,0 +1,166 @@
+#include "library/emulator_box.h"
+
+#include "support/run_file.h"
+#include "support/text.h"
+
+namespace kivu::library {
+
+namespace keys = forms::keys;
+
+void EmulatorBox::FillEmulatorLists() {
+    const auto entries = files.ListDirectory(form.ConfigPath);
+    if (!entries) return;
+    for (const auto& entry : *entries) {
+        if (!entry.isDirectory) continue;
+        form.EmuListbox.AddItem(entry.name);
+        form.EmulatorLongListbox.AddItem(entry.name);
+    }
+}
+
+void EmulatorBox::ShowEmulatorBox(bool Show) {
+    if (showing) return;
+    const core::Raised once(showing);
+    if (Show) {
+        Open();
+    } else {
+        Close();
+    }
+    form.ListMode = "5";
+}
+
+void EmulatorBox::Close() {
+    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    form.EmuListLocked = true;
+    hooks.SetVorschau();
+    if (form.EmuListbox.ListIndex() != form.EmuBoxIndexSaved)
+        form.EmuListbox.SetListIndex(form.EmuBoxIndexSaved);
+    form.EmuListLocked = false;
+    form.EmuListbox.SetBackColor(form.EmuListboxBackColor);
+    form.EmuListbox.SetForeColor(form.EmuListboxForeColor);
+    if (form.EmuListbox.ListIndex() >= 0) form.EmuListbox.SetText(form.EmuListbox.SelectedText());
+    busy.HideAll(false);
+    form.EmulatorLongListbox.SetVisible(false);
+}
+
+void EmulatorBox::Open() {
+    form.EmuListbox.SetWidth(form.EmulatorLongListbox.Width());
+    form.SettingsBtn.SetVisible(false);
+    form.SettingsShortBtn.SetVisible(true);
+    busy.HideAll(false);
+    form.Label1.SetVisible(true);
+    form.Label1.SetLeft(form.Width() - form.Label1.Width() - 400);
+    form.EmulatorLongListbox.SetVisible(true);
+    form.EmuBoxIndexSaved = form.EmuListbox.ListIndex();
+    form.EmuListLocked = false;
+    form.ListMode = "5";
+    hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
+    form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
+    hooks.ApplyListColors();
+    form.EmuListbox.SetBackColor(forms::Rgb(0, 0, 0));
+    form.EmuListbox.SetForeColor(forms::Rgb(255, 255, 255));
+    form.EmulatorLongListbox.SetForeColor(forms::Rgb(0, 0, 0));
+    form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
+    // A letter typed here starts a search, so the box is there.
+    form.SearchDblsTxt.SetVisible(true);
+}
+
+void EmulatorBox::LeaveEmulatorBox() {
+    busy.HideAll(false);
+    ShowEmulatorBox(false);
+    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
+    const bool favourites = form.FavoritenListe.ListCount() > 0;
+    form.ListMode = favourites ? "1" : "2";
+    busy.HideAll(true);
+    hooks.RebuildLayout();
+    // The focus goes on to the list in front: a drop-down that kept it could not be opened again.
+    if (favourites) {
+        hooks.Label1_Click();
+    } else {
+        hooks.Label2_Click();
+    }
+}
+
+void EmulatorBox::EmuListbox_Click() {
+    form.EmulatorLongListbox.SetListIndex(form.EmuListbox.ListIndex());
+    form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
+    form.ListMode = "5";
+}
+
+void EmulatorBox::EmuListbox_DblClick() {
+    hooks.SelectEmulator(false);
+}
+
+void EmulatorBox::EmuListbox_GotFocus() {
+    if (takingFocus || !form.EmuListbox.Visible()) return;
+    const core::Raised once(takingFocus);
+    form.ListMode = "5";
+    busy.HideAll(false);
+    ShowEmulatorBox(true);
+}
+
+void EmulatorBox::EmuListbox_LostFocus() {
+    form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
+}
+
+void EmulatorBox::EmuListbox_KeyDown(forms::Key& key) {
+    if (key.code != keys::back && key.code != keys::escape) return;
+    key.code = 0;
+    LeaveEmulatorBox();
+}
+
+void EmulatorBox::EmuListbox_KeyPress(forms::Character& character) {
+    if (character.code == keys::enter || character.code == keys::space) {
+        hooks.SelectEmulator(false);
+        return;
+    }
+    const bool letter = (character.code >= 'a' && character.code <= 'z') ||
+                        (character.code >= 'A' && character.code <= 'Z');
+    if (!letter) return;
+    StartSearchWith(character.code);
+    character.code = 0;
+}
+
+void EmulatorBox::StartSearchWith(char32_t letter) {
+    form.SearchDblsTxt.SetVisible(true);
+    form.SearchDblsTxt.SetText(std::string(1, static_cast<char>(letter)));
+    form.SearchDblsTxt.SetFocus();
+    form.SearchDblsTxt.SetSelection(1, 0);
+    form.EmuListbox.SetText(form.EmuListbox.SelectedText());
+}
+
+void EmulatorBox::EmulatorLongListbox_Click() {
+    form.ListMode = "10";
+    form.Current_ProgramNameFull.SetVisible(true);
+    if (form.EmulatorLongListbox.ListIndex() != form.EmuListbox.ListIndex()) {
+        const core::Raised locked(form.EmuListLocked);
+        form.EmuListbox.SetListIndex(form.EmulatorLongListbox.ListIndex());
+    }
+    form.EmuListLocked = false;
+    hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
+    const std::string name = form.EmuListbox.SelectedText();
+    const std::string profile = form.ConfigPath + name + files.Separator() + form.EXE + ".ini";
+    form.Current_ProgramNameFull.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
+    std::string caption = form.EmulatorLongListbox.SelectedText();
+    if (files.FileExists(profile)) {
+        const int count = ini.ReadIniWide("Settings", "RomCount", profile, "-1", false).value_or(0);
+        caption += "\r (Roms: " + (count < 0 ? "?" : std::to_string(count)) + ")";
+    }
+    form.Current_ProgramNameFull.SetCaption(caption);
+}
+
+void EmulatorBox::EmulatorLongListbox_GotFocus() {
+    form.ListMode = "10";
+}
+
+void EmulatorBox::EmulatorLongListbox_KeyPress(forms::Character& character) {
+    EmuListbox_KeyPress(character);
+    character.code = 0;
+}
+
+void EmulatorBox::EmulatorLongListbox_MouseDown(const forms::Mouse& mouse) {
+    if (mouse.button != forms::buttons::right || mouse.shift != 0) return;
+    if (form.EmulatorLongListbox.ListIndex() < 0) return;
+    hooks.StartEmulator(form.EmulatorLongListbox.SelectedText(), false);
+}
+
+}  // namespace kivu::library

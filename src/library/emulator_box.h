@@ -1,0 +1,64 @@
+#pragma once
+
+#include <string>
+
+#include "core/busy_state.h"
+#include "core/form1.h"
+#include "core/hook.h"
+#include "core/ini.h"
+#include "platform/file_system.h"
+
+namespace kivu::library {
+
+// The choice among emulators, in a drop-down and in a long list that takes the place of the games.
+// Both hold the same rows: the subdirectories of Config.
+class EmulatorBox {
+ public:
+    struct Hooks {
+        core::Hook<void(bool)> SelectEmulator;
+        core::Hook<void()> RebuildLayout;
+        core::Hook<void()> Label1_Click;
+        core::Hook<void()> Label2_Click;
+        core::Hook<void()> SetVorschau;
+        core::Hook<void(int)> ShowEmulatorPreview;
+        core::Hook<void()> ApplyListColors;
+        core::Hook<void(const std::string&, bool)> StartEmulator;
+    };
+
+    EmulatorBox(core::Form1& form, core::Ini& ini, const platform::FileSystem& files,
+                core::BusyState& busy)
+        : form(form), ini(ini), files(files), busy(busy) {}
+
+    void FillEmulatorLists();
+    // Opens or closes the long list.
+    void ShowEmulatorBox(bool Show);
+    // Closes the choice and leaves the emulator as it was.
+    void LeaveEmulatorBox();
+
+    void EmuListbox_Click();
+    void EmuListbox_DblClick();
+    void EmuListbox_GotFocus();
+    void EmuListbox_LostFocus();
+    void EmuListbox_KeyDown(forms::Key& key);
+    void EmuListbox_KeyPress(forms::Character& character);
+    void EmulatorLongListbox_Click();
+    void EmulatorLongListbox_GotFocus();
+    void EmulatorLongListbox_KeyPress(forms::Character& character);
+    void EmulatorLongListbox_MouseDown(const forms::Mouse& mouse);
+
+    Hooks hooks;
+
+ private:
+    void Open();
+    void Close();
+    void StartSearchWith(char32_t letter);
+
+    core::Form1& form;
+    core::Ini& ini;
+    const platform::FileSystem& files;
+    core::BusyState& busy;
+    bool showing = false;
+    bool takingFocus = false;
+};
+
+}  // namespace kivu::library

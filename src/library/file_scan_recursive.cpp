@@ -1,0 +1,157 @@
+#include "library/file_scan_recursive.h"
+
+#include "support/run_file.h"
+
+namespace kivu::library {
+
+namespace {
+
+std::string Joined(const std::string& directory, const std::string& name) {
+    const char closing = directory.empty() ? '\0' : directory.back();
+    if (closing == '/' || closing == '\\') return directory + name;
+    const bool posix = directory.starts_with('/') || directory.find('\\') == std::string::npos;
+    return directory + (posix ? '/' : '\\') + name;
+}
+
+}  // namespace
+
+std::string FileScanRecursive::PreParePath(const std::string& Path) const {
+    return support::PreParePath(Path);
+}
+
+void FileScanRecursive::Begin(const std::string& path, const std::string& pattern) {
+    BreakFlag = false;
+    controls.ResultList.Clear();
+    controls.TmpDirList.Clear();
+    controls.ResultList.SetVisible(false);
+    controls.TmpDirList.SetVisible(false);
+    source.BeginScan(path);
+    controls.MyTmpFile.SetPattern(pattern);
+    controls.TmpDirList.AddItem(path);
+}
+
+bool FileScanRecursive::EnterTop(std::string& lastDir) {
+    const int top = controls.TmpDirList.ListCount() - 1;
+    controls.MyTmpDir.SetPath(controls.TmpDirList.List(top));
+    controls.TmpDirList.RemoveItem(top);
+    // A directory that cannot be entered leaves the control where it was.
+    if (controls.MyTmpDir.Path() == lastDir) return false;
+    lastDir = controls.MyTmpDir.Path();
+    return true;
+}
+
+int FileScanRecursive::ScanFiles(const std::string& Path, const std::string& Pattern,
+                                 const std::string& ProgressText, forms::Label* ProgressLabel) {
+    const std::string noted = Caption(ProgressLabel);
+    Begin(PreParePath(Path), Pattern);
+    // Where the control stands from an earlier scan is no place to start from.
+    std::string lastDir = controls.MyTmpDir.Path();
+    controls.MyTmpDir.ForgetPath();
+    lastDir.clear();
+    Step step = Step::goOn;
+    while (step == Step::goOn && controls.TmpDirList.ListCount() > 0) {
+        if (EnterTop(lastDir)) step = CollectFiles(ProgressText, ProgressLabel);
+        if (step == Step::goOn && controls.ResultList.ListCount() % 100 == 0) {
+            form.SetCaption(ProgressText + std::to_string(controls.ResultList.ListCount()));
+            pacer.DoEventsWhenDue();
+        }
+    }
+    source.EndScan();
+    if (step == Step::leave) return controls.ResultList.ListCount();
+    if (step == Step::stop) {
+        beeper.Beep();
+        SetCaption(ProgressLabel, "Abbruch!");
+    } else {
+        SetCaption(ProgressLabel, noted);
+    }
+    controls.TmpDirList.SetVisible(false);
+    controls.ResultList.SetVisible(true);
+    return controls.ResultList.ListCount();
+}
+
+FileScanRecursive::Step FileScanRecursive::CollectFiles(const std::string& progressText,
+                                                        forms::Label* label) {
+    controls.MyTmpFile.SetPath(controls.MyTmpDir.Path());
+    if (BreakFlag) return Step::leave;
+    // Copies: an event handler may drive the controls too.
+    const std::string directory = controls.MyTmpFile.Path();
+    for (int i = 0; i < controls.MyTmpFile.ListCount(); ++i) {
+        controls.ResultList.AddItem(Joined(directory, controls.MyTmpFile.List(i)));
+        if (controls.ResultList.ListCount() >= limit || BreakFlag) return Step::stop;
+        if (i % 100 != 0) continue;
+        pacer.DoEventsWhenDue();
+        SetCaption(label, progressText + std::to_string(controls.ResultList.ListCount()));
+    }
+    for (int i = 0; i < controls.MyTmpDir.ListCount(); ++i) {
+        controls.TmpDirList.AddItem(controls.MyTmpDir.List(i));
+    }
+    pacer.DoEventsWhenDue();
+    return Step::goOn;
+}
+
+int FileScanRecursive::ScanDirs(const std::string& Path, const std::string& ProgressText) {
+    const std::string noted = form.Caption();
+    Begin(PreParePath(Path), "*.*");
+    controls.MyTmpDir.ForgetPath();
+    std::string lastDir;
+    Step step = Step::goOn;
+    while (step == Step::goOn && controls.TmpDirList.ListCount() > 0) {
+        if (EnterTop(lastDir)) step = CollectDirectories(ProgressText);
+        const int count = controls.ResultList.ListCount();
+        if (step == Step::goOn && count % 300 == 0) {
+            // The outcome of a comparison, and no count: an old look that users know.
+            form.SetCaption(count == 0 ? "False" : "True");
+            pacer.DoEventsWhenDue();
+        }
+    }
+    source.EndScan();
+    if (step == Step::leave) return controls.ResultList.ListCount();
+    if (step == Step::stop) {
+        beeper.Beep();
+        form.SetCaption("Überlauf - Abbruch!");
+    } else {
+        form.SetCaption(noted);
+    }
+    controls.TmpDirList.SetVisible(false);
+    controls.ResultList.SetVisible(true);
+    return controls.ResultList.ListCount();
+}
+
+FileScanRecursive::Step FileScanRecursive::CollectDirectories(const std::string& progressText) {
+    if (BreakFlag) return Step::leave;
+    for (int i = 0; i < controls.MyTmpDir.ListCount(); ++i) {
+        const std::string directory = controls.MyTmpDir.List(i);
+        controls.ResultList.AddItem(Joined(directory, ""));
+        controls.TmpDirList.AddItem(directory);
+        if (controls.ResultList.ListCount() >= limit || BreakFlag) return Step::stop;
+        if (i % 200 != 199) continue;
+        form.SetCaption(progressText + std::to_string(controls.ResultList.ListCount()) + "  (" +
+                        std::to_string(controls.TmpDirList.ListCount()) + ")");
+        pacer.DoEventsWhenDue();
+    }
+    return Step::goOn;
+}
+
+std::string FileScanRecursive::Caption(const forms::Label* label) const {
+    return label ? label->Caption() : form.Caption();
+}
+
+void FileScanRecursive::SetCaption(forms::Label* label, const std::string& text) {
+    if (label) {
+        label->SetCaption(text);
+    } else {
+        form.SetCaption(text);
+    }
+}
+
+void FileScanRecursive::UserControl_Resize() {
+    constexpr int margin = 50;
+    const int width = controls.frame.Width() - margin;
+    const int height = controls.frame.Height() - margin;
+    for (forms::ListBox* list : {&controls.ResultList, &controls.TmpDirList})
+        list->Move(0, 0, width, height);
+    controls.TmpDirList.SetVisible(false);
+    controls.ResultList.SetVisible(true);
+}
+
+}  // namespace kivu::library

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+
+#include "core/busy_state.h"
+#include "core/form1.h"
+#include "library/scan_source.h"
+#include "platform/desktop.h"
+
+namespace kivu::library {
+
+// Walks a directory tree without recursion: a directory list and a file list are driven from a
+// stack of directories, and what they show is collected in a sorted list.
+class FileScanRecursive {
+ public:
+    // A scan stops at so many results.
+    static constexpr int limit = 31999;
+
+    FileScanRecursive(core::Form1& form, ScanSource& source, platform::Beeper& beeper,
+                      core::EventPacer& pacer)
+        : form(form),
+          controls(form.FileScanRecursive1),
+          source(source),
+          beeper(beeper),
+          pacer(pacer) {}
+
+    std::string PreParePath(const std::string& Path) const;
+    // Files below `Path` that match `Pattern`; gives the number of results. Progress goes into the
+    // label's caption, into the window's title without one.
+    int ScanFiles(const std::string& Path, const std::string& Pattern,
+                  const std::string& ProgressText, forms::Label* ProgressLabel);
+    // Directories below `Path`, each with a closing separator.
+    int ScanDirs(const std::string& Path, const std::string& ProgressText);
+    const forms::ListBox& Result_list() const { return controls.ResultList; }
+    forms::ListBox& Result_list() { return controls.ResultList; }
+    void BreakScan() { BreakFlag = true; }
+
+    // Keeps the inner lists at the control's size.
+    void UserControl_Resize();
+
+ private:
+    enum class Step { goOn, leave, stop };
+
+    void Begin(const std::string& path, const std::string& pattern);
+    Step CollectFiles(const std::string& progressText, forms::Label* label);
+    Step CollectDirectories(const std::string& progressText);
+    // True: the directory on top of the stack has been entered, and is taken off it.
+    bool EnterTop(std::string& lastDir);
+    std::string Caption(const forms::Label* label) const;
+    void SetCaption(forms::Label* label, const std::string& text);
+
+    core::Form1& form;
+    core::FileScanControls& controls;
+    ScanSource& source;
+    platform::Beeper& beeper;
+    core::EventPacer& pacer;
+    bool BreakFlag = false;
+};
+
+}  // namespace kivu::library

@@ -1,0 +1,251 @@
+#include "library/game_lists.h"
+
+#include <algorithm>
+#include <numeric>
+#include <vector>
+
+#include "core/emulator_paths.h"
+#include "library/find_list_item.h"
+#include "library/list_cache.h"
+#include "library/short_names.h"
+#include "support/collation.h"
+#include "support/fast_list_fill.h"
+#include "support/file_ops.h"
+#include "support/text.h"
+
+namespace kivu::library {
+
+namespace {
+
+constexpr const char* settings = "Settings";
+
+// Paths and names in the order of the paths. A cache that another host or another language has
+// written is in another order; sorted by itself, the path list would then no longer fit the names.
+void SortPairs(std::vector<std::string>& paths, std::vector<std::string>& names) {
+    if (std::is_sorted(paths.begin(), paths.end(), support::TextLess{})) return;
+    std::vector<std::size_t> places(paths.size());
+    std::iota(places.begin(), places.end(), std::size_t{0});
+    std::stable_sort(places.begin(), places.end(), [&](std::size_t a, std::size_t b) {
+        return support::CompareText(paths[a], paths[b]) < 0;
+    });
+    std::vector<std::string> sortedPaths, sortedNames;
+    sortedPaths.reserve(paths.size());
+    sortedNames.reserve(paths.size());
+    for (const std::size_t place : places) {
+        sortedPaths.push_back(std::move(paths[place]));
+        sortedNames.push_back(std::move(names[place]));
+    }
+    paths.swap(sortedPaths);
+    names.swap(sortedNames);
+}
+
+}  // namespace
+
+void GameLists::LoadCacheList() {
+    busy.HideAll(false);
+    const std::string noted = form.Caption();
+    if (!form.CacheName.empty() && files.FileExists(form.CacheName)) {
+        form.UAE_Short.Clear();
+        form.UAE_FULL.Clear();
+        form.UAE_Short.SetVisible(false);
+        form.EmulatorLongListbox.SetVisible(false);
+        form.FavoritenListe.SetVisible(false);
+        form.SuchErgList.SetVisible(false);
+        busy.MeCaption("Loading: ");
+        busy.MeCaption("Loading: " + std::to_string(form.UAE_FULL.ListCount()));
+        if (const auto bytes = files.ReadFile(form.CacheName)) FillFromCache(*bytes);
+        form.EmulatorLongListbox.SetVisible(false);
+    }
+    busy.MeCaption(noted);
+    BuildDoublesList();
+    UpdateListCaptions();
+    busy.HideAll(false);
+}
+
+void GameLists::FillFromCache(const std::string& bytes) {
+    const std::vector<CacheEntry> entries = ParseCache(bytes);
+    std::vector<std::string> paths, names;
+    paths.reserve(entries.size());
+    names.reserve(entries.size());
+    const std::string base = form.BaseDirectory();
+    for (const CacheEntry& entry : entries) {
+        paths.push_back(support::MakeAbsolutePath(base, PathOnDisk(entry.path)));
+        names.push_back(support::IsUtf8(entry.name) ? std::string(entry.name)
+                                                    : files.DecodeText(entry.name));
+        if (paths.size() % 500 != 0) continue;
+        busy.MeCaption("Loading: " + std::to_string(paths.size()));
+        pacer.DoEventsWhenDue();
+    }
+    SortPairs(paths, names);
+    // A path in an odd last line has no row for its name, if it is the last one in order too.
+    if (!entries.empty() && !entries.back().hasName && names.back().empty()) names.pop_back();
+    form.UAE_FULL.AddItems(std::move(paths));
+    form.UAE_Short.AddItems(std::move(names));
+}
+
+// A cache that a Windows host wrote holds its code page; one that this host wrote holds names as
+// their bytes, which must stay when a file of that name is there.
+std::string GameLists::PathOnDisk(std::string_view stored) const {
+    if (support::IsUtf8(stored)) return std::string(stored);
+    std::string plain(stored);
+    if (files.FileExists(support::MakeAbsolutePath(form.BaseDirectory(), plain))) return plain;
+    return files.DecodeText(stored);
+}
+
+void GameLists::LoadBtn_Click() {
+    if (form.Busy) return;
+    const core::Raised working(form.Busy);
+    const std::string noted = form.Caption();
+    form.LoadBtn.SetEnabled(false);
+    busy.HideAll(false);
+    form.UAE_Short.Clear();
+    form.UAE_FULL.Clear();
+    form.EmuListbox.SetVisible(false);
+    busy.HideAll(false);
+    pacer.DoEvents();
+    form.StartPfad = support::AddPathSeparator(form.StartPfad);
+    const std::string patterns =
+        ini.ReadIniValue(settings, "Dir_Parameter", form.IniPath, "*.*", true);
+    form.LoadingBtn.SetCaption("Scanning...");
+    form.UAE_FULL.Clear();
+    scanner.Result_list().Clear();
+    ScanPatterns(patterns);
+    CutNames();
+    const std::string aliases = core::FindByName(files, form.StartPfad, "AliasList.txt");
+    if (files.FileExists(aliases)) {
+        busy.MeCaption("Loading AliasList.txt ..");
+        ApplyAliasList(aliases, ";");
+    }
+    SaveCache();
+    form.UAE_Short.SetVisible(true);
+    form.LoadingBtn.SetCaption("Loading...");
+    hooks.EmuListbox_Click();
+    hooks.ArrangeLists();
+    UpdateListCaptions();
+    ini.WriteIniValue(settings, "RomCount", std::to_string(form.UAE_FULL.ListCount()), form.IniPath,
+                      true);
+    busy.HideAll(true);
+    form.EmuListbox.SetVisible(true);
+    form.LoadBtn.SetEnabled(true);
+    form.SetCaption(noted);
+    form.MyCaptionLabel.SetCaption(noted);
+}
+
+// The comma list, walked by characters: a comma at the very end belongs to the last pattern.
+void GameLists::ScanPatterns(const std::string& patterns) {
+    std::size_t start = 0;
+    for (std::size_t i = 0; i < patterns.size(); ++i) {
+        const bool last = i + 1 == patterns.size();
+        const bool comma = patterns[i] == ',';
+        if (!last && !comma) continue;
+        const std::size_t end = comma ? i : i + 1;
+        ScanPattern(
+            std::string(support::Trim(std::string_view(patterns).substr(start, end - start))));
+        start = i + 1;
+    }
+}
+
+void GameLists::ScanPattern(const std::string& pattern) {
+    busy.MeCaption("Suche: " + pattern + "\r" + form.TxtRomPath.Text());
+    scanner.ScanFiles(form.TxtRomPath.Text(), pattern, pattern + " searching... ",
+                      &form.LoadingBtn);
+    pacer.DoEvents();
+    busy.MeCaption("Sorting Files: " + pattern);
+    std::vector<std::string> found = scanner.Result_list().Rows();
+    std::erase_if(found, [](const std::string& row) { return support::Trim(row).empty(); });
+    form.UAE_FULL.AddItems(std::move(found));
+}
+
+void GameLists::CutNames() {
+    busy.MeCaption(form.Say("Namen ermitteln..", "Cut Names.."));
+    form.UAE_Short.Clear();
+    std::vector<std::string> names;
+    names.reserve(form.UAE_FULL.Rows().size());
+    for (const std::string& path : form.UAE_FULL.Rows()) {
+        std::string name = CutShortName(path, ")", true);
+        names.push_back(support::IsUtf8(name) ? std::move(name) : files.DecodeText(name));
+    }
+    form.UAE_Short.AddItems(std::move(names));
+}
+
+void GameLists::SaveCache() {
+    busy.HideAll(false);
+    busy.MeCaption("Saving List..");
+    const std::string base = form.BaseDirectory();
+    std::string cache;
+    for (int row = 0; row < form.UAE_FULL.ListCount(); ++row) {
+        AppendCacheEntry(cache, support::MakeRelativePath(base, form.UAE_FULL.List(row)),
+                         form.UAE_Short.List(row));
+    }
+    // A disk that is full or read-only keeps the former cache; the lists in memory are the new
+    // ones.
+    (void)files.WriteFile(form.CacheName, files.EncodeText(cache));
+}
+
+void GameLists::UpdateListCaptions() {
+    const auto caption = [&](const char* german, const char* english, const forms::ListBox& list) {
+        return form.Say(german, english) + std::to_string(list.ListCount()) + ") ";
+    };
+    form.Label3.SetCaption(caption(" Komplett (", " Complete List (", form.UAE_Short));
+    form.Label2.SetCaption(caption(" Einfach (", " Simple (", form.WIthoutDoubles));
+    form.Label1.SetCaption(caption(" Favoriten (", " Favorites (", form.FavoritenListe));
+}
+
+void GameLists::BuildDoublesList() {
+    form.WIthoutDoubles.Clear();
+    support::FastListFill fill(form.WIthoutDoubles);
+    const std::string* last = nullptr;
+    for (int row = 0; row < form.UAE_FULL.ListCount(); ++row) {
+        const std::string& name = form.UAE_Short.List(row);
+        if (last ? name == *last : name.empty()) continue;
+        if (fill.Add(name)) last = &name;
+    }
+    fill.End();
+    UpdateListCaptions();
+}
+
+void GameLists::ApplyAliasList(const std::string& IniFile, const std::string& TRENNZ) {
+    if (IniFile.empty() || TRENNZ.empty() || !files.FileExists(IniFile)) return;
+    const auto bytes = files.ReadFile(IniFile);
+    if (!bytes) return;
+    const auto rules = ParseAliasList(*bytes, TRENNZ);
+    busy.MeCaption("Alias names: ");
+    int start = 0;
+    int number = 0;
+    for (const auto& rule : rules) {
+        int from = start;
+        const int row =
+            FindListItem(files.DecodeText(rule.find), form.UAE_Short.Rows(), false, from);
+        if (++number % 2 == 0) {
+            busy.MeCaption("Alias Names: " + std::to_string(number));
+            pacer.DoEventsWhenDue();
+        }
+        if (row >= 0) form.UAE_Short.SetList(row, files.DecodeText(rule.newName));
+        start = row >= 0 ? row + 1 : -1;
+    }
+}
+
+void GameLists::AddToALL_LIST() {
+    if (form.GlobalListName.empty() || form.CacheName.empty()) return;
+    const auto cache = files.ReadFile(form.CacheName);
+    if (!cache) return;
+    std::string lines;
+    for (const std::string_view line : support::SplitLines(*cache)) {
+        if (!line.empty()) lines.append(line).append("\r\n");
+    }
+    (void)files.AppendFile(form.GlobalListName, lines);
+}
+
+void GameLists::ReloadEmulatorsAll() {
+    const std::string noted = form.Caption();
+    for (int row = 0; row < form.EmuListbox.ListCount(); ++row) {
+        form.EmuListbox.SetListIndex(row);
+        if (form.EmuListbox.SelectedText() == "-ALL-") continue;
+        hooks.SelectEmulator(true);
+        LoadBtn_Click();
+        pacer.DoEvents();
+    }
+    form.SetCaption(noted);
+}
+
+}  // namespace kivu::library

@@ -1,0 +1,152 @@
+#include "library/list_events.h"
+
+#include "library/find_list_item.h"
+#include "support/run_file.h"
+#include "support/text.h"
+
+namespace kivu::library {
+
+void ListEvents::UAE_FULL_Click() {
+    form.Current_ProgramNameFull.SetCaption(support::GetFileNameOnly(form.UAE_FULL.SelectedText()));
+    form.Current_ProgramNameFull.SetVisible(true);
+}
+
+void ListEvents::UAE_Short_Click() {
+    hooks.ShowGamePreview(form.UAE_Short.ListIndex());
+    // The lists are often moved by the program itself; only the user's click goes on.
+    if (!form.ShortListHasFocus) return;
+    form.UAE_FULL.SetListIndex(form.UAE_Short.ListIndex());
+    hooks.FillDrivesFromFile(form.UAE_Short.ListIndex());
+}
+
+void ListEvents::UAE_Short_DblClick() {
+    hooks.LaunchBtn_Click();
+    form.SetCaption(core::defaultTitle);
+    form.MyCaptionLabel.SetCaption(core::defaultTitle);
+}
+
+void ListEvents::UAE_Short_GotFocus() {
+    form.ListMode = "3";
+    form.DeLFav.SetVisible(false);
+    form.JoystickFocus = 3;
+    form.ShortListHasFocus = true;
+    form.UAE_Short.SetVisible(true);
+    hooks.RefreshList();
+    form.UAE_Short.SetListIndex(form.UAE_Short.ListIndex());
+    form.UAE_Short.SetFocus();
+}
+
+void ListEvents::UAE_Short_LostFocus() {
+    form.ShortListHasFocus = false;
+}
+
+void ListEvents::UAE_Short_KeyPress(forms::Character& character) {
+    if (character.code == forms::keys::enter) {
+        UAE_Short_DblClick();
+    } else {
+        hooks.EmuListbox_KeyPress(character);
+    }
+}
+
+void ListEvents::WIthoutDoubles_Click() {
+    if (form.DoublesListBusy) return;
+    const core::Raised busy(form.DoublesListBusy);
+    form.Current_ProgramNameFull.SetVisible(true);
+    int start = 0;
+    const std::string name = form.WIthoutDoubles.SelectedText();
+    const int row = FindListItem(name, form.UAE_Short.Rows(), false, start);
+    if (row >= 0) {
+        form.UAE_Short.SetListIndex(row);
+        form.UAE_FULL.SetListIndex(row);
+        form.DeLFav.SetVisible(false);
+        hooks.OfferFavouriteButtons();
+    }
+    hooks.FillDrivesFromGame(row);
+}
+
+void ListEvents::WIthoutDoubles_GotFocus() {
+    form.ListMode = "2";
+    if (form.DoublesListBusy) return;
+    {
+        const core::Raised busy(form.DoublesListBusy);
+        form.DoublesListHasFocus = true;
+        form.Current_ProgramNameFull.SetVisible(true);
+        form.WIthoutDoubles.SetVisible(true);
+        form.JoystickFocus = 2;
+        hooks.RefreshList();
+        form.DeLFav.SetVisible(false);
+        hooks.OfferFavouriteButtons();
+        // There and back, so that the row does not sit at the bottom edge.
+        const int row = form.WIthoutDoubles.ListIndex();
+        form.WIthoutDoubles.SetListIndex(row + 4);
+        form.WIthoutDoubles.SetListIndex(row);
+    }
+    form.WIthoutDoubles.SetFocus();
+}
+
+void ListEvents::WIthoutDoubles_LostFocus() {
+    form.DoublesListHasFocus = false;
+}
+
+void ListEvents::WIthoutDoubles_KeyPress(forms::Character& character) {
+    if (character.code == forms::keys::enter) {
+        UAE_Short_DblClick();
+    } else {
+        hooks.EmuListbox_KeyPress(character);
+    }
+}
+
+void ListEvents::FavoritenListe_GotFocus() {
+    form.ListMode = "1";
+    if (form.FavouritesListBusy) return;
+    {
+        const core::Raised busy(form.FavouritesListBusy);
+        form.JoystickFocus = 1;
+        form.FavoritenListe.SetVisible(true);
+        hooks.ShowFavourites();
+        hooks.RefreshList();
+    }
+    form.FavoritenListe.SetFocus();
+}
+
+void ListEvents::FavoritenListe_LostFocus() {
+    form.FavouritesListBusy = false;
+}
+
+void ListEvents::SuchErgList_GotFocus() {
+    form.ListMode = "4";
+    form.JoystickFocus = 4;
+    form.SuchErgList.SetVisible(true);
+    hooks.RefreshList();
+    form.SuchErgList.SetFocus();
+}
+
+void ListEvents::PutInFront(forms::ListBox& list, const char* mode) {
+    form.ListMode = mode;
+    list.SetVisible(true);
+    // A list that has the focus already still has to come forward.
+    if (list.HasFocus()) {
+        const auto handler = list.onGotFocus;
+        if (handler) handler();
+    } else {
+        list.SetFocus();
+    }
+}
+
+void ListEvents::Label1_Click() {
+    PutInFront(form.FavoritenListe, "1");
+}
+
+void ListEvents::Label2_Click() {
+    PutInFront(form.WIthoutDoubles, "2");
+}
+
+void ListEvents::Label3_Click() {
+    PutInFront(form.UAE_Short, "3");
+}
+
+void ListEvents::Label4_Click() {
+    PutInFront(form.SuchErgList, "4");
+}
+
+}  // namespace kivu::library

@@ -1,0 +1,45 @@
+#pragma once
+
+#include <set>
+#include <string>
+#include <vector>
+
+#include "forms/types.h"
+#include "platform/file_system.h"
+#include "support/pattern.h"
+
+namespace kivu::library {
+
+// What directory and file list controls show, from the host's file system.
+//
+// During a scan a directory is read once for both of its controls, and one that has been seen
+// before, under whatever path, cannot be entered again, so that links cannot lead a walk in
+// circles.
+class ScanSource : public forms::DirectorySource {
+ public:
+    explicit ScanSource(const platform::FileSystem& files) : files(files) {}
+
+    bool Read(const std::string& path, std::vector<std::string>& directories,
+              std::vector<std::string>& names) override;
+    bool Matches(const std::string& pattern, const std::string& name) override;
+
+    void BeginScan(const std::string& root);
+    void EndScan();
+
+ private:
+    bool List(const std::string& path, std::vector<std::string>& directories,
+              std::vector<std::string>& names);
+    void LeaveOutLinksInside(const std::string& path, std::vector<std::string>& directories) const;
+
+    const platform::FileSystem& files;
+    std::string patternText;
+    support::Pattern pattern{""};
+
+    bool scanning = false;
+    std::string rootPath;  // resolved
+    std::set<platform::FileSystem::Identity> entered;
+    std::string lastPath;
+    std::vector<std::string> lastDirectories, lastNames;
+};
+
+}  // namespace kivu::library

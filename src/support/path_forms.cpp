@@ -1,0 +1,24 @@
+#include "support/path_forms.h"
+
+#include "support/run_file.h"
+#include "support/text.h"
+
+namespace kivu::support {
+
+std::string ShortFileName(const platform::FileSystem& files, const std::string& path) {
+    const std::string shortName = files.ShortPathName(LongFileName(files, path));
+    return RemoveQuotes(shortName.empty() ? path : shortName);
+}
+
+std::string LongFileName(const platform::FileSystem& files, const std::string& path) {
+    const std::string answer = files.LongPathName(path);
+    const std::string_view trimmed = Trim(answer);
+    return trimmed.empty() ? path : std::string(trimmed);
+}
+
+std::string DirectoryOf(const platform::FileSystem& files, const std::string& path) {
+    return GetFilePath(path,
+                       [&](const std::string& candidate) { return files.IsDirectory(candidate); });
+}
+
+}  // namespace kivu::support

@@ -1,0 +1,35 @@
+#include "ui/window_surface.h"
+
+namespace kivu::ui {
+
+void WindowSurface::MyCaptionLabel_DblClick() {
+    const std::string stored =
+        ini.ReadIniValue("Settings", "TitleString", form.ColorsIniName, core::defaultTitle, true);
+    const std::string title = dialogs.InputBox("New Title", "Title", stored);
+    if (title.empty()) return;
+    ini.WriteIniValue("Settings", "TitleString", title, form.ColorsIniName, true);
+    hooks.MeCaption(title);
+}
+
+void WindowSurface::Surface_MouseDown(const forms::Mouse& mouse) {
+    if (mouse.button == forms::buttons::left) form.BeginDrag();
+}
+
+void WindowSurface::Form_DblClick() {
+    form.SetState(forms::WindowState::minimized);
+}
+
+void WindowSurface::Form_Click() {
+    hooks.ApplyAlwaysOnTop();
+}
+
+void WindowSurface::NormalMaxCapt_Click() {
+    const bool maximized = form.State() == forms::WindowState::maximized;
+    form.SetState(maximized ? forms::WindowState::normal : forms::WindowState::maximized);
+}
+
+void WindowSurface::TitleStr_Click() {
+    hooks.OpenProjectPage();
+}
+
+}  // namespace kivu::ui

@@ -1,0 +1,73 @@
+#include "wiring/launcher.h"
+
+#include "support/collation.h"
+#include "wiring/routines.h"
+
+namespace kivu::wiring {
+
+int TextOrder::Compare(std::string_view a, std::string_view b) const {
+    return support::CompareText(a, b);
+}
+
+Launcher::Launcher(platform::Host host, const forms::TextMeasure* measure,
+                   std::function<void()> endProgram)
+    : routines(std::make_unique<Routines>(std::move(host), measure, std::move(endProgram))) {
+    routines->JoinHooks();
+    routines->JoinControls();
+}
+
+Launcher::~Launcher() = default;
+
+core::Form1& Launcher::MainWindow() {
+    return routines->form;
+}
+
+void Launcher::Start() {
+    routines->startUp.Form_Load();
+}
+
+Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
+                             std::function<void()> end)
+    : host(std::move(hostServices)),
+      endProgram(std::move(end)),
+      scanSource(host.files),
+      form(forms::Toolkit{measure, &order, &scanSource}),
+      ini(host.files),
+      pacer(host.events, host.clock),
+      busy(form, host.events),
+      alwaysOnTop(form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore),
+      startUp(form, ini, host.files, host.locale, host.clock),
+      emulatorSwitch(form, ini, host.files, host.events, host.dialogs, busy, host.commandLine),
+      settingsLoader(form, ini, host.files, host.dialogs),
+      shutDown(form, ini),
+      windowKeys(form, host.dialogs, host.beeper),
+      scanner(form, scanSource, host.beeper, pacer),
+      gameLists(form, ini, host.files, busy, pacer, scanner),
+      emulatorBox(form, ini, host.files, busy),
+      listEvents(form),
+      prozess(host.processes),
+      watch(form, ini, prozess, busy, host.events, host.dialogs),
+      gameLaunch(form, ini, busy, pacer,
+                 {host.files, host.starter, host.clock, host.dialogs, host.beeper}),
+      emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, host.dialogs}),
+      layout(form),
+      fontSize(form),
+      surface(form, ini, host.dialogs),
+      navigation(form) {
+    const char separator = host.files.Separator();
+    form.AppDir = host.programDirectory;
+    if (form.AppDir.empty() || form.AppDir.back() != separator) form.AppDir += separator;
+    form.EXE = host.programName;
+}
+
+void Launcher::Routines::EndProgram() {
+    form.Ended = true;
+    if (endProgram) endProgram();
+}
+
+void Launcher::Routines::RefreshList() {
+    layout.ArrangeLists();
+    gameLists.UpdateListCaptions();
+}
+
+}  // namespace kivu::wiring

@@ -1,0 +1,92 @@
+#pragma once
+
+#include <functional>
+
+#include "core/busy_state.h"
+#include "core/emulator_switch.h"
+#include "core/form1.h"
+#include "core/ini.h"
+#include "core/settings_loader.h"
+#include "core/shut_down.h"
+#include "core/start_up.h"
+#include "core/window_keys.h"
+#include "joystick/list_navigation.h"
+#include "launch/emulator_setup.h"
+#include "launch/game_launch.h"
+#include "launch/prozess.h"
+#include "launch/running_watch.h"
+#include "library/emulator_box.h"
+#include "library/file_scan_recursive.h"
+#include "library/game_lists.h"
+#include "library/list_events.h"
+#include "library/scan_source.h"
+#include "platform/host.h"
+#include "support/always_on_top.h"
+#include "ui/font_size.h"
+#include "ui/layout.h"
+#include "ui/window_surface.h"
+#include "wiring/launcher.h"
+
+namespace kivu::wiring {
+
+// The user's language as the toolkit's sorted lists see it.
+class TextOrder : public forms::Collation {
+ public:
+    int Compare(std::string_view a, std::string_view b) const override;
+};
+
+// Every routine of the launcher, in the order in which they need one another.
+struct Launcher::Routines {
+    Routines(platform::Host hostServices, const forms::TextMeasure* measure,
+             std::function<void()> end);
+
+    platform::Host host;
+    std::function<void()> endProgram;
+    TextOrder order;
+    library::ScanSource scanSource;
+    core::Form1 form;
+
+    core::Ini ini;
+    core::EventPacer pacer;
+    core::BusyState busy;
+    support::AlwaysOnTop alwaysOnTop;
+
+    core::StartUp startUp;
+    core::EmulatorSwitch emulatorSwitch;
+    core::SettingsLoader settingsLoader;
+    core::ShutDown shutDown;
+    core::WindowKeys windowKeys;
+
+    library::FileScanRecursive scanner;
+    library::GameLists gameLists;
+    library::EmulatorBox emulatorBox;
+    library::ListEvents listEvents;
+
+    launch::Prozess prozess;
+    launch::RunningWatch watch;
+    launch::GameLaunch gameLaunch;
+    launch::EmulatorSetup emulatorSetup;
+
+    ui::Layout layout;
+    ui::FontSize fontSize;
+    ui::WindowSurface surface;
+
+    joystick::ListNavigation navigation;
+
+    void JoinHooks();
+    void JoinControls();
+    void EndProgram();
+    // The list in front, the tabs and their counts.
+    void RefreshList();
+
+ private:
+    void JoinCore();
+    void JoinLibrary();
+    void JoinLaunch();
+    void JoinUi();
+    void JoinWindow();
+    void JoinLists();
+    void JoinButtons();
+};
+
+}  // namespace kivu::wiring
