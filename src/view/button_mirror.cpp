@@ -1,0 +1,108 @@
+#include "view/button_mirror.h"
+
+#include <QCheckBox>
+#include <QKeySequence>
+#include <QPushButton>
+#include <QRadioButton>
+
+#include "forms/form.h"
+#include "view/colors.h"
+#include "view/text.h"
+
+namespace kivu::view {
+
+namespace {
+
+QAbstractButton* MakeValueButton(const forms::ValueButton& control, QWidget* parent) {
+    if (control.GetKind() == forms::Kind::optionButton) {
+        auto* radio = new QRadioButton(parent);
+        radio->setAutoExclusive(false);  // the model keeps them apart
+        return radio;
+    }
+    return new QCheckBox(parent);
+}
+
+}  // namespace
+
+QChar AccessKeyOf(const QString& caption) {
+    for (qsizetype i = 0; i + 1 < caption.size(); ++i) {
+        if (caption[i] != u'&') continue;
+        if (caption[i + 1] != u'&') return caption[i + 1].toLower();
+        ++i;
+    }
+    return {};
+}
+
+const std::string* CaptionWithAccessKey(const forms::Control& control) {
+    if (const auto* button = dynamic_cast<const forms::CommandButton*>(&control)) {
+        return &button->Caption();
+    }
+    if (const auto* button = dynamic_cast<const forms::ValueButton*>(&control)) {
+        return &button->Caption();
+    }
+    return nullptr;
+}
+
+ButtonMirror::ButtonMirror(forms::CommandButton& control, QWidget* parent, MirrorHost& host)
+    : Mirror(control, host) {
+    auto* push = new QPushButton(parent);
+    push->setAutoDefault(false);
+    push->setCursor(Qt::PointingHandCursor);
+    Take(push);
+}
+
+ButtonMirror::ButtonMirror(forms::ValueButton& control, QWidget* parent, MirrorHost& host)
+    : Mirror(control, host) {
+    Take(MakeValueButton(control, parent));
+}
+
+void ButtonMirror::Take(QAbstractButton* newButton) {
+    button = newButton;
+    // Real clicks never reach the toolkit's button; these are a screen reader's.
+    QObject::connect(button, &QAbstractButton::clicked, button, [this] {
+        host.Input().Click(control);
+        Apply(forms::Aspect::text);
+    });
+    Adopt(button);
+}
+
+const std::string& ButtonMirror::Caption() const {
+    return *CaptionWithAccessKey(control);
+}
+
+void ButtonMirror::Apply(forms::Aspect aspect) {
+    Mirror::Apply(aspect);
+    if (!button || aspect != forms::Aspect::text) return;
+    button->setText(ToQt(Caption()));
+    // The toolkit would take the access key before the form's key handlers see it.
+    button->setShortcut(QKeySequence());
+    const auto* value = dynamic_cast<const forms::ValueButton*>(&control);
+    if (!value) return;
+    if (auto* check = qobject_cast<QCheckBox*>(button)) {
+        check->setTristate(value->Value() == 2);
+        check->setCheckState(value->Value() == 2   ? Qt::PartiallyChecked
+                             : value->Value() == 1 ? Qt::Checked
+                                                   : Qt::Unchecked);
+    } else {
+        button->setCheckable(true);
+        button->setChecked(value->Value() != 0);
+    }
+}
+
+void ButtonMirror::ShowPressed(bool pressed) {
+    if (button) button->setDown(pressed);
+}
+
+void ButtonMirror::ApplyColors() {
+    Mirror::ApplyColors();
+    if (control.GetKind() != forms::Kind::commandButton) return;
+    // A button in its window's colour would not stand out from it.
+    const QColor window = ToQt(control.ParentForm()->BackColor());
+    const QColor own = ToQt(control.BackColor());
+    if (own != window && control.BackColor() != forms::Rgb(0x00, 0x52, 0xbc)) return;
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Button, Mix(window, Qt::white, 0.16));
+    widget->setPalette(palette);
+}
+
+}  // namespace kivu::view

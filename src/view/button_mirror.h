@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QAbstractButton>
+
+#include "forms/controls.h"
+#include "view/mirror.h"
+
+namespace kivu::view {
+
+// A command button, a check box or an option button. The toolkit's button only shows the state: the
+// click goes through the model.
+class ButtonMirror : public Mirror {
+ public:
+    ButtonMirror(forms::CommandButton& button, QWidget* parent, MirrorHost& host);
+    ButtonMirror(forms::ValueButton& button, QWidget* parent, MirrorHost& host);
+
+    void Apply(forms::Aspect aspect) override;
+    void ShowPressed(bool pressed) override;
+
+ protected:
+    void ApplyColors() override;
+
+ private:
+    void Take(QAbstractButton* newButton);
+    const std::string& Caption() const;
+
+    QPointer<QAbstractButton> button;
+};
+
+// The letter behind "&" in a caption, in lower case; null for none. "&&" is the sign itself.
+QChar AccessKeyOf(const QString& caption);
+
+// The caption of a control that has an access key.
+const std::string* CaptionWithAccessKey(const forms::Control& control);
+
+}  // namespace kivu::view

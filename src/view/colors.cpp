@@ -1,0 +1,48 @@
+#include "view/colors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace kivu::view {
+
+namespace {
+
+// Relative luminance, WCAG 2.1.
+double Luminance(const QColor& color) {
+    const auto linear = [](double part) {
+        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+           0.0722 * linear(color.blueF());
+}
+
+double Contrast(const QColor& a, const QColor& b) {
+    const double x = Luminance(a);
+    const double y = Luminance(b);
+    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
+}
+
+}  // namespace
+
+QColor ToQt(forms::Color color) {
+    return QColor(static_cast<int>(color & 0xff), static_cast<int>(color >> 8 & 0xff),
+                  static_cast<int>(color >> 16 & 0xff));
+}
+
+QColor Mix(const QColor& bottom, const QColor& top, double opacity) {
+    const auto mix = [opacity](int from, int to) {
+        return static_cast<int>(std::lround(from + (to - from) * opacity));
+    };
+    return QColor(mix(bottom.red(), top.red()), mix(bottom.green(), top.green()),
+                  mix(bottom.blue(), top.blue()));
+}
+
+QColor Readable(const QColor& wanted, const QColor& background) {
+    constexpr double enough = 2.5;
+    if (Contrast(wanted, background) >= enough) return wanted;
+    const QColor dark = onAccent;
+    const QColor light(Qt::white);
+    return Contrast(dark, background) > Contrast(light, background) ? dark : light;
+}
+
+}  // namespace kivu::view

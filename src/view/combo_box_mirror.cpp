@@ -1,0 +1,106 @@
+#include "view/combo_box_mirror.h"
+
+#include <QListView>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+#include <utility>
+
+#include "view/row_delegate.h"
+
+namespace kivu::view {
+
+namespace {
+
+class Combo : public QComboBox {
+ public:
+    Combo(const RowSource& source, QWidget* parent) : QComboBox(parent), source(source) {
+        setEditable(true);
+        setInsertPolicy(QComboBox::NoInsert);
+        setDuplicatesEnabled(true);
+        setCompleter(nullptr);
+        setMaxVisibleItems(16);
+        // Leaving the field or Enter in it would look the text up among the rows and choose one.
+        disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
+        disconnect(lineEdit(), SIGNAL(returnPressed()), this, nullptr);
+        lineEdit()->setFrame(false);
+        lineEdit()->setFocusPolicy(Qt::NoFocus);
+    }
+
+    void showPopup() override {
+        // The popup is made when it is first wanted.
+        if (!dressed) {
+            dressed = true;
+            view()->setItemDelegate(new RowDelegate(source, true, view()));
+            view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+            if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
+        }
+        view()->setMinimumWidth(width());
+        QComboBox::showPopup();
+    }
+
+ protected:
+    // A wheel that turns over the window must not change what is chosen.
+    void wheelEvent(QWheelEvent* event) override { event->ignore(); }
+
+ private:
+    const RowSource& source;
+    bool dressed = false;
+};
+
+}  // namespace
+
+ComboBoxMirror::ComboBoxMirror(forms::ComboBox& control, QWidget* parent, MirrorHost& host)
+    : Mirror(control, host),
+      box(control),
+      source(control),
+      combo(new Combo(source, parent)),
+      rows(new Rows(source, combo)),
+      editor(control, combo->lineEdit()) {
+    combo->setModel(rows);
+    QObject::connect(combo, &QComboBox::activated, combo, [this](int row) {
+        if (box.IsReachable()) box.ClickRow(row);
+        // Where the click changed nothing the toolkit has still written the row into the field.
+        ShowSelectedRow();
+    });
+    Adopt(combo);
+    host.Watch(combo->lineEdit(), *this);
+}
+
+void ComboBoxMirror::Apply(forms::Aspect aspect) {
+    Mirror::Apply(aspect);
+    if (!combo) return;
+    switch (aspect) {
+        case forms::Aspect::text:
+            editor.ShowText();
+            break;
+        case forms::Aspect::rows:
+            rowsChanged = true;
+            host.FlushSoon(*this);
+            break;
+        case forms::Aspect::selection:
+            editor.ShowSelection();
+            host.FlushSoon(*this);
+            break;
+        default:
+            break;
+    }
+}
+
+void ComboBoxMirror::Flush() {
+    if (!combo || !combo->isVisible()) return;
+    if (std::exchange(rowsChanged, false)) {
+        const QSignalBlocker quiet(combo);
+        rows->Refresh();
+    }
+    ShowSelectedRow();
+}
+
+void ComboBoxMirror::ShowSelectedRow() {
+    if (!combo) return;
+    const int row = source.Selected();
+    const QSignalBlocker quiet(combo);
+    if (row < combo->count() && combo->currentIndex() != row) combo->setCurrentIndex(row);
+    editor.ShowText();
+}
+
+}  // namespace kivu::view

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QComboBox>
+
+#include "forms/list_control.h"
+#include "view/field_editor.h"
+#include "view/mirror.h"
+#include "view/rows.h"
+
+namespace kivu::view {
+
+// A text field over a drop-down list. A row chosen in the popup is the user's click on it; the
+// field inserts nothing and completes nothing.
+class ComboBoxMirror : public Mirror {
+ public:
+    ComboBoxMirror(forms::ComboBox& box, QWidget* parent, MirrorHost& host);
+
+    void Apply(forms::Aspect aspect) override;
+    void Flush() override;
+    QLineEdit* Editor() const override { return combo ? combo->lineEdit() : nullptr; }
+    bool HasRows() const override { return true; }
+    bool UsesMouse() const override { return true; }
+
+ private:
+    void ShowSelectedRow();
+
+    forms::ComboBox& box;
+    ListRowSource source;
+    QPointer<QComboBox> combo;
+    Rows* rows = nullptr;
+    FieldEditor<forms::ComboBox> editor;
+    bool rowsChanged = true;
+};
+
+}  // namespace kivu::view

@@ -1,0 +1,22 @@
+#include "view/fonts.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+
+#include "view/text.h"
+
+namespace kivu::view {
+
+QFont ToQt(const forms::Font& font) {
+    QFont result = QGuiApplication::font();
+    if (!font.name.empty()) result.setFamily(ToQt(font.name));
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const double dpi = screen ? screen->logicalDotsPerInchY() : 96;
+    // Above this the toolkit would spend seconds on a glyph.
+    constexpr double largest = 400;
+    result.setPointSizeF(qBound(1.0, font.size, largest) * 96 / (dpi > 0 ? dpi : 96));
+    result.setBold(font.bold);
+    return result;
+}
+
+}  // namespace kivu::view

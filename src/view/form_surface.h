@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QWidget>
+
+#include "forms/form.h"
+#include "view/pictures.h"
+
+namespace kivu::view {
+
+// The window's own face: its picture, or a gradient in its back colour, with smooth round corners.
+class FormSurface : public QWidget {
+ public:
+    explicit FormSurface(const forms::Form& form);
+
+    void TakePicture();
+    // The face has to be made anew: another colour, other corners.
+    void Renew();
+
+ protected:
+    void paintEvent(QPaintEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+ private:
+    int Radius() const;
+    void Paint();
+    void CutCorners();
+
+    const forms::Form& form;
+    PictureCache picture;
+    QPixmap face;  // the whole surface in device pixels
+};
+
+// The pixels of a rounded rectangle that its line touches at all.
+QRegion RoundedRegion(QSize size, int radius);
+
+}  // namespace kivu::view

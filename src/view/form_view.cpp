@@ -1,0 +1,255 @@
+#include "view/form_view.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+#include <QSessionManager>
+#include <QWindow>
+#include <algorithm>
+
+#include "forms/controls.h"
+#include "view/fonts.h"
+#include "view/make_mirror.h"
+#include "view/text.h"
+
+namespace kivu::view {
+
+namespace {
+
+const auto flushEvent = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+// The window as a place for mouse and keys; WindowSync does the rest.
+class WindowMirror : public Mirror {
+ public:
+    WindowMirror(forms::Form& form, QWidget* window, MirrorHost& host) : Mirror(form, host) {
+        widget = window;
+    }
+    void Apply(forms::Aspect) override {}
+};
+
+}  // namespace
+
+FormView::FormView(forms::Form& form)
+    : form(form),
+      surface(std::make_unique<FormSurface>(form)),
+      sync(form, *surface),
+      drag(*surface, sync),
+      pointer(form, input, drag, [this](forms::Control& control) { return Find(control); }),
+      keyboard(form, input, [this](forms::Control& control) { return Find(control); }) {
+    const QString name = ToQt(form.FullName());
+    surface->setObjectName(name);
+    surface->setAccessibleName(name);
+    surface->setFont(ToQt(form.GetFont()));
+    surface->setFocusPolicy(Qt::NoFocus);
+    auto window = std::unique_ptr<WindowMirror>(new WindowMirror(form, surface.get(), *this));
+    Watch(surface.get(), *window);
+    mirrors.emplace(&form, std::move(window));
+    for (forms::Control* control : form.Controls()) {
+        Build(*control);
+    }
+    drag.ArrangeEdges();
+    keyboard.onCloseKey = [this] { surface->close(); };
+    // The end of the desktop session is not ours to refuse.
+    connect(qApp, &QGuiApplication::commitDataRequest, this,
+            [this](QSessionManager&) { sessionEnding = true; });
+    form.SetObserver(this);
+}
+
+FormView::~FormView() {
+    form.SetObserver(nullptr);
+    watched.clear();
+    surface.reset();
+}
+
+Mirror* FormView::Find(forms::Control& control) const {
+    const auto found = mirrors.find(&control);
+    return found == mirrors.end() ? nullptr : found->second.get();
+}
+
+void FormView::Build(forms::Control& control) {
+    Mirror* parent = control.Parent() ? Find(*control.Parent()) : nullptr;
+    QWidget* place = parent && parent->Widget() ? parent->Widget() : surface.get();
+    mirrors.emplace(&control, MakeMirror(control, place, *this));
+}
+
+void FormView::Watch(QWidget* widget, Mirror& mirror) {
+    watched[widget] = &mirror;
+    widget->installEventFilter(this);
+    widget->setMouseTracking(true);
+}
+
+void FormView::Changed(forms::Control& control, forms::Aspect aspect) {
+    if (&control == &form) {
+        FormChanged(aspect);
+        return;
+    }
+    if (!Find(control)) Build(control);
+    Find(control)->Apply(aspect);
+    if (aspect == forms::Aspect::zOrder) drag.ArrangeEdges();
+}
+
+void FormView::FormChanged(forms::Aspect aspect) {
+    switch (aspect) {
+        case forms::Aspect::focus:
+            ShowFocus();
+            break;
+        case forms::Aspect::visible:
+            form.Visible() ? Show() : surface->hide();
+            break;
+        case forms::Aspect::enabled:
+            surface->setEnabled(form.Enabled());
+            break;
+        case forms::Aspect::font:
+            surface->setFont(ToQt(form.GetFont()));
+            break;
+        case forms::Aspect::picture:
+            surface->TakePicture();
+            break;
+        case forms::Aspect::colors:
+            surface->Renew();
+            break;
+        default:
+            sync.Apply(aspect);
+            drag.ArrangeEdges();
+    }
+}
+
+void FormView::Show() {
+    // What a handler makes clickable shows it; handlers are joined after the controls were made.
+    for (forms::Control* control : form.Controls()) {
+        Find(*control)->Apply(forms::Aspect::geometry);
+    }
+    FlushNow();
+    ShowFocus();
+    sync.Show();
+    drag.ArrangeEdges();
+}
+
+void FormView::ShowModal(QWidget* parent) {
+    QEventLoop loop;
+    surface->setWindowModality(Qt::ApplicationModal);
+    surface->winId();
+    if (parent && parent->windowHandle()) {
+        surface->windowHandle()->setTransientParent(parent->windowHandle());
+    }
+    const QMetaObject::Connection hidden =
+        connect(surface->windowHandle(), &QWindow::visibleChanged, &loop,
+                [&loop](bool visible) { visible ? void() : loop.quit(); });
+    Show();
+    surface->activateWindow();
+    loop.exec(QEventLoop::DialogExec);
+    disconnect(hidden);
+}
+
+void FormView::Summon() {
+    if (surface->isMinimized())
+        surface->setWindowState(surface->windowState() & ~Qt::WindowMinimized);
+    surface->raise();
+    surface->activateWindow();
+}
+
+void FormView::ShowFocus() {
+    const QScopedValueRollback<bool> guard(movingFocus, true);
+    Mirror* mirror = form.Focus() ? Find(*form.Focus()) : nullptr;
+    QWidget* now = surface->focusWidget();
+    QWidget* wanted = mirror ? mirror->Widget() : nullptr;
+    if (wanted == now) return;
+    if (wanted) {
+        wanted->setFocus(Qt::OtherFocusReason);
+    } else if (now) {
+        now->clearFocus();
+    }
+}
+
+void FormView::TakeFocus(Mirror& mirror, Qt::FocusReason reason) {
+    // Windows and popups that come and go move the toolkit's focus; the form's stays.
+    const bool passing = reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+                         reason == Qt::MenuBarFocusReason;
+    if (movingFocus || passing || mirror.GetControl().HasFocus()) return;
+    // A screen reader or the like has moved it.
+    mirror.GetControl().SetFocus();
+}
+
+void FormView::FlushSoon(Mirror& mirror) {
+    if (std::find(waiting.begin(), waiting.end(), &mirror) == waiting.end()) {
+        waiting.push_back(&mirror);
+    }
+    if (flushPosted) return;
+    flushPosted = true;
+    // Before the picture is drawn, which is asked for with a low priority.
+    QCoreApplication::postEvent(this, new QEvent(flushEvent), Qt::HighEventPriority);
+}
+
+void FormView::FlushNow() {
+    const std::vector<Mirror*> mine = std::exchange(waiting, {});
+    for (Mirror* mirror : mine) {
+        mirror->Flush();
+    }
+}
+
+bool FormView::event(QEvent* event) {
+    if (event->type() != flushEvent) return QObject::event(event);
+    flushPosted = false;
+    FlushNow();
+    return true;
+}
+
+bool FormView::eventFilter(QObject* object, QEvent* event) {
+    const auto found = watched.find(object);
+    if (found == watched.end()) return false;
+    Mirror& mirror = *found->second;
+    if (object == surface.get() && WindowEvent(*event)) return true;
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::MouseMove:
+        case QEvent::MouseButtonRelease:
+            return pointer.Handle(mirror, static_cast<QMouseEvent&>(*event));
+        case QEvent::ShortcutOverride:
+            // The form's handlers come before any shortcut of the toolkit.
+            event->accept();
+            return true;
+        case QEvent::KeyPress:
+            event->accept();
+            keyboard.Press(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
+            return true;
+        case QEvent::FocusIn:
+            TakeFocus(mirror, static_cast<QFocusEvent*>(event)->reason());
+            return false;
+        case QEvent::Show:
+            mirror.Flush();
+            return false;
+        default:
+            return false;
+    }
+}
+
+bool FormView::WindowEvent(QEvent& event) {
+    switch (event.type()) {
+        case QEvent::Close:
+            Close(event);
+            return true;
+        case QEvent::Move:
+        case QEvent::Resize:
+        case QEvent::WindowStateChange:
+            sync.Observe(event);
+            drag.ArrangeEdges();
+            return false;
+        default:
+            return false;
+    }
+}
+
+void FormView::Close(QEvent& request) {
+    if (!sessionEnding && !form.RequestClose()) {
+        request.ignore();
+        return;
+    }
+    request.accept();
+    surface->hide();
+    if (onClosed) onClosed();
+}
+
+}  // namespace kivu::view

@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QObject>
+#include <functional>
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "forms/form.h"
+#include "forms/user_input.h"
+#include "view/form_surface.h"
+#include "view/keyboard.h"
+#include "view/mirror.h"
+#include "view/pointer.h"
+#include "view/window_drag.h"
+#include "view/window_sync.h"
+
+namespace kivu::view {
+
+// Shows a form as a window and turns the user's hands into what its handlers expect. Create it when
+// the form's controls and handlers are there; the form must outlive it.
+//
+// Each widget's object name and accessible name is its control's full name.
+class FormView : public QObject, private forms::Observer, private MirrorHost {
+ public:
+    explicit FormView(forms::Form& form);
+    ~FormView() override;
+
+    // Shows the window in the form's state. The form's focus becomes the keyboard's without any
+    // handler being run.
+    void Show();
+    // Shows the window over `parent` and returns once it has been closed or hidden.
+    void ShowModal(QWidget* parent);
+    // Brings the window back to the front, out of the task bar too.
+    void Summon();
+    QWidget& Window() { return *surface; }
+
+    // A close request that nobody objected to; the window is hidden by then.
+    std::function<void()> onClosed;
+
+    bool eventFilter(QObject* object, QEvent* event) override;
+    bool event(QEvent* event) override;
+
+ private:
+    void Changed(forms::Control& control, forms::Aspect aspect) override;
+    void DragWindow() override { pointer.DragWindow(); }
+    void Watch(QWidget* widget, Mirror& mirror) override;
+    void FlushSoon(Mirror& mirror) override;
+    forms::UserInput& Input() override { return input; }
+    forms::Form& Form() override { return form; }
+
+    void FormChanged(forms::Aspect aspect);
+    Mirror* Find(forms::Control& control) const;
+    void Build(forms::Control& control);
+    void ShowFocus();
+    void TakeFocus(Mirror& mirror, Qt::FocusReason reason);
+    void FlushNow();
+    void Close(QEvent& request);
+    bool WindowEvent(QEvent& event);
+
+    forms::Form& form;
+    forms::UserInput input{form};
+    std::unique_ptr<FormSurface> surface;
+    WindowSync sync;
+    WindowDrag drag;
+    Pointer pointer;
+    Keyboard keyboard;
+    std::unordered_map<const forms::Control*, std::unique_ptr<Mirror>> mirrors;
+    std::unordered_map<const QObject*, Mirror*> watched;
+    std::vector<Mirror*> waiting;  // for a flush
+    bool flushPosted = false;
+    bool movingFocus = false;
+    bool sessionEnding = false;
+};
+
+}  // namespace kivu::view

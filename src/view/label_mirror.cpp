@@ -1,0 +1,112 @@
+#include "view/label_mirror.h"
+
+#include <QEvent>
+#include <QPainter>
+
+#include "forms/form.h"
+#include "view/colors.h"
+#include "view/style_parts.h"
+#include "view/text.h"
+#include "view/text_block.h"
+
+namespace kivu::view {
+
+namespace {
+
+constexpr QMargins tabAir(8, 4, 8, 6);
+
+class LabelWidget : public QWidget {
+ public:
+    LabelWidget(const forms::Label& label, const Mirror& mirror, QWidget* parent)
+        : QWidget(parent), label(label), mirror(mirror) {
+        setMouseTracking(true);
+        setAttribute(Qt::WA_Hover);
+    }
+
+    void Forget() {
+        lines.clear();
+        brokenFor = {};
+        update();
+    }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        const QColor back = ToQt(label.BackColor());
+        const QColor window = ToQt(label.ParentForm()->BackColor());
+        const bool tab = bool(label.onClick);
+        const bool marked = tab && back != window;
+        QColor text = ToQt(label.ForeColor());
+        if (marked) {
+            FillRounded(painter, rect(), cornerRadius, back);
+            FillRounded(painter, QRectF(8, height() - 3, width() - 16, 3), 1.5, accent);
+            text = Readable(text, back);
+        } else if (label.IsOpaque()) {
+            FillRounded(painter, rect(), cornerRadius, back);
+        }
+        if (tab && !marked && underMouse() && isEnabled()) {
+            FillRounded(painter, rect(), cornerRadius, QColor(255, 255, 255, 34));
+        }
+        if (!isEnabled()) text.setAlphaF(0.5F);
+        painter.setPen(text);
+        DrawLines(painter);
+    }
+
+    // What lies on a hidden or moved edge must not hold an old break.
+    void resizeEvent(QResizeEvent*) override { Forget(); }
+
+ private:
+    void DrawLines(QPainter& painter) {
+        const QRect place = rect().marginsRemoved(mirror.Overhang()).adjusted(1, 0, -1, 0);
+        if (brokenFor != place.size()) {
+            brokenFor = place.size();
+            lines = BreakText(ToQt(label.Caption()), font(), place.width(), place.height());
+        }
+        static constexpr Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
+        const Qt::Alignment side = sides[static_cast<int>(label.GetAlignment())];
+        const double step = QFontMetricsF(font()).height();
+        QRectF line(place.left(), place.top(), place.width(), step);
+        for (const QString& text : lines) {
+            // Nothing is cut that was measured to fit.
+            painter.drawText(line,
+                             int(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextDontClip |
+                                 Qt::TextIncludeTrailingSpaces,
+                             text);
+            line.translate(0, step);
+        }
+    }
+
+    const forms::Label& label;
+    const Mirror& mirror;
+    QStringList lines;
+    QSize brokenFor;
+};
+
+}  // namespace
+
+LabelMirror::LabelMirror(forms::Label& control, QWidget* parent, MirrorHost& host)
+    : Mirror(control, host), label(control) {
+    Adopt(new LabelWidget(control, *this, parent));
+}
+
+QMargins LabelMirror::Overhang() const {
+    return label.onClick ? tabAir : QMargins();
+}
+
+void LabelMirror::Apply(forms::Aspect aspect) {
+    Mirror::Apply(aspect);
+    if (!widget) return;
+    if (aspect == forms::Aspect::geometry) {
+        widget->setCursor(label.onClick ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
+    if (aspect == forms::Aspect::text || aspect == forms::Aspect::font) {
+        static_cast<LabelWidget*>(widget.data())->Forget();
+        if (aspect == forms::Aspect::text) widget->setAccessibleDescription(ToQt(label.Caption()));
+    }
+}
+
+void LabelMirror::ApplyColors() {
+    widget->update();
+}
+
+}  // namespace kivu::view

@@ -1,0 +1,96 @@
+#include "view/mirror.h"
+
+#include <QPalette>
+#include <QTextDocument>
+
+#include "view/colors.h"
+#include "view/fonts.h"
+#include "view/geometry.h"
+#include "view/text.h"
+
+namespace kivu::view {
+
+namespace {
+
+// The toolkit would hand the focus of a hidden widget on to the next one, and with it run handlers.
+void DropFocusWithin(QWidget& widget) {
+    QWidget* focus = widget.window()->focusWidget();
+    if (focus && (focus == &widget || widget.isAncestorOf(focus))) focus->clearFocus();
+}
+
+}  // namespace
+
+QString PlainToolTip(const std::string& text) {
+    const QString plain = ToQt(text);
+    if (!Qt::mightBeRichText(plain)) return plain;
+    return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
+void Mirror::Adopt(QWidget* newWidget) {
+    widget = newWidget;
+    const QString name = ToQt(control.FullName());
+    widget->setObjectName(name);
+    widget->setAccessibleName(name);
+    // The focus moves only as the model says.
+    widget->setFocusPolicy(Qt::NoFocus);
+    host.Watch(widget, *this);
+    for (const forms::Aspect aspect :
+         {forms::Aspect::geometry, forms::Aspect::font, forms::Aspect::colors,
+          forms::Aspect::toolTip, forms::Aspect::text, forms::Aspect::enabled,
+          forms::Aspect::visible}) {
+        Apply(aspect);
+    }
+}
+
+void Mirror::Apply(forms::Aspect aspect) {
+    if (!widget) return;
+    switch (aspect) {
+        case forms::Aspect::visible:
+            if (!control.Visible()) DropFocusWithin(*widget);
+            widget->setVisible(control.Visible());
+            break;
+        case forms::Aspect::enabled:
+            if (!control.Enabled()) DropFocusWithin(*widget);
+            widget->setEnabled(control.Enabled());
+            break;
+        case forms::Aspect::geometry:
+            widget->setGeometry(PixelRect(control).marginsAdded(Overhang()));
+            break;
+        case forms::Aspect::font:
+            widget->setFont(ToQt(control.GetFont()));
+            break;
+        case forms::Aspect::colors:
+            ApplyColors();
+            break;
+        case forms::Aspect::toolTip:
+            widget->setToolTip(PlainToolTip(control.ToolTipText()));
+            break;
+        case forms::Aspect::zOrder:
+            widget->raise();
+            break;
+        default:
+            break;
+    }
+}
+
+void Mirror::ApplyColors() {
+    const QColor back = ToQt(control.BackColor());
+    const QColor fore = ToQt(control.ForeColor());
+    QPalette palette = widget->palette();
+    palette.setColor(QPalette::Window, back);
+    palette.setColor(QPalette::Base, back);
+    palette.setColor(QPalette::Button, back);
+    palette.setColor(QPalette::WindowText, fore);
+    palette.setColor(QPalette::Text, fore);
+    palette.setColor(QPalette::ButtonText, fore);
+    palette.setColor(QPalette::PlaceholderText, Mix(back, fore, 0.6));
+    widget->setPalette(palette);
+}
+
+forms::Mouse Mirror::MouseAt(QPoint global, int button, int shift) const {
+    const QMargins overhang = Overhang();
+    const QPoint place = widget->mapFromGlobal(global) - QPoint(overhang.left(), overhang.top());
+    return {button, shift, ToTwips(place.x()), ToTwips(place.y())};
+}
+
+}  // namespace kivu::view

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <QPointer>
+#include <QWidget>
+#include <optional>
+
+#include "forms/control.h"
+#include "forms/user_input.h"
+
+class QLineEdit;
+
+namespace kivu::view {
+
+class Mirror;
+
+// What a mirror asks of the view that it belongs to.
+class MirrorHost {
+ public:
+    virtual ~MirrorHost() = default;
+    // Routes the widget's mouse and keys through the form's handlers.
+    virtual void Watch(QWidget* widget, Mirror& mirror) = 0;
+    // Calls the mirror's Flush once, before the next picture; so many requests cost one.
+    virtual void FlushSoon(Mirror& mirror) = 0;
+    virtual forms::UserInput& Input() = 0;
+    virtual forms::Form& Form() = 0;
+};
+
+// One control on the screen: keeps a widget in line with it. The control is the truth; a widget
+// tells of nothing but the user's hands.
+class Mirror {
+ public:
+    Mirror(forms::Control& control, MirrorHost& host) : control(control), host(host) {}
+    virtual ~Mirror() = default;
+    Mirror(const Mirror&) = delete;
+    Mirror& operator=(const Mirror&) = delete;
+
+    forms::Control& GetControl() const { return control; }
+    // Null for a control that is not to be seen, such as a timer.
+    QWidget* Widget() const { return widget; }
+    // Where the focus goes and text is edited.
+    virtual QLineEdit* Editor() const { return nullptr; }
+
+    virtual void Apply(forms::Aspect aspect);
+    // Puts off changes that come in great numbers.
+    virtual void Flush() {}
+
+    // The row under a point of the screen, for lists.
+    virtual std::optional<int> RowAt(QPoint) const { return {}; }
+    virtual bool HasRows() const { return false; }
+    virtual int SelectedRow() const { return -1; }
+    virtual void ClickRow(int) {}
+    virtual void SelectRow(int) {}
+    // Whole rows that fit.
+    virtual int PageRows() const { return 10; }
+    // The widget has mouse work of its own: a caret, a handle, a popup.
+    virtual bool UsesMouse() const { return false; }
+    virtual void ShowPressed(bool) {}
+    // Pixels that the widget reaches beyond its control.
+    virtual QMargins Overhang() const { return {}; }
+
+    // Twips from the control's edges.
+    forms::Mouse MouseAt(QPoint global, int button, int shift) const;
+
+ protected:
+    // Takes the widget in and shows the control's state on it.
+    void Adopt(QWidget* newWidget);
+    virtual void ApplyColors();
+
+    forms::Control& control;
+    MirrorHost& host;
+    QPointer<QWidget> widget;
+};
+
+// "<" and "&" in a tool tip are no markup: a file name may hold them.
+QString PlainToolTip(const std::string& text);
+
+}  // namespace kivu::view

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QImage>
+#include <QPixmap>
+
+#include "forms/types.h"
+
+namespace kivu::view {
+
+// A control's picture in the size in which it is drawn. It is loaded when it is first drawn, and
+// kept in that size.
+class PictureCache {
+ public:
+    enum class Fit {
+        stretch,  // fills the place
+        cover,    // fills the place and keeps its proportions; what sticks out is cut
+    };
+
+    void Set(const forms::Picture& picture);
+    // Device pixels. Null: there is no picture, or it cannot be loaded.
+    const QPixmap& Scaled(QSize size, Fit fit);
+
+ private:
+    void Load();
+
+    forms::Picture picture;
+    bool loaded = false;
+    QImage original;
+    QPixmap scaled;
+};
+
+// A file that cannot be read, is no picture or is far too large gives a null image.
+QImage LoadPicture(const std::string& source);
+
+}  // namespace kivu::view

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QMouseEvent>
+#include <functional>
+
+#include "forms/user_input.h"
+#include "view/mirror.h"
+#include "view/window_drag.h"
+
+namespace kivu::view {
+
+// Turns the mouse into what the form's handlers expect: focus, mouse down, click, double click,
+// mouse up. Handlers may hide, clear or move anything on the way.
+class Pointer {
+ public:
+    using MirrorOf = std::function<Mirror*(forms::Control&)>;
+    Pointer(forms::Form& form, forms::UserInput& input, WindowDrag& drag, MirrorOf mirrorOf);
+
+    // True: the widget is not to see the event any more.
+    bool Handle(Mirror& mirror, QMouseEvent& event);
+    // A handler asks for the window to follow the mouse.
+    void DragWindow();
+
+ private:
+    bool Press(Mirror& mirror, const QMouseEvent& event, bool second);
+    bool Move(Mirror& mirror, const QMouseEvent& event);
+    bool Release(const QMouseEvent& event, bool consumed);
+    void PressList(Mirror& mirror, const QMouseEvent& event, bool second);
+    void ClickOn(forms::Control& control);
+    // The control that listens: one that nobody listens to is part of what lies behind it.
+    Mirror& TargetOf(Mirror& mirror) const;
+
+    forms::Form& form;
+    forms::UserInput& input;
+    WindowDrag& drag;
+    MirrorOf mirrorOf;
+    forms::Control* pressed = nullptr;  // while its button is down
+    Qt::MouseButton button = Qt::NoButton;
+    QPoint pressedAt;
+    bool clickPending = false;
+    forms::Control* last = nullptr;  // of the press before, for double clicks
+};
+
+}  // namespace kivu::view

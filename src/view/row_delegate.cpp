@@ -1,0 +1,48 @@
+#include "view/row_delegate.h"
+
+#include <QPainter>
+
+#include "view/colors.h"
+#include "view/style_parts.h"
+
+namespace kivu::view {
+
+int RowHeight(const QFontMetrics& metrics) {
+    // Air in proportion, but no gulfs between rows of 40 points.
+    return metrics.height() + qBound(6, metrics.height() / 3, 12);
+}
+
+QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
+    return {0, RowHeight(option.fontMetrics)};
+}
+
+void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
+                        const QModelIndex& index) const {
+    const bool hover = option.state.testFlag(QStyle::State_MouseOver);
+    const bool current = option.state.testFlag(QStyle::State_Selected);
+    const bool marked = followsCurrent ? current : source.Selected() == index.row();
+    const bool active = followsCurrent || option.state.testFlag(QStyle::State_HasFocus) ||
+                        (option.widget && option.widget->hasFocus());
+    const QColor base = option.palette.color(QPalette::Base);
+    const QColor text = Readable(option.palette.color(QPalette::Text), base);
+    QColor writing = text;
+    const QRectF pill = QRectF(option.rect).adjusted(3, 1, -3, -1);
+    if (marked) {
+        const QColor fill = active ? accent : Mix(base, accent, 0.42);
+        writing = Readable(active ? onAccent : text, fill);
+        FillRounded(*painter, pill, cornerRadius, fill);
+    } else if (hover) {
+        FillRounded(*painter, pill, cornerRadius, Mix(base, text, 0.09));
+    }
+    painter->setPen(writing);
+    painter->setFont(option.font);
+    const QRect line = option.rect.adjusted(10, 0, -8, 0);
+    QString shown = index.data().toString();
+    for (QChar& c : shown) {
+        if (c.category() == QChar::Other_Control) c = u' ';
+    }
+    painter->drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                      option.fontMetrics.elidedText(shown, Qt::ElideRight, line.width()));
+}
+
+}  // namespace kivu::view

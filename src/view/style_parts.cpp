@@ -1,0 +1,181 @@
+#include "view/style_parts.h"
+
+#include <QPainterPath>
+#include <QStyle>
+#include <algorithm>
+
+#include "view/colors.h"
+
+namespace kivu::view {
+
+namespace {
+
+bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
+    return option.state.testFlag(flag);
+}
+
+bool IsDark(const QColor& color) {
+    return qGray(color.rgb()) < 140;
+}
+
+// A quiet line around a field: darker on light, lighter on dark.
+QColor LineOn(const QColor& background, double strength) {
+    return Mix(background, IsDark(background) ? QColor(Qt::white) : QColor(Qt::black), strength);
+}
+
+}  // namespace
+
+void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
+                 const QColor& line, double lineWidth) {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const bool lined = line.alpha() > 0 && lineWidth > 0;
+    painter.setPen(lined ? QPen(line, lineWidth) : QPen(Qt::NoPen));
+    painter.setBrush(fill);
+    const double inset = lined ? lineWidth / 2 : 0;
+    const QRectF inner = rect.adjusted(inset, inset, -inset, -inset);
+    painter.drawRoundedRect(inner, radius, radius);
+    painter.restore();
+}
+
+void DrawField(QPainter& painter, const QStyleOption& option) {
+    const bool enabled = Has(option, QStyle::State_Enabled);
+    const bool focus = Has(option, QStyle::State_HasFocus);
+    QColor back = option.palette.color(QPalette::Base);
+    if (!enabled) back.setAlphaF(0.6F);
+    const bool hover = enabled && Has(option, QStyle::State_MouseOver);
+    const QColor line = focus ? accent : LineOn(back, hover ? 0.45 : 0.28);
+    FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
+}
+
+void DrawHairline(QPainter& painter, const QStyleOption& option) {
+    const QColor back = option.palette.color(QPalette::Base);
+    FillRounded(painter, option.rect, cornerRadius, Qt::transparent, LineOn(back, 0.25));
+}
+
+void DrawButton(QPainter& painter, const QStyleOption& option) {
+    const bool enabled = Has(option, QStyle::State_Enabled);
+    const bool down = Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On);
+    const bool hover = Has(option, QStyle::State_MouseOver);
+    const bool focus = Has(option, QStyle::State_HasFocus);
+    QColor back = option.palette.color(QPalette::Button);
+    if (enabled && down) {
+        back = Mix(back, Qt::black, 0.18);
+    } else if (enabled && hover) {
+        back = Mix(back, IsDark(back) ? QColor(Qt::white) : QColor(Qt::black), 0.12);
+    }
+    if (!enabled) back.setAlphaF(0.35F);
+    const QColor line = focus ? accent : QColor(255, 255, 255, enabled ? 46 : 20);
+    FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
+}
+
+void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const QStyle& style) {
+    const bool enabled = Has(button, QStyle::State_Enabled);
+    QColor color = Readable(button.palette.color(QPalette::ButtonText),
+                            button.palette.color(QPalette::Button));
+    if (!enabled) color.setAlphaF(0.45F);
+    painter.save();
+    painter.setPen(color);
+    const QRect rect = button.rect.adjusted(4, 0, -4, 0);
+    const QString text = button.fontMetrics.elidedText(button.text, Qt::ElideRight, rect.width(),
+                                                       Qt::TextShowMnemonic);
+    style.drawItemText(&painter, rect, Qt::AlignCenter | Qt::TextShowMnemonic | Qt::TextSingleLine,
+                       button.palette, true, text);
+    painter.restore();
+}
+
+void DrawCheck(QPainter& painter, const QStyleOption& option) {
+    const bool on = Has(option, QStyle::State_On);
+    const bool between = Has(option, QStyle::State_NoChange);
+    const bool enabled = Has(option, QStyle::State_Enabled);
+    const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    const QColor text = option.palette.color(QPalette::WindowText);
+    QColor fill = on || between ? accent : Mix(option.palette.color(QPalette::Window), text, 0.12);
+    QColor line = Has(option, QStyle::State_MouseOver) || Has(option, QStyle::State_HasFocus)
+                      ? accent
+                      : Mix(option.palette.color(QPalette::Window), text, 0.55);
+    if (!enabled) {
+        fill.setAlphaF(0.4F);
+        line.setAlphaF(0.4F);
+    }
+    FillRounded(painter, box, 4, fill, line, 1.2);
+    if (!on && !between) return;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(onAccent, box.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    const auto at = [&](double x, double y) {
+        return QPointF(box.left() + box.width() * x, box.top() + box.height() * y);
+    };
+    if (between) {
+        painter.drawLine(at(0.28, 0.5), at(0.72, 0.5));
+    } else {
+        painter.drawPolyline(QPolygonF{at(0.24, 0.52), at(0.43, 0.71), at(0.77, 0.3)});
+    }
+    painter.restore();
+}
+
+void DrawRadio(QPainter& painter, const QStyleOption& option) {
+    const bool on = Has(option, QStyle::State_On);
+    const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
+    const QColor text = option.palette.color(QPalette::WindowText);
+    const QColor window = option.palette.color(QPalette::Window);
+    const bool marked = on || Has(option, QStyle::State_MouseOver);
+    const QColor line = marked ? accent : Mix(window, text, 0.55);
+    FillRounded(painter, box, box.width() / 2, Mix(window, text, 0.12), line, 1.2);
+    if (!on) return;
+    const double inset = box.width() * 0.26;
+    FillRounded(painter, box.adjusted(inset, inset, -inset, -inset), box.width(), accent);
+}
+
+void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& slider) {
+    if (bar.maximum <= bar.minimum) return;
+    const bool upright = bar.orientation == Qt::Vertical;
+    const bool held =
+        Has(bar, QStyle::State_Sunken) && (bar.activeSubControls & QStyle::SC_ScrollBarSlider);
+    const bool hover = Has(bar, QStyle::State_MouseOver);
+    const int margin = hover || held ? 3 : 4;
+    const QRectF rect = upright ? QRectF(slider).adjusted(margin, 2, -margin, -2)
+                                : QRectF(slider).adjusted(2, margin, -2, -margin);
+    // The window's writing stands out against the list, so its colour does here too.
+    QColor color = Readable(bar.palette.color(QPalette::Text), bar.palette.color(QPalette::Base));
+    color.setAlphaF(held ? 0.75F : hover ? 0.55F : 0.32F);
+    FillRounded(painter, rect, std::min(rect.width(), rect.height()) / 2, color);
+}
+
+void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect& handle) {
+    const bool upright = slider.orientation == Qt::Vertical;
+    const QColor text = slider.palette.color(QPalette::WindowText);
+    const QColor quiet = Mix(slider.palette.color(QPalette::Window), text, 0.35);
+    QRectF groove = slider.rect;
+    if (upright) {
+        groove = QRectF(groove.center().x() - 2, groove.top() + 4, 4, groove.height() - 8);
+    } else {
+        groove = QRectF(groove.left() + 4, groove.center().y() - 2, groove.width() - 8, 4);
+    }
+    FillRounded(painter, groove, 2, quiet);
+    QRectF done = groove;
+    upright ? done.setTop(handle.center().y()) : done.setRight(handle.center().x());
+    FillRounded(painter, done, 2, accent);
+    const double size = std::min(handle.width(), handle.height());
+    QRectF knob(0, 0, size - 2, size - 2);
+    knob.moveCenter(QRectF(handle).center());
+    const bool focus = Has(slider, QStyle::State_HasFocus);
+    FillRounded(painter, knob, size, Qt::white, focus ? accent : quiet, focus ? 2 : 1);
+}
+
+void DrawArrow(QPainter& painter, const QStyleOption& option, const QRect& place) {
+    QColor color =
+        Readable(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base));
+    color.setAlphaF(Has(option, QStyle::State_Enabled) ? 0.8F : 0.35F);
+    const double half = 4;
+    const QPointF middle = QRectF(place).center();
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.drawPolyline(QPolygonF{middle + QPointF(-half, -half / 2),
+                                   middle + QPointF(0, half / 2),
+                                   middle + QPointF(half, -half / 2)});
+    painter.restore();
+}
+
+}  // namespace kivu::view
