@@ -1,7 +1,6 @@
 #include "support/text.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace kivu::support {
 
