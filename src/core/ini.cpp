@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "core/ini_scan.h"
 #include "support/text.h"
 
 namespace kivu::core {
@@ -43,10 +44,10 @@ void Ini::WriteIniValue(std::string_view section, std::string_view key, std::str
         CreateEmptyFile(iniFile);
     }
     const std::string path = QualifyIniPath(iniFile);
-    auto bytes = files.ReadFile(path);
+    const auto bytes = files.ReadFile(path);
     if (!bytes) return;
-    IniDocument profile = ParseProfile(*std::move(bytes));
-    if (profile.Set(section, key, value)) files.WriteFile(path, profile.Bytes());
+    const auto changed = SetIniValue(*bytes, section, key, value, Coding());
+    if (changed) files.WriteFile(path, *changed);
 }
 
 std::optional<IniDocument> Ini::LoadProfile(const std::string& iniFile) const {

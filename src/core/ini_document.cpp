@@ -33,23 +33,35 @@ void IniDocument::ReadForm() {
 }
 
 void IniDocument::Parse() {
+    enum class Run { None, Blank, Other };
     IniLineReader reader(text, markLength);
     std::string section;         // folded
     bool isSectionOpen = false;  // false before the first section and in one seen before
+    Run run = Run::None;         // what the last piece is and may go on with
     for (IniLine place; reader.Next(place);) {
-        const LineIndex line = AppendLine(place.begin, place.next - place.begin);
         const std::string_view content =
             std::string_view(text).substr(place.begin, place.end - place.begin);
+        const std::size_t size = place.next - place.begin;
         if (const auto name = SectionNameOf(content)) {
             section = FoldedName(*name, coding);
-            isSectionOpen = sectionEnds.try_emplace(section, line).second;
+            isSectionOpen = sectionEnds.try_emplace(section, AppendLine(place.begin, size)).second;
+            run = Run::None;
             continue;
         }
-        if (!isSectionOpen || IsBlankLine(content)) continue;
-        sectionEnds[section] = line;
-        if (const auto entry = EntryOf(content)) {
-            entries.try_emplace(EntryKey(section, FoldedName(entry->key, coding)), line);
+        const bool isBlank = isSectionOpen && IsBlankLine(content);
+        const auto entry = isSectionOpen ? EntryOf(content) : std::nullopt;
+        if (entry &&
+            entries.try_emplace(EntryKey(section, FoldedName(entry->key, coding)), lines.size())
+                .second) {
+            AppendLine(place.begin, size);
+            run = Run::None;
+        } else if (const Run kind = isBlank ? Run::Blank : Run::Other; kind == run) {
+            lines[last].size += size;
+        } else {
+            AppendLine(place.begin, size);
+            run = kind;
         }
+        if (isSectionOpen && !isBlank) sectionEnds[section] = last;
     }
 }
 
@@ -101,10 +113,8 @@ IniDocument::LineIndex IniDocument::FindEntry(const IniName& section, const IniN
 
 bool IniDocument::ReplaceValue(LineIndex line, std::string_view value) {
     const IniEntry entry = *EntryOf(WithoutLineEnd(TextOf(line)));
-    if (entry.rawValue == value || TrimBlanksAndTabs(entry.rawValue) == value) return false;
-    std::string newText(entry.key);  // as the file spells it
-    newText.append("=").append(value).append(kLineEnd);
-    Rewrite(line, newText);
+    if (HoldsValue(entry, value)) return false;
+    Rewrite(line, EntryLine(entry.key, value));  // the key as the file spells it
     return true;
 }
 
@@ -113,7 +123,7 @@ void IniDocument::AddEntry(const IniName& section, const IniName& key, std::stri
     if (end == sectionEnds.end()) {
         if (last != kNone) CloseLine(last);
         const LineIndex header = AppendLine(text.size(), 0);
-        Rewrite(header, "[" + section.Bytes() + "]\r\n");
+        Rewrite(header, SectionLine(section.Bytes()));
         end = sectionEnds.emplace(section.Folded(), header).first;
     }
     const LineIndex before = end->second;
@@ -122,7 +132,7 @@ void IniDocument::AddEntry(const IniName& section, const IniName& key, std::stri
     lines.push_back({text.size(), 0, lines[before].next});
     lines[before].next = line;
     if (last == before) last = line;
-    Rewrite(line, key.Bytes() + "=" + std::string(value) + "\r\n");
+    Rewrite(line, EntryLine(key.Bytes(), value));
     end->second = line;
     entries.emplace(EntryKey(section.Folded(), key.Folded()), line);
 }
@@ -143,31 +153,6 @@ std::string IniDocument::EntryKey(std::string_view foldedSection, std::string_vi
     std::string key;
     key.reserve(foldedSection.size() + 1 + foldedKey.size());
     return key.append(foldedSection).append("\n").append(foldedKey);
-}
-
-std::string FindIniValue(std::string_view bytes, std::string_view section, std::string_view key,
-                         const IniCoding& hostCoding) {
-    if (IsMarkedUtf16(bytes)) return FindIniValue(Utf16ToUtf8(bytes), section, key, hostCoding);
-    const std::size_t markLength = ByteOrderMarkLength(bytes);
-    const IniCoding coding = markLength > 0 ? CodingOfMarkedFile(hostCoding) : hostCoding;
-    const IniName sectionName = IniName::Section(section, coding);
-    const IniName keyName = IniName::Key(key, coding);
-    if (!sectionName.IsValid() || !keyName.IsValid()) return {};
-    IniLineReader reader(bytes, markLength);
-    bool isInside = false;
-    for (IniLine place; reader.Next(place);) {
-        const std::string_view line = bytes.substr(place.begin, place.end - place.begin);
-        if (const auto name = SectionNameOf(line)) {
-            if (isInside) break;
-            isInside = sectionName.Matches(*name, coding);
-        } else if (isInside) {
-            const auto entry = EntryOf(line);
-            if (entry && keyName.Matches(entry->key, coding)) {
-                return DecodeIni(coding, ReadableValue(entry->rawValue));
-            }
-        }
-    }
-    return {};
 }
 
 }  // namespace kivu::core

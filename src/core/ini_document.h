@@ -40,8 +40,8 @@ class IniDocument {
     using LineIndex = std::size_t;
     static constexpr LineIndex kNone = static_cast<LineIndex>(-1);
 
-    // A line with its line end, as a place in `text`. The lines are a chain, so that a new one goes
-    // in between without moving any other.
+    // A line with its line end, or a run of lines that are of no interest by themselves, as a place
+    // in `text`. They are a chain, so that a new one goes in between without moving any other.
     struct Line {
         std::size_t begin = 0;
         std::size_t size = 0;
@@ -72,10 +72,5 @@ class IniDocument {
     std::unordered_map<std::string, LineIndex> sectionEnds;
     std::unordered_map<std::string, LineIndex> entries;  // by EntryKey
 };
-
-// IniDocument(bytes, coding).Value(section, key), by one pass up to the key and without a copy of
-// any line.
-std::string FindIniValue(std::string_view bytes, std::string_view section, std::string_view key,
-                         const IniCoding& coding);
 
 }  // namespace kivu::core

@@ -90,6 +90,20 @@ std::string_view WithinLine(std::string_view bytes) {
     return bytes.substr(0, bytes.find_first_of("\r\n\0"sv));
 }
 
+bool HoldsValue(const IniEntry& entry, std::string_view value) {
+    return entry.rawValue == value || TrimBlanksAndTabs(entry.rawValue) == value;
+}
+
+std::string EntryLine(std::string_view key, std::string_view value) {
+    std::string line(key);
+    return line.append("=").append(value).append("\r\n");
+}
+
+std::string SectionLine(std::string_view section) {
+    std::string line("[");
+    return line.append(section).append("]\r\n");
+}
+
 IniName::IniName(std::string_view text, const IniCoding& coding)
     : bytes(TrimBlanksAndTabs(WithinLine(EncodeIni(coding, text)))),
       folded(FoldedName(bytes, coding)) {

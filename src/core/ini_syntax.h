@@ -62,6 +62,13 @@ std::string_view ReadableValue(std::string_view rawValue);
 // or NUL.
 std::string_view WithinLine(std::string_view bytes);
 
+// Whether writing the value would change nothing but blanks around it.
+bool HoldsValue(const IniEntry& entry, std::string_view value);
+
+// Lines as they are written, ended by CR LF.
+std::string EntryLine(std::string_view key, std::string_view value);
+std::string SectionLine(std::string_view section);
+
 // A section's or key's name to look for. Names are compared without regard to case.
 class IniName {
  public:

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <string>
 
+#include "core/ini_scan.h"
 #include "core/ini_utf16.h"
 #include "support/text.h"
 
@@ -12,14 +13,18 @@ namespace {
 using namespace std::string_literals;
 
 std::string Read(const std::string& bytes, std::string_view key) {
-    return IniDocument(bytes).Value("Settings", key);
+    const std::string value = FindIniValue(bytes, "Settings", key, {});
+    EXPECT_EQ(IniDocument(bytes).Value("Settings", key), value);
+    return value;
 }
 
-// The file after one Set in section "Settings".
+// The file after one Set in section "Settings", in both ways.
 std::string Written(const std::string& bytes, std::string_view key, std::string_view value) {
     IniDocument profile(bytes);
     profile.Set("Settings", key, value);
-    return profile.Bytes();
+    const std::string once = SetIniValue(bytes, "Settings", key, value, {}).value_or(bytes);
+    EXPECT_EQ(once, profile.Bytes());
+    return once;
 }
 
 TEST(IniDocumentRead, FindsSectionsAndKeysWithoutRegardToCase) {
@@ -331,7 +336,9 @@ TEST(IniDocumentSize, MegabytesOfEveryShapeAreTakenInOnePass) {
         EXPECT_EQ(FindIniValue(many, "Nowhere", "A", {}), "");
         IniDocument profile(many);
         EXPECT_EQ(profile.Value("Settings", "A"), "1");
+        EXPECT_EQ(profile.Bytes(), many);
         EXPECT_TRUE(profile.Set("Settings", "New", "2"));
+        EXPECT_EQ(SetIniValue(many, "Settings", "New", "2", {}), profile.Bytes());
         EXPECT_TRUE(profile.Set("Nowhere", "New", "3"));
         EXPECT_EQ(FindIniValue(profile.Bytes(), "Settings", "New", {}), "2");
         EXPECT_EQ(FindIniValue(profile.Bytes(), "Nowhere", "New", {}), "3");

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "core/ini_document.h"
+#include "core/ini_scan.h"
 #include "core/ini_utf16.h"
 
 namespace kivu::testing {
@@ -31,6 +32,9 @@ class IniChecks {
         if (profile.Value(section, key) != Read(bytes, section, key)) return "two ways to read";
         const bool changed = profile.Set(section, key, value);
         const std::string after = profile.Bytes();
+        if (core::SetIniValue(bytes, section, key, value, hostCoding).value_or(bytes) != after) {
+            return "two ways to write";
+        }
         if (changed == (after == bytes)) return "a change that is none, or an unsaid one";
         if (profile.Value(section, key) != Read(after, section, key)) return "not read back alike";
         if (IsPossible(section, key) && Read(after, section, key) != Expected(value)) {
