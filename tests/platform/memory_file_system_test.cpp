@@ -70,6 +70,8 @@ TEST(MemoryFileSystem, LinksLeadToTheSameIdentityAndCirclesNowhere) {
     EXPECT_NE(disk.IdentityOf("/real/f"), disk.IdentityOf("/real"));
     EXPECT_TRUE(disk.IsLink("/alias"));
     EXPECT_FALSE(disk.IsLink("/alias/f"));
+    EXPECT_EQ(disk.ResolvedPath("/alias/f"), "/real/f");
+    EXPECT_EQ(disk.ResolvedPath("/loop"), "/loop");
     EXPECT_EQ(disk.ReadFile("/alias/f"), "x");
     EXPECT_FALSE(disk.WriteFile("/alias/f", "y"));
     EXPECT_EQ(disk.BytesOf("/real/f"), "y");

@@ -127,6 +127,11 @@ class MemoryFileSystem : public platform::FileSystem {
         return node != nullptr && node->kind == Kind::Link;
     }
 
+    std::string ResolvedPath(const std::string& path) const override {
+        const auto resolved = Resolve(path);
+        return resolved && At(*resolved) != nullptr ? TextOf(*resolved) : path;
+    }
+
     std::optional<std::string> ReadFile(const std::string& path) const override {
         if (beforeRead) beforeRead(path);
         reads.push_back(path);
