@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench ...
+set -euo pipefail
+
+build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev)
+run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0)
+screen=(xvfb openbox xdotool imagemagick x11-utils procps)
+test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)
+fuzz=(clang libclang-rt-14-dev)
+bench=(libbenchmark-dev libpng-dev zlib1g-dev libdeflate-dev findutils grep)
+
+wanted=()
+for job in "$@"; do
+  declare -n packages="$job"
+  wanted+=("${packages[@]}")
+done
+
+missing=()
+for package in "${wanted[@]}"; do
+  dpkg-query -W -f '${db:Status-Status}\n' "$package" 2>/dev/null | grep -qx installed || missing+=("$package")
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+echo "Installing: ${missing[*]}"
+as_root=()
+if [ "$(id -u)" -ne 0 ]; then
+  command -v sudo >/dev/null || { echo "Please install as root: apt-get install ${missing[*]}" >&2; exit 1; }
+  as_root=(sudo)
+fi
+"${as_root[@]}" apt-get update -qq
+"${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null

@@ -1,0 +1,50 @@
+#include "ui/layout_numbers.h"
+
+#include <gtest/gtest.h>
+
+namespace kivu::ui {
+namespace {
+
+TEST(LayoutNumbers, WorksOutTheColumnsOfTheDesignWindow) {
+    const LayoutNumbers numbers = ComputeLayout(14400, 10200, 300, 1300);
+    EXPECT_EQ(numbers.ListWidth, 9033);  // int(14000 / 6 * 4) - 300
+    EXPECT_EQ(numbers.Col2Left, 9433);
+    EXPECT_EQ(numbers.Col2Width, 2250);  // 14100 / 6 - 100
+    EXPECT_EQ(numbers.Col3Left, 11783);
+    EXPECT_EQ(numbers.Col3Width, 2250);
+    EXPECT_EQ(numbers.ListHeight, 8600);
+    EXPECT_EQ(numbers.DriveBoxHeight, 4500);
+    EXPECT_EQ(numbers.ThirdWidth, 4800);
+    EXPECT_EQ(numbers.QuarterWidth, 3500);
+    EXPECT_EQ(numbers.HalfWidth, 7100);
+}
+
+TEST(LayoutNumbers, CutsTheListWidthAndRoundsTheSecondColumn) {
+    const LayoutNumbers numbers = ComputeLayout(14403, 10200, 300, 1300);
+    EXPECT_EQ(numbers.ListWidth, 9035);  // 9335.33 is cut
+    EXPECT_EQ(numbers.Col2Width, 2250);  // 2250.5 goes to the even neighbour
+    EXPECT_EQ(ComputeLayout(14409, 10200, 300, 1300).Col2Width, 2252);  // 2251.5 too
+    EXPECT_EQ(ComputeLayout(14401, 10200, 300, 1300).Col2Width, 2250);
+}
+
+TEST(LayoutNumbers, HoldsAScreenOfFourThousandPixels) {
+    const LayoutNumbers numbers = ComputeLayout(57600, 32400, 300, 1300);
+    EXPECT_EQ(numbers.ListWidth, 37833);
+    EXPECT_EQ(numbers.Col2Left, 38233);
+}
+
+TEST(LayoutNumbers, NeverGivesTheDriveBoxMoreThanTheListsHeight) {
+    for (int width = 0; width < 60000; width += 171) {
+        for (int height = 0; height < 40000; height += 1733) {
+            const LayoutNumbers numbers = ComputeLayout(width, height, 300, 1300);
+            EXPECT_LE(numbers.DriveBoxHeight, numbers.ListHeight) << width << " x " << height;
+        }
+    }
+}
+
+TEST(LayoutNumbers, LetsTheListShrinkInASmallWindow) {
+    EXPECT_LT(ComputeLayout(3000, 1500, 300, 1300).ListHeight, 0);
+}
+
+}  // namespace
+}  // namespace kivu::ui
