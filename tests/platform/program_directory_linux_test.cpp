@@ -20,6 +20,10 @@ class ProgramDirectoryLinux : public ::testing::Test {
         fs::create_directory(directory.Path("data"));
         fs::permissions(directory.Path("data"), fs::perms(0777));
     }
+    void TearDown() override { fs::permissions(directory.Path("bin"), fs::perms(0755)); }
+
+    // As where a package has put the program.
+    void ProtectProgram() { fs::permissions(directory.Path("bin"), fs::perms(0555)); }
 
     kivu::testing::TemporaryDirectory directory;
     kivu::testing::EnvironmentVariable data{"XDG_DATA_HOME", directory.Path("data")};
@@ -31,6 +35,7 @@ TEST_F(ProgramDirectoryLinux, AWritablePlaceOfTheProgramIsTaken) {
 }
 
 TEST_F(ProgramDirectoryLinux, AnInstalledProgramKeepsItsDataWithTheUser) {
+    ProtectProgram();
     EXPECT_TRUE(kivu::testing::HoldsForPlainUser([&] {
         return ProgramDirectory(directory.Path("bin/Kivu")) == directory.Path("data/Kivu");
     }));
@@ -39,12 +44,14 @@ TEST_F(ProgramDirectoryLinux, AnInstalledProgramKeepsItsDataWithTheUser) {
 
 TEST_F(ProgramDirectoryLinux, AConfigBesideTheProgramIsTakenEvenIfItCannotBeWritten) {
     fs::create_directory(directory.Path("bin/Config"));
+    ProtectProgram();
     EXPECT_TRUE(kivu::testing::HoldsForPlainUser(
         [&] { return ProgramDirectory(directory.Path("bin/Kivu")) == directory.Path("bin"); }));
 }
 
 TEST_F(ProgramDirectoryLinux, AFileNamedConfigIsNoConfig) {
     directory.Write("bin/Config", "x");
+    ProtectProgram();
     EXPECT_TRUE(kivu::testing::HoldsForPlainUser([&] {
         return ProgramDirectory(directory.Path("bin/Kivu")) == directory.Path("data/Kivu");
     }));
