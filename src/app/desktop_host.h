@@ -1,0 +1,29 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/host.h"
+
+namespace kivu::app {
+
+// Everything the launcher asks of the machine it runs on. One file for each host implements it.
+// Needs a QApplication.
+class DesktopHost {
+ public:
+    // The user's arguments, without those that the toolkit has taken.
+    explicit DesktopHost(const std::vector<std::string>& arguments);
+    ~DesktopHost();
+
+    platform::Host Services();
+    // Listens for later instances from now on; `summon` is called when one asks this to come up.
+    void ListenForInstances(std::function<void()> summon);
+
+ private:
+    struct Parts;
+    std::unique_ptr<Parts> parts;
+};
+
+}  // namespace kivu::app

@@ -1,0 +1,45 @@
+#include <QApplication>
+#include <QIcon>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "app/desktop_host.h"
+#include "view/form_view.h"
+#include "view/style.h"
+#include "view/text_measure.h"
+#include "wiring/launcher.h"
+
+namespace {
+
+// The program ends where it stands: routines further up must not go on, and nothing is left to
+// write.
+void EndAtOnce() {
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        window->hide();
+    }
+    QCoreApplication::sendPostedEvents();
+    std::fflush(nullptr);
+    std::_Exit(EXIT_SUCCESS);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    kivu::view::ApplyStyle();
+
+    kivu::app::DesktopHost host(std::vector<std::string>(argv + 1, argv + argc));
+    const kivu::view::TextMeasure measure;
+    kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce);
+    launcher.Start();
+
+    kivu::view::FormView view(launcher.MainWindow());
+    view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon")));
+    view.onClosed = EndAtOnce;
+    host.ListenForInstances([&view] { view.Summon(); });
+    view.Show();
+    return QApplication::exec();
+}

@@ -1,0 +1,149 @@
+#include "platform/qt/dialog_box.h"
+
+#include <QApplication>
+#include <QBoxLayout>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollArea>
+#include <QWindow>
+#include <algorithm>
+
+namespace kivu::platform {
+
+namespace {
+
+constexpr int widest = 560;  // pixels of text before it breaks
+
+class Sign : public QWidget {
+ public:
+    Sign(const QString& letter, const QColor& color) : letter(letter), color(color) {
+        setFixedSize(44, 44);
+    }
+
+ protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(color);
+        painter.drawEllipse(rect());
+        QFont large = font();
+        large.setPixelSize(26);
+        large.setBold(true);
+        painter.setFont(large);
+        painter.setPen(QColor(0x14, 0x1c, 0x2b));
+        painter.drawText(rect(), Qt::AlignCenter, letter);
+    }
+
+ private:
+    QString letter;
+    QColor color;
+};
+
+}  // namespace
+
+DialogBox::DialogBox(const QString& name, const QString& title)
+    : QDialog(QApplication::activeWindow(), Qt::Dialog | Qt::FramelessWindowHint) {
+    setObjectName(name);
+    setAccessibleName(name);
+    setWindowTitle(title);
+    setModal(true);
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(24, 18, 24, 20);
+    outer->setSpacing(16);
+    auto* caption = new QLabel(title);
+    caption->setTextFormat(Qt::PlainText);
+    QFont bold = caption->font();
+    bold.setBold(true);
+    bold.setPointSizeF(bold.pointSizeF() * 1.15);
+    caption->setFont(bold);
+    outer->addWidget(caption);
+    message = new QHBoxLayout;
+    message->setSpacing(18);
+    body = new QVBoxLayout;
+    body->setSpacing(12);
+    message->addLayout(body, 1);
+    outer->addLayout(message, 1);
+    buttons = new QHBoxLayout;
+    buttons->setSpacing(10);
+    buttons->addStretch(1);
+    outer->addLayout(buttons);
+    setMinimumWidth(340);
+}
+
+void DialogBox::SetSign(const QString& letter, const QColor& color) {
+    message->insertWidget(0, new Sign(letter, color), 0, Qt::AlignTop);
+}
+
+void DialogBox::SetText(const QString& text) {
+    QString lines = text;
+    lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    auto* label = new QLabel(lines);
+    label->setObjectName(QStringLiteral("Text"));
+    label->setAccessibleName(lines);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    const int wanted =
+        label->fontMetrics().boundingRect({0, 0, 1 << 20, 1 << 20}, 0, lines).width();
+    const int width = std::min(wanted + 8, widest);
+    label->setMinimumWidth(width);
+    const int height = label->heightForWidth(width);
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const int room = screen ? screen->availableSize().height() * 3 / 5 : 600;
+    if (height <= room) {
+        label->setMinimumHeight(height);
+        body->addWidget(label, 1, Qt::AlignVCenter);
+        return;
+    }
+    auto* scroll = new QScrollArea;
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setWidgetResizable(true);
+    scroll->setWidget(label);
+    scroll->setMinimumSize(width + 20, room);
+    body->addWidget(scroll);
+}
+
+void DialogBox::AddWidget(QWidget* widget) {
+    body->addWidget(widget);
+}
+
+QPushButton* DialogBox::AddButton(const QString& name, const QString& caption, int result) {
+    auto* button = new QPushButton(caption);
+    button->setObjectName(name);
+    button->setAccessibleName(name);
+    button->setMinimumSize(96, 34);
+    const bool first = buttons->count() == 1;
+    button->setDefault(first);
+    connect(button, &QPushButton::clicked, this, [this, result] { done(result); });
+    buttons->addWidget(button);
+    if (first) button->setFocus();
+    return button;
+}
+
+int DialogBox::Ask() {
+    adjustSize();
+    const QWidget* over = parentWidget();
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    if (over) {
+        move(over->geometry().center() - rect().center());
+    } else if (screen) {
+        move(screen->availableGeometry().center() - rect().center());
+    }
+    return exec();
+}
+
+void DialogBox::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.setPen(QColor(255, 255, 255, 70));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void DialogBox::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton && windowHandle()) windowHandle()->startSystemMove();
+}
+
+}  // namespace kivu::platform
