@@ -97,6 +97,7 @@ TEST_F(FileSystemLinux, AListOfAnUnreadableDirectoryIsNone) {
     ASSERT_EQ(::chmod(closed.c_str(), 0), 0);
     EXPECT_TRUE(kivu::testing::HoldsForPlainUser(
         [&] { return files.ListDirectory(closed) == std::nullopt && files.IsDirectory(closed); }));
+    ::chmod(closed.c_str(), 0700);
 }
 
 TEST_F(FileSystemLinux, ADirectoryThatVanishedWhileCurrentIsNoCrash) {
