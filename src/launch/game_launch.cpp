@@ -177,8 +177,8 @@ std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
     const std::string program =
         BatchWord(support::QuoteIfNeeded(support::ToWinePath(run.emulator)), safe);
     const std::string companion = form.StartPfad + form.EXE + "_tmp_wine.bat";
-    const std::string content = BatchStartFile(
-        cd, "call " + program + " " + std::string(support::Trim(run.parameters.BatchText())));
+    const std::string content =
+        BatchStartFile(cd, program + " " + std::string(support::Trim(run.parameters.BatchText())));
     if (safe && files.WriteFile(companion, content)) safe = false;
     return {"wine", "cmd", "/c", support::ToWinePath(companion)};
 }

@@ -23,6 +23,7 @@ core::Form1& Launcher::MainWindow() {
 }
 
 void Launcher::Start() {
+    routines->alwaysOnTop.LoadSettings();
     routines->startUp.Form_Load();
 }
 
