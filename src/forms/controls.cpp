@@ -43,7 +43,7 @@ std::vector<std::string_view> CaptionLines(std::string_view caption) {
 
 TextBox::TextBox(Container* parent, std::string name, int index)
     : Control(parent, std::move(name), index) {
-    Remeasure();
+    TextBox::Remeasure();
 }
 
 void TextBox::SetText(std::string value) {
@@ -102,8 +102,12 @@ void Label::SetOpaque(bool value) {
 }
 
 int Label::TextWidth() const {
+    return WidthOf(caption);
+}
+
+int Label::WidthOf(std::string_view text) const {
     int widest = 0;
-    for (const std::string_view line : CaptionLines(caption)) {
+    for (const std::string_view line : CaptionLines(text)) {
         widest = std::max(widest, LineWidth(GetToolkit(), GetFont(), line));
     }
     return widest;

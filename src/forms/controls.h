@@ -56,6 +56,8 @@ class Label : public Control {
     // Twips that the caption's longest line and all its lines take in the label's font.
     int TextWidth() const;
     int TextHeight() const;
+    // The same width for another text.
+    int WidthOf(std::string_view text) const;
 
     std::function<void()> onChange;
 

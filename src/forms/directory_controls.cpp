@@ -63,10 +63,10 @@ void DirListBox::SetPath(const std::string& given) {
     if (value.empty() || !source || !source->Read(value, directories, files)) return;
     SortRows(GetToolkit(), directories);
     const char separator = SeparatorOf(value);
-    const bool closed = value.back() == separator || value.back() == '/';
-    for (std::string& name : directories) {
-        name = closed ? value + name : value + separator + name;
-    }
+    std::string base = value;
+    if (base.back() != separator && base.back() != '/') base += separator;
+    for (std::string& name : directories)
+        name.insert(0, base);
     const bool changed = path != value;
     path = value;
     ReplaceRows(std::move(directories));

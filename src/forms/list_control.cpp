@@ -139,7 +139,7 @@ void ListControl::ClickRow(int row) {
 
 ComboBox::ComboBox(Container* parent, std::string name, Order order, int index)
     : ListControl(parent, std::move(name), order, index) {
-    Remeasure();
+    ComboBox::Remeasure();
 }
 
 void ComboBox::SetText(std::string value) {

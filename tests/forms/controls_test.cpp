@@ -99,6 +99,13 @@ TEST_F(ControlsTest, AutoSizeLabelIsAsWideAsItsLongestLine) {
     EXPECT_EQ(label.Height(), 400);
 }
 
+TEST_F(ControlsTest, LabelMeasuresAnotherTextInItsFont) {
+    Label label(&form, "Label1");
+    label.SetFontSize(20);
+    EXPECT_EQ(label.WidthOf("ab\nabc"), 600);
+    EXPECT_EQ(label.TextWidth(), 0);
+}
+
 TEST_F(ControlsTest, AutoSizeLabelHasItsNewSizeWhenTheChangeHandlerRuns) {
     Label label(&form, "Label1");
     label.SetAutoSize(true);

@@ -65,6 +65,30 @@ TEST_F(DirectoryTest, DirListJoinsWithTheSeparatorOfItsPath) {
     EXPECT_THAT(Shown(dirs), ElementsAre("/odd\\/in"));
 }
 
+TEST_F(DirectoryTest, PathIsKeptWithoutItsClosingSeparatorButForARoot) {
+    const std::vector<std::pair<const char*, const char*>> table{
+        {"/roms/", "/roms"}, {"C:\\Roms\\", "C:\\Roms"}, {"/", "/"}, {"C:\\", "C:\\"}};
+    for (const auto& [given, kept] : table) {
+        dirs.SetPath(given);
+        EXPECT_EQ(dirs.Path(), kept);
+    }
+    dirs.SetPath("/roms");
+    dirs.onChange = Writes(log, "change");
+    dirs.SetPath("/roms/");
+    EXPECT_THAT(log, IsEmpty());
+}
+
+TEST_F(DirectoryTest, ForgettingThePathEmptiesTheDirListAndRunsNothing) {
+    dirs.SetPath("/roms");
+    dirs.onChange = Writes(log, "change");
+    dirs.ForgetPath();
+    EXPECT_EQ(dirs.Path(), "");
+    EXPECT_EQ(dirs.ListCount(), 0);
+    EXPECT_THAT(log, IsEmpty());
+    dirs.SetPath("/roms");
+    EXPECT_THAT(log, ElementsAre("change"));
+}
+
 TEST_F(DirectoryTest, PathThatCannotBeEnteredLeavesTheDirListWhereItWas) {
     dirs.SetPath("/roms");
     dirs.onChange = Writes(log, "change");

@@ -42,6 +42,21 @@ TEST_F(SortedList, EqualRowsKeepTheirOrderOfArrival) {
     EXPECT_THAT(RowsOf(list), ElementsAre("A", "a", "A", "aa", "b", "B"));
 }
 
+TEST_F(SortedList, EqualRowsOfALongFillKeepTheirOrderOfArrival) {
+    std::vector<std::string> all;
+    for (int i = 0; i < 100; ++i) {
+        all.push_back(i % 3 == 0 ? "B" : "b");
+        all.push_back(i % 2 == 0 ? "A" : "a");
+    }
+    list.AddItems(all);
+    std::vector<std::string> expected;
+    for (std::size_t first : {1U, 0U}) {
+        for (std::size_t i = first; i < all.size(); i += 2)
+            expected.push_back(all[i]);
+    }
+    EXPECT_EQ(list.Rows(), expected);
+}
+
 TEST_F(SortedList, WithoutACollationRowsCompareByTheirBytes) {
     Form plain("Form2");
     ListBox bytes(&plain, "List1", ListControl::Order::sorted);
