@@ -81,7 +81,7 @@ void Form1::DesignLists() {
     Label3.SetCaption("Komplette Liste");
     Label4.SetCaption("Suchergebnisse");
     for (forms::Label* tab : {&Label1, &Label2, &Label3, &Label4}) {
-        tab->SetFont({"", 10, true});
+        tab->SetFont({"", 11, false});
         tab->SetTop(700);
         tab->SetAutoSize(true);
     }
@@ -160,10 +160,10 @@ void Form1::DesignCorner() {
     TopRightPic.Move(10900, 60, 3270, 960);
     TopRightPic.SetPicture({":/top-right", nullptr});
     TopRightPic.SetToolTipText("Double- click = minimize,  Alt + arrows = resize");
-    TitleStr.Move(60, 120, 1750, 300);
+    TitleStr.Move(60, 120, 1400, 300);
     TitleStr.SetFont({"", 9, false});
     TitleStr.SetCaption(defaultTitle);
-    TimeString.Move(1830, 60, 960, 420);
+    TimeString.Move(1500, 60, 1290, 420);
     TimeString.SetFont({"", 15, true});
     TimeString.SetAlignment(forms::Alignment::right);
     NormalMaxCapt.Move(2850, 90, 360, 360);

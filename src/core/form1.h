@@ -132,8 +132,9 @@ struct Form1 : forms::Form {
 
     forms::Color FavouritesColor = 0;    // back colour of FavoritenListe
     forms::Color EmulatorListColor = 0;  // back colour of EmulatorLongListbox
-    forms::Color EmuListboxBackColor = forms::Rgb(0xff, 0xff, 0xff);  // kept while the list is open
-    forms::Color EmuListboxForeColor = forms::Rgb(0, 0, 0);
+    // The drop-down's own colours while the choice is open.
+    forms::Color EmuListboxBackColor = 0;
+    forms::Color EmuListboxForeColor = 0;
     forms::Color FormBackColor = forms::Rgb(0x00, 0x52, 0xbc);
     forms::Color FormForeColor = forms::Rgb(0xff, 0xff, 0xff);
     std::string TitleString = defaultTitle;

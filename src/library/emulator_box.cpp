@@ -35,8 +35,11 @@ void EmulatorBox::Close() {
     if (form.EmuListbox.ListIndex() != form.EmuBoxIndexSaved)
         form.EmuListbox.SetListIndex(form.EmuBoxIndexSaved);
     form.EmuListLocked = false;
-    form.EmuListbox.SetBackColor(form.EmuListboxBackColor);
-    form.EmuListbox.SetForeColor(form.EmuListboxForeColor);
+    if (coloursKept) {
+        form.EmuListbox.SetBackColor(form.EmuListboxBackColor);
+        form.EmuListbox.SetForeColor(form.EmuListboxForeColor);
+        coloursKept = false;
+    }
     if (form.EmuListbox.ListIndex() >= 0) form.EmuListbox.SetText(form.EmuListbox.SelectedText());
     busy.HideAll(false);
     form.EmulatorLongListbox.SetVisible(false);
@@ -56,6 +59,11 @@ void EmulatorBox::Open() {
     hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
     hooks.ApplyListColors();
+    if (!coloursKept) {
+        form.EmuListboxBackColor = form.EmuListbox.BackColor();
+        form.EmuListboxForeColor = form.EmuListbox.ForeColor();
+        coloursKept = true;
+    }
     form.EmuListbox.SetBackColor(forms::Rgb(0, 0, 0));
     form.EmuListbox.SetForeColor(forms::Rgb(255, 255, 255));
     form.EmulatorLongListbox.SetForeColor(forms::Rgb(0, 0, 0));

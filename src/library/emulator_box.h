@@ -59,6 +59,7 @@ class EmulatorBox {
     core::BusyState& busy;
     bool showing = false;
     bool takingFocus = false;
+    bool coloursKept = false;  // the drop-down wears those of the open choice
 };
 
 }  // namespace kivu::library

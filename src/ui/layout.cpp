@@ -26,9 +26,7 @@ void Layout::Form_Resize() {
         ResizeSettingsWindow();
         form.TopRightPic.SetLeft(form.Width() - form.TopRightPic.Width() - 230);
         SetVorschau();
-        form.EmuListbox.SetWidth(form.EmulatorLongListbox.Visible()
-                                     ? form.EmulatorLongListbox.Width()
-                                     : static_cast<int>(220 * form.EmuListbox.FontSize()));
+        form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
         const int top = form.EmuListbox.Bottom() + 150;
         if (top == form.FavoritenListe.Top()) break;
         form.FavoritenListe.SetTop(top);
