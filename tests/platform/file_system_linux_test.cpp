@@ -311,10 +311,11 @@ TEST_F(FileSystemLinux, AWriteProtectedFileOrDirectoryIsLeftAlone) {
     EXPECT_TRUE(kivu::testing::HoldsForPlainUser([&] {
         return files.WriteFile(directory.Path("file"), "new") == std::errc::permission_denied;
     }));
-    ASSERT_EQ(::chmod(directory.Root().c_str(), 0755), 0);
+    ASSERT_EQ(::chmod(directory.Root().c_str(), 0555), 0);
     EXPECT_TRUE(kivu::testing::HoldsForPlainUser([&] {
         return files.WriteFile(directory.Path("new"), "new") == std::errc::permission_denied;
     }));
+    ASSERT_EQ(::chmod(directory.Root().c_str(), 0755), 0);
     EXPECT_EQ(directory.Read("file"), "old");
     EXPECT_EQ(directory.Count(), 1u);
 }

@@ -29,8 +29,12 @@ const std::string become = KIVU_HELPERS "/kivu_become";
 class ProcessListLinux : public ::testing::Test {
  protected:
     void TearDown() override {
-        for (const auto id : WithNamePart(unique))
-            ::kill(id, SIGKILL);
+        EXPECT_TRUE(kivu::testing::Eventually([&] {
+            const auto left = WithNamePart(unique);
+            for (const auto id : left)
+                ::kill(id, SIGKILL);
+            return left.empty();
+        }));
     }
 
     std::string Copy(const std::string& program, const std::string& name) {
