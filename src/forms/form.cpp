@@ -66,6 +66,12 @@ void Form::SetHasFrame(bool value) {
     Notify(Aspect::windowFrame);
 }
 
+void Form::SetToolWindow(bool value) {
+    if (toolWindow == value) return;
+    toolWindow = value;
+    Notify(Aspect::windowFrame);
+}
+
 void Form::SetTopmost(bool value) {
     if (topmost == value) return;
     topmost = value;

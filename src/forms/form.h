@@ -51,6 +51,9 @@ class Form : public Container {
     void SetCornerRadius(int pixels);
     bool HasFrame() const { return hasFrame; }
     void SetHasFrame(bool value);
+    // A tool window has no place in the system's list of windows.
+    bool IsToolWindow() const { return toolWindow; }
+    void SetToolWindow(bool value);
     bool IsTopmost() const { return topmost; }
     void SetTopmost(bool value);
     void BeginDrag();
@@ -77,6 +80,7 @@ class Form : public Container {
     Control* entered = nullptr;  // the focus, once its got-focus handler has been run
     int cornerRadius = 0;
     bool hasFrame = true;
+    bool toolWindow = true;
     bool topmost = false;
 };
 
