@@ -139,9 +139,7 @@ TEST(Inflate, WrongComplementIsKeptUntilALaterFailureReplacesIt) {
 
 TEST(Inflate, StoredBlockWithoutItsLengthsIsMalformed) {
     for (std::size_t bytes = 0; bytes < 4; ++bytes) {
-        Bytes input = {0};
-        input.resize(1 + bytes);
-        EXPECT_EQ(InflateTo(input, 10).result, InflateResult::Malformed) << bytes;
+        EXPECT_EQ(InflateTo(Bytes(1 + bytes, 0), 10).result, InflateResult::Malformed) << bytes;
     }
 }
 
@@ -152,7 +150,7 @@ TEST(Inflate, StoredBlockBeyondInputOrOutputStopsSilentlyAndCopiesNothing) {
     EXPECT_EQ(run.result, InflateResult::Good);
     EXPECT_EQ(run.bytes, (Bytes{1, 2}));
     Bytes cut = writer.Done();
-    cut.resize(cut.size() - 1);
+    cut.pop_back();
     run = InflateTo(cut, 1000);
     EXPECT_EQ(run.result, InflateResult::Good);
     EXPECT_EQ(run.bytes, (Bytes{1, 2}));

@@ -11,12 +11,12 @@ namespace kivu::png::testing {
 // DEFLATE streams written bit by bit, right ones and wrong ones.
 class BitWriter {
  public:
-    // Numbers enter with their low bit first.
+    // Numbers enter with their low bit first, and zeros behind 32 bits.
     BitWriter& Bits(unsigned value, unsigned count) {
         for (unsigned i = 0; i < count; ++i) {
             if (bitCount % 8 == 0) bytes.push_back(0);
-            bytes.back() =
-                static_cast<std::uint8_t>(bytes.back() | (value >> i & 1U) << bitCount % 8);
+            const unsigned bit = i < 32 ? value >> i & 1U : 0;
+            bytes.back() = static_cast<std::uint8_t>(bytes.back() | bit << bitCount % 8);
             ++bitCount;
         }
         return *this;

@@ -149,6 +149,23 @@ Bytes FilterRow(int filter, const Bytes& row, const Bytes& above, std::size_t st
     return filtered;
 }
 
+Bytes FilterAdaptively(const Bytes& row, const Bytes& above, std::size_t step) {
+    Bytes best;
+    long least = 0;
+    for (int filter = 0; filter <= 4; ++filter) {
+        Bytes filtered = FilterRow(filter, row, above, step);
+        long sum = 0;
+        for (std::size_t i = 1; i < filtered.size(); ++i) {
+            sum += std::min<int>(filtered[i], 256 - filtered[i]);
+        }
+        if (best.empty() || sum < least) {
+            least = sum;
+            best = std::move(filtered);
+        }
+    }
+    return best;
+}
+
 void AppendPass(Bytes& rows, const PngRecipe& recipe, const Samples& samples, Random& random,
                 const std::uint32_t (&pass)[4]) {
     if (pass[0] >= recipe.width) return;
@@ -156,9 +173,13 @@ void AppendPass(Bytes& rows, const PngRecipe& recipe, const Samples& samples, Ra
     Bytes above;
     for (std::uint32_t y = pass[1]; y < recipe.height; y += pass[3]) {
         const Bytes row = PackRow(recipe, samples, y, pass[0], pass[2]);
-        const int filter =
-            recipe.filter == mixedFilters ? static_cast<int>(random() % 5) : recipe.filter;
-        Append(rows, FilterRow(filter, row, above, step));
+        if (recipe.filter == adaptiveFilters) {
+            Append(rows, FilterAdaptively(row, above, step));
+        } else {
+            const int filter =
+                recipe.filter == mixedFilters ? static_cast<int>(random() % 5) : recipe.filter;
+            Append(rows, FilterRow(filter, row, above, step));
+        }
         above = row;
     }
 }

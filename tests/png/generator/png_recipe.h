@@ -19,8 +19,10 @@ enum class Content {
     Screenshot,
 };
 
-// Filter types 0 to 4, or one drawn for each row.
+// Filter types 0 to 4; one drawn for each row; or for each row the one with the least sum of
+// differences, which is what most programs do.
 inline constexpr int mixedFilters = 5;
+inline constexpr int adaptiveFilters = 6;
 
 // What a generated PNG file is to hold.
 struct PngRecipe {
