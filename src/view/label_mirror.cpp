@@ -35,7 +35,7 @@ class LabelWidget : public QWidget {
         const QColor back = ToQt(label.BackColor());
         const QColor window = ToQt(label.ParentForm()->BackColor());
         const bool tab = bool(label.onClick);
-        const bool marked = tab && back != window;
+        const bool marked = tab && (label.IsOpaque() || back != window);
         QColor text = ToQt(label.ForeColor());
         if (marked) {
             FillRounded(painter, rect(), cornerRadius, back);

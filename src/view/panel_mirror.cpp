@@ -35,7 +35,7 @@ class PanelWidget : public QWidget {
         if (const auto* frame = dynamic_cast<const forms::Frame*>(&control)) {
             if (!frame->Caption().empty()) DrawCaption(painter, ToQt(frame->Caption()));
         }
-        const auto fit = image ? PictureCache::Fit::stretch : PictureCache::Fit::cover;
+        const auto fit = PictureCache::Fit::stretch;
         const QPixmap& pixels = picture.Scaled(size() * devicePixelRatioF(), fit);
         if (!pixels.isNull()) {
             if (!isEnabled()) painter.setOpacity(0.5);

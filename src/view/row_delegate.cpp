@@ -9,7 +9,7 @@ namespace kivu::view {
 
 int RowHeight(const QFontMetrics& metrics) {
     // Air in proportion, but no gulfs between rows of 40 points.
-    return metrics.height() + qBound(6, metrics.height() / 3, 12);
+    return metrics.height() + qBound(8, metrics.height() / 2, 12);
 }
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {

@@ -98,8 +98,8 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         case SH_Widget_Animate:
         case SH_DitherDisabledText:
             return 0;
-        case SH_ScrollBar_LeftClickAbsolutePosition:
-            return 0;
+        case SH_UnderlineShortcut:
+            return 1;
         default:
             return QProxyStyle::styleHint(hint, option, widget, returned);
     }

@@ -50,7 +50,7 @@ void DrawField(QPainter& painter, const QStyleOption& option) {
 
 void DrawHairline(QPainter& painter, const QStyleOption& option) {
     const QColor back = option.palette.color(QPalette::Base);
-    FillRounded(painter, option.rect, cornerRadius, Qt::transparent, LineOn(back, 0.25));
+    FillRounded(painter, option.rect, cornerRadius, back, LineOn(back, 0.25));
 }
 
 void DrawButton(QPainter& painter, const QStyleOption& option) {
@@ -128,6 +128,7 @@ void DrawRadio(QPainter& painter, const QStyleOption& option) {
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& slider) {
+    painter.fillRect(bar.rect, bar.palette.color(QPalette::Base));
     if (bar.maximum <= bar.minimum) return;
     const bool upright = bar.orientation == Qt::Vertical;
     const bool held =
