@@ -68,9 +68,10 @@ std::string FindProgram(const std::string& name) {
     while (!name.empty() && !directories.empty()) {
         const auto colon = directories.find(':');
         const std::string candidate = std::string(directories.substr(0, colon)) + "/" + name;
-        // An empty entry would mean the current directory, which may hold anybody's files.
-        if (colon != 0 && IsRegularFile(candidate) && ::access(candidate.c_str(), X_OK) == 0)
-            return Absolute(candidate);
+        // A relative or empty entry means the current directory, which may hold anybody's files.
+        if (candidate.starts_with('/') && colon != 0 && IsRegularFile(candidate) &&
+            ::access(candidate.c_str(), X_OK) == 0)
+            return candidate;
         directories.remove_prefix(colon == std::string_view::npos ? directories.size() : colon + 1);
     }
     return {};
