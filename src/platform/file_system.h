@@ -11,14 +11,14 @@
 namespace kivu::platform {
 
 // The host's files. Paths are text as the launcher holds it (see support/text.h); a name keeps its
-// bytes on the way through. Nothing here throws: a failure is a value, and a failed write leaves the
-// old file as it was.
+// bytes on the way through. Nothing here throws: a failure is a value, and a failed write leaves
+// the old file as it was.
 class FileSystem {
  public:
     virtual ~FileSystem() = default;
 
     struct Entry {
-        std::string name;       // without its directory
+        std::string name;  // without its directory
         bool isDirectory = false;
     };
 
@@ -32,7 +32,8 @@ class FileSystem {
     virtual bool FileExists(const std::string& path) const = 0;
     virtual bool IsDirectory(const std::string& path) const = 0;
 
-    // One value per directory, whatever path leads to it, so that a walk enters it once. 0: unknown.
+    // One value per directory, whatever path leads to it, so that a walk enters it once. 0:
+    // unknown.
     struct Identity {
         std::uint64_t device = 0;
         std::uint64_t inode = 0;
@@ -50,13 +51,22 @@ class FileSystem {
     virtual std::error_code WriteFile(const std::string& path, std::string_view bytes) = 0;
     virtual std::error_code AppendFile(const std::string& path, std::string_view bytes) = 0;
     virtual std::error_code DeleteFile(const std::string& path) = 0;
+    // Fails where the destination exists already.
+    virtual std::error_code MoveFile(const std::string&, const std::string&) {
+        return std::make_error_code(std::errc::not_supported);
+    }
+    // When the file was made, in seconds since 1970 (UTC); the host's last change of it where it
+    // does not know. Empty: there is no such file.
+    virtual std::optional<std::int64_t> CreationTime(const std::string&) const {
+        return std::nullopt;
+    }
     virtual std::error_code MakeDirectory(const std::string& path) = 0;
 
     virtual std::string CurrentDirectory() const = 0;
     virtual std::error_code ChangeDirectory(const std::string& path) = 0;
 
-    // The host's short (8.3) and long form of an existing path; empty when there is no answer. A host
-    // without short names gives the path without enclosing quotes.
+    // The host's short (8.3) and long form of an existing path; empty when there is no answer. A
+    // host without short names gives the path without enclosing quotes.
     virtual std::string ShortPathName(const std::string& path) const = 0;
     virtual std::string LongPathName(const std::string& path) const = 0;
 

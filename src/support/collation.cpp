@@ -1,6 +1,8 @@
 #include "support/collation.h"
 
+#include <algorithm>
 #include <array>
+#include <bit>
 #include <cstdint>
 #include <cstring>
 
@@ -183,33 +185,54 @@ int CompareBeyondAscii(std::string_view a, std::string_view b) {
     return order == 0 ? CompareFolded(a, b) : order;
 }
 
-// Length of the common start that is ASCII in both, a multiple of 8: paths begin alike.
-std::size_t CommonAsciiStart(std::string_view a, std::string_view b) {
-    const std::size_t shorter = a.size() < b.size() ? a.size() : b.size();
+// Place of the first byte in which two words from memory differ.
+std::size_t FirstDifference(std::uint64_t a, std::uint64_t b) {
+    const int bits = std::endian::native == std::endian::little ? std::countr_zero(a ^ b)
+                                                                : std::countl_zero(a ^ b);
+    return static_cast<std::size_t>(bits) / 8;
+}
+
+// What two texts come to as far as they are ASCII.
+struct AsciiStart {
+    int order = 0;              // not 0: it is decided
+    std::size_t undecided = 0;  // up to here they are equal on every level
+};
+
+// Eight bytes at a step: paths begin alike.
+AsciiStart CompareAsciiWords(std::string_view a, std::string_view b) {
+    const std::size_t shorter = std::min(a.size(), b.size());
     std::size_t at = 0;
-    for (; at + 8 <= shorter; at += 8) {
+    while (shorter - at >= 8) {
         std::uint64_t wordA = 0;
         std::uint64_t wordB = 0;
         std::memcpy(&wordA, a.data() + at, 8);
         std::memcpy(&wordB, b.data() + at, 8);
-        if (wordA != wordB || (wordA & 0x8080808080808080U) != 0) break;
+        if (((wordA | wordB) & 0x8080808080808080U) != 0) break;
+        if (wordA == wordB) {
+            at += 8;
+            continue;
+        }
+        at += FirstDifference(wordA, wordB);
+        const int order = int{AsciiWeight(a[at])} - int{AsciiWeight(b[at])};
+        if (order != 0) return {order, at};
+        ++at;
     }
-    return at;
+    return {0, at};
 }
 
 }  // namespace
 
 int CompareText(std::string_view a, std::string_view b) {
-    const std::size_t shorter = a.size() < b.size() ? a.size() : b.size();
-    for (std::size_t at = CommonAsciiStart(a, b); at < shorter; ++at) {
+    const AsciiStart start = CompareAsciiWords(a, b);
+    // A combining mark may follow, but it never outweighs a difference on the first level.
+    if (start.order != 0) return start.order;
+    const std::size_t shorter = std::min(a.size(), b.size());
+    for (std::size_t at = start.undecided; at < shorter; ++at) {
         const std::uint8_t weightA = AsciiWeight(a[at]);
         const std::uint8_t weightB = AsciiWeight(b[at]);
         // What is behind here decides alone: all before it is equal on every level.
         if (weightA == 0 || weightB == 0) return CompareBeyondAscii(a.substr(at), b.substr(at));
-        if (weightA != weightB) {
-            // A combining mark may follow, but it never outweighs a difference on the first level.
-            return weightA < weightB ? -1 : 1;
-        }
+        if (weightA != weightB) return weightA < weightB ? -1 : 1;
     }
     return static_cast<int>(a.size() > shorter) - static_cast<int>(b.size() > shorter);
 }

@@ -17,6 +17,8 @@ class FastListFill {
     FastListFill(const FastListFill&) = delete;
     FastListFill& operator=(const FastListFill&) = delete;
 
+    // Room for so many rows, to spare a long fill the moves.
+    void Reserve(std::size_t count) { rows.reserve(count); }
     // False: the text is empty, or the fill has ended.
     bool Add(std::string text) {
         if (text.empty() || !list) return false;

@@ -75,6 +75,13 @@ class FaultyFileSystem : public platform::FileSystem {
         if (const auto failure = Fault(Step::Change, path)) return failure;
         return inner.DeleteFile(path);
     }
+    std::error_code MoveFile(const std::string& from, const std::string& to) override {
+        if (const auto failure = Fault(Step::Change, from)) return failure;
+        return inner.MoveFile(from, to);
+    }
+    std::optional<std::int64_t> CreationTime(const std::string& path) const override {
+        return inner.CreationTime(path);
+    }
     std::error_code MakeDirectory(const std::string& path) override {
         if (const auto failure = Fault(Step::Change, path)) return failure;
         return inner.MakeDirectory(path);

@@ -4,6 +4,7 @@
 #include <cstdlib>
 #include <dirent.h>
 #include <fcntl.h>
+#include <filesystem>
 #include <new>
 #include <sys/stat.h>
 
@@ -186,6 +187,26 @@ std::error_code LinuxFileSystem::DeleteFile(const std::string& path) {
     if (!Usable(path)) return Unusable();
     if (::unlink(path.c_str()) != 0) return LastError();
     return {};
+}
+
+std::error_code LinuxFileSystem::MoveFile(const std::string& from, const std::string& to) {
+    if (!Usable(from) || !Usable(to)) return Unusable();
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
+    if (errno != EXDEV) return LastError();
+    // To another disk a file is copied; the source goes only when the copy is whole.
+    std::error_code failure;
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::none, failure);
+    if (failure) return failure;
+    return DeleteFile(from);
+}
+
+std::optional<std::int64_t> LinuxFileSystem::CreationTime(const std::string& path) const {
+    struct statx status {};
+    if (!Usable(path) ||
+        ::statx(AT_FDCWD, path.c_str(), 0, STATX_BTIME | STATX_MTIME, &status) != 0) {
+        return std::nullopt;
+    }
+    return (status.stx_mask & STATX_BTIME) != 0 ? status.stx_btime.tv_sec : status.stx_mtime.tv_sec;
 }
 
 std::error_code LinuxFileSystem::MakeDirectory(const std::string& path) {

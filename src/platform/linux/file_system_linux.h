@@ -38,6 +38,8 @@ class LinuxFileSystem : public FileSystem {
     // Deletes a link itself and not its target. A directory is an error.
     std::error_code DeleteFile(const std::string& path) override;
     // One level. A directory that is there already is no error.
+    std::error_code MoveFile(const std::string& from, const std::string& to) override;
+    std::optional<std::int64_t> CreationTime(const std::string& path) const override;
     std::error_code MakeDirectory(const std::string& path) override;
 
     std::string CurrentDirectory() const override;

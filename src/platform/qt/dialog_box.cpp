@@ -90,7 +90,7 @@ void DialogBox::SetText(const QString& text) {
         label->fontMetrics().boundingRect({0, 0, 1 << 20, 1 << 20}, 0, lines).width();
     const int width = std::min(wanted + 8, widest);
     label->setMinimumWidth(width);
-    const int height = label->heightForWidth(width);
+    const int height = std::max(0, label->heightForWidth(width));
     const QScreen* screen = QGuiApplication::primaryScreen();
     const int room = screen ? screen->availableSize().height() * 3 / 5 : 600;
     if (height <= room) {

@@ -1,0 +1,95 @@
+#include "support/files.h"
+
+#include <cstdlib>
+
+#include "support/file_ops.h"
+#include "support/path_forms.h"
+#include "support/string_ops.h"
+#include "support/text.h"
+
+namespace kivu::support {
+
+namespace {
+
+constexpr const char* currentVersion =
+    "HKEY_LOCAL_MACHINE\\Software\\Microsoft\\Windows\\CurrentVersion\\";
+constexpr const char* shellFolders =
+    "HKEY_USERS\\.DEFAULT\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell "
+    "Folders\\";
+
+std::optional<std::string> Environment(const std::string& name) {
+    const char* value = std::getenv(name.c_str());
+    return value ? std::optional<std::string>(value) : std::nullopt;
+}
+
+}  // namespace
+
+std::optional<std::int64_t> Files::getFileDate(const std::string& FullPath) const {
+    return services.files.CreationTime(FullPath);
+}
+
+bool Files::FileMove(const std::string& Source, const std::string& Destination, bool Overwrite) {
+    if (Source.empty() || Destination.empty()) {
+        services.dialogs.MessageBox("File Move without parameter\r\nDestination:" + Destination,
+                                    "FileMove", platform::Buttons::Ok, platform::Icon::None);
+    }
+    platform::FileSystem& files = services.files;
+    if (Overwrite && files.FileExists(Source) && files.FileExists(Destination)) {
+        (void)files.DeleteFile(Destination);
+    }
+    if (files.FileExists(Source) && !files.FileExists(Destination))
+        (void)files.MoveFile(Source, Destination);
+    return files.FileExists(Destination) && !files.FileExists(Source);
+}
+
+std::string Files::RegistryGetAbsolutValue(const std::string& RegistryKeyPath) const {
+    const auto path = SplitRegistryPath(RegistryKeyPath);
+    return path ? services.store.SystemValue(path->root, path->keyPath, path->valueName)
+                : std::string{};
+}
+
+std::string Files::FolderValue(const std::string& path) const {
+    return ExpandUserProfile(RegistryGetAbsolutValue(path), Environment);
+}
+
+std::string Files::GetWindowsPath() const {
+    return FolderValue(std::string(currentVersion) + "SystemRoot");
+}
+
+std::string Files::GetProgramfilesPath() const {
+    return FolderValue(std::string(currentVersion) + "ProgramfilesPath");
+}
+
+std::string Files::GetDesktopPath() const {
+    return FolderValue(std::string(shellFolders) + "Desktop");
+}
+
+std::string Files::GetAutostartPath() const {
+    return FolderValue(std::string(shellFolders) + "startup");
+}
+
+std::string Files::GetStartMenuPath() const {
+    return FolderValue(std::string(shellFolders) + "Start Menu");
+}
+
+std::string Files::FileGetShortFileName(const std::string& FullPath) const {
+    return ShortFileName(services.files, FullPath);
+}
+
+std::string Files::FileGetLongFileName(const std::string& FullPath) const {
+    return LongFileName(services.files, FullPath);
+}
+
+bool Files::FileRun(const std::string& FullPath) {
+    if (!services.files.FileExists(FullPath)) return false;
+    const std::string name = ToLower(FullPath);
+    if (!name.ends_with(".exe") && !name.ends_with(".com") && !name.ends_with(".bat")) {
+        return !services.starter.Open(FullPath);
+    }
+    platform::StartRequest request;
+    request.command = QuoteIfNeeded(FullPath);
+    request.words = {FullPath};
+    return !services.starter.Run(request);
+}
+
+}  // namespace kivu::support

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "platform/desktop.h"
+#include "platform/file_system.h"
+#include "platform/program_starter.h"
+
+namespace kivu::support {
+
+// Small services of the file dialogs' window: dates, moves, the system's own folders, running a
+// file. A failure gives the empty text, nothing, or false.
+class Files {
+ public:
+    struct Services {
+        platform::FileSystem& files;
+        platform::UserStore& store;
+        platform::ProgramStarter& starter;
+        platform::Dialogs& dialogs;
+    };
+
+    explicit Files(Services services) : services(services) {}
+
+    // When the file was made, in seconds since 1970 (UTC).
+    std::optional<std::int64_t> getFileDate(const std::string& FullPath) const;
+    // True when the destination is there and the source is gone. An empty parameter is told to the
+    // user.
+    bool FileMove(const std::string& Source, const std::string& Destination, bool Overwrite);
+    // A value of the system's registry by its full path, such as
+    // "HKEY_LOCAL_MACHINE\Software\...\SystemRoot". The user's directory stands for what is between
+    // "%".
+    std::string RegistryGetAbsolutValue(const std::string& RegistryKeyPath) const;
+    std::string GetWindowsPath() const;
+    std::string GetProgramfilesPath() const;
+    std::string GetDesktopPath() const;
+    std::string GetAutostartPath() const;
+    std::string GetStartMenuPath() const;
+    std::string FileGetShortFileName(const std::string& FullPath) const;
+    std::string FileGetLongFileName(const std::string& FullPath) const;
+    // Programs and batch files run by themselves, any other file by the program that it belongs to.
+    bool FileRun(const std::string& FullPath);
+
+ private:
+    std::string FolderValue(const std::string& path) const;
+
+    Services services;
+};
+
+}  // namespace kivu::support

@@ -1,0 +1,116 @@
+#include "support/files.h"
+
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <map>
+
+#include "testing/memory_file_system.h"
+
+namespace kivu::support {
+namespace {
+
+class RecordingHost : public platform::UserStore,
+                      public platform::ProgramStarter,
+                      public platform::Dialogs {
+ public:
+    std::string Get(const std::string&, const std::string&,
+                    const std::string& missing) const override {
+        return missing;
+    }
+    void Set(const std::string&, const std::string&, const std::string&) override {}
+    std::string SystemValue(const std::string& root, const std::string& key,
+                            const std::string& name) const override {
+        const auto found = values.find(root + "|" + key + "|" + name);
+        return found == values.end() ? std::string{} : found->second;
+    }
+    std::error_code Run(const platform::StartRequest& request) override {
+        runs.push_back(request.command);
+        return {};
+    }
+    bool UsesShell() const override { return false; }
+    std::error_code Open(const std::string& path) override {
+        opened.push_back(path);
+        return {};
+    }
+    platform::Answer MessageBox(const std::string& text, const std::string&, platform::Buttons,
+                                platform::Icon) override {
+        boxes.push_back(text);
+        return platform::Answer::Ok;
+    }
+    std::string InputBox(const std::string&, const std::string&, const std::string&) override {
+        return {};
+    }
+
+    std::map<std::string, std::string> values;
+    std::vector<std::string> runs, opened, boxes;
+};
+
+class FilesTest : public ::testing::Test {
+ protected:
+    void Put(const std::string& path) { disk.AddFile(path, path); }
+
+    kivu::testing::MemoryFileSystem disk;
+    RecordingHost host;
+    Files files{{disk, host, host, host}};
+};
+
+TEST_F(FilesTest, MovesAFileAndSaysThatItIsThere) {
+    Put("/a.txt");
+    EXPECT_TRUE(files.FileMove("/a.txt", "/b.txt", false));
+    EXPECT_FALSE(disk.FileExists("/a.txt"));
+    EXPECT_EQ(disk.ReadFile("/b.txt"), "/a.txt");
+}
+
+TEST_F(FilesTest, ReplacesADestinationOnlyWhenTold) {
+    Put("/a.txt");
+    Put("/b.txt");
+    EXPECT_FALSE(files.FileMove("/a.txt", "/b.txt", false));
+    EXPECT_EQ(disk.ReadFile("/b.txt"), "/b.txt");
+    EXPECT_TRUE(disk.FileExists("/a.txt"));
+    EXPECT_TRUE(files.FileMove("/a.txt", "/b.txt", true));
+    EXPECT_EQ(disk.ReadFile("/b.txt"), "/a.txt");
+}
+
+TEST_F(FilesTest, KeepsTheDestinationWhenTheSourceIsMissing) {
+    Put("/b.txt");
+    EXPECT_FALSE(files.FileMove("/a.txt", "/b.txt", true) && !disk.FileExists("/b.txt"));
+    EXPECT_EQ(disk.ReadFile("/b.txt"), "/b.txt");
+}
+
+TEST_F(FilesTest, TellsOfAnEmptyParameter) {
+    EXPECT_FALSE(files.FileMove("", "/b.txt", true));
+    EXPECT_EQ(host.boxes,
+              std::vector<std::string>{"File Move without parameter\r\nDestination:/b.txt"});
+}
+
+TEST_F(FilesTest, SplitsARegistryPathIntoRootKeyAndValue) {
+    host.values["HKEY_CURRENT_USER|Software\\Some|Name"] = "x";
+    EXPECT_EQ(files.RegistryGetAbsolutValue("HKEY_CURRENT_USER\\Software\\Some\\Name"), "x");
+    EXPECT_EQ(files.RegistryGetAbsolutValue("HKEY_NOBODY\\Software\\Some\\Name"), "");
+    EXPECT_EQ(files.RegistryGetAbsolutValue("without a backslash"), "");
+}
+
+TEST_F(FilesTest, PutsTheUsersDirectoryIntoAFolder) {
+    host.values
+        ["HKEY_USERS|.DEFAULT\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell "
+         "Folders|Desktop"] = "%USERPROFILE%\\Desktop";
+    ::setenv("USERPROFILE", "C:\\Users\\me", 1);
+    EXPECT_EQ(files.GetDesktopPath(), "C:\\Users\\me\\Desktop");
+    ::unsetenv("USERPROFILE");
+    EXPECT_EQ(files.GetStartMenuPath(), "");
+}
+
+TEST_F(FilesTest, RunsProgramsAndBatchFilesThemselves) {
+    Put("/x/Tool.EXE");
+    Put("/x/a b.bat");
+    Put("/x/read me.txt");
+    EXPECT_TRUE(files.FileRun("/x/Tool.EXE"));
+    EXPECT_TRUE(files.FileRun("/x/a b.bat"));
+    EXPECT_TRUE(files.FileRun("/x/read me.txt"));
+    EXPECT_FALSE(files.FileRun("/x/missing.exe"));
+    EXPECT_EQ(host.runs, (std::vector<std::string>{"/x/Tool.EXE", "\"/x/a b.bat\""}));
+    EXPECT_EQ(host.opened, std::vector<std::string>{"/x/read me.txt"});
+}
+
+}  // namespace
+}  // namespace kivu::support
