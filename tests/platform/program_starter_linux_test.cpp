@@ -248,7 +248,7 @@ TEST_F(ProgramStarterLinux, ABareNameIsLookedUpInThePathAndNeverInTheCurrentDire
     fs::create_directory(directory.Path("bin"));
     fs::create_directories(directory.Path("other/kivu-tool"));
     fs::copy_file(surroundings, directory.Path("bin/kivu-tool"));
-    const EnvironmentVariable path("PATH", ":" + directory.Path("other") +
+    const EnvironmentVariable path("PATH", ":.:" + directory.Path("other") +
                                                "::" + directory.Path("missing") + ":" +
                                                directory.Path("bin"));
     EXPECT_EQ(FindProgram("kivu-tool"), directory.Path("bin/kivu-tool"));
