@@ -166,6 +166,7 @@ std::vector<Sample> MakeSamples(const std::filesystem::path& directory) {
     PngRecipe palette = photo;
     palette.colorType = 3;
     palette.filter = 0;
+    palette.paletteEntries = 64;
     PngRecipe alpha = photo;
     alpha.colorType = 6;
     PngRecipe interlaced = photo;

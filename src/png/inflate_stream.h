@@ -26,6 +26,12 @@ struct BitStream {
 
     // To between 56 and 63 bits, or to all that are left.
     void Refill() {
+        if (InputLeft() >= 8) {
+            bits |= LoadWord<std::uint64_t>(in) << count;
+            in += (63 - count) / 8;
+            count |= 56;
+            return;
+        }
         while (count < 56 && in < inEnd) {
             bits |= std::uint64_t{*in++} << count;
             count += 8;

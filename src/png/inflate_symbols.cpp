@@ -6,10 +6,10 @@
 namespace kivu::png {
 namespace {
 
-// One round of the wide loop loads two words, and writes up to three literals and the longest
-// match, whose last store overshoots by less than 32 bytes.
+// One round of the wide loop loads two words, and writes up to four literals, or three and the
+// longest match, whose last store overshoots by less than 32 bytes.
 constexpr std::size_t inputMargin = 16;
-constexpr std::size_t outputMargin = 3 + 258 + 32;
+constexpr std::size_t outputMargin = 4 + 258 + 32;
 
 // For a distance below 8 the 8 bytes of a store repeat the pattern, and the step between stores is
 // the greatest multiple of the distance that fits into them.
@@ -17,6 +17,32 @@ constexpr std::uint8_t patternStep[8] = {8, 8, 8, 6, 8, 5, 6, 7};
 
 inline std::uint64_t LowBits(std::uint64_t bits, unsigned number) {
     return bits & ((std::uint64_t{1} << number) - 1);
+}
+
+// Repeats the distance (1 to 8) bytes at from.
+inline void CopyPattern(std::uint8_t* out, const std::uint8_t* end, const std::uint8_t* from,
+                        std::size_t distance) {
+    const unsigned period = static_cast<unsigned>(distance) * 8;
+    std::uint64_t pattern = LoadWord<std::uint64_t>(from) << (64 - period) >> (64 - period);
+    for (unsigned filled = period; filled < 64; filled *= 2) {
+        pattern |= pattern << filled;
+    }
+    if (64 % period == 0) {
+        do {
+            StoreWord(out, pattern);
+            StoreWord(out + 8, pattern);
+            StoreWord(out + 16, pattern);
+            StoreWord(out + 24, pattern);
+            out += 32;
+        } while (out < end);
+        return;
+    }
+    const unsigned step = patternStep[distance];
+    do {
+        StoreWord(out, pattern);
+        StoreWord(out + step, pattern);
+        out += 2 * step;
+    } while (out < end);
 }
 
 // Copies the match to out up to end at least, and up to 31 bytes beyond.
@@ -29,22 +55,14 @@ inline void CopyMatch(std::uint8_t* out, const std::uint8_t* end, std::size_t di
             out += 32;
             from += 32;
         } while (out < end);
-    } else if (distance >= 8) {
+    } else if (distance > 8) {
         do {
             StoreWord(out, LoadWord<std::uint64_t>(from));
             out += 8;
             from += 8;
         } while (out < end);
     } else {
-        const unsigned period = static_cast<unsigned>(distance) * 8;
-        std::uint64_t pattern = LowBits(LoadWord<std::uint64_t>(from), period);
-        for (unsigned filled = period; filled < 64; filled *= 2) {
-            pattern |= pattern << filled;
-        }
-        do {
-            StoreWord(out, pattern);
-            out += patternStep[distance];
-        } while (out < end);
+        CopyPattern(out, end, from, distance);
     }
 }
 
@@ -113,22 +131,25 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
 
     refill();
     DecodeEntry entry = literalTable[LowBits(bits, literalBits)];
+    // Stores the literal of the entry and looks the next one up.
+    const auto literal = [&] {
+        take(entry);
+        *out++ = static_cast<std::uint8_t>(EntryValue(entry));
+        entry = literalTable[LowBits(bits, literalBits)];
+    };
     while (in <= inLast && out <= outLast) {
         refill();
-        // Two literals of the root table leave at least 34 of the 56 bits.
+        // Three literals of the root table leave at least 23 of the 56 bits, enough for a length.
         if (entry & literalFlag) {
-            take(entry);
-            *out++ = static_cast<std::uint8_t>(EntryValue(entry));
-            entry = literalTable[LowBits(bits, literalBits)];
+            literal();
             if (entry & literalFlag) {
-                take(entry);
-                *out++ = static_cast<std::uint8_t>(EntryValue(entry));
-                entry = literalTable[LowBits(bits, literalBits)];
+                literal();
                 if (entry & literalFlag) {
-                    take(entry);
-                    *out++ = static_cast<std::uint8_t>(EntryValue(entry));
-                    entry = literalTable[LowBits(bits, literalBits)];
-                    continue;
+                    literal();
+                    if (entry & literalFlag) {
+                        literal();
+                        continue;
+                    }
                 }
             }
         }
@@ -137,9 +158,7 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
                 take(entry);
                 entry = inSubTable(literalTable, entry);
                 if (entry & literalFlag) {
-                    take(entry);
-                    *out++ = static_cast<std::uint8_t>(EntryValue(entry));
-                    entry = literalTable[LowBits(bits, literalBits)];
+                    literal();
                     continue;
                 }
             }
@@ -152,7 +171,10 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
         const std::size_t length =
             EntryValue(entry) + (LowBits(bits, EntryBits(entry)) >> EntryCodeBits(entry));
         take(entry);
-        refill();
+        // A distance takes up to 28 bits. They are nearly always there, and not to wait for the
+        // refill shortens the longest chain of the loop.
+        if ((count & 63) < 28) [[unlikely]]
+            refill();
         entry = distanceTable[LowBits(bits, distanceBits)];
         if (entry & specialFlag) {
             if (entry & pointerFlag) {

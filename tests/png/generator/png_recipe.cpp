@@ -83,8 +83,10 @@ Samples DrawSamples(const PngRecipe& recipe) {
                     value = ScreenshotSample(x, y, channel, recipe.seed);
                 }
                 value = value >> (16 - recipe.depth) & mask;
-                // Noise may hold all values; an index must stay within the palette.
-                if (recipe.colorType == 3) value %= static_cast<unsigned>(recipe.paletteEntries);
+                // An index must stay within the palette.
+                if (recipe.colorType == 3) {
+                    value = static_cast<unsigned>(value * recipe.paletteEntries >> recipe.depth);
+                }
                 samples.values.push_back(static_cast<std::uint16_t>(value));
             }
         }
