@@ -100,6 +100,10 @@ void Control::BringToFront() {
     Notify(Aspect::zOrder);
 }
 
+void Control::StartDrag() {
+    if (form) form->SetDragged(this);
+}
+
 void Control::SetFocus() {
     if (form && TakesFocus() && IsReachable()) form->MoveFocus(this);
 }

@@ -85,12 +85,19 @@ class Control {
     const Picture& GetPicture() const { return picture; }
     void SetPicture(Picture value);
     void BringToFront();
+    // What the program wants to know the control by, whatever its name.
+    const std::string& Tag() const { return tag; }
+    void SetTag(std::string value) { tag = std::move(value); }
 
     // True: the user and the program can give it the focus.
     virtual bool TakesFocus() const { return false; }
     // No effect on a control that does not take it or cannot be reached.
     void SetFocus();
     bool HasFocus() const;
+
+    // In a mouse-down handler: the control follows the mouse until its button comes up, and is then
+    // dropped on what lies there.
+    void StartDrag();
 
     // The user's click, also from the program where a routine acts as the user would.
     void Click() { Run(onClick); }
@@ -106,6 +113,9 @@ class Control {
     std::function<void(const Mouse&)> onMouseMove;
     std::function<void(const Mouse&)> onMouseUp;
     std::function<void()> onResize;
+    // A control is dragged over this one, or dropped on it. Twips from this control's edges.
+    std::function<void(Control& source, int x, int y)> onDragOver;
+    std::function<void(Control& source, int x, int y)> onDragDrop;
 
  protected:
     void Notify(Aspect aspect);
@@ -135,6 +145,7 @@ class Control {
     Color backColor = Rgb(0x00, 0x52, 0xbc);
     Color foreColor = Rgb(0xff, 0xff, 0xff);
     std::string toolTipText;
+    std::string tag;
     Picture picture;
 };
 

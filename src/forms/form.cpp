@@ -82,6 +82,11 @@ void Form::BeginDrag() {
     if (observer) observer->DragWindow();
 }
 
+void Form::SetDragged(Control* value) {
+    dragged = value;
+    if (value) draggedFrom = {value->Left(), value->Top()};
+}
+
 bool Form::RequestClose() {
     bool cancel = false;
     Run(onQueryClose, cancel);

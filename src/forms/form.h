@@ -58,6 +58,9 @@ class Form : public Container {
     void SetTopmost(bool value);
     void BeginDrag();
 
+    // The control that follows the mouse until its button comes up, null for none.
+    Control* Dragged() const { return dragged; }
+
     // The window manager's close request. True: nobody objected.
     bool RequestClose();
 
@@ -69,7 +72,10 @@ class Form : public Container {
 
  private:
     friend class Control;
+    friend class UserInput;
     void DropUnreachableFocus();
+    void SetDragged(Control* value);
+    Point DraggedFrom() const { return draggedFrom; }
 
     Toolkit toolkit;
     Observer* observer = nullptr;
@@ -78,6 +84,8 @@ class Form : public Container {
     WindowState state = WindowState::normal;
     Control* focus = nullptr;
     Control* entered = nullptr;  // the focus, once its got-focus handler has been run
+    Control* dragged = nullptr;
+    Point draggedFrom;  // its place when the mouse went down
     int cornerRadius = 0;
     bool hasFrame = true;
     bool toolWindow = true;

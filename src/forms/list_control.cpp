@@ -43,7 +43,8 @@ void ListControl::PlaceNewRows() const {
     std::vector<std::string> added(std::make_move_iterator(middle),
                                    std::make_move_iterator(rows.end()));
     const auto before = [this](const std::string& a, const std::string& b) { return Before(a, b); };
-    const int oldSelected = selected;
+    std::vector<int> places;
+    places.reserve(added.size());
     auto unmoved = middle;
     while (!added.empty()) {
         const auto place = std::upper_bound(first, unmoved, added.back(), before);
@@ -51,9 +52,11 @@ void ListControl::PlaceNewRows() const {
         std::move_backward(place, unmoved, unmoved + count);
         *(place + count - 1) = std::move(added.back());
         added.pop_back();
-        if (place - first <= oldSelected) ++selected;
+        places.push_back(static_cast<int>(place - first));
         unmoved = place;
     }
+    std::reverse(places.begin(), places.end());
+    selection.RowsInserted(places);
 }
 
 const std::string& ListControl::List(int row) const {
@@ -95,46 +98,74 @@ void ListControl::RemoveItem(int row) {
     Settle();
     rows.erase(rows.begin() + row);
     settled = rows.size();
-    const bool deselected = selected == row;
-    if (deselected) {
-        selected = -1;
-    } else if (selected > row) {
-        --selected;
-    }
+    const bool deselected = selection.RowRemoved(row);
     Notify(Aspect::rows);
     if (deselected) Notify(Aspect::selection);
 }
 
 void ListControl::Clear() {
-    if (rows.empty() && selected == -1) return;
+    if (rows.empty()) return;
     rows.clear();
     settled = 0;
-    const bool deselected = std::exchange(selected, -1) != -1;
+    const bool deselected = selection.Clear();
     Notify(Aspect::rows);
     if (deselected) Notify(Aspect::selection);
 }
 
 int ListControl::ListIndex() const {
     Settle();
-    return selected;
+    return selection.Current();
 }
 
 void ListControl::SetListIndex(int row) {
     if (row < -1 || row >= ListCount() || row == ListIndex()) return;
-    selected = row;
+    selection.Choose(row);
     TakeSelection();
     Notify(Aspect::selection);
     Run(onClick);
 }
 
-void ListControl::ClickRow(int row) {
+void ListControl::ClickRow(int row, Choice choice) {
     if (row < 0 || row >= ListCount()) return;
-    if (row != ListIndex()) {
+    Settle();
+    const bool changed = selection.Choose(row, multiSelect ? choice : Choice::only);
+    TakeSelection();
+    if (changed) Notify(Aspect::selection);
+    Run(onClick);
+}
+
+void ListBox::SetMultiSelect(bool value) {
+    if (multiSelect == value) return;
+    multiSelect = value;
+    if (!value && selection.Choose(ListIndex())) Notify(Aspect::selection);
+}
+
+bool ListBox::Selected(int row) const {
+    const std::vector<int>& chosen = SelectedRows();
+    return std::binary_search(chosen.begin(), chosen.end(), row);
+}
+
+void ListBox::SetSelected(int row, bool value) {
+    if (!multiSelect || row < 0 || row >= ListCount()) return;
+    (void)SelectedRows();
+    if (selection.Mark(row, value)) Notify(Aspect::selection);
+}
+
+const std::vector<int>& ListBox::SelectedRows() const {
+    // New rows of a sorted list move the chosen ones when they find their places.
+    (void)ListIndex();
+    return selection.Rows();
+}
+
+void ListBox::MoveCurrentRow(int row) {
+    if (row < 0 || row >= ListCount() || row == ListIndex()) return;
+    if (!multiSelect) {
         SetListIndex(row);
-    } else {
-        TakeSelection();
-        Run(onClick);
+        return;
     }
+    selection.MoveCurrent(row);
+    Notify(Aspect::selection);
+    Run(onClick);
 }
 
 ComboBox::ComboBox(Container* parent, std::string name, Order order, int index)

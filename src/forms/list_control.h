@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/control.h"
+#include "forms/row_selection.h"
 #include "forms/text_field.h"
 
 namespace kivu::forms {
@@ -44,12 +45,16 @@ class ListControl : public Control {
     void SetListIndex(int row);
     // Text of the selected row.
     const std::string& SelectedText() const { return List(ListIndex()); }
-    // The user's click on a row: runs the click handler on the selected row too.
-    void ClickRow(int row);
+    // The user's click on a row: runs the click handler on the selected row too. Other choices than
+    // the row alone are for a list in which several rows can be chosen.
+    void ClickRow(int row, Choice choice = Choice::only);
 
  protected:
     // The selected row is a new one, or has been clicked again.
     virtual void TakeSelection() {}
+    // Several rows can be chosen.
+    bool multiSelect = false;
+    mutable RowSelection selection;
 
  private:
     void Settle() const;
@@ -59,7 +64,6 @@ class ListControl : public Control {
     Order order;
     mutable std::vector<std::string> rows;
     mutable std::size_t settled = 0;  // so many rows at the front are in order
-    mutable int selected = -1;
 };
 
 class ListBox : public ListControl {
@@ -67,6 +71,22 @@ class ListBox : public ListControl {
     using ListControl::ListControl;
     Kind GetKind() const override { return Kind::listBox; }
     bool TakesFocus() const override { return true; }
+
+    // With it several rows can be chosen, and the selected row is the one among all that stands out
+    // as current; selecting one takes the others' marks away. Switching it off leaves the selected
+    // row chosen alone.
+    bool MultiSelect() const { return multiSelect; }
+    void SetMultiSelect(bool value);
+    bool Selected(int row) const;
+    // Chooses a row, or no longer, and runs nothing; the selected row stays. No effect without
+    // MultiSelect and on a row out of range.
+    void SetSelected(int row, bool value);
+    int SelCount() const { return static_cast<int>(SelectedRows().size()); }
+    // In rising order; valid until the next change.
+    const std::vector<int>& SelectedRows() const;
+    // The user moves the selected row and leaves the choice as it is. A different row in range runs
+    // the click handler.
+    void MoveCurrentRow(int row);
 };
 
 // A drop-down list with a text field. Selecting a row writes its text into the field and runs the

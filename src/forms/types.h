@@ -58,6 +58,13 @@ struct Character {
     bool operator==(const Character&) const = default;
 };
 
+// Twips from the left and top edge of something.
+struct Point {
+    int x = 0;
+    int y = 0;
+    bool operator==(const Point&) const = default;
+};
+
 struct Mouse {
     int button = 0;
     int shift = 0;

@@ -13,12 +13,27 @@ namespace kivu::forms {
 
 namespace {
 
+// What a shift state makes of the mouse on a row.
+Choice ChoiceOf(int shift) {
+    const bool range = (shift & shifts::shift) != 0;
+    if ((shift & shifts::ctrl) != 0) return range ? Choice::addRange : Choice::toggle;
+    return range ? Choice::extend : Choice::only;
+}
+
 // Calls action(list) if the control has rows. False: it has none.
 template <typename Action>
 bool OnRows(Control& control, Action action) {
     if (auto* list = dynamic_cast<ListControl*>(&control)) return action(*list), true;
     if (auto* list = dynamic_cast<DirectoryControl*>(&control)) return action(*list), true;
     return false;
+}
+
+void ClickRow(ListControl& list, int row, int shift) {
+    list.ClickRow(row, ChoiceOf(shift));
+}
+
+void ClickRow(DirectoryControl& list, int row, int) {
+    list.ClickRow(row);
 }
 
 void Press(Control& control) {
@@ -87,6 +102,7 @@ std::vector<char32_t> CodePoints(std::string_view text) {
 }  // namespace
 
 void UserInput::MouseDown(Control& control, const Mouse& mouse) {
+    form.SetDragged(nullptr);
     if (!control.IsReachable()) return;
     control.SetFocus();
     // A focus handler may have put the control away.
@@ -98,17 +114,18 @@ void UserInput::MouseMove(Control& control, const Mouse& mouse) {
 }
 
 void UserInput::MouseUp(Control& control, const Mouse& mouse) {
+    form.SetDragged(nullptr);
     if (control.IsReachable()) Control::Run(control.onMouseUp, mouse);
 }
 
-void UserInput::Click(Control& control, std::optional<int> row) {
-    const Mouse mouse{buttons::left, 0, 0, 0};
+void UserInput::Click(Control& control, std::optional<int> row, int shift) {
+    const Mouse mouse{buttons::left, shift, 0, 0};
     if (!control.IsReachable()) return;
     MouseDown(control, mouse);
     if (!control.IsReachable()) return;
     const bool rows = OnRows(control, [&](auto& list) {
         const int clicked = row.value_or(list.ListIndex());
-        if (clicked >= 0) list.ClickRow(clicked);
+        if (clicked >= 0) ClickRow(list, clicked, shift);
     });
     if (!rows) Press(control);
     MouseUp(control, mouse);
@@ -117,6 +134,50 @@ void UserInput::Click(Control& control, std::optional<int> row) {
 void UserInput::DoubleClick(Control& control, std::optional<int> row) {
     Click(control, row);
     if (control.IsReachable()) control.DoubleClick();
+}
+
+void UserInput::Drag(Control& control, Point grip, Control& target, Point place) {
+    MouseDown(control, {buttons::left, 0, grip.x, grip.y});
+    if (Control* dragged = form.Dragged()) {
+        form.SetDragged(nullptr);
+        if (target.IsReachable()) Control::Run(target.onDragDrop, *dragged, place.x, place.y);
+        return;
+    }
+    const Point from = CornerInForm(control), to = CornerInForm(target);
+    const Mouse up{buttons::left, 0, to.x - from.x + place.x, to.y - from.y + place.y};
+    MouseMove(control, up);
+    MouseUp(control, up);
+}
+
+Control* UserInput::DropTarget(Point place) const {
+    Control* target = &ControlAt(form, place, form.Dragged());
+    while (target && !target->onDragDrop)
+        target = target->Parent();
+    return target && target->IsReachable() ? target : nullptr;
+}
+
+void UserInput::DragOver(Point place) {
+    Control* target = form.Dragged() ? DropTarget(place) : nullptr;
+    if (!target) return;
+    const Point corner = CornerInForm(*target);
+    Control::Run(target->onDragOver, *form.Dragged(), place.x - corner.x, place.y - corner.y);
+}
+
+void UserInput::Drop(Point place) {
+    Control* dragged = form.Dragged();
+    Control* target = dragged ? DropTarget(place) : nullptr;
+    form.SetDragged(nullptr);
+    if (!target) return;
+    const Point corner = CornerInForm(*target);
+    Control::Run(target->onDragDrop, *dragged, place.x - corner.x, place.y - corner.y);
+}
+
+void UserInput::CancelDrag() {
+    Control* dragged = form.Dragged();
+    form.SetDragged(nullptr);
+    if (!dragged) return;
+    const Point from = form.DraggedFrom();
+    dragged->Move(from.x, from.y, dragged->Width(), dragged->Height());
 }
 
 void UserInput::RightClick(Control& control, std::optional<int> row) {
@@ -149,25 +210,52 @@ bool UserInput::DefaultKey(Key key) {
         return true;
     }
     Control* control = form.Focus();
-    if (!control || key.shift != 0) return false;
-    bool moved = false;
-    const bool rows = OnRows(*control, [&](auto& list) {
-        const int last = list.ListCount() - 1;
-        // In a text field Home and End belong to the caret.
-        const bool caret = control->GetKind() == Kind::comboBox &&
-                           (key.code == keys::home || key.code == keys::end);
-        if (last < 0 || caret) return;
-        const auto next = RowByKey(key.code, list.ListIndex(), last, std::max(1, pageRows - 1));
-        moved = next.has_value();
-        if (next) list.ClickRow(std::clamp(*next, 0, last));
-    });
-    if (rows) return moved;
+    if (!control) return false;
+    auto* list = dynamic_cast<ListBox*>(control);
+    if (list && list->MultiSelect() && ChooseRow(*list, key)) return true;
+    if (key.shift != 0) return false;
+    if (OnRows(*control, [](auto&) {})) return MoveRow(*control, key);
     if (auto* slider = dynamic_cast<Slider*>(control)) return MoveSlider(*slider, key.code);
     const bool command = control->GetKind() == Kind::commandButton;
     const bool button = command || dynamic_cast<ValueButton*>(control);
     const bool pressed = key.code == keys::space || (key.code == keys::enter && command);
     if (!button || !pressed) return false;
     Press(*control);
+    return true;
+}
+
+bool UserInput::MoveRow(Control& control, Key key) {
+    bool moved = false;
+    OnRows(control, [&](auto& list) {
+        const int last = list.ListCount() - 1;
+        // In a text field Home and End belong to the caret.
+        const bool caret = control.GetKind() == Kind::comboBox &&
+                           (key.code == keys::home || key.code == keys::end);
+        if (last < 0 || caret) return;
+        const auto next = RowByKey(key.code, list.ListIndex(), last, std::max(1, pageRows - 1));
+        moved = next.has_value();
+        if (next) list.ClickRow(std::clamp(*next, 0, last));
+    });
+    return moved;
+}
+
+// The keys that choose several rows. False: the key is none of them.
+bool UserInput::ChooseRow(ListBox& list, Key key) {
+    if ((key.shift & shifts::alt) != 0 || list.ListCount() == 0) return false;
+    if (key.code == keys::space) {
+        list.ClickRow(std::max(list.ListIndex(), 0), Choice::toggle);
+        return true;
+    }
+    if (key.shift == 0) return false;
+    const int last = list.ListCount() - 1;
+    const auto next = RowByKey(key.code, list.ListIndex(), last, std::max(1, pageRows - 1));
+    if (!next) return false;
+    const int row = std::clamp(*next, 0, last);
+    if (key.shift == shifts::ctrl) {
+        list.MoveCurrentRow(row);
+    } else {
+        list.ClickRow(row, ChoiceOf(key.shift));
+    }
     return true;
 }
 

@@ -4,9 +4,12 @@
 #include <string_view>
 
 #include "forms/form.h"
+#include "forms/hit_test.h"
 #include "forms/keys.h"
 
 namespace kivu::forms {
+
+class ListBox;
 
 // What a user's hands do to a form, in the order in which a window system tells it: the focus moves
 // first, then the handlers run, window-level ones in front. A view feeds it from real events, a
@@ -19,8 +22,21 @@ class UserInput {
     void MouseDown(Control& control, const Mouse& mouse);
     void MouseMove(Control& control, const Mouse& mouse);
     void MouseUp(Control& control, const Mouse& mouse);
-    void Click(Control& control, std::optional<int> row = {});
+    // The shift state chooses rows where several can be chosen: Ctrl turns one over, Shift takes
+    // all from the row chosen last.
+    void Click(Control& control, std::optional<int> row = {}, int shift = 0);
     void DoubleClick(Control& control, std::optional<int> row = {});
+    // Drags a control: the mouse goes down at the grip, and comes up over the target at the place,
+    // each in twips from its control's edges. A control that its handler has given to the mouse
+    // (Control::StartDrag) is dropped on the target; any other gets the movement itself.
+    void Drag(Control& control, Point grip, Control& target, Point place);
+    // The same by steps, from a mouse that is down. Places are twips from the window's edges, and
+    // the target is what lies there behind the dragged control: the control in front that takes
+    // drops, or the nearest around it that does. Nothing happens while no control is being dragged.
+    void DragOver(Point place);
+    void Drop(Point place);
+    // Puts the dragged control back where it was.
+    void CancelDrag();
     // Selects the row under the mouse, if there is one, before the mouse goes down.
     void RightClick(Control& control, std::optional<int> row = {});
 
@@ -29,8 +45,10 @@ class UserInput {
     Key KeyDown(Key key);
     Character KeyPress(Character character);
     // What the control itself makes of a key that nobody swallowed: a list moves its selection and
-    // clicks, a button is pressed, a slider moves by one, Tab moves on. False: nothing. Text boxes
-    // edit on a screen by themselves; for the others see EditKey and EditCharacter.
+    // clicks, a button is pressed, a slider moves by one, Tab moves on. False: nothing. Where
+    // several rows can be chosen, Shift takes all from the row chosen last, Ctrl moves the current
+    // row alone, and Space turns that over. Text boxes edit on a screen by themselves; for the
+    // others see EditKey and EditCharacter.
     bool DefaultKey(Key key);
     // Editing of a text box or of a combo box's field without a screen.
     bool EditKey(Key key);
@@ -48,6 +66,9 @@ class UserInput {
 
  private:
     void Stroke(Key key, Character typed);
+    bool MoveRow(Control& control, Key key);
+    bool ChooseRow(ListBox& list, Key key);
+    Control* DropTarget(Point place) const;
 
     Form& form;
 };
