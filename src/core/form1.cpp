@@ -144,7 +144,6 @@ void Form1::DesignFrame() {
 
 void Form1::DesignDrives() {
     SettingsSubPicture.Move(9533, 8300, 4560, 480);
-    SettingsSubPicture.SetPicture({":/drivebox", nullptr});
     Frame2.Move(45, 45, 4470, 390);
     for (std::size_t i = 0; i < Check_Dfx.size(); ++i) {
         Check_Dfx[i].SetCaption("Df" + std::to_string(i) + ":");

@@ -27,6 +27,8 @@ void RunningWatch::WatchOnce() {
 void RunningWatch::ShowRunning() {
     form.AppRunningPicture.SetVisible(true);
     busy.HideAll(false);
+    // The one tab that the busy state leaves; it would stand there alone.
+    form.Label4.SetVisible(false);
     form.MyCaptionLabel.SetVisible(true);
     form.MyCaptionLabel.SetCaption(form.Say("Gestartet: ", "Running: ") +
                                    form.CurrentRunninApplication);
