@@ -192,11 +192,20 @@ std::error_code LinuxFileSystem::DeleteFile(const std::string& path) {
 std::error_code LinuxFileSystem::MoveFile(const std::string& from, const std::string& to) {
     if (!Usable(from) || !Usable(to)) return Unusable();
     if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
-    if (errno != EXDEV) return LastError();
+    const bool otherDisk = errno == EXDEV;
+    // Network and FUSE file systems may not know the flag: there a look in front has to do.
+    if (!otherDisk && errno != EINVAL && errno != ENOSYS) return LastError();
+    struct stat status {};
+    if (::lstat(to.c_str(), &status) == 0) return std::make_error_code(std::errc::file_exists);
+    if (!otherDisk)
+        return ::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : LastError();
     // To another disk a file is copied; the source goes only when the copy is whole.
     std::error_code failure;
     std::filesystem::copy_file(from, to, std::filesystem::copy_options::none, failure);
-    if (failure) return failure;
+    if (failure) {
+        static_cast<void>(DeleteFile(to));
+        return failure;
+    }
     return DeleteFile(from);
 }
 
