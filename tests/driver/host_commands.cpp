@@ -1,0 +1,269 @@
+// The scripted host: answers for boxes, what has been started, processes, devices, clock, display.
+
+#include <cstdio>
+#include <optional>
+
+#include "driver/commands.h"
+#include "driver/time_text.h"
+
+namespace kivu::driver {
+
+namespace {
+
+using platform::Answer;
+using platform::Buttons;
+using platform::Icon;
+using platform::WindowStyle;
+
+const char* Name(Answer answer) {
+    switch (answer) {
+        case Answer::Ok:
+            return "OK";
+        case Answer::Cancel:
+            return "Cancel";
+        case Answer::Yes:
+            return "Yes";
+        default:
+            return "No";
+    }
+}
+
+const char* Name(Buttons buttons) {
+    switch (buttons) {
+        case Buttons::Ok:
+            return "OK";
+        case Buttons::OkCancel:
+            return "OKCancel";
+        default:
+            return "YesNo";
+    }
+}
+
+const char* Name(Icon icon) {
+    static constexpr const char* names[] = {"None", "Information", "Question", "Warning", "Error"};
+    return names[static_cast<std::size_t>(icon)];
+}
+
+const char* Name(WindowStyle style) {
+    static constexpr const char* names[] = {"Hidden",    "Normal",        "Minimized",
+                                            "Maximized", "NormalNoFocus", "MinimizedNoFocus"};
+    return names[static_cast<std::size_t>(style)];
+}
+
+Answer AnswerFrom(const Json& value) {
+    const std::string& text = TextFrom(value, "an answer");
+    for (const Answer answer : {Answer::Ok, Answer::Cancel, Answer::Yes, Answer::No}) {
+        if (SameName(text, Name(answer))) return answer;
+    }
+    throw CommandError("an answer is OK, Cancel, Yes or No");
+}
+
+Json QueueAnswers(Session& session, const Json& command) {
+    std::vector<Answer> answers;
+    for (std::size_t i = 1; i < command.size(); ++i)
+        answers.push_back(AnswerFrom(command[i]));
+    auto& queue = session.Host().dialogs.answers;
+    queue.insert(queue.end(), answers.begin(), answers.end());
+    return Json::object();
+}
+
+Json QueueInputs(Session& session, const Json& command) {
+    std::vector<std::string> inputs;
+    for (std::size_t i = 1; i < command.size(); ++i)
+        inputs.push_back(TextFrom(command[i], "an input"));
+    auto& queue = session.Host().dialogs.inputs;
+    queue.insert(queue.end(), inputs.begin(), inputs.end());
+    return Json::object();
+}
+
+Json Boxes(Session& session, const Json&) {
+    Json boxes = Json::array();
+    for (const testing::ShownBox& shown : session.Host().dialogs.shown) {
+        Json box = Json::object();
+        box["title"] = shown.title;
+        box["text"] = shown.text;
+        box["buttons"] = Name(shown.buttons);
+        box["icon"] = Name(shown.icon);
+        box["answer"] = shown.isInput ? shown.input : Name(shown.answer);
+        if (shown.isInput) box["initial"] = shown.initial;
+        boxes.push_back(std::move(box));
+    }
+    session.Host().dialogs.shown.clear();
+    return Value(std::move(boxes));
+}
+
+Json Runs(Session& session, const Json&) {
+    Json runs = Json::array();
+    for (const auto& start : session.Host().starter.runs) {
+        Json run = Json::object();
+        run["command"] = start.request.command;
+        run["style"] = Name(start.request.style);
+        run["directory"] = start.request.directory;
+        run["wait"] = start.request.wait;
+        run["words"] = start.request.words;
+        run["startFile"] = start.request.startFile;
+        run["watched"] = start.request.watched;
+        run["opened"] = start.opened;
+        runs.push_back(std::move(run));
+    }
+    session.Host().starter.runs.clear();
+    return Value(std::move(runs));
+}
+
+Json Beeps(Session& session, const Json&) {
+    return Value(std::exchange(session.Host().beeper.count, 0));
+}
+
+Json Kills(Session& session, const Json&) {
+    Json ids = Json::array(), names = Json::array();
+    for (const auto& kill : session.Host().processes.kills) {
+        ids.push_back(kill.id);
+        names.push_back(kill.name);
+    }
+    session.Host().processes.kills.clear();
+    Json more = Value(std::move(ids));
+    more["names"] = std::move(names);
+    return more;
+}
+
+int ProcessId(const Json& value) {
+    const int id = WholeFrom(value, "the id");
+    if (id <= 0) throw CommandError("the id must be above 0");
+    return id;
+}
+
+Json Process(Session& session, const Json& command) {
+    const std::string& action = TextFrom(command[1], "the action");
+    auto& processes = session.Host().processes;
+    if (action == "add" && command.size() == 4) {
+        const std::string& name = TextFrom(command[2], "the name");
+        const int id = ProcessId(command[3]);
+        if (!processes.Add(name, id))
+            throw CommandError("there is a process " + std::to_string(id) + " already");
+    } else if (action == "remove" && command.size() == 3) {
+        const int id = ProcessId(command[2]);
+        if (!processes.Remove(id)) throw CommandError("no process " + std::to_string(id));
+    } else {
+        throw CommandError("process takes \"add\", name, id or \"remove\", id");
+    }
+    return Json::object();
+}
+
+Json ShowDevices(const Session& session) {
+    Json devices = Json::array();
+    for (const ScriptedDevice& device : session.devices) {
+        Json shown = Json::object();
+        shown["name"] = device.name;
+        shown["buttonCount"] = device.buttonCount;
+        for (std::size_t i = 0; i < device.axes.size(); ++i)
+            shown[ScriptedDevice::axisNames[i]] = device.axes[i];
+        shown["buttons"] = device.pressed;
+        devices.push_back(std::move(shown));
+    }
+    return Value(std::move(devices));
+}
+
+void AddDevice(Session& session, const Json& command) {
+    ScriptedDevice device;
+    device.name = TextFrom(command[2], "the name");
+    device.buttonCount = WholeFrom(command[3], "the number of buttons");
+    if (device.buttonCount < 0 || device.buttonCount > ScriptedDevice::mostButtons)
+        throw CommandError("a device has 0 to 32 buttons");
+    session.devices.push_back(std::move(device));
+}
+
+void SetAxis(ScriptedDevice& device, const std::string& name, const Json& value) {
+    for (std::size_t i = 0; i < device.axes.size(); ++i) {
+        if (name != ScriptedDevice::axisNames[i]) continue;
+        const int place = WholeFrom(value, name);
+        if (place < 0 || place > 65535) throw CommandError("an axis stands at 0 to 65535");
+        device.axes[i] = place;
+        return;
+    }
+    throw CommandError("a device has no " + name);
+}
+
+std::set<int> PressedFrom(const Json& value, int count) {
+    if (!value.is_array()) throw CommandError("buttons must be an array of numbers");
+    std::set<int> pressed;
+    for (const Json& entry : value) {
+        const int button = WholeFrom(entry, "a button");
+        if (button < 0 || button >= count)
+            throw CommandError("the device has no button " + std::to_string(button));
+        pressed.insert(button);
+    }
+    return pressed;
+}
+
+void SetDevice(Session& session, const Json& command) {
+    const int number = WholeFrom(command[2], "the device");
+    if (number < 0 || static_cast<std::size_t>(number) >= session.devices.size())
+        throw CommandError("no device " + std::to_string(number));
+    if (!command[3].is_object()) throw CommandError("the state must be an object");
+    ScriptedDevice device = session.devices[static_cast<std::size_t>(number)];
+    for (const auto& [key, value] : command[3].items()) {
+        if (key == "buttons") {
+            device.pressed = PressedFrom(value, device.buttonCount);
+        } else {
+            SetAxis(device, key, value);
+        }
+    }
+    session.devices[static_cast<std::size_t>(number)] = std::move(device);
+}
+
+Json Device(Session& session, const Json& command) {
+    const std::string& action = TextFrom(command[1], "the action");
+    if (action == "add" && command.size() == 4) {
+        AddDevice(session, command);
+    } else if (action == "set" && command.size() == 4) {
+        SetDevice(session, command);
+    } else if (action == "clear" && command.size() == 2) {
+        session.devices.clear();
+    } else {
+        throw CommandError("device takes \"add\", name, buttons, \"set\", n, {...} or \"clear\"");
+    }
+    return ShowDevices(session);
+}
+
+Json Time(Session& session, const Json& command) {
+    const auto time = TimeFromText(TextFrom(command[1], "the time"));
+    if (!time) throw CommandError("the time must be such as \"14:05:09\"");
+    session.Host().clock.Set(*time);
+    return Json::object();
+}
+
+Json Display(Session& session, const Json&) {
+    const auto show = [](const ScriptedDisplay::Mode& mode) {
+        Json shown = Json::object();
+        shown["width"] = mode.width;
+        shown["height"] = mode.height;
+        shown["bits"] = mode.bits;
+        shown["frequency"] = mode.frequency;
+        return shown;
+    };
+    Json display = show(session.display.mode);
+    display["changes"] = Json::array();
+    for (const auto& change : session.display.changes)
+        display["changes"].push_back(show(change));
+    return Value(std::move(display));
+}
+
+}  // namespace
+
+const std::vector<Command>& HostCommands() {
+    static const std::vector<Command> commands{
+        {"answer", 1, anyNumber, false, QueueAnswers},
+        {"input", 1, anyNumber, false, QueueInputs},
+        {"boxes", 0, 0, false, Boxes},
+        {"runs", 0, 0, false, Runs},
+        {"beeps", 0, 0, false, Beeps},
+        {"kills", 0, 0, false, Kills},
+        {"process", 2, 3, false, Process},
+        {"device", 1, 3, false, Device},
+        {"time", 1, 1, false, Time},
+        {"display", 0, 0, false, Display},
+    };
+    return commands;
+}
+
+}  // namespace kivu::driver

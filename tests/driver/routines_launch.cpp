@@ -1,0 +1,56 @@
+// Routines of the launch, the watch and the process list.
+
+#include "driver/routines.h"
+#include "launch/wait.h"
+#include "wiring/routines.h"
+
+namespace kivu::driver {
+
+using std::optional;
+using std::string;
+
+namespace {
+
+void AddStartRoutines(RoutineTable& table, Session& session) {
+    auto& launch = session.Routines().gameLaunch;
+    table.push_back(Bind("StartGame", [&launch](string path) { launch.StartGame(path); }));
+    table.push_back(Bind("LaunchBtn_Click", [&launch] { launch.LaunchBtn_Click(); }));
+    table.push_back(
+        Bind("FindStartFile", [&launch](string path) { return launch.FindStartFile(path); }));
+    table.push_back(Bind("SetCurrentRunninApplication",
+                         [&launch](string name) { launch.SetCurrentRunninApplication(name); }));
+    table.push_back(Bind("Add_CURRENT_PROGRAM_STARTED", [&launch](string name) {
+        Outcome outcome{launch.Add_CURRENT_PROGRAM_STARTED(name)};
+        outcome.changed["name"] = name;
+        return outcome;
+    }));
+    table.push_back(Bind("Get_CURRENT_PROGRAM_STARTED",
+                         [&launch] { return launch.Get_CURRENT_PROGRAM_STARTED(); }));
+    auto& setup = session.Routines().emulatorSetup;
+    table.push_back(
+        Bind("StartEmulator", [&setup](string name, bool ask) { setup.StartEmulator(name, ask); }));
+}
+
+}  // namespace
+
+void AddLaunchRoutines(RoutineTable& table, Session& session) {
+    AddStartRoutines(table, session);
+    auto& all = session.Routines();
+    table.push_back(Bind("WAIT", [&all](std::int16_t seconds) {
+        launch::WAIT(seconds, all.host.clock, all.pacer);
+    }));
+    auto& processes = all.prozess;
+    table.push_back(Bind("FindProcessId", [&processes](string name) {
+        return processes.FindProcessId(name, launch::Reach::nameOnly);
+    }));
+    table.push_back(Bind("IsProcessRunning", [&processes](string name) {
+        return processes.IsProcessRunning(name, launch::Reach::nameOnly);
+    }));
+    table.push_back(Bind("KillProcess", [&processes](int id) { processes.KillProcess(id); }));
+    auto& watch = all.watch;
+    table.push_back(Bind("EmuActiveTimer_Timer", [&watch] { watch.EmuActiveTimer_Timer(); }));
+    table.push_back(Bind("AppRunningPicture_Click", [&watch] { watch.AppRunningPicture_Click(); }));
+    table.push_back(Bind("LoadingBtn_Click", [&watch] { watch.LoadingBtn_Click(); }));
+}
+
+}  // namespace kivu::driver

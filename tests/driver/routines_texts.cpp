@@ -1,0 +1,81 @@
+// Routines over values alone.
+
+#include "driver/properties.h"
+#include "driver/routines.h"
+#include "library/find_list_item.h"
+#include "library/short_names.h"
+#include "support/collation.h"
+#include "support/file_ops.h"
+#include "support/run_file.h"
+#include "support/string_ops.h"
+#include "ui/colors.h"
+
+namespace kivu::driver {
+
+using std::optional;
+using std::string;
+
+namespace {
+
+Outcome FindRow(const string& text, const std::vector<string>& rows, bool probe, int start) {
+    const int row = library::FindListItem(text, rows, probe, start);
+    Outcome outcome{row};
+    outcome.changed["StartRow"] = start;
+    return outcome;
+}
+
+void AddPathForms(RoutineTable& table) {
+    table.push_back(
+        Bind("AddPathSeparator", [](string path) { return support::AddPathSeparator(path); }));
+    table.push_back(Bind("RemoveQuotes", [](string text) { return support::RemoveQuotes(text); }));
+    table.push_back(
+        Bind("GetFileNameOnly", [](string path) { return support::GetFileNameOnly(path); }));
+    table.push_back(
+        Bind("GetLastPathElement", [](string path) { return support::GetLastPathElement(path); }));
+    table.push_back(
+        Bind("GetParentPath", [](string path) { return support::GetParentPath(path); }));
+    table.push_back(
+        Bind("QuoteIfNeeded", [](string text) { return support::QuoteIfNeeded(text); }));
+    table.push_back(Bind("PreParePath", [](string path) { return support::PreParePath(path); }));
+    table.push_back(Bind("MakeRelativePath", [](string base, string path) {
+        return support::MakeRelativePath(base, path);
+    }));
+    table.push_back(Bind("MakeAbsolutePath", [](string base, string path) {
+        return support::MakeAbsolutePath(base, path);
+    }));
+}
+
+}  // namespace
+
+void AddTextRoutines(RoutineTable& table, Session&) {
+    AddPathForms(table);
+    table.push_back(Bind("CutShortName", [](string path, string separator, bool fromSecond) {
+        return library::CutShortName(path, separator, fromSecond);
+    }));
+    table.push_back(Bind("getCharDiff", [](string a, string b, optional<int> limit) {
+        return limit ? library::getCharDiff(a, b, *limit) : library::getCharDiff(a, b);
+    }));
+    table.push_back(
+        Bind("FindListItem", [](string text, std::vector<string> rows, bool probe, int start) {
+            return FindRow(text, rows, probe, start);
+        }));
+    table.push_back(Bind("replaceall", [](string text, string find, string replacement) {
+        return support::replaceall(text, find, replacement);
+    }));
+    table.push_back(
+        Bind("ReplaceText", [](string text, string find, string replacement, bool matchCase) {
+            return support::ReplaceText(text, find, replacement, matchCase);
+        }));
+    table.push_back(Bind("CompareText", [](string a, string b) {
+        const int order = support::CompareText(a, b);
+        return order < 0 ? -1 : order > 0 ? 1 : 0;
+    }));
+    table.push_back(Bind(
+        "HexToLong", [](string text) { return static_cast<std::int64_t>(ui::HexToLong(text)); }));
+    // Negative numbers are colours of the system, which this host does not have.
+    table.push_back(Bind("LongToHex", [](int color) {
+        return ui::LongToHex(static_cast<forms::Color>(color) & 0xffffffU);
+    }));
+}
+
+}  // namespace kivu::driver

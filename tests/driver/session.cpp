@@ -1,0 +1,29 @@
+#include "driver/session.h"
+
+#include "wiring/routines.h"
+
+namespace kivu::driver {
+
+namespace {
+
+testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& options) {
+    testing::ScriptedHost host(files);
+    host.locale.name = options.language;
+    host.clock.Set(options.time);
+    host.starter.usesShell = !options.windowsStartFiles;
+    return host;
+}
+
+}  // namespace
+
+Session::Session(platform::FileSystem& files, const Options& options)
+    : host(MakeHost(files, options)),
+      launcher(host.Services(options.programDirectory, options.program, options.commandLine),
+               nullptr, [this] {
+                   ended = true;
+                   throw ProgramEnded{};
+               }) {
+    windows.Add(launcher.MainWindow());
+}
+
+}  // namespace kivu::driver

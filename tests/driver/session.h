@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/devices.h"
+#include "driver/windows.h"
+#include "testing/scripted_host.h"
+#include "wiring/launcher.h"
+
+namespace kivu::driver {
+
+struct Options {
+    std::string programDirectory{};  // absolute
+    std::string program = "Kivu";
+    std::string commandLine{};
+    std::string language = "English";  // English name of the system language
+    platform::TimeOfDay time{12, 0, 0};
+    bool windowsStartFiles = false;  // start files for cmd.exe instead of /bin/sh
+};
+
+// Thrown where the launcher ends its program, since a program that ends never returns.
+struct ProgramEnded {};
+
+// One run of the launcher over a scripted host.
+class Session {
+ public:
+    Session(platform::FileSystem& files, const Options& options);
+
+    testing::ScriptedHost& Host() { return host; }
+    wiring::Launcher& Program() { return launcher; }
+    wiring::Launcher::Routines& Routines() { return launcher.All(); }
+    core::Form1& MainWindow() { return launcher.MainWindow(); }
+    Windows& OpenWindows() { return windows; }
+
+    std::vector<ScriptedDevice> devices;
+    ScriptedDisplay display;
+    bool started = false;
+    bool ended = false;  // the program has ended by its own doing
+
+ private:
+    testing::ScriptedHost host;
+    wiring::Launcher launcher;
+    Windows windows;
+};
+
+}  // namespace kivu::driver

@@ -1,0 +1,63 @@
+// Reading and writing the windows.
+
+#include "driver/commands.h"
+#include "driver/fields.h"
+#include "driver/properties.h"
+
+namespace kivu::driver {
+
+namespace {
+
+bool IsMainWindow(Session& session, const Windows::Member& member) {
+    return &member.owner == static_cast<forms::Control*>(&session.MainWindow());
+}
+
+Json Get(Session& session, const Json& command) {
+    const auto member = session.OpenWindows().FindMember(TextFrom(command[1], "the name"));
+    if (&member.owner == &member.window && SameName(member.name, "Focus")) {
+        const forms::Control* focus = member.window.Focus();
+        return Value(focus ? NameOf(*focus) : "");
+    }
+    if (IsMainWindow(session, member)) {
+        if (auto field = GetField(session.MainWindow(), member.name)) return Value(*field);
+    }
+    return Value(GetProperty(member.owner, member.name));
+}
+
+Json Set(Session& session, const Json& command) {
+    const auto member = session.OpenWindows().FindMember(TextFrom(command[1], "the name"));
+    const Json& value = command[2];
+    if (IsMainWindow(session, member) && SetField(session.MainWindow(), member.name, value))
+        return Json::object();
+    SetProperty(member.owner, member.name, value);
+    return Json::object();
+}
+
+// The window's own properties stand first, under the window's name.
+Json Dump(Session& session, const Json& command) {
+    forms::Form& form = session.OpenWindows().Window(TextFrom(command[1], "the window"));
+    Json controls = Json::object();
+    controls[form.Name()] = AllProperties(form);
+    for (forms::Control* control : form.Controls())
+        controls[control->FullName()] = AllProperties(*control);
+    return Value(std::move(controls));
+}
+
+}  // namespace
+
+Json Value(Json value) {
+    Json more = Json::object();
+    more["value"] = std::move(value);
+    return more;
+}
+
+const std::vector<Command>& StateCommands() {
+    static const std::vector<Command> commands{
+        {"get", 1, 1, false, Get},
+        {"set", 2, 2, true, Set},
+        {"dump", 1, 1, false, Dump},
+    };
+    return commands;
+}
+
+}  // namespace kivu::driver

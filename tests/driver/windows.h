@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "forms/form.h"
+
+namespace kivu::driver {
+
+// The launcher's windows, and their controls by name. Names count without regard to case.
+class Windows {
+ public:
+    void Add(forms::Form& form) { open.push_back(&form); }
+    void Remove(forms::Form& form) { std::erase(open, &form); }
+
+    // These throw CommandError when there is nothing of the name.
+    forms::Form& Window(std::string_view name) const;
+    // "Form1.UAE_Short", "Form1.Check_Dfx(0)"; a window's own name is the window.
+    forms::Control& Control(std::string_view name) const;
+
+    // What "Form1.UAE_Short.List" and "Form1.ListMode" name: a member of a control, or of the
+    // window itself.
+    struct Member {
+        forms::Form& window;
+        forms::Control& owner;  // the window itself for a member of it
+        std::string name;
+    };
+    Member FindMember(std::string_view name) const;
+
+ private:
+    std::vector<forms::Form*> open;
+};
+
+// "Form1.Check_Dfx(0)"; the window's own name for a window.
+std::string NameOf(const forms::Control& control);
+
+bool SameName(std::string_view a, std::string_view b);
+
+}  // namespace kivu::driver
