@@ -103,7 +103,7 @@ void ListEvents::FavoritenListe_GotFocus() {
         const core::Raised busy(form.FavouritesListBusy);
         form.JoystickFocus = 1;
         form.FavoritenListe.SetVisible(true);
-        hooks.ShowFavourites();
+        if (hooks.ShowGlobalFavourites()) return;
         hooks.RefreshList();
     }
     form.FavoritenListe.SetFocus();
@@ -122,6 +122,7 @@ void ListEvents::SuchErgList_GotFocus() {
 }
 
 void ListEvents::PutInFront(forms::ListBox& list, const char* mode) {
+    if (&list != &form.FavoritenListe) hooks.LeaveGlobalFavourites();
     form.ListMode = mode;
     list.SetVisible(true);
     // A list that has the focus already still has to come forward.

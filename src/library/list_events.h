@@ -20,7 +20,9 @@ class ListEvents {
         core::Hook<void(int)> FillDrivesFromFile;  // a click of the user on this row of UAE_Short
         core::Hook<void(int)>
             FillDrivesFromGame;  // WIthoutDoubles: the row found in UAE_Short, or -1
-        core::Hook<void()> ShowFavourites;
+        // True: the global favourites have come up in place of the emulator's own.
+        core::Hook<bool()> ShowGlobalFavourites;
+        core::Hook<void()> LeaveGlobalFavourites;
         core::Hook<void()> OfferFavouriteButtons;
     };
 

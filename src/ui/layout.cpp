@@ -84,6 +84,7 @@ void Layout::ResizeSettingsWindow() {
     PlaceInFrame();
     PlaceFrameRows();
     PlaceDrivesHome();
+    PlaceFavouriteButtons();
     KeepDrivesInside();
 }
 
@@ -129,6 +130,19 @@ void Layout::PlaceDrivesHome() {
     if (atHome) panel.Move(drivesHomeLeft, drivesHomeTop, panel.Width(), panel.Height());
 }
 
+// Above the drives panel's home: one place for adding and removing, of which only one makes sense at
+// a time, and one for the global list.
+void Layout::PlaceFavouriteButtons() {
+    constexpr int gap = 90;
+    const int top = drivesHomeTop - form.AddToFavorit.Height() - gap;
+    const auto place = [&](forms::CommandButton& button, int left) {
+        button.Move(left, top, button.Width(), button.Height());
+    };
+    place(form.AddToFavorit, drivesHomeLeft);
+    place(form.DeLFav, drivesHomeLeft);
+    place(form.AddToFavorit_Global, form.AddToFavorit.Right() + gap);
+}
+
 void Layout::KeepDrivesInside() {
     forms::PictureBox& panel = form.SettingsSubPicture;
     if (panel.Left() > form.Width() - 300) panel.SetLeft(form.Width() - panel.Width() - 200);
@@ -145,6 +159,7 @@ void Layout::ArrangeLists() {
     form.EmulatorLongListbox.Move(form.ListLeft, form.FavoritenListe.Top(), form.ListWidth,
                                   form.ListHeight);
     ShowListOfMode();
+    if (form.FavoritenListeGlobal.Visible()) form.FavoritenListeGlobal.BringToFront();
     ArrangeTabs();
 }
 

@@ -37,6 +37,7 @@ class Layout {
     void PlaceFrameRows();
     void KeepDrivesInside();
     void PlaceDrivesHome();
+    void PlaceFavouriteButtons();
     void ShowListOfMode();
     void ArrangeTabs();
 

@@ -82,7 +82,6 @@ void Launcher::Routines::JoinLists() {
 
     form.FavoritenListe.onGotFocus = [this] { listEvents.FavoritenListe_GotFocus(); };
     form.FavoritenListe.onLostFocus = [this] { listEvents.FavoritenListe_LostFocus(); };
-    form.FavoritenListe.onDblClick = [this] { gameLaunch.LaunchBtn_Click(); };
     form.SuchErgList.onGotFocus = [this] { listEvents.SuchErgList_GotFocus(); };
     form.SuchErgList.onDblClick = [this] { gameLaunch.LaunchBtn_Click(); };
 

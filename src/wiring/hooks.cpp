@@ -9,6 +9,7 @@ namespace kivu::wiring {
 void Launcher::Routines::JoinHooks() {
     JoinCore();
     JoinLibrary();
+    JoinFavourites();
     JoinLaunch();
     JoinUi();
 }

@@ -10,6 +10,11 @@
 #include "core/shut_down.h"
 #include "core/start_up.h"
 #include "core/window_keys.h"
+#include "favourites/favoriten.h"
+#include "favourites/favoriten_events.h"
+#include "favourites/global_events.h"
+#include "favourites/global_favoriten.h"
+#include "favourites/repair_favoriten.h"
 #include "joystick/list_navigation.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
@@ -62,6 +67,12 @@ struct Launcher::Routines {
     library::EmulatorBox emulatorBox;
     library::ListEvents listEvents;
 
+    favourites::Favoriten favoriten;
+    favourites::GlobalFavoriten globalFavoriten;
+    favourites::Repair repair;
+    favourites::FavoritenEvents favoritenEvents;
+    favourites::GlobalEvents globalEvents;
+
     launch::Prozess prozess;
     launch::RunningWatch watch;
     launch::GameLaunch gameLaunch;
@@ -82,6 +93,7 @@ struct Launcher::Routines {
  private:
     void JoinCore();
     void JoinLibrary();
+    void JoinFavourites();
     void JoinLaunch();
     void JoinUi();
     void JoinWindow();

@@ -1,0 +1,16 @@
+#include "favourites/edit_alias_name.h"
+
+#include "favourites/stored_texts.h"
+
+namespace kivu::favourites {
+
+std::string EditAliasName(const std::string& EName, const core::Form1& form,
+                          platform::Dialogs& dialogs) {
+    const std::string prompt =
+        form.Say("Vergeben sie einen neuen Namen für: ", "Please enter a new title for: ");
+    const std::string given = dialogs.InputBox(
+        prompt + "\r\r" + EName, form.Say("Anzeigenamen anpassen", "Change alias"), EName);
+    return IsStorable(given) ? given : EName;
+}
+
+}  // namespace kivu::favourites

@@ -1,0 +1,151 @@
+#include "favourites/favoriten_events.h"
+
+#include "favourites/edit_alias_name.h"
+#include "library/find_game.h"
+#include "support/run_file.h"
+
+namespace kivu::favourites {
+
+namespace keys = forms::keys;
+
+void FavoritenEvents::FavoritenListe_Click() {
+    // A list that is filled behind another one must not take the game away that is selected there.
+    if (store.IsFilling() && !form.FavoritenListe.Visible()) return;
+    const unsigned click = ++clicks;
+    gameFound = false;
+    for (forms::CheckBox& box : form.Check_Dfx)
+        box.SetValue(0);
+    const int record = store.RecordOfRow(form.FavoritenListe.ListIndex());
+    if (record < 0) return;
+    const FavoritEntry favourite = store.Entries()[static_cast<std::size_t>(record)];
+    const int row = FindGame(favourite);
+    if (click != clicks) return;
+    gameFound = row >= 0;
+    if (row >= 0) {
+        ShowGame(row);
+    } else if (!AskForRepair(favourite) || click != clicks) {
+        return;
+    }
+    SelectByFileName(support::GetFileNameOnly(favourite.FullPath));
+    form.AddToFavorit.SetVisible(false);
+    form.AddToFavorit_Global.SetVisible(true);
+    form.DeLFav.SetVisible(true);
+}
+
+int FavoritenEvents::FindGame(const FavoritEntry& favourite) {
+    if (favourite.FullPath.empty()) return -1;
+    const int row = library::FindGameInFullList(form, busy, pacer, favourite.FullPath);
+    if (row >= 0) return row;
+    const std::string name = support::GetFileNameOnly(favourite.FullPath);
+    return name.empty() ? -1 : library::FindGameInFullList(form, busy, pacer, name);
+}
+
+bool FavoritenEvents::AskForRepair(const FavoritEntry& favourite) {
+    if (repair.IsRunning() || form.FavoritenListe.ListIndex() < 0) return true;
+    const std::string text =
+        form.Say("Datei wurde nicht gefunden!\r", "Rom/Image - File not found!\r") +
+        favourite.Name +
+        form.Say("\rSollen die Favoriten repariert werden?",
+                 "\rDo you want to try to repair the favorites?");
+    const auto answer = services.dialogs.MessageBox(
+        text, form.Say("Nicht gefunden - Reparieren", "Favorite not found - Repair?"),
+        platform::Buttons::YesNo, platform::Icon::Question);
+    if (answer != platform::Answer::Yes) return true;
+    repair.RepairFavoriten();
+    return form.FavoritenListe.ListIndex() >= 0;
+}
+
+void FavoritenEvents::ShowGame(int row) {
+    form.UAE_Short.SetListIndex(row);
+    form.UAE_FULL.SetListIndex(row);
+    if (form.SettingsSubPicture.Visible()) hooks.SelectSimilarDisks(row, 4, 14, 2);
+    form.Check_Dfx[0].SetToolTipText(support::GetFileNameOnly(form.UAE_FULL.List(row)));
+    form.Check_Dfx[0].SetValue(1);
+}
+
+void FavoritenEvents::SelectByFileName(const std::string& name) {
+    if (name.empty()) return;
+    const auto& paths = form.UAE_FULL.Rows();
+    for (std::size_t row = 0; row < paths.size(); ++row) {
+        if (paths[row].find(name) == std::string::npos) continue;
+        form.UAE_Short.SetListIndex(static_cast<int>(row));
+        return;
+    }
+}
+
+void FavoritenEvents::FavoritenListe_DblClick() {
+    // With no game of its own the click has left another one selected.
+    if (gameFound) hooks.LaunchBtn_Click();
+}
+
+void FavoritenEvents::FavoritenListe_MouseDown(const forms::Mouse& mouse) {
+    const int row = form.FavoritenListe.ListIndex();
+    if (mouse.button != forms::buttons::right || row < 0 || repair.IsRunning()) return;
+    const std::string name = form.FavoritenListe.List(row);
+    const std::string title = EditAliasName(name, form, services.dialogs);
+    // Behind the box the list may have become another one.
+    if (title == name || form.FavoritenListe.List(row) != name) return;
+    form.FavoritenListe.SetList(row, title);
+    store.Rename(row, title);
+}
+
+void FavoritenEvents::FavoritenListe_KeyDown(forms::Key& key) {
+    const std::string name = form.FavoritenListe.SelectedText();
+    const bool asked = key.code == keys::del && key.shift == 0 &&
+                       form.FavoritenListe.ListIndex() >= 0 && form.FavoritenListe.Visible();
+    if (!asked) return;
+    const std::string text =
+        std::string(form.Say("Aus Favoriten entfernen", "Remove from Favorite-List")) + ":\r\r" +
+        name + "?";
+    const auto answer = services.dialogs.MessageBox(
+        text, core::defaultTitle, platform::Buttons::YesNo, platform::Icon::Question);
+    if (answer == platform::Answer::Yes && form.FavoritenListe.SelectedText() == name)
+        DeLFav_Click();
+}
+
+void FavoritenEvents::FavoritenListe_KeyPress(forms::Character& character) {
+    if (character.code == keys::enter) {
+        if (form.FavoritenListe.ListIndex() < 0) return;
+        // Another list may have selected another game since the row was clicked.
+        FavoritenListe_Click();
+        FavoritenListe_DblClick();
+    } else if (character.code != keys::space) {
+        hooks.EmuListbox_KeyPress(character);
+    }
+}
+
+void FavoritenEvents::AddToFavorit_Click() {
+    if (repair.IsRunning()) return;
+    const int row = form.UAE_Short.ListIndex();
+    const std::string name = form.UAE_Short.List(row);
+    const std::string path = form.UAE_FULL.List(row);
+    store.AddFavoritEntry(name, path, 0, true);
+    form.MyCaptionLabel.SetCaption(form.Say("Neuer Favorit: ", "Favorite add: ") + name);
+    store.SortFavoriten();
+    store.FillFavoritenListe();
+    store.SaveFavoriten();
+    store.LoadFavoriten();
+    hooks.RefreshList();
+}
+
+void FavoritenEvents::DeLFav_Click() {
+    if (repair.IsRunning()) return;
+    if (form.FavoritenListeGlobal.Visible()) {
+        global.RemoveGlobalFavorit();
+        form.FavoritenListeGlobal.SetFocus();
+        return;
+    }
+    form.EmuListbox.SetVisible(false);
+    if (!form.FavoritenListe.Visible()) {
+        services.beeper.Beep();
+        return;
+    }
+    store.RemoveFavoritAt(store.RecordOfRow(form.FavoritenListe.ListIndex()));
+    // The button goes, and with it the focus, which must not come to the drop-down: that would open
+    // the choice of emulators.
+    form.FavoritenListe.SetFocus();
+    form.DeLFav.SetVisible(false);
+    form.EmuListbox.SetVisible(true);
+}
+
+}  // namespace kivu::favourites

@@ -1,0 +1,118 @@
+#include "favourites/global_events.h"
+
+namespace kivu::favourites {
+
+namespace keys = forms::keys;
+
+void GlobalEvents::FavoritenListeGlobal_Click() {
+    const GlobalFavorit* record = store.FindByDisplay(form.FavoritenListeGlobal.SelectedText());
+    const int row = record && !record->System.empty() ? RowOfEmulator(record->System) : -1;
+    if (row < 0) {
+        services.beeper.Beep();
+        return;
+    }
+    form.EmuListbox.SetListIndex(row);
+}
+
+void GlobalEvents::FavoritenListeGlobal_DblClick() {
+    const GlobalFavorit* found = store.FindByDisplay(form.FavoritenListeGlobal.SelectedText());
+    if (!found || form.Busy) return;
+    // The array may be loaded anew meanwhile.
+    const GlobalFavorit favourite = *found;
+    const int row = RowOfEmulator(favourite.System);
+    // No other emulator may be handed the file.
+    if (row < 0) {
+        services.beeper.Beep();
+        return;
+    }
+    if (!SwitchTo(row)) return;
+    SearchFor(favourite.Name);
+    hooks.SetToNormal();
+    form.EmuListbox.SetVisible(false);
+    hooks.StartGame(favourite.FullPath);
+    if (form.Ended) return;
+    form.EmuListbox.SetVisible(true);
+    busy.HideAll(false);
+    form.FavoritenListeGlobal.SetVisible(true);
+    form.FavoritenListeGlobal.BringToFront();
+    form.FavoritenListeGlobal.SetFocus();
+}
+
+int GlobalEvents::RowOfEmulator(const std::string& name) const {
+    for (int row = 0; row < form.EmuListbox.ListCount(); ++row) {
+        if (form.EmuListbox.List(row) == name) return row;
+    }
+    return -1;
+}
+
+bool GlobalEvents::SwitchTo(int row) {
+    form.EmuListbox.SetListIndex(row);
+    hooks.SelectEmulator(false);
+    return !form.Ended && form.CurrentEmuIndex == row;
+}
+
+void GlobalEvents::SearchFor(const std::string& name) {
+    if (form.SearchDblsTxt.Text() != name) {
+        form.SearchDblsTxt.SetText(name);
+    } else if (const auto change = form.SearchDblsTxt.onChange) {
+        // The same text once more is no change.
+        change();
+    }
+    form.SuchErgList.SetVisible(true);
+}
+
+void GlobalEvents::FavoritenListeGlobal_KeyDown(forms::Key& key) {
+    if (key.code != keys::back && key.code != keys::escape) return;
+    key.code = 0;
+    hooks.LeaveEmulatorBox();
+}
+
+void GlobalEvents::FavoritenListeGlobal_KeyPress(forms::Character& character) {
+    if (character.code == keys::enter) FavoritenListeGlobal_DblClick();
+}
+
+void GlobalEvents::AddToFavorit_Global_Click() {
+    services.events.DoEvents();
+    const int row = form.UAE_Short.ListIndex();
+    const std::string name = form.UAE_Short.List(row);
+    const std::string path = form.UAE_FULL.List(row);
+    if (!name.empty() && !path.empty())
+        store.AddGlobalFavorit(name, form.EmuListbox.SelectedText(), path);
+    form.MyCaptionLabel.SetCaption(form.Say("Globaler Favorit: ", "Add global Favorite: ") + name);
+    services.beeper.Beep();
+    FocusListInFront();
+}
+
+void GlobalEvents::FocusListInFront() {
+    for (forms::ListBox* list : {&form.FavoritenListeGlobal, &form.FavoritenListe,
+                                 &form.WIthoutDoubles, &form.UAE_Short, &form.SuchErgList}) {
+        if (!list->Visible()) continue;
+        list->SetFocus();
+        return;
+    }
+}
+
+bool GlobalEvents::ShowGlobalFavourites() {
+    if (!form.EmulatorLongListbox.Visible()) return false;
+    store.LoadGlobalFavoriten();
+    const auto& records = store.Records();
+    form.Label1.SetCaption("Globale Favoriten: " + std::to_string(records.size()) + "  ");
+    // The open choice has made the drop-down as wide as the lists; the tabs stand beside it.
+    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    hooks.ArrangeLists();
+    form.DeLFav.SetVisible(true);
+    form.FavoritenListeGlobal.SetVisible(true);
+    form.FavoritenListeGlobal.BringToFront();
+    form.FavoritenListeGlobal.SetFocus();
+    form.FavoritenListe.SetVisible(false);
+    return true;
+}
+
+void GlobalEvents::LeaveGlobalFavourites() {
+    if (!form.FavoritenListeGlobal.Visible()) return;
+    hooks.ShowEmulatorBox(false);
+    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
+    busy.HideAll(true);
+}
+
+}  // namespace kivu::favourites

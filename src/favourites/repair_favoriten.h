@@ -1,0 +1,38 @@
+#pragma once
+
+#include <string>
+
+#include "core/busy_state.h"
+#include "core/form1.h"
+#include "favourites/favoriten.h"
+#include "platform/desktop.h"
+
+namespace kivu::favourites {
+
+// Looks for each favourite of the emulator in the game list, gives it the path at which it is now,
+// drops it when it is gone, and tells what it has done.
+class Repair {
+ public:
+    Repair(core::Form1& form, Favoriten& store, core::BusyState& busy, core::EventPacer& pacer,
+           platform::Dialogs& dialogs)
+        : form(form), store(store), busy(busy), pacer(pacer), dialogs(dialogs) {}
+
+    // Events run on the way. A second one within the first does nothing.
+    void RepairFavoriten();
+    bool IsRunning() const { return running; }
+
+ private:
+    void RepairRow(int row, std::string& report);
+    // The row of UAE_FULL, 0 or less when it is not found: the first row counts as none.
+    int FindAgain(const std::string& path, const std::string& recordPath,
+                  const std::string& rowText);
+
+    core::Form1& form;
+    Favoriten& store;
+    core::BusyState& busy;
+    core::EventPacer& pacer;
+    platform::Dialogs& dialogs;
+    bool running = false;
+};
+
+}  // namespace kivu::favourites

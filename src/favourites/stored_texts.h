@@ -1,0 +1,41 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/ini.h"
+#include "core/ini_document.h"
+#include "platform/file_system.h"
+
+namespace kivu::favourites {
+
+// A favourites file read once. Names are text; paths are file names, which keep their bytes even
+// where those are no text of this host.
+class StoredTexts {
+ public:
+    // A missing file has no texts. Empty optional: something stands there that cannot be read, and
+    // that must not be overwritten.
+    static std::optional<StoredTexts> Read(const core::Ini& ini, const platform::FileSystem& files,
+                                           const std::string& iniFile);
+
+    std::string Text(std::string_view section, std::string_view key) const;
+    // The path made absolute against `base`, a directory without a closing separator; with an empty
+    // base as it stands. An empty value stays empty.
+    std::string Path(std::string_view section, std::string_view key, std::string_view base) const;
+
+ private:
+    StoredTexts(const platform::FileSystem& files, core::IniDocument texts)
+        : files(&files), texts(std::move(texts)) {}
+    std::string Absolute(const std::string& stored, std::string_view base) const;
+
+    const platform::FileSystem* files;
+    core::IniDocument texts;
+    std::optional<core::IniDocument> bytes;  // the same undecoded, where that makes a difference
+};
+
+// Whether a profile gives anything back for this text once it is stored as a value: blanks alone
+// and a lone pair of quotes read as nothing.
+bool IsStorable(std::string_view text);
+
+}  // namespace kivu::favourites
