@@ -31,6 +31,15 @@ std::string SettingsLoader::AbsolutePath(const std::string& stored) const {
     });
 }
 
+// A program named without a directory may be anywhere in the search path of a POSIX host, where the
+// start looks for it.
+std::string SettingsLoader::EmulatorPath(const std::string& stored) const {
+    const std::string path = AbsolutePath(stored);
+    const bool bareName = !stored.empty() && stored.find_first_of("/\\") == std::string::npos;
+    const bool posix = files.Separator() == '/';
+    return bareName && posix && !files.FileExists(path) ? stored : path;
+}
+
 void SettingsLoader::LoadPaths() {
     const auto read = [&](const char* key) {
         return ini.ReadIniValue(settings, key, form.IniPath, "", true);
@@ -38,7 +47,7 @@ void SettingsLoader::LoadPaths() {
     form.TxtRomPath.SetText(read("RomPath"));
     form.TxtRomPath.SetText(support::AddPathSeparator(AbsolutePath(form.TxtRomPath.Text())));
     form.txtWinUAEExe.SetText(read("EmulatorPath"));
-    form.txtWinUAEExe.SetText(AbsolutePath(form.txtWinUAEExe.Text()));
+    form.txtWinUAEExe.SetText(EmulatorPath(form.txtWinUAEExe.Text()));
     form.FontSizeCombo.SetListIndex(
         ini.ReadIniNumber(settings, "Fontsize", form.BaseIniName, "16", true));
     form.TxtKickstartRomFile.SetText(read("KickstartRom"));

@@ -31,6 +31,7 @@ class SettingsLoader {
  private:
     // A stored path as an absolute one. A path written by hand may be absolute already.
     std::string AbsolutePath(const std::string& stored) const;
+    std::string EmulatorPath(const std::string& stored) const;
     void LoadPaths();
     void LoadDrivesPanel();
     void LoadJoystick();
