@@ -32,6 +32,7 @@ FormSurface::FormSurface(const forms::Form& form) : form(form) {
 
 void FormSurface::TakePicture() {
     picture.Set(form.GetPicture());
+    picture.Prefetch();
     Renew();
 }
 
@@ -51,9 +52,10 @@ void FormSurface::resizeEvent(QResizeEvent*) {
 }
 
 void FormSurface::CutCorners() {
-    if (const int radius = Radius()) {
+    const int radius = Radius();
+    if (radius > 0) {
         setMask(RoundedRegion(size(), radius));
-    } else {
+    } else if (!mask().isEmpty()) {
         clearMask();
     }
 }

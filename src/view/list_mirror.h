@@ -19,7 +19,7 @@ class ListMirror : public Mirror {
     std::optional<int> RowAt(QPoint global) const override;
     bool HasRows() const override { return true; }
     int SelectedRow() const override { return source->Selected(); }
-    void ClickRow(int row) override { source->Click(row); }
+    void ClickRow(int row, int shift) override { source->Click(row, shift); }
     void SelectRow(int row) override { source->Select(row); }
     int PageRows() const override;
 

@@ -48,7 +48,7 @@ class Mirror {
     virtual std::optional<int> RowAt(QPoint) const { return {}; }
     virtual bool HasRows() const { return false; }
     virtual int SelectedRow() const { return -1; }
-    virtual void ClickRow(int) {}
+    virtual void ClickRow(int, int /*shift*/) {}
     virtual void SelectRow(int) {}
     // Whole rows that fit.
     virtual int PageRows() const { return 10; }

@@ -63,13 +63,30 @@ QImage LoadPicture(const std::string& source) {
 void PictureCache::Set(const forms::Picture& value) {
     picture = value;
     loaded = false;
+    coming = {};
     original = {};
     scaled = {};
 }
 
+void PictureCache::Prefetch() {
+    if (loaded || picture.pixels || picture.source.empty() || coming.valid()) return;
+    coming = std::async(std::launch::async, LoadPicture, picture.source);
+}
+
+void PictureCache::TakeDense(QSize wanted) {
+    // Resources may come with twice the pixels as well; soft pictures need them late.
+    const bool coarse = wanted.width() > original.width() * 1.3;
+    const std::string dense = picture.source + "@2x";
+    if (!coarse || !picture.source.starts_with(":") || !QFile::exists(ToQt(dense))) return;
+    picture.source = dense;
+    original = LoadPicture(dense);
+}
+
 void PictureCache::Load() {
     loaded = true;
-    if (picture.pixels) {
+    if (coming.valid()) {
+        original = coming.get();
+    } else if (picture.pixels) {
         original = FromBitmap(*picture.pixels);
     } else if (!picture.source.empty()) {
         original = LoadPicture(picture.source);
@@ -77,7 +94,10 @@ void PictureCache::Load() {
 }
 
 const QPixmap& PictureCache::Scaled(QSize size, Fit fit) {
-    if (!loaded) Load();
+    if (!loaded) {
+        Load();
+        if (!original.isNull()) TakeDense(size);
+    }
     if (original.isNull() || size.isEmpty()) {
         scaled = {};
     } else if (scaled.size() != size) {

@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QPixmap>
+#include <future>
 
 #include "forms/types.h"
 
@@ -17,14 +18,18 @@ class PictureCache {
     };
 
     void Set(const forms::Picture& picture);
+    // Begins to load on another thread a picture that will be drawn soon.
+    void Prefetch();
     // Device pixels. Null: there is no picture, or it cannot be loaded.
     const QPixmap& Scaled(QSize size, Fit fit);
 
  private:
     void Load();
+    void TakeDense(QSize wanted);
 
     forms::Picture picture;
     bool loaded = false;
+    std::future<QImage> coming;
     QImage original;
     QPixmap scaled;
 };

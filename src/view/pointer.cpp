@@ -4,6 +4,7 @@
 
 #include "forms/controls.h"
 #include "forms/list_control.h"
+#include "view/geometry.h"
 #include "view/keys.h"
 
 namespace kivu::view {
@@ -117,7 +118,7 @@ void Pointer::PressList(Mirror& mirror, const QMouseEvent& event, bool second) {
     if (!second) input.MouseDown(control, mouse);
     // The handlers may have emptied the list; a row that is gone is not clicked.
     if (!row || !control.IsReachable() || event.button() != Qt::LeftButton) return;
-    if (!second || mirror.SelectedRow() != *row) mirror.ClickRow(*row);
+    if (!second || mirror.SelectedRow() != *row) mirror.ClickRow(*row, mouse.shift);
     if (second && control.IsReachable()) control.DoubleClick();
 }
 
@@ -126,6 +127,7 @@ bool Pointer::Move(Mirror& mirror, const QMouseEvent& event) {
         clickPending = false;
         return true;
     }
+    if (DragControl(GlobalOf(event))) return true;
     Mirror* target = pressed ? mirrorOf(*pressed) : &mirror;
     if (!target || !target->Widget()) return true;
     if (pressed && clickPending) {
@@ -139,12 +141,39 @@ bool Pointer::Move(Mirror& mirror, const QMouseEvent& event) {
     return false;
 }
 
+forms::Point Pointer::PlaceOf(QPoint global) const {
+    const forms::Mouse mouse = mirrorOf(form)->MouseAt(global, 0, 0);
+    return {mouse.x, mouse.y};
+}
+
+bool Pointer::DragControl(QPoint global) {
+    forms::Control* dragged = form.Dragged();
+    Mirror* mirror = dragged ? mirrorOf(*dragged) : nullptr;
+    if (!mirror || !mirror->Widget()) return false;
+    clickPending = false;
+    // Only the picture follows the mouse; the model moves when a handler moves it.
+    const QPoint by = global - pressedAt;
+    mirror->Widget()->move(PixelRect(*dragged).topLeft() + by);
+    input.DragOver(PlaceOf(global));
+    return true;
+}
+
+bool Pointer::DropControl(QPoint global) {
+    forms::Control* dragged = form.Dragged();
+    if (!dragged) return false;
+    input.Drop(PlaceOf(global));
+    if (Mirror* mirror = mirrorOf(*dragged)) mirror->Apply(forms::Aspect::geometry);
+    return true;
+}
+
 bool Pointer::Release(const QMouseEvent& event, bool consumed) {
     drag.Disarm();
     forms::Control* control = pressed;
     if (!control || event.button() != button) return consumed;
     pressed = nullptr;
     button = Qt::NoButton;
+    const bool far = (GlobalOf(event) - pressedAt).manhattanLength() > 2;
+    if (far && DropControl(GlobalOf(event))) return true;
     Mirror* mirror = mirrorOf(*control);
     if (!mirror || !mirror->Widget()) return true;
     mirror->ShowPressed(false);

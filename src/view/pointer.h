@@ -26,6 +26,10 @@ class Pointer {
     bool Move(Mirror& mirror, const QMouseEvent& event);
     bool Release(const QMouseEvent& event, bool consumed);
     void PressList(Mirror& mirror, const QMouseEvent& event, bool second);
+    // A control that its handler has given to the mouse. False: there is none.
+    bool DragControl(QPoint global);
+    bool DropControl(QPoint global);
+    forms::Point PlaceOf(QPoint global) const;
     void ClickOn(forms::Control& control);
     // The control that listens: one that nobody listens to is part of what lies behind it.
     Mirror& TargetOf(Mirror& mirror) const;

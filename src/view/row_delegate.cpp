@@ -20,7 +20,7 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
                         const QModelIndex& index) const {
     const bool hover = option.state.testFlag(QStyle::State_MouseOver);
     const bool current = option.state.testFlag(QStyle::State_Selected);
-    const bool marked = followsCurrent ? current : source.Selected() == index.row();
+    const bool marked = followsCurrent ? current : source.IsMarked(index.row());
     const bool active = followsCurrent || option.state.testFlag(QStyle::State_HasFocus) ||
                         (option.widget && option.widget->hasFocus());
     const QColor base = option.palette.color(QPalette::Base);

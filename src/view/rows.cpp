@@ -4,6 +4,21 @@
 
 namespace kivu::view {
 
+bool ListRowSource::IsMarked(int row) const {
+    const auto* box = dynamic_cast<const forms::ListBox*>(&list);
+    return box && box->MultiSelect() ? box->Selected(row) : list.ListIndex() == row;
+}
+
+void ListRowSource::Click(int row, int shift) {
+    using forms::Choice;
+    const bool range = (shift & forms::shifts::shift) != 0;
+    const bool toggle = (shift & forms::shifts::ctrl) != 0;
+    list.ClickRow(row, toggle && range ? Choice::addRange
+                       : toggle        ? Choice::toggle
+                       : range         ? Choice::extend
+                                       : Choice::only);
+}
+
 int Rows::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : shown;
 }

@@ -14,7 +14,10 @@ class RowSource {
     virtual int Count() const = 0;
     virtual const std::string& Text(int row) const = 0;
     virtual int Selected() const = 0;
-    virtual void Click(int row) = 0;
+    // Chosen, where several rows can be.
+    virtual bool IsMarked(int row) const { return Selected() == row; }
+    // With the shift state of the mouse.
+    virtual void Click(int row, int shift) = 0;
     virtual void Select(int row) = 0;
 };
 
@@ -24,7 +27,8 @@ class ListRowSource : public RowSource {
     int Count() const override { return list.ListCount(); }
     const std::string& Text(int row) const override { return list.List(row); }
     int Selected() const override { return list.ListIndex(); }
-    void Click(int row) override { list.ClickRow(row); }
+    bool IsMarked(int row) const override;
+    void Click(int row, int shift) override;
     void Select(int row) override { list.SetListIndex(row); }
 
  private:
@@ -37,7 +41,7 @@ class DirectoryRowSource : public RowSource {
     int Count() const override { return list.ListCount(); }
     const std::string& Text(int row) const override { return list.List(row); }
     int Selected() const override { return list.ListIndex(); }
-    void Click(int row) override { list.ClickRow(row); }
+    void Click(int row, int) override { list.ClickRow(row); }
     void Select(int row) override { list.SetListIndex(row); }
 
  private:

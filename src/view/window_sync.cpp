@@ -65,6 +65,11 @@ void WindowSync::Apply(forms::Aspect aspect) {
             if (!shown || form.State() == WindowState::normal) RequestGeometry();
             break;
         case forms::Aspect::windowState:
+            if (last == WindowState::normal) {
+                normal = {form.Left(), form.Top(), form.Width(), form.Height()};
+                normalPixels = known;
+            }
+            last = form.State();
             window.Renew();
             if (shown) ApplyState();
             break;
@@ -93,8 +98,6 @@ void WindowSync::RequestGeometry() {
 
 void WindowSync::Show() {
     RequestGeometry();
-    normal = {form.Left(), form.Top(), form.Width(), form.Height()};
-    normalPixels = known;
     shown = true;
     switch (form.State()) {
         case WindowState::minimized:
@@ -127,7 +130,8 @@ void WindowSync::ApplyState() {
 }
 
 Qt::WindowFlags WindowSync::Flags() const {
-    Qt::WindowFlags flags = Qt::Window;
+    // A tool window has no place in the task bar.
+    Qt::WindowFlags flags = form.IsToolWindow() ? Qt::Tool : Qt::Window;
     if (!form.HasFrame()) flags |= Qt::FramelessWindowHint;
     if (form.IsTopmost()) flags |= Qt::WindowStaysOnTopHint;
     return flags;
@@ -144,6 +148,7 @@ void WindowSync::ApplyFrame() {
         const bool on = Flags().testFlag(flag);
         if (native->flags().testFlag(flag) != on) native->setFlag(flag, on);
     }
+    if (native->type() != (Flags() & Qt::WindowType_Mask)) native->setFlags(Flags());
     window.overrideWindowFlags(Flags());
 }
 
@@ -176,8 +181,7 @@ void WindowSync::TakeGeometry() {
     const QRect now = Current();
     const bool placed = HasPositions();
     Place place{form.Left(), form.Top(), form.Width(), form.Height()};
-    if (form.State() == WindowState::normal && now.size() == normalPixels.size() &&
-        (now == normalPixels || !placed) && now != known) {
+    if (form.State() == WindowState::normal && now == normalPixels && now != known) {
         // Back from maximised: the twips that led to these pixels.
         place = normal;
     } else {
@@ -187,10 +191,6 @@ void WindowSync::TakeGeometry() {
         if (now.height() != known.height()) place.height = ToTwips(now.height());
     }
     known = now;
-    if (form.State() == WindowState::normal) {
-        normal = place;
-        normalPixels = now;
-    }
     form.Move(place.left, place.top, place.width, place.height);
 }
 

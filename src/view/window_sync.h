@@ -41,8 +41,9 @@ class WindowSync {
     FormSurface& window;
     QRect known;     // pixels that the window has, or has been asked to take
     QTimer answer;   // runs while the window manager has not answered the last request
-    Place normal{};  // where the window goes back to
+    Place normal{};  // where the window goes back to from another state
     QRect normalPixels;
+    forms::WindowState last = forms::WindowState::normal;
     bool shown = false;
 };
 

@@ -1,0 +1,153 @@
+#include <QApplication>
+#include <QDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTest>
+#include <QTimer>
+#include <gtest/gtest.h>
+
+#include "platform/qt/dialogs_qt.h"
+#include "platform/qt/event_pump_qt.h"
+#include "platform/qt/pumping_clock.h"
+
+namespace kivu::tests {
+namespace {
+
+using namespace platform;
+using namespace std::chrono_literals;
+
+// Runs once the box of that name is on the screen.
+void WhenShown(const char* name, std::function<void(QDialog&)> then) {
+    auto* timer = new QTimer(qApp);
+    QObject::connect(timer, &QTimer::timeout, timer, [=] {
+        QWidget* box = QApplication::activeModalWidget();
+        if (!box || box->objectName() != QLatin1String(name)) return;
+        timer->deleteLater();
+        timer->stop();
+        then(static_cast<QDialog&>(*box));
+    });
+    timer->start(1);
+}
+
+void Press(QDialog& box, const char* button) {
+    auto* found = box.findChild<QPushButton*>(QLatin1String(button));
+    ASSERT_TRUE(found) << button;
+    QTest::mouseClick(found, Qt::LeftButton);
+}
+
+TEST(Dialogs, GiveTheAnswerOfTheirButtons) {
+    QtDialogs dialogs(false);
+    WhenShown("MessageBox", [](QDialog& box) { Press(box, "Yes"); });
+    EXPECT_EQ(dialogs.MessageBox("Sure?", "Title", Buttons::YesNo, Icon::Question), Answer::Yes);
+    WhenShown("MessageBox", [](QDialog& box) { Press(box, "No"); });
+    EXPECT_EQ(dialogs.MessageBox("Sure?", "Title", Buttons::YesNo, Icon::None), Answer::No);
+    WhenShown("MessageBox", [](QDialog& box) { Press(box, "Cancel"); });
+    EXPECT_EQ(dialogs.MessageBox("Sure?", "Title", Buttons::OkCancel, Icon::Error), Answer::Cancel);
+}
+
+TEST(Dialogs, GiveTheCancellingAnswerWhenClosed) {
+    QtDialogs dialogs(false);
+    const auto escape = [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); };
+    WhenShown("MessageBox", escape);
+    EXPECT_EQ(dialogs.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::No);
+    WhenShown("MessageBox", escape);
+    EXPECT_EQ(dialogs.MessageBox("", "", Buttons::OkCancel, Icon::None), Answer::Cancel);
+    WhenShown("MessageBox", [](QDialog& box) { box.close(); });
+    EXPECT_EQ(dialogs.MessageBox("", "", Buttons::Ok, Icon::None), Answer::Ok);
+}
+
+TEST(Dialogs, TakeEnterForTheFirstButton) {
+    QtDialogs dialogs(false);
+    WhenShown("MessageBox", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
+    EXPECT_EQ(dialogs.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::Yes);
+}
+
+TEST(Dialogs, BreakLinesAtCarriageReturnsAndShowNoMarkup) {
+    QtDialogs dialogs(true);
+    QString text;
+    Qt::TextFormat format{};
+    QString cancel;
+    WhenShown("MessageBox", [&](QDialog& box) {
+        text = box.findChild<QLabel*>("Text")->text();
+        format = box.findChild<QLabel*>("Text")->textFormat();
+        cancel = box.findChild<QPushButton*>("Cancel")->text();
+        box.close();
+    });
+    dialogs.MessageBox("File not found:\r<b>x</b>.adf", "Title", Buttons::OkCancel, Icon::Warning);
+    EXPECT_EQ(text, "File not found:\n<b>x</b>.adf");
+    EXPECT_EQ(format, Qt::PlainText);
+    EXPECT_EQ(cancel, "Abbrechen");
+}
+
+TEST(Dialogs, GiveTheTypedText) {
+    QtDialogs dialogs(false);
+    WhenShown("InputBox", [](QDialog& box) {
+        auto* line = box.findChild<QLineEdit*>("Input");
+        EXPECT_EQ(line->selectedText(), "old");
+        QTest::keyClicks(line, "new");
+        QTest::keyClick(line, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.InputBox("New Title", "Title", "old"), "new");
+    WhenShown("InputBox", [](QDialog& box) { Press(box, "Cancel"); });
+    EXPECT_EQ(dialogs.InputBox("New Title", "Title", "old"), "");
+}
+
+TEST(Dialogs, StayOnTheScreenWithAVeryLongText) {
+    QtDialogs dialogs(false);
+    QRect place;
+    WhenShown("MessageBox", [&](QDialog& box) {
+        place = box.geometry();
+        box.close();
+    });
+    std::string text;
+    for (int i = 0; i < 500; ++i)
+        text += "line " + std::to_string(i) + "\r";
+    dialogs.MessageBox(text, "Title", Buttons::Ok, Icon::None);
+    EXPECT_LE(place.height(), QGuiApplication::primaryScreen()->availableSize().height());
+}
+
+TEST(EventPump, RunsWhatWaits) {
+    QtEventPump pump;
+    bool ran = false;
+    QTimer::singleShot(0, [&] { ran = true; });
+    pump.DoEvents();
+    EXPECT_TRUE(ran);
+}
+
+TEST(EventPump, EndsTheDescentOfEventsThatPump) {
+    QtEventPump pump;
+    int depth = 0;
+    int deepest = 0;
+    QObject waiting;  // what has not run by the end never will
+    std::function<void()> again = [&] {
+        deepest = std::max(deepest, ++depth);
+        if (deepest < 1000) {
+            QTimer::singleShot(0, &waiting, [&] { again(); });
+            pump.DoEvents();
+        }
+        --depth;
+    };
+    again();
+    EXPECT_LT(deepest, 100);
+}
+
+class StandingClock : public Clock {
+ public:
+    TimeOfDay Now() const override { return {1, 2, 3}; }
+    std::chrono::milliseconds Steady() const override { return 4ms; }
+    void Rest(std::chrono::milliseconds) override { FAIL(); }
+};
+
+TEST(PumpingClock, KeepsTheWindowAliveInItsRests) {
+    StandingClock inner;
+    PumpingClock clock(inner);
+    bool ran = false;
+    QTimer::singleShot(0, [&] { ran = true; });
+    clock.Rest(20ms);
+    EXPECT_TRUE(ran);
+    EXPECT_EQ(clock.Now().second, 3);
+}
+
+}  // namespace
+}  // namespace kivu::tests

@@ -1,0 +1,157 @@
+#include "view/shown_form.h"
+
+namespace kivu::tests {
+namespace {
+
+class FocusTest : public ShownForm {
+ protected:
+    void LogFocus(forms::Control& control) {
+        control.onGotFocus = form.Note("+" + control.FullName());
+        control.onLostFocus = form.Note("-" + control.FullName());
+    }
+    QString Focused() {
+        QWidget* focus = view.Window().focusWidget();
+        return focus ? focus->objectName() : QString();
+    }
+};
+
+TEST_F(FocusTest, TakesTheModelsFocusAtFirstShowWithoutAHandler) {
+    form.text.SetFocus();
+    LogFocus(form.text);
+    LogFocus(form.list);
+    Show();
+    EXPECT_EQ(Focused(), "Text");
+    EXPECT_TRUE(Find("Text")->hasFocus());
+    EXPECT_TRUE(form.log.empty());
+}
+
+TEST_F(FocusTest, TakesNoFocusWhereTheModelHasNone) {
+    LogFocus(form.list);
+    Show();
+    EXPECT_EQ(Focused(), "");
+    EXPECT_EQ(form.Focus(), nullptr);
+    EXPECT_TRUE(form.log.empty());
+}
+
+TEST_F(FocusTest, FollowsTheModel) {
+    Show();
+    LogFocus(form.text);
+    form.text.SetFocus();
+    EXPECT_TRUE(Find("Text")->hasFocus());
+    EXPECT_EQ(form.log, std::vector<std::string>{"+Text"});
+}
+
+TEST_F(FocusTest, HandsTheFocusOfAHiddenControlToNobody) {
+    form.text.SetFocus();
+    Show();
+    for (forms::Control* control : form.Controls()) {
+        LogFocus(*control);
+    }
+    form.text.SetVisible(false);
+    Settle();
+    EXPECT_EQ(form.log, std::vector<std::string>{"-Text"});
+    EXPECT_EQ(form.Focus(), nullptr);
+    EXPECT_EQ(QApplication::focusWidget(), nullptr);
+}
+
+TEST_F(FocusTest, HandsTheFocusOfADisabledControlToNobody) {
+    form.text.SetFocus();
+    Show();
+    for (forms::Control* control : form.Controls()) {
+        LogFocus(*control);
+    }
+    form.text.SetEnabled(false);
+    Settle();
+    EXPECT_EQ(form.log, std::vector<std::string>{"-Text"});
+    EXPECT_EQ(QApplication::focusWidget(), nullptr);
+}
+
+TEST_F(FocusTest, DropsTheFocusInsideAHiddenContainer) {
+    form.inner.SetFocus();
+    Show();
+    LogFocus(form.inner);
+    form.frame.SetVisible(false);
+    Settle();
+    EXPECT_EQ(form.log, std::vector<std::string>{"-Inner"});
+    EXPECT_EQ(QApplication::focusWidget(), nullptr);
+}
+
+TEST_F(FocusTest, StaysThroughAnotherWindowsTurn) {
+    form.text.SetFocus();
+    Show();
+    LogFocus(form.text);
+    QWidget stranger;
+    stranger.show();
+    stranger.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&stranger));
+    EXPECT_TRUE(form.text.HasFocus());
+    stranger.hide();
+    view.Window().activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&view.Window()));
+    EXPECT_TRUE(form.log.empty());
+    EXPECT_TRUE(Find("Text")->hasFocus());
+}
+
+TEST_F(FocusTest, StaysWhileAPopupIsOpen) {
+    form.combo.AddItem("a");
+    form.combo.AddItem("b");
+    form.combo.SetFocus();
+    Show();
+    LogFocus(form.combo);
+    Find<QComboBox>("Combo")->showPopup();
+    Settle();
+    Find<QComboBox>("Combo")->hidePopup();
+    Settle();
+    EXPECT_TRUE(form.log.empty());
+    EXPECT_TRUE(form.combo.HasFocus());
+}
+
+TEST_F(FocusTest, HearsAScreenReaderThatMovesIt) {
+    Show();
+    LogFocus(form.text);
+    Find("Text")->setFocus(Qt::OtherFocusReason);
+    EXPECT_EQ(form.log, std::vector<std::string>{"+Text"});
+}
+
+TEST_F(FocusTest, GoesToTheClickedControlBeforeItsHandlersRun) {
+    LogFocus(form.text);
+    LogFocus(form.list);
+    form.text.onMouseDown = [this](const forms::Mouse&) { form.log.push_back("down"); };
+    form.list.SetFocus();
+    form.log.clear();
+    Show();
+    Click(Middle(Find("Text")));
+    const std::vector<std::string> order{"-List", "+Text", "down"};
+    EXPECT_EQ(form.log, order);
+}
+
+TEST_F(FocusTest, LeavesLabelsWithoutIt) {
+    form.list.SetFocus();
+    form.label.onClick = form.Note("click");
+    Show();
+    Click(Middle(Find("Label")));
+    EXPECT_TRUE(form.list.HasFocus());
+    EXPECT_EQ(form.log, std::vector<std::string>{"click"});
+}
+
+TEST_F(FocusTest, SurvivesAGotFocusHandlerThatHidesItsControl) {
+    form.combo.onGotFocus = [this] { form.combo.SetVisible(false); };
+    Show();
+    Click(Middle(Find("Combo")));
+    Settle();
+    EXPECT_FALSE(Find("Combo")->isVisible());
+    EXPECT_EQ(form.Focus(), nullptr);
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
+TEST_F(FocusTest, MovesOnFromALostFocusHandler) {
+    form.text.onLostFocus = [this] { form.combo.SetFocus(); };
+    form.text.SetFocus();
+    Show();
+    form.list.SetFocus();
+    EXPECT_TRUE(form.combo.HasFocus());
+    EXPECT_EQ(Focused(), "Combo");
+}
+
+}  // namespace
+}  // namespace kivu::tests

@@ -1,0 +1,187 @@
+#include <QPainter>
+#include <QSessionManager>
+
+#include "view/shown_form.h"
+
+namespace kivu::tests {
+namespace {
+
+using WindowTest = ShownForm;
+
+TEST_F(WindowTest, HasTheFormsSizeTitleAndFrame) {
+    Show();
+    EXPECT_EQ(view.Window().geometry(), QRect(100, 100, 800, 600));
+    EXPECT_EQ(view.Window().windowTitle(), "Sample");
+    EXPECT_TRUE(Native()->flags() & Qt::FramelessWindowHint);
+    form.SetCaption("50 % [*] <b>");
+    EXPECT_EQ(view.Window().windowTitle(), "50 % [*][*] <b>");
+}
+
+TEST_F(WindowTest, ChangesItsFlagsWithoutHidingItself) {
+    Show();
+    form.SetTopmost(true);
+    EXPECT_TRUE(view.Window().isVisible());
+    EXPECT_TRUE(Native()->flags() & Qt::WindowStaysOnTopHint);
+    form.SetHasFrame(true);
+    EXPECT_TRUE(view.Window().isVisible());
+    EXPECT_FALSE(Native()->flags() & Qt::FramelessWindowHint);
+    form.SetTopmost(false);
+    EXPECT_FALSE(Native()->flags() & Qt::WindowStaysOnTopHint);
+}
+
+TEST_F(WindowTest, FollowsTheModelsSizeAndWritesNoPixelsBack) {
+    Show();
+    form.Move(1507, 1511, 12007, 9011);
+    Settle();
+    EXPECT_EQ(view.Window().geometry(), QRect(100, 101, 801, 600));
+    EXPECT_EQ(form.Left(), 1507);
+    EXPECT_EQ(form.Width(), 12007);
+    EXPECT_EQ(form.Height(), 9011);
+}
+
+TEST_F(WindowTest, TellsTheModelWhatTheWindowManagerChanges) {
+    form.Move(1507, 1511, 12007, 9011);
+    form.onResize = form.Note("resize");
+    Show();
+    QRect place = Native()->geometry();
+    place.setWidth(900);
+    Native()->setGeometry(place);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.Width() == 13500; }));
+    // What did not change keeps its twips.
+    EXPECT_EQ(form.Height(), 9011);
+    EXPECT_EQ(form.Left(), 1507);
+    EXPECT_EQ(form.log, std::vector<std::string>{"resize"});
+}
+
+TEST_F(WindowTest, ComesBackFromMaximisedWithTheSameTwips) {
+    form.Move(1507, 1511, 12007, 9011);
+    Show();
+    form.SetState(forms::WindowState::maximized);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.Width() != 12007; }));
+    EXPECT_TRUE(view.Window().isMaximized());
+    form.SetState(forms::WindowState::normal);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.Width() == 12007; }));
+    EXPECT_EQ(form.Left(), 1507);
+    EXPECT_EQ(form.Height(), 9011);
+}
+
+TEST_F(WindowTest, TellsTheModelItsState) {
+    Show();
+    view.Window().showMaximized();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.State() == forms::WindowState::maximized; }));
+    view.Window().showNormal();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return form.State() == forms::WindowState::normal; }));
+}
+
+TEST_F(WindowTest, OpensMaximisedWhenTheModelSaysSo) {
+    form.SetState(forms::WindowState::maximized);
+    Show();
+    EXPECT_TRUE(view.Window().isMaximized());
+}
+
+TEST_F(WindowTest, OpensInSightWhereItsScreenHasGone) {
+    form.Move(900000, 900000, 12000, 9000);
+    Show();
+    EXPECT_TRUE(view.Window().screen()->geometry().intersects(view.Window().geometry()));
+    // Seen elsewhere, but that is no wish of the user's.
+    EXPECT_EQ(form.Left(), 900000);
+}
+
+TEST_F(WindowTest, HasRoundCornersUnlessMaximised) {
+    Show();
+    const QRegion round = view.Window().mask();
+    EXPECT_FALSE(round.contains(QPoint(1, 1)));
+    EXPECT_TRUE(round.contains(QPoint(15, 15)));
+    EXPECT_TRUE(round.contains(QPoint(400, 1)));
+    EXPECT_FALSE(round.contains(QPoint(798, 598)));
+    form.SetState(forms::WindowState::maximized);
+    Settle();
+    EXPECT_TRUE(view.Window().mask().isEmpty());
+}
+
+TEST_F(WindowTest, StaysOpenWhileSomebodyObjects) {
+    bool refuse = true;
+    form.onQueryClose = [&](bool& cancel) { cancel = refuse; };
+    bool closed = false;
+    view.onClosed = [&] { closed = true; };
+    Show();
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_TRUE(view.Window().isVisible());
+    EXPECT_FALSE(closed);
+    refuse = false;
+    EXPECT_TRUE(view.Window().close());
+    EXPECT_FALSE(view.Window().isVisible());
+    EXPECT_TRUE(closed);
+}
+
+TEST_F(WindowTest, AsksForTheCloseKeyThatNobodySwallowed) {
+    form.onQueryClose = [this](bool& cancel) {
+        form.log.push_back("close");
+        cancel = true;
+    };
+    Show();
+    Key(Qt::Key_F4, Qt::AltModifier);
+    EXPECT_EQ(form.log, std::vector<std::string>{"close"});
+    form.onPreviewKeyDown = [](forms::Key& key) { key.code = 0; };
+    Key(Qt::Key_F4, Qt::AltModifier);
+    EXPECT_EQ(form.log.size(), 1U);
+}
+
+TEST_F(WindowTest, DoesNotHoldUpTheEndOfTheSession) {
+    form.onQueryClose = [](bool& cancel) { cancel = true; };
+    Show();
+    // The toolkit hands the manager through; this view has no use for it.
+    alignas(QSessionManager) char nothing[sizeof(QSessionManager)] = {};
+    emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nothing));
+    EXPECT_TRUE(view.Window().close());
+}
+
+TEST_F(WindowTest, HidesAndComesBackByTheFormsOwnFlag) {
+    Show();
+    form.SetVisible(false);
+    EXPECT_FALSE(view.Window().isVisible());
+    form.SetVisible(true);
+    EXPECT_TRUE(view.Window().isVisible());
+}
+
+TEST_F(WindowTest, StaysWhereItIsUnderAClickThatAsksForADrag) {
+    form.onMouseDown = [this](const forms::Mouse&) { form.BeginDrag(); };
+    form.onClick = form.Note("click");
+    form.onDblClick = form.Note("double");
+    Show();
+    DoubleClick(QPoint(700, 500));
+    const std::vector<std::string> order{"click", "double"};
+    EXPECT_EQ(form.log, order);
+    EXPECT_EQ(view.Window().pos(), QPoint(100, 100));
+}
+
+TEST_F(WindowTest, EndsWithItsFormStillThere) {
+    SampleForm later;
+    {
+        view::FormView short_lived(later);
+        short_lived.Show();
+        later.Fill(3);
+    }
+    // Nobody listens any more, and nothing is told to a view that has gone.
+    later.Fill(3);
+    later.list.SetFocus();
+    Settle();
+    EXPECT_EQ(later.list.ListCount(), 6);
+}
+
+TEST_F(WindowTest, RunsAModalFormUntilItIsHidden) {
+    Show();
+    SampleForm second;
+    view::FormView box(second);
+    bool shown = false;
+    QTimer::singleShot(0, [&] {
+        shown = box.Window().isVisible() && box.Window().isModal();
+        second.SetVisible(false);
+    });
+    box.ShowModal(&view.Window());
+    EXPECT_TRUE(shown);
+    EXPECT_FALSE(box.Window().isVisible());
+}
+
+}  // namespace
+}  // namespace kivu::tests
