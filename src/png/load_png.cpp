@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <limits>
+#include <new>
 #include <utility>
 
 #include "png/decoder.h"
@@ -54,17 +55,28 @@ std::error_code LoadPNG::OpenPNG(const std::filesystem::path& fileName) {
     Reset();
     std::uintmax_t size = 0;
     if (const std::error_code error = OpenRegularFile(file, fileName, size)) return error;
-    ByteBuffer bytes = ReadAll(file, size);
-    if (const auto imageData = WalkChunks(bytes.Span())) {
-        file.close();
-        DecodeAndDraw(*imageData);
+    try {
+        ByteBuffer bytes = ReadAll(file, size);
+        if (const auto imageData = WalkChunks(bytes.Span())) {
+            file.close();
+            Decode(*imageData);
+        }
+    } catch (const std::bad_alloc&) {
+        return std::make_error_code(std::errc::not_enough_memory);
     }
+    DrawDecoded();
     return {};
 }
 
-void LoadPNG::OpenBytes(ByteBuffer bytes) {
+std::error_code LoadPNG::OpenBytes(ByteBuffer bytes) {
     Reset();
-    if (const auto imageData = WalkChunks(bytes.Span())) DecodeAndDraw(*imageData);
+    try {
+        if (const auto imageData = WalkChunks(bytes.Span())) Decode(*imageData);
+    } catch (const std::bad_alloc&) {
+        return std::make_error_code(std::errc::not_enough_memory);
+    }
+    DrawDecoded();
+    return {};
 }
 
 void LoadPNG::Reset() {
@@ -121,7 +133,7 @@ std::optional<std::span<std::uint8_t>> LoadPNG::WalkChunks(std::span<std::uint8_
     return imageData;
 }
 
-void LoadPNG::DecodeAndDraw(std::span<std::uint8_t> imageData) {
+void LoadPNG::Decode(std::span<std::uint8_t> imageData) {
     haveAlpha = false;
     if (!headerSeen || !IsDrawable(header)) return;
     haveAlpha = HasAlphaChannel(header);
@@ -131,12 +143,16 @@ void LoadPNG::DecodeAndDraw(std::span<std::uint8_t> imageData) {
         inflated = inflater.Inflate(rows, ExpectedBytes(header)).bytes;
         rows = inflated.Span();
     }
-    bitmap = Decode(rows);
+    bitmap = DecodeInflated(rows);
+}
+
+void LoadPNG::DrawDecoded() {
+    if (!bitmap) return;
     DrawBitmap(bitmap->Width(), bitmap->Height(), picBox, true, placeOnBackground ? targetX : 0,
                placeOnBackground ? targetY : 0, placeOnBackground);
 }
 
-Picture LoadPNG::Decode(std::span<std::uint8_t> rows) {
+Picture LoadPNG::DecodeInflated(std::span<std::uint8_t> rows) {
     const bool transparent = !haveAlpha && haveTransparence && transparencyRequest;
     AlphaUse alphaUse = AlphaUse::None;
     if (transparent || (haveAlpha && blendRequest)) {

@@ -46,7 +46,8 @@ class LoadPNG {
 
     // Reads fileName and draws it on PicBox. The outcome is in ErrorNumber; what can't be drawn
     // leaves the control as it was. The result is set only for a file that can't be opened, is no
-    // regular file, or is larger than any picture within the limits can be (1 GiB). After errors
+    // regular file, is larger than any picture within the limits can be (1 GiB), or needs more
+    // memory than there is. After errors
     // 1, 3 and 4 the file stays open until the next call or the object's end.
     std::error_code OpenPNG(const std::filesystem::path& fileName);
 
@@ -134,7 +135,7 @@ class LoadPNG {
     }
 
     // As OpenPNG, for a file that is in memory.
-    void OpenBytes(ByteBuffer bytes);
+    std::error_code OpenBytes(ByteBuffer bytes);
 
  private:
     struct Chunk {
@@ -152,13 +153,14 @@ class LoadPNG {
     void KeepBackground(std::span<const std::uint8_t> payload);
     void KeepTime(std::span<const std::uint8_t> payload);
     void KeepCompressedText(std::span<const std::uint8_t> payload);
-    std::uint32_t WorkOutBackground();
+    std::uint32_t WorkOutBackground() const;
     std::uint32_t BackgroundChannel(std::size_t index) const;
-    std::uint32_t BackgroundGrey();
-    std::string Widen(std::span<const std::uint8_t> bytes) const;
+    std::uint32_t BackgroundGrey() const;
+    void AppendText(std::string& to, std::span<const std::uint8_t> bytes) const;
 
-    void DecodeAndDraw(std::span<std::uint8_t> imageData);
-    Picture Decode(std::span<std::uint8_t> rows);
+    void Decode(std::span<std::uint8_t> imageData);
+    Picture DecodeInflated(std::span<std::uint8_t> rows);
+    void DrawDecoded();
     void PrepareTable(bool transparent);
     void MakeEntriesTransparent();
     std::optional<ColorKey> TransparentColor() const;

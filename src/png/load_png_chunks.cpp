@@ -17,8 +17,9 @@ std::uint32_t ColorNumber(std::uint32_t red, std::uint32_t green, std::uint32_t 
     return red | green << 8 | blue << 16;
 }
 
+// At least two digits.
 std::string TwoDigits(int number) {
-    return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
+    return (number < 10 ? "0" : "") + std::to_string(number);
 }
 
 }  // namespace
@@ -36,7 +37,7 @@ void LoadPNG::KeepChunk(const Chunk& chunk) {
         if (payload.size() >= 4) gamma = NetworkLong(payload.data());
     } else if (chunk.name == "tEXt") {
         // An empty one repeats what came before it.
-        AppendCapped(text, Widen(chunk.lastPayload).append(1, '\0'), longestText);
+        AppendText(text, chunk.lastPayload);
     } else if (chunk.name == "zTXt") {
         KeepCompressedText(payload);
     } else if (chunk.name == "tIME") {
@@ -65,7 +66,7 @@ void LoadPNG::KeepBackground(std::span<const std::uint8_t> payload) {
     hasBackground = true;
 }
 
-std::uint32_t LoadPNG::WorkOutBackground() {
+std::uint32_t LoadPNG::WorkOutBackground() const {
     switch (header.colorType) {
         case ColorTypes::Palette: {
             if (background.size() != 1 || background[0] >= palette.size() / 3) return 0;
@@ -92,13 +93,17 @@ std::uint32_t LoadPNG::BackgroundChannel(std::size_t index) const {
     return static_cast<std::uint32_t>(std::lround(std::min(channel, 255.0)));
 }
 
-std::uint32_t LoadPNG::BackgroundGrey() {
-    const bool deep = header.bitDepth == 16;
-    const std::vector<std::uint8_t> colors = InitColorTable_Grey(deep ? 8 : header.bitDepth);
-    const std::size_t sample = NetworkShort(background.data());
-    const std::size_t entry = (deep ? sample >> 8 : sample) * 3;
-    return entry < colors.size() ? ColorNumber(colors[entry], colors[entry + 1], colors[entry + 2])
-                                 : 0;
+// The colour that the grey table of the depth has for the sample.
+std::uint32_t LoadPNG::BackgroundGrey() const {
+    const std::uint32_t sample = NetworkShort(background.data());
+    const unsigned depth = header.bitDepth;
+    std::uint32_t grey = 0;
+    if (depth == 16) {
+        grey = sample >> 8;
+    } else if ((depth == 1 || depth == 2 || depth == 4 || depth == 8) && sample >> depth == 0) {
+        grey = sample * 255 / ((1U << depth) - 1);
+    }
+    return ColorNumber(grey, grey, grey);
 }
 
 void LoadPNG::KeepTime(std::span<const std::uint8_t> payload) {
@@ -115,13 +120,19 @@ void LoadPNG::KeepCompressedText(std::span<const std::uint8_t> payload) {
     const auto keywordEnd = std::find(payload.begin(), payload.end(), std::uint8_t{0});
     const auto keywordLength = static_cast<std::size_t>(keywordEnd - payload.begin());
     const std::size_t restStart = std::min(keywordLength + passedOver, payload.size());
-    AppendCapped(compressedText, Widen(payload.first(keywordLength)).append(1, '\0'), longestText);
-    AppendCapped(compressedText, Widen(payload.subspan(restStart)).append(1, '\0'), longestText);
+    AppendText(compressedText, payload.first(keywordLength));
+    AppendText(compressedText, payload.subspan(restStart));
 }
 
-std::string LoadPNG::Widen(std::span<const std::uint8_t> bytes) const {
+void LoadPNG::AppendText(std::string& to, std::span<const std::uint8_t> bytes) const {
+    // Full, but for a character that may not have fitted: no work any more for what comes.
+    constexpr std::size_t longestCharacter = 4;
+    if (to.size() + longestCharacter > longestText) return;
+    bytes = bytes.first(std::min(bytes.size(), longestText));
     const std::string_view raw(reinterpret_cast<const char*>(bytes.data()), bytes.size());
-    return hooks.widenText ? hooks.widenText(raw) : WidenText(raw);
+    std::string wide = hooks.widenText ? hooks.widenText(raw) : WidenText(raw);
+    wide += '\0';
+    AppendCapped(to, wide, longestText);
 }
 
 }  // namespace kivu::png

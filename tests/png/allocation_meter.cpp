@@ -11,8 +11,10 @@ constexpr std::size_t headBytes = alignof(std::max_align_t);
 std::size_t heldBytes = 0;
 std::size_t mostBytes = 0;
 std::size_t bytesAtRestart = 0;
+std::size_t limitBytes = 0;
 
 void* Allocate(std::size_t size) {
+    if (limitBytes != 0 && heldBytes + size > limitBytes) throw std::bad_alloc();
     auto* block = static_cast<unsigned char*>(std::malloc(size + headBytes));
     if (block == nullptr) throw std::bad_alloc();
     *reinterpret_cast<std::size_t*>(block) = size;
@@ -57,6 +59,10 @@ void AllocationMeter::Restart() {
 
 std::size_t AllocationMeter::Peak() {
     return mostBytes - bytesAtRestart;
+}
+
+void AllocationMeter::Limit(std::size_t bytes) {
+    limitBytes = bytes == 0 ? 0 : heldBytes + bytes;
 }
 
 }  // namespace kivu::png::testing

@@ -10,6 +10,9 @@ class AllocationMeter {
     static void Restart();
     // Beyond what was held at the restart.
     static std::size_t Peak();
+    // From now on an allocation fails that would take more than that beyond what is held now; 0
+    // lifts the limit.
+    static void Limit(std::size_t bytes);
 };
 
 }  // namespace kivu::png::testing

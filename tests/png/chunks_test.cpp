@@ -256,6 +256,11 @@ TEST_F(Chunks, YearStandsAsItIs) {
     EXPECT_EQ(reader.ModiTime(), "31.12.7 23:00:00");
 }
 
+TEST_F(Chunks, NumbersOfTheTimeHaveAtLeastTwoDigits) {
+    Open(FileWith(MakeChunk("tIME", {0xFF, 0xFF, 255, 100, 0, 99, 10})));
+    EXPECT_EQ(reader.ModiTime(), "100.255.65535 00:99:10");
+}
+
 TEST_F(Chunks, ShortTimeAndGammaAreIgnored) {
     Open(FileWith(MakeChunk("tIME", Bytes(6)) + MakeChunk("gAMA", Bytes(3, 1))));
     EXPECT_EQ(reader.ModiTime(), "");

@@ -270,6 +270,36 @@ TEST(HostileFiles, ImageDataOfOneByteGiveZeros) {
     }
 }
 
+TEST(HostileFiles, LackOfMemoryDrawsNothingAndIsTold) {
+    const Bytes file = FileOf(1000, 1000, 8, 6, BitWriter().Stored(true, Bytes(1000)).Done());
+    RecordingTarget target;
+    LoadPNG reader;
+    reader.PicBox(&target);
+    ByteBuffer bytes = testing::BufferOf(file);
+    AllocationMeter::Limit(3000000);
+    const std::error_code error = reader.OpenBytes(std::move(bytes));
+    AllocationMeter::Limit(0);
+    EXPECT_EQ(error, std::errc::not_enough_memory);
+    EXPECT_FALSE(target.WasTouched());
+    EXPECT_FALSE(reader.OpenBytes(testing::BufferOf(file)));
+    EXPECT_TRUE(target.painted);
+}
+
+TEST(HostileFiles, RepeatedTextEndsAtItsCap) {
+    // Each empty text repeats sixteen mebibytes; the first of them is the last that costs any work.
+    Bytes file = testing::pngSignature;
+    Append(file, MakeChunk("pHYs", Bytes((16U << 20) - 1, 0xE4)));
+    for (int i = 0; i < 20000; ++i) {
+        Append(file, MakeChunk("tEXt", {}));
+    }
+    Append(file, MakeChunk("IEND", {}));
+    LoadPNG reader;
+    reader.OpenBytes(testing::BufferOf(file));
+    EXPECT_EQ(reader.ErrorNumber(), 4);
+    EXPECT_LE(reader.Text().size(), 16U << 20);
+    EXPECT_GT(reader.Text().size(), (16U << 20) - 4);
+}
+
 TEST(HostileFiles, ManyChunksNeedNoMemoryOfTheirOwn) {
     Bytes file = testing::pngSignature;
     Append(file, testing::MakeHeader(2, 2, 8, 0, 0, 0));
