@@ -98,6 +98,7 @@ std::size_t TakeNumber(BitStream& stream, DecodeEntry entry) {
 
 }  // namespace
 
+// One routine, so that the whole state stays in registers.
 SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
                              const DecodeTable& distances) {
     if (stream.InputLeft() < inputMargin || stream.OutputLeft() < outputMargin) {

@@ -368,6 +368,12 @@ TEST(OpenPNG, WhatCantBeOpenedIsToldToTheCaller) {
     EXPECT_FALSE(target.WasTouched());
 }
 
+TEST(OpenPNG, EndlessDeviceIsNoFile) {
+    if (!std::filesystem::exists("/dev/zero")) GTEST_SKIP() << "there is no such device";
+    LoadPNG reader;
+    EXPECT_TRUE(reader.OpenPNG("/dev/zero"));
+}
+
 bool IsOpen(const std::filesystem::path& path) {
     for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
         std::error_code ignored;
