@@ -46,7 +46,7 @@ struct Form1 : forms::Form {
     forms::ListBox UAE_FULL{this, "UAE_FULL", forms::ListControl::Order::sorted};
     forms::ListBox FavoritenListeGlobal{this, "FavoritenListeGlobal",
                                         forms::ListControl::Order::asAdded};
-    forms::ListBox GlobalSearchList{this, "GlobalSearchList", forms::ListControl::Order::asAdded};
+    forms::ListBox GlobalSearchList{this, "GlobalSearchList", forms::ListControl::Order::sorted};
 
     // Their tabs, in the same order.
     forms::Label Label1{this, "Label1"};

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace kivu::platform {
@@ -47,6 +50,21 @@ class FileSystem {
     // The whole file. Empty optional: missing, a directory, or unreadable.
     virtual std::optional<std::string> ReadFile(const std::string& path) const = 0;
 
+    // A file read from front to back in blocks, for one that is too large to be held in memory. It
+    // may grow, shrink or go away meanwhile.
+    class Reader {
+     public:
+        virtual ~Reader() = default;
+        // Fills `buffer` with up to `size` bytes and gives their number; 0 at the end of the file,
+        // and when it cannot be read on.
+        virtual std::size_t Read(char* buffer, std::size_t size) = 0;
+    };
+    // Null: missing, a directory, or unreadable.
+    virtual std::unique_ptr<Reader> OpenFile(const std::string& path) const {
+        auto bytes = ReadFile(path);
+        return bytes ? std::make_unique<WholeFileReader>(std::move(*bytes)) : nullptr;
+    }
+
     // Replaces the file in one step: written and flushed beside it, then renamed over it.
     virtual std::error_code WriteFile(const std::string& path, std::string_view bytes) = 0;
     virtual std::error_code AppendFile(const std::string& path, std::string_view bytes) = 0;
@@ -77,6 +95,22 @@ class FileSystem {
     // page. On Linux that is UTF-8, and bytes that are not UTF-8 are taken as Windows-1252.
     virtual std::string DecodeText(std::string_view bytes) const = 0;
     virtual std::string EncodeText(std::string_view text) const = 0;
+
+ private:
+    // For hosts that can only read a file whole.
+    class WholeFileReader : public Reader {
+     public:
+        explicit WholeFileReader(std::string bytes) : bytes(std::move(bytes)) {}
+        std::size_t Read(char* buffer, std::size_t size) override {
+            const std::size_t count = bytes.copy(buffer, size, read);
+            read += count;
+            return count;
+        }
+
+     private:
+        std::string bytes;
+        std::size_t read = 0;
+    };
 };
 
 }  // namespace kivu::platform

@@ -82,13 +82,15 @@ void Launcher::Routines::JoinLists() {
 
     form.FavoritenListe.onGotFocus = [this] { listEvents.FavoritenListe_GotFocus(); };
     form.FavoritenListe.onLostFocus = [this] { listEvents.FavoritenListe_LostFocus(); };
-    form.SuchErgList.onGotFocus = [this] { listEvents.SuchErgList_GotFocus(); };
-    form.SuchErgList.onDblClick = [this] { gameLaunch.LaunchBtn_Click(); };
 
     form.Label1.onClick = [this] { listEvents.Label1_Click(); };
-    form.Label2.onClick = [this] { listEvents.Label2_Click(); };
-    form.Label3.onClick = [this] { listEvents.Label3_Click(); };
-    form.Label4.onClick = [this] { listEvents.Label4_Click(); };
+    // While the search box has the focus, the tabs show over the open list of emulators.
+    const auto closeChoice = [this] {
+        if (form.EmulatorLongListbox.Visible()) emulatorBox.LeaveEmulatorBox();
+    };
+    form.Label2.onClick = [this, closeChoice] { closeChoice(), listEvents.Label2_Click(); };
+    form.Label3.onClick = [this, closeChoice] { closeChoice(), listEvents.Label3_Click(); };
+    form.Label4.onClick = [this, closeChoice] { closeChoice(), listEvents.Label4_Click(); };
 }
 
 void Launcher::Routines::JoinButtons() {

@@ -9,8 +9,10 @@ namespace kivu::wiring {
 void Launcher::Routines::JoinHooks() {
     JoinCore();
     JoinLibrary();
+    JoinSearch();
     JoinFavourites();
     JoinLaunch();
+    JoinDrives();
     JoinUi();
 }
 

@@ -46,6 +46,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       gameLists(form, ini, host.files, busy, pacer, scanner),
       emulatorBox(form, ini, host.files, busy),
       listEvents(form),
+      listSearch(form),
+      globalSearch(form, host.files, busy, pacer),
       favoriten(form, ini, host.files),
       globalFavoriten(form, ini, host.files),
       repair(form, favoriten, busy, pacer, host.dialogs),
@@ -57,9 +59,12 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       gameLaunch(form, ini, busy, pacer,
                  {host.files, host.starter, host.clock, host.dialogs, host.beeper}),
       emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, host.dialogs}),
+      uaeFiles(form, host.files),
+      driveSlots(form, ini, host.beeper),
       layout(form),
       fontSize(form),
       surface(form, ini, host.dialogs),
+      panelDrag(form),
       navigation(form) {
     const char separator = host.files.Separator();
     form.AppDir = host.programDirectory;
@@ -73,6 +78,7 @@ void Launcher::Routines::EndProgram() {
 }
 
 void Launcher::Routines::RefreshList() {
+    globalSearch.LeaveResults();
     layout.ArrangeLists();
     gameLists.UpdateListCaptions();
 }

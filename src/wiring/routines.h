@@ -16,19 +16,24 @@
 #include "favourites/global_favoriten.h"
 #include "favourites/repair_favoriten.h"
 #include "joystick/list_navigation.h"
+#include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/prozess.h"
 #include "launch/running_watch.h"
+#include "launch/uae_files.h"
 #include "library/emulator_box.h"
 #include "library/file_scan_recursive.h"
 #include "library/game_lists.h"
+#include "library/global_search.h"
 #include "library/list_events.h"
+#include "library/list_search.h"
 #include "library/scan_source.h"
 #include "platform/host.h"
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/layout.h"
+#include "ui/panel_drag.h"
 #include "ui/window_surface.h"
 #include "wiring/launcher.h"
 
@@ -66,6 +71,8 @@ struct Launcher::Routines {
     library::GameLists gameLists;
     library::EmulatorBox emulatorBox;
     library::ListEvents listEvents;
+    library::ListSearch listSearch;
+    library::AllEmulatorsSearch globalSearch;
 
     favourites::Favoriten favoriten;
     favourites::GlobalFavoriten globalFavoriten;
@@ -77,10 +84,13 @@ struct Launcher::Routines {
     launch::RunningWatch watch;
     launch::GameLaunch gameLaunch;
     launch::EmulatorSetup emulatorSetup;
+    launch::UaeFiles uaeFiles;
+    launch::DriveSlots driveSlots;
 
     ui::Layout layout;
     ui::FontSize fontSize;
     ui::WindowSurface surface;
+    ui::PanelDrag panelDrag;
 
     joystick::ListNavigation navigation;
 
@@ -93,8 +103,11 @@ struct Launcher::Routines {
  private:
     void JoinCore();
     void JoinLibrary();
+    void JoinSearch();
     void JoinFavourites();
     void JoinLaunch();
+    void JoinDrives();
+    void JoinPanelDrag();
     void JoinUi();
     void JoinWindow();
     void JoinLists();

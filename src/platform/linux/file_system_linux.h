@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -28,6 +29,8 @@ class LinuxFileSystem : public FileSystem {
     std::string ResolvedPath(const std::string& path) const override;
 
     std::optional<std::string> ReadFile(const std::string& path) const override;
+    // Of any size.
+    std::unique_ptr<Reader> OpenFile(const std::string& path) const override;
 
     // A new file gets 0666 less the umask, a replaced one keeps its mode and, where the user may
     // give it, its owner. A link stays a link: its target is replaced, or created. A directory, a

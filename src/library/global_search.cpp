@@ -1,0 +1,290 @@
+#include "library/global_search.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "library/line_blocks.h"
+#include "library/list_search.h"
+#include "library/search_colors.h"
+#include "library/short_names.h"
+#include "support/run_file.h"
+#include "support/string_ops.h"
+#include "support/text.h"
+
+namespace kivu::library {
+
+namespace {
+
+constexpr int tabGap = 200;
+constexpr std::int32_t linesPerTurn = 100;
+
+// Behind the caption, so that the label covers the tabs beside it.
+const std::string& Backing() {
+    static const std::string blanks(67, ' ');
+    return blanks;
+}
+
+// A button's face: a little lighter than the window.
+forms::Color ButtonFace(forms::Color window) {
+    const auto lighter = [&](unsigned shift) {
+        const unsigned channel = window >> shift & 0xff;
+        return channel + (255 - channel) * 16 / 100;
+    };
+    return forms::Rgb(lighter(0), lighter(8), lighter(16));
+}
+
+std::string EmulatorOf(std::string_view row) {
+    return std::string(support::Trim(row.substr(0, row.find(':'))));
+}
+
+}  // namespace
+
+std::string GlobalSearchRow(std::string_view emulator, std::string_view name) {
+    std::string row(emulator);
+    row.append(":  ").append(name);
+    const std::size_t length = support::CodePointCount(name);
+    for (const std::size_t below : {std::size_t{20}, std::size_t{40}, std::size_t{60}}) {
+        if (length >= below) continue;
+        row.append(below + 1 - length, ' ');
+        break;
+    }
+    return row;
+}
+
+void AllEmulatorsSearch::SearchAllBtn_Click() {
+    if (form.Busy) return;
+    const core::Raised working(form.Busy);
+    const bool fromBox = form.SearchDblsTxt.HasFocus();
+    ArrangeForSearch();
+    DressList();
+    const std::string text = form.SearchDblsTxt.Text();
+    if (form.Ended) return;
+    if (IsIdleText(text)) {
+        LeaveWithoutResults(fromBox);
+        return;
+    }
+    if (!IsLongEnough(text)) {
+        form.GlobalSearchList.Clear();
+        form.SuchErgList.Clear();
+        ShowResults();
+        LeaveWithoutResults(fromBox);
+        return;
+    }
+    form.GlobalSearchList.SetVisible(true);
+    const Outcome outcome = Search(std::string(support::Trim(text)));
+    if (form.Ended) return;
+    if (outcome == Outcome::left) {
+        LeaveForOtherList();
+        return;
+    }
+    const int count = form.GlobalSearchList.ListCount();
+    form.Label4.SetCaption(" Globale Suche: " + std::to_string(count) +
+                           (count >= limit ? " (Abbr.)" : ""));
+    ShowResults();
+}
+
+void AllEmulatorsSearch::ArrangeForSearch() {
+    busy.HideAll(false);
+    // It tells what is searched for, and takes the next search.
+    form.SearchDblsTxt.SetVisible(true);
+    form.SearchAllBtn.SetBackColor(allEmulatorsColor);
+    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    PlaceLabel4();
+    form.ListMode = "4";
+    hooks.RebuildLayout();
+}
+
+void AllEmulatorsSearch::DressList() {
+    forms::ListBox& list = form.GlobalSearchList;
+    const forms::ListBox& place = form.SuchErgList;
+    list.Clear();
+    form.Label4.SetBackColor(list.BackColor());
+    form.Label4.SetForeColor(list.ForeColor());
+    list.Move(place.Left(), place.Top(), place.Width(), place.Height());
+    forms::Font font = place.GetFont();
+    font.name = form.EmuListbox.GetFont().name;
+    font.size = form.EmuListbox.FontSize();
+    list.SetFont(font);
+    form.Label4.SetForeColor(list.ForeColor());
+    list.SetBackColor(ButtonFace(form.FormBackColor));
+    form.SuchErgList.SetVisible(false);
+}
+
+void AllEmulatorsSearch::PlaceLabel4() {
+    form.Label4.SetLeft(form.EmuListbox.Right() + tabGap);
+}
+
+void AllEmulatorsSearch::ShowResults() {
+    form.Label4.SetCaption(form.Label4.Caption() + Backing());
+    PlaceLabel4();
+    form.Label4.SetBackColor(form.GlobalSearchList.BackColor());
+    form.Label4.SetForeColor(form.GlobalSearchList.ForeColor());
+    form.Label4.SetVisible(true);
+    form.LoadingBtn.SetVisible(false);
+    form.GlobalSearchList.SetListIndex(0);
+    form.GlobalSearchList.SetFocus();
+}
+
+// Nothing has been searched for, so the window is what it was.
+void AllEmulatorsSearch::LeaveWithoutResults(bool backToBox) {
+    busy.HideAll(true);
+    if (backToBox) form.SearchDblsTxt.SetFocus();
+}
+
+void AllEmulatorsSearch::LeaveForOtherList() {
+    busy.HideAll(true);
+    hooks.RebuildLayout();
+}
+
+void AllEmulatorsSearch::LeaveResults() {
+    if (form.Label4.Caption().ends_with(Backing())) {
+        form.Label4.SetCaption(form.Say(" Suchergebnisse (", " Search results (") +
+                               std::to_string(form.SuchErgList.ListCount()) + ") ");
+    }
+    const bool leaves =
+        form.GlobalSearchList.Visible() && !form.Busy && !form.AppRunningPicture.Visible();
+    if (leaves) busy.HideAll(true);
+}
+
+void AllEmulatorsSearch::SearchDblsTxt_Change() {
+    if (!restoring) hooks.SearchDblsTxt_Change();
+}
+
+void AllEmulatorsSearch::GlobalSearch(const std::string& Text) {
+    const core::Raised working(form.Busy);
+    (void)Search(Text);
+}
+
+AllEmulatorsSearch::Outcome AllEmulatorsSearch::Search(const std::string& text) {
+    form.SearchAllBtn.SetBackColor(allEmulatorsColor);
+    form.SuchErgList.Clear();
+    GlobalSearchText = text;
+    if (support::Trim(text).empty()) return Outcome::through;
+    const std::string notedText = form.SearchDblsTxt.Text();
+    const std::string notedCaption = form.Label4.Caption();
+    form.SearchDblsTxt.SetEnabled(false);
+    form.SearchDblsTxt.SetText("Searching: " + notedText);
+    hits = 0;
+    lines = 0;
+    watchingList = form.GlobalSearchList.Visible();
+    ScanCaches(SearchWords(text));
+    const bool left = !MayGoOn();
+    {
+        const core::Raised quiet(restoring);
+        if (left) form.SearchDblsTxt.SetText(notedText);
+    }
+    if (!left) form.SearchDblsTxt.SetText(notedText);
+    form.SearchDblsTxt.SetEnabled(true);
+    form.Label4.SetCaption(notedCaption);
+    return left ? Outcome::left : Outcome::through;
+}
+
+bool AllEmulatorsSearch::MayGoOn() const {
+    return !form.Ended && (!watchingList || form.GlobalSearchList.Visible());
+}
+
+void AllEmulatorsSearch::ScanCaches(const SearchWords& words) {
+    for (int row = 0; row < form.EmuListbox.ListCount() && MayGoOn(); ++row) {
+        const std::string emulator = form.EmuListbox.List(row);
+        if (!emulator.empty() && !ScanCache(emulator, words)) return;
+    }
+}
+
+// False: the search ends.
+bool AllEmulatorsSearch::ScanCache(const std::string& emulator, const SearchWords& words) {
+    const auto cache =
+        files.OpenFile(form.ConfigPath + emulator + files.Separator() + form.EXE + "_Cache.txt");
+    if (!cache) return true;
+    ShowProgress(emulator);
+    LineBlocks blocks(*cache);
+    while (MayGoOn() && blocks.Next()) {
+        const bool goesOn = ScanBlock(emulator, words, blocks.Block());
+        form.GlobalSearchList.AddItems(std::exchange(newRows, {}));
+        if (!goesOn) return false;
+        const std::int32_t before = lines;
+        lines += static_cast<std::int32_t>(blocks.LineCount());
+        if (lines / linesPerTurn == before / linesPerTurn) continue;
+        form.Label4.SetVisible(true);
+        ShowProgress(emulator);
+    }
+    return MayGoOn();
+}
+
+bool AllEmulatorsSearch::ScanBlock(const std::string& emulator, const SearchWords& words,
+                                   std::string_view block) {
+    const auto decode = [this](std::string_view bytes) { return files.DecodeText(bytes); };
+    return words.ForEachLine(block, decode,
+                             [&](std::string_view line) { return TakeHit(emulator, line); });
+}
+
+// The path of a game and its title mostly hit both, and so do the disks that lie beside it: one row
+// for them all.
+bool AllEmulatorsSearch::TakeHit(const std::string& emulator, std::string_view line) {
+    const std::string text = support::IsUtf8(line) ? std::string(line) : files.DecodeText(line);
+    const std::string name = CutShortName(support::FileNameView(text), ")", false);
+    std::string lowerName = support::ToLower(name);
+    if (lowerName == GlobalLastName) return true;
+    GlobalLastName = std::move(lowerName);
+    newRows.push_back(GlobalSearchRow(emulator, name));
+    return ++hits <= limit;
+}
+
+// What is counted is shown in steps of a hundred lines.
+void AllEmulatorsSearch::ShowProgress(const std::string& emulator) {
+    const std::int32_t shown = lines - lines % linesPerTurn;
+    form.Label4.SetCaption(emulator + ": (" + std::to_string(hits) + "/" + std::to_string(shown) +
+                           ")");
+    PlaceLabel4();
+    pacer.DoEventsWhenDue();
+}
+
+int AllEmulatorsSearch::EmulatorRow(std::string_view name) const {
+    const std::vector<std::string>& rows = form.EmuListbox.Rows();
+    const auto found = std::find(rows.begin(), rows.end(), name);
+    return found == rows.end() ? -1 : static_cast<int>(found - rows.begin());
+}
+
+void AllEmulatorsSearch::GlobalSearchList_Click() {
+    const std::string row = form.GlobalSearchList.SelectedText();
+    form.Current_ProgramNameFull.SetVisible(true);
+    form.Current_ProgramNameFull.SetCaption(support::replaceall(support::Trim(row), ":", ":\r"));
+    const int emulator = EmulatorRow(EmulatorOf(row));
+    if (emulator < 0 || emulator == shownEmulator) return;
+    shownEmulator = emulator;
+    hooks.ShowEmulatorPreview(emulator);
+}
+
+void AllEmulatorsSearch::GlobalSearchList_DblClick() {
+    if (form.Busy) return;
+    const std::string hit = form.GlobalSearchList.SelectedText();
+    if (hit.find(':') == std::string::npos) return;
+    const std::string name = EmulatorOf(hit);
+    for (int row = 0; row < form.EmuListbox.ListCount() && !form.Ended; ++row) {
+        if (form.EmuListbox.List(row) == name) OpenHit(row);
+    }
+}
+
+// The game itself is not looked for: its emulator's results for the same text come up.
+void AllEmulatorsSearch::OpenHit(int row) {
+    form.EmuListbox.SetEnabled(true);
+    hooks.EmuListbox_GotFocus();
+    form.EmuListbox.SetListIndex(row);
+    form.GlobalSearchList.SetVisible(false);
+    hooks.EmuListbox_DblClick();
+    if (form.Ended) return;
+    // The same text again would not run the change routine by itself.
+    const std::string text = std::exchange(GlobalSearchText, {});
+    const bool same = form.SearchDblsTxt.Text() == text;
+    form.SearchDblsTxt.SetText(text);
+    if (same) hooks.SearchDblsTxt_Change();
+    form.SuchErgList.SetVisible(false);
+    form.SuchErgList.SetListIndex(0);
+    hooks.Label4_Click();
+    form.SuchErgList.SetFocus();
+}
+
+void AllEmulatorsSearch::GlobalSearchList_KeyPress(forms::Character& character) {
+    if (character.code == forms::keys::enter) GlobalSearchList_DblClick();
+}
+
+}  // namespace kivu::library

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "core/form1.h"
+#include "core/hook.h"
+
+namespace kivu::library {
+
+// What the search box shows while nobody searches; never searched for.
+bool IsIdleText(std::string_view text);
+// Below two characters a text hits too much to be searched for.
+bool IsLongEnough(std::string_view text);
+
+// The search box, and the results that it filters out of the current emulator's games. The same box
+// narrows the results of a search over all emulators.
+class ListSearch {
+ public:
+    struct Hooks {
+        core::Hook<void()> RebuildLayout;  // the list in front, the tabs and their counts
+        core::Hook<void()> SearchAllBtn_Click;
+        core::Hook<void()> LaunchBtn_Click;
+        core::Hook<void()> SuchErgList_GotFocus;
+        core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
+    };
+
+    explicit ListSearch(core::Form1& form) : form(form) {}
+
+    // Fills SuchErgList with the rows of WIthoutDoubles, from `StartRow` on, that contain every
+    // word of `Text`, and selects the first of them there.
+    void SearchInList(const std::string& Text, int StartRow);
+
+    void SearchDblsTxt_Change();
+    void SearchDblsTxt_GotFocus();
+    void SearchDblsTxt_LostFocus();
+    void SearchDblsTxt_KeyDown(forms::Key& key);
+    void SearchDblsTxt_KeyPress(forms::Character& character);
+    void SuchErg_Click();
+    void SuchErgList_Click();
+    void SuchErgList_DblClick();
+    void SuchErgList_KeyPress(forms::Character& character);
+
+    // The number of results into their tab.
+    void ShowCount();
+
+    Hooks hooks;
+
+ private:
+    void FilterCurrentList(const std::string& text);
+    void NarrowGlobalList(const std::string& text);
+    void FindNext();
+    bool MoveIntoResults(int keyCode);
+    bool EnterSearchesAll() const;
+    void ShowTab();
+
+    core::Form1& form;
+};
+
+}  // namespace kivu::library

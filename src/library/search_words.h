@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "support/text.h"
+
+// A search is over tens of thousands of rows at each key, and over millions of lines across all
+// caches. Almost none of them match, so what counts is how fast the rest are passed over.
+namespace kivu::library {
+
+// One word to be looked for without regard to case. Eight bytes are looked at in one step, for two
+// letters of the word that are rare in titles; only where both stand in their places is the word
+// compared.
+class SearchWord {
+ public:
+    explicit SearchWord(std::string_view word);
+
+    bool IsIn(std::string_view text) const;
+    // The first place at or behind `from` where the probe stands, the word's longest run of ASCII,
+    // or npos. That is the word itself if IsExact; otherwise the text around it has to be tested by
+    // IsIn. Not for words without a probe.
+    std::size_t Find(std::string_view text, std::size_t from) const;
+
+    bool IsEmpty() const { return length == 0; }
+    bool HasProbe() const { return !probe.empty(); }
+    bool IsExact() const { return probe.size() == length; }
+    std::size_t ProbeLength() const { return probe.size(); }
+
+ private:
+    bool MatchesAt(const char* place) const;
+
+    std::size_t length = 0;  // bytes of the folded word
+    std::string probe;       // folded
+    std::string caseBits;    // what each byte of a text is joined with before it is compared
+    std::size_t first = 0;   // places in `probe` of the two rarest letters, in rising order
+    std::size_t second = 0;
+    support::NoCaseNeedle needle;
+};
+
+// The words of a search text, split at each blank. A text matches if it contains every one,
+// anywhere and in any order, without regard to case; the empty word between two blanks is in every
+// text.
+class SearchWords {
+ public:
+    explicit SearchWords(std::string_view text);
+
+    bool AreIn(std::string_view text) const;
+    // Calls `hit` with each matching line of `block`, in order, until it gives false, which comes
+    // back. A line ends in LF or CR LF, which are not part of it; the last may lack its end.
+    // A line that is not UTF-8 is decoded by `decode` first where that matters.
+    using Hit = std::function<bool(std::string_view line)>;
+    using Decode = std::function<std::string(std::string_view bytes)>;
+    bool ForEachLine(std::string_view block, const Decode& decode, const Hit& hit) const;
+
+ private:
+    bool AreInLine(std::string_view line, const Decode& decode) const;
+
+    std::vector<SearchWord> words;  // the empty ones left out
+    std::size_t driver = 0;         // the word with the longest probe
+    bool plainAscii = true;
+};
+
+// Line feeds in a block.
+std::size_t CountLineFeeds(std::string_view block);
+
+}  // namespace kivu::library
