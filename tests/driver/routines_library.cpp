@@ -68,6 +68,18 @@ void AddListEvents(RoutineTable& table, Session& session) {
     add("Label4_Click", &Events::Label4_Click);
 }
 
+void AddSearchRoutines(RoutineTable& table, Session& session) {
+    auto& search = session.Routines().listSearch;
+    auto& all = session.Routines().globalSearch;
+    table.push_back(Bind("SearchInList", [&search](string text, std::optional<int> startRow) {
+        search.SearchInList(text, startRow.value_or(0));
+    }));
+    table.push_back(Bind("SearchDblsTxt_Change", [&search] { search.SearchDblsTxt_Change(); }));
+    table.push_back(Bind("SuchErg_Click", [&search] { search.SuchErg_Click(); }));
+    table.push_back(Bind("SearchAllBtn_Click", [&all] { all.SearchAllBtn_Click(); }));
+    table.push_back(Bind("GlobalSearch", [&all](string text) { all.GlobalSearch(text); }));
+}
+
 }  // namespace
 
 void AddLibraryRoutines(RoutineTable& table, Session& session) {
@@ -77,6 +89,7 @@ void AddLibraryRoutines(RoutineTable& table, Session& session) {
     AddScannerRoutines(table, session);
     AddListRoutines(table, session);
     AddListEvents(table, session);
+    AddSearchRoutines(table, session);
     auto& all = session.Routines();
     table.push_back(Bind("FindGameInFullList", [&all](string path) {
         return library::FindGameInFullList(all.form, all.busy, all.pacer, path);
