@@ -75,6 +75,7 @@ void Form1::DesignLists() {
         list->Move(ListLeft, 1300, 9033, 8600);
         list->SetVisible(false);
     }
+    UAE_Short.SetMultiSelect(true);
     EmulatorLongListbox.SetFontSize(14);
     Label1.SetCaption("Favoriten");
     Label2.SetCaption("Ohne Dubletten");
@@ -144,6 +145,7 @@ void Form1::DesignFrame() {
 
 void Form1::DesignDrives() {
     SettingsSubPicture.Move(9533, 8300, 4560, 480);
+    SettingsSubPicture.SetTag("Pic");
     Frame2.Move(45, 45, 4470, 390);
     for (std::size_t i = 0; i < Check_Dfx.size(); ++i) {
         Check_Dfx[i].SetCaption("Df" + std::to_string(i) + ":");

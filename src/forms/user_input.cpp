@@ -102,7 +102,7 @@ std::vector<char32_t> CodePoints(std::string_view text) {
 }  // namespace
 
 void UserInput::MouseDown(Control& control, const Mouse& mouse) {
-    form.SetDragged(nullptr);
+    CancelDrag();
     if (!control.IsReachable()) return;
     control.SetFocus();
     // A focus handler may have put the control away.
@@ -114,7 +114,7 @@ void UserInput::MouseMove(Control& control, const Mouse& mouse) {
 }
 
 void UserInput::MouseUp(Control& control, const Mouse& mouse) {
-    form.SetDragged(nullptr);
+    CancelDrag();
     if (control.IsReachable()) Control::Run(control.onMouseUp, mouse);
 }
 
@@ -150,6 +150,9 @@ void UserInput::Drag(Control& control, Point grip, Control& target, Point place)
 }
 
 Control* UserInput::DropTarget(Point place) const {
+    const bool inside =
+        place.x >= 0 && place.y >= 0 && place.x < form.Width() && place.y < form.Height();
+    if (!inside) return nullptr;
     Control* target = &ControlAt(form, place, form.Dragged());
     while (target && !target->onDragDrop)
         target = target->Parent();
@@ -166,8 +169,11 @@ void UserInput::DragOver(Point place) {
 void UserInput::Drop(Point place) {
     Control* dragged = form.Dragged();
     Control* target = dragged ? DropTarget(place) : nullptr;
+    if (!target) {
+        CancelDrag();
+        return;
+    }
     form.SetDragged(nullptr);
-    if (!target) return;
     const Point corner = CornerInForm(*target);
     Control::Run(target->onDragDrop, *dragged, place.x - corner.x, place.y - corner.y);
 }

@@ -32,7 +32,9 @@ class UserInput {
     void Drag(Control& control, Point grip, Control& target, Point place);
     // The same by steps, from a mouse that is down. Places are twips from the window's edges, and
     // the target is what lies there behind the dragged control: the control in front that takes
-    // drops, or the nearest around it that does. Nothing happens while no control is being dragged.
+    // drops, or the nearest around it that does; dropped where there is
+    // none, or beside the window, the control goes back. Nothing happens while no control is being
+    // dragged.
     void DragOver(Point place);
     void Drop(Point place);
     // Puts the dragged control back where it was.

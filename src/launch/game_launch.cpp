@@ -37,7 +37,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     BuildParameters(run);
     library::FindGameInFullList(form, busy, pacer, run.path);
     if (!GameExists(run)) return;
-    if (run.useMasterConfig) hooks.WriteStartConfiguration();
+    if (run.useMasterConfig) hooks.WriteStartConfiguration(run.windowsPaths);
     if (!WriteStartFile(run)) return;
     busy.MeCaption("Spiel Läuft");
     pacer.DoEvents();
@@ -84,8 +84,8 @@ void GameLaunch::Prepare(Run& run) {
 }
 
 void GameLaunch::BuildParameters(Run& run) {
-    const bool translate = services.starter.UsesShell() && support::IsWindowsProgram(run.emulator);
-    run.parameters = StartParameters(translate);
+    run.windowsPaths = services.starter.UsesShell() && support::IsWindowsProgram(run.emulator);
+    run.parameters = StartParameters(run.windowsPaths);
     run.parameters.AppendTyped(Text("WinUAE_ConfigParameter"));
     run.parameters.Pad();
     run.useMasterConfig = Number("WinUAE_UseMasterConfig", "1") == 1;

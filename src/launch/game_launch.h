@@ -22,7 +22,8 @@ class GameLaunch {
     struct Hooks {
         core::Hook<void()> SetToNormal;            // the window is no longer kept on top
         core::Hook<void()> SetWindowBackToNormal;  // nor is it to be
-        core::Hook<void()> WriteStartConfiguration;
+        // `windowsPaths`: the emulator takes Z:\ paths.
+        core::Hook<void(bool windowsPaths)> WriteStartConfiguration;
         core::Hook<void()> ShowLoadingInfo;
         core::Hook<void(const std::string&)> MountGameImage;
         core::Hook<void()> RunStartScript;
@@ -62,6 +63,7 @@ class GameLaunch {
         std::string emulator;
         int useQuote = 0;
         bool useMasterConfig = false;
+        bool windowsPaths = false;  // a Windows program on a POSIX host
         bool startFileFailed = false;
         StartParameters parameters;
     };

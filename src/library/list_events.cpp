@@ -41,6 +41,8 @@ void ListEvents::UAE_Short_LostFocus() {
 }
 
 void ListEvents::UAE_Short_KeyPress(forms::Character& character) {
+    // There the list itself takes the blank, to choose a row or no longer.
+    if (character.code == forms::keys::space && hooks.SelectsByHand()) return;
     if (character.code == forms::keys::enter) {
         UAE_Short_DblClick();
     } else {
@@ -56,6 +58,7 @@ void ListEvents::WIthoutDoubles_Click() {
     const std::string name = form.WIthoutDoubles.SelectedText();
     const int row = FindListItem(name, form.UAE_Short.Rows(), false, start);
     if (row >= 0) {
+        hooks.ShowOneDisk();
         form.UAE_Short.SetListIndex(row);
         form.UAE_FULL.SetListIndex(row);
         form.DeLFav.SetVisible(false);

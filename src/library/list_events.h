@@ -18,12 +18,14 @@ class ListEvents {
         core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
         core::Hook<void(int)> ShowGamePreview;
         core::Hook<void(int)> FillDrivesFromFile;  // a click of the user on this row of UAE_Short
+        core::Hook<void()> ShowOneDisk;            // WIthoutDoubles: a game has been found
         core::Hook<void(int)>
             FillDrivesFromGame;  // WIthoutDoubles: the row found in UAE_Short, or -1
         // True: the global favourites have come up in place of the emulator's own.
         core::Hook<bool()> ShowGlobalFavourites;
         core::Hook<void()> LeaveGlobalFavourites;
         core::Hook<void()> OfferFavouriteButtons;
+        core::Hook<bool()> SelectsByHand;  // the user chooses disks row by row
     };
 
     explicit ListEvents(core::Form1& form) : form(form) {}

@@ -1,5 +1,6 @@
 #include "view/pointer.h"
 
+#include <QApplication>
 #include <utility>
 
 #include "forms/controls.h"
@@ -82,6 +83,7 @@ bool Pointer::Press(Mirror& mirror, const QMouseEvent& event, bool second) {
     const bool doubled = again && (control.onDblClick || mirror.HasRows());
     last = again ? nullptr : &control;
     drag.Disarm();
+    dragsControl = false;
     if (!control.IsReachable()) {
         pressed = nullptr;
         return true;
@@ -150,11 +152,15 @@ bool Pointer::DragControl(QPoint global) {
     forms::Control* dragged = form.Dragged();
     Mirror* mirror = dragged ? mirrorOf(*dragged) : nullptr;
     if (!mirror || !mirror->Widget()) return false;
+    // A click must stay one.
+    const int distance = (global - pressedAt).manhattanLength();
+    if (!dragsControl && distance < QApplication::startDragDistance()) return false;
+    if (!std::exchange(dragsControl, true)) draggedFrom = PixelRect(*dragged).topLeft();
     clickPending = false;
-    // Only the picture follows the mouse; the model moves when a handler moves it.
+    // The picture follows the mouse where no handler moves the control itself.
     const QPoint by = global - pressedAt;
-    mirror->Widget()->move(PixelRect(*dragged).topLeft() + by);
     input.DragOver(PlaceOf(global));
+    if (PixelRect(*dragged).topLeft() == draggedFrom) mirror->Widget()->move(draggedFrom + by);
     return true;
 }
 
@@ -172,8 +178,7 @@ bool Pointer::Release(const QMouseEvent& event, bool consumed) {
     if (!control || event.button() != button) return consumed;
     pressed = nullptr;
     button = Qt::NoButton;
-    const bool far = (GlobalOf(event) - pressedAt).manhattanLength() > 2;
-    if (far && DropControl(GlobalOf(event))) return true;
+    if (std::exchange(dragsControl, false) && DropControl(GlobalOf(event))) return true;
     Mirror* mirror = mirrorOf(*control);
     if (!mirror || !mirror->Widget()) return true;
     mirror->ShowPressed(false);

@@ -42,6 +42,8 @@ class Pointer {
     Qt::MouseButton button = Qt::NoButton;
     QPoint pressedAt;
     bool clickPending = false;
+    bool dragsControl = false;       // past the distance that tells a drag from a click
+    QPoint draggedFrom;              // pixels
     forms::Control* last = nullptr;  // of the press before, for double clicks
 };
 

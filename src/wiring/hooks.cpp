@@ -13,6 +13,7 @@ void Launcher::Routines::JoinHooks() {
     JoinFavourites();
     JoinLaunch();
     JoinDrives();
+    JoinDrives();
     JoinUi();
 }
 

@@ -17,10 +17,12 @@
 #include "favourites/repair_favoriten.h"
 #include "joystick/list_navigation.h"
 #include "launch/drive_slots.h"
+#include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/prozess.h"
 #include "launch/running_watch.h"
+#include "launch/uae_files.h"
 #include "launch/uae_files.h"
 #include "library/emulator_box.h"
 #include "library/file_scan_recursive.h"
@@ -33,6 +35,7 @@
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/layout.h"
+#include "ui/panel_drag.h"
 #include "ui/panel_drag.h"
 #include "ui/window_surface.h"
 #include "wiring/launcher.h"
@@ -86,10 +89,13 @@ struct Launcher::Routines {
     launch::EmulatorSetup emulatorSetup;
     launch::UaeFiles uaeFiles;
     launch::DriveSlots driveSlots;
+    launch::UaeFiles uaeFiles;
+    launch::DriveSlots driveSlots;
 
     ui::Layout layout;
     ui::FontSize fontSize;
     ui::WindowSurface surface;
+    ui::PanelDrag panelDrag;
     ui::PanelDrag panelDrag;
 
     joystick::ListNavigation navigation;
@@ -106,6 +112,8 @@ struct Launcher::Routines {
     void JoinSearch();
     void JoinFavourites();
     void JoinLaunch();
+    void JoinDrives();
+    void JoinPanelDrag();
     void JoinDrives();
     void JoinPanelDrag();
     void JoinUi();
