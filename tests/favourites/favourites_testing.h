@@ -22,7 +22,8 @@ namespace kivu::favourites {
 // The favourites over one main window and a disk in memory; the program lies in /k.
 struct Room {
     explicit Room(platform::FileSystem& files, const std::string& directory = "/k")
-        : ini(files),
+        : host(files),
+          ini(files),
           pacer(host.events, host.clock),
           busy(form, host.events),
           store(form, ini, files),
@@ -30,8 +31,7 @@ struct Room {
           repair(form, store, busy, pacer, host.dialogs),
           events(form, store, global, repair, busy, pacer, {host.dialogs, host.beeper}),
           globalEvents(form, global, busy, {host.beeper, host.events}),
-          hands(form),
-          host(files) {
+          hands(form) {
         const char separator = files.Separator();
         form.AppDir = directory + separator;
         form.EXE = "Kivu";
@@ -66,6 +66,7 @@ struct Room {
         return names;
     }
 
+    testing::ScriptedHost host;
     core::Form1 form{forms::Toolkit{}};
     core::Ini ini;
     core::EventPacer pacer;
@@ -76,7 +77,6 @@ struct Room {
     FavoritenEvents events;
     GlobalEvents globalEvents;
     forms::UserInput hands;
-    testing::ScriptedHost host;
 
     int captionUpdates = 0;
     std::vector<std::string> launches;
