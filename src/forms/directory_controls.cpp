@@ -4,13 +4,14 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "forms/sort_rows.h"
 
 namespace kivu::forms {
 
 namespace {
 
-void SortRows(const Toolkit& toolkit, std::vector<std::string>& rows) {
-    std::stable_sort(rows.begin(), rows.end(), [&](const std::string& a, const std::string& b) {
+void Sort(const Toolkit& toolkit, std::vector<std::string>& rows) {
+    SortRows(rows.begin(), rows.end(), [&](const std::string& a, const std::string& b) {
         return toolkit.collation ? toolkit.collation->Compare(a, b) < 0 : a < b;
     });
 }
@@ -57,11 +58,11 @@ void DirectoryControl::ReplaceRows(std::vector<std::string> newRows) {
 }
 
 void DirListBox::SetPath(const std::string& given) {
-    std::vector<std::string> directories, files;
+    std::vector<std::string> directories;
     DirectorySource* source = GetToolkit().directories;
     const std::string value = WithoutClosingSeparator(given);
-    if (value.empty() || !source || !source->Read(value, directories, files)) return;
-    SortRows(GetToolkit(), directories);
+    if (value.empty() || !source || !source->Read(value, &directories, nullptr)) return;
+    Sort(GetToolkit(), directories);
     const char separator = SeparatorOf(value);
     std::string base = value;
     if (base.back() != separator && base.back() != '/') base += separator;
@@ -97,15 +98,14 @@ void FileListBox::SetPattern(const std::string& value) {
 }
 
 bool FileListBox::ReadFiles(const std::string& directory, std::vector<std::string>& files) {
-    std::vector<std::string> directories;
     DirectorySource* source = GetToolkit().directories;
-    return !directory.empty() && source && source->Read(directory, directories, files);
+    return !directory.empty() && source && source->Read(directory, nullptr, &files);
 }
 
 void FileListBox::ShowMatching(std::vector<std::string> files) {
     DirectorySource* source = GetToolkit().directories;
     std::erase_if(files, [&](const std::string& name) { return !source->Matches(pattern, name); });
-    SortRows(GetToolkit(), files);
+    Sort(GetToolkit(), files);
     ReplaceRows(std::move(files));
 }
 

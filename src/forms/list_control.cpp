@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "forms/sort_rows.h"
 
 namespace kivu::forms {
 
@@ -16,7 +17,7 @@ ListControl::ListControl(Container* parent, std::string name, Order order, int i
     : Control(parent, std::move(name), index), order(order) {
 }
 
-bool ListControl::Before(std::string_view a, std::string_view b) const {
+bool ListControl::Precedes(std::string_view a, std::string_view b) const {
     const Collation* collation = GetToolkit().collation;
     return collation ? collation->Compare(a, b) < 0 : a < b;
 }
@@ -27,10 +28,11 @@ void ListControl::Settle() const {
         settled = rows.size();
         return;
     }
-    const auto before = [this](const std::string& a, const std::string& b) { return Before(a, b); };
+    const auto before = [this](const std::string& a, const std::string& b) {
+        return Precedes(a, b);
+    };
     const auto middle = rows.begin() + static_cast<std::ptrdiff_t>(settled);
-    // Rows mostly arrive in order, from a cache or from another sorted list.
-    if (!std::is_sorted(middle, rows.end(), before)) std::stable_sort(middle, rows.end(), before);
+    SortRows(middle, rows.end(), before);
     if (settled > 0 && before(*middle, *(middle - 1))) PlaceNewRows();
     settled = rows.size();
 }
@@ -42,7 +44,9 @@ void ListControl::PlaceNewRows() const {
     const auto middle = first + static_cast<std::ptrdiff_t>(settled);
     std::vector<std::string> added(std::make_move_iterator(middle),
                                    std::make_move_iterator(rows.end()));
-    const auto before = [this](const std::string& a, const std::string& b) { return Before(a, b); };
+    const auto before = [this](const std::string& a, const std::string& b) {
+        return Precedes(a, b);
+    };
     std::vector<int> places;
     places.reserve(added.size());
     auto unmoved = middle;
@@ -83,6 +87,16 @@ void ListControl::AddItems(std::vector<std::string> texts) {
         rows.insert(rows.end(), std::make_move_iterator(texts.begin()),
                     std::make_move_iterator(texts.end()));
     }
+    Notify(Aspect::rows);
+}
+
+void ListControl::AddSorted(std::vector<std::string> texts) {
+    if (!rows.empty() || texts.empty()) {
+        AddItems(std::move(texts));
+        return;
+    }
+    rows = std::move(texts);
+    settled = rows.size();
     Notify(Aspect::rows);
 }
 

@@ -31,6 +31,11 @@ class ListControl : public Control {
 
     void AddItem(std::string text);
     void AddItems(std::vector<std::string> texts);
+    // The same for rows that the caller has put in order by Precedes, equal ones in their order of
+    // arrival; a list that was empty takes them as they are.
+    void AddSorted(std::vector<std::string> texts);
+    // The order of a sorted list.
+    bool Precedes(std::string_view a, std::string_view b) const;
     // Changes the text in its place, in a sorted list too.
     void SetList(int row, std::string text);
     void RemoveItem(int row);
@@ -59,7 +64,6 @@ class ListControl : public Control {
  private:
     void Settle() const;
     void PlaceNewRows() const;
-    bool Before(std::string_view a, std::string_view b) const;
 
     Order order;
     mutable std::vector<std::string> rows;

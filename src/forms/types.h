@@ -125,9 +125,10 @@ class Collation {
 class DirectorySource {
  public:
     virtual ~DirectorySource() = default;
-    // False: the directory cannot be entered; nothing is changed then.
-    virtual bool Read(const std::string& path, std::vector<std::string>& directories,
-                      std::vector<std::string>& files) = 0;
+    // Either list may be null: it is not wanted then. False: the directory cannot be entered;
+    // nothing is changed then.
+    virtual bool Read(const std::string& path, std::vector<std::string>* directories,
+                      std::vector<std::string>* files) = 0;
     virtual bool Matches(const std::string& pattern, const std::string& name) = 0;
 };
 

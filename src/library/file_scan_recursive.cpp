@@ -6,11 +6,19 @@ namespace kivu::library {
 
 namespace {
 
-std::string Joined(const std::string& directory, const std::string& name) {
+std::string WithSeparator(std::string directory) {
     const char closing = directory.empty() ? '\0' : directory.back();
-    if (closing == '/' || closing == '\\') return directory + name;
+    if (closing == '/' || closing == '\\') return directory;
     const bool posix = directory.starts_with('/') || directory.find('\\') == std::string::npos;
-    return directory + (posix ? '/' : '\\') + name;
+    directory += posix ? '/' : '\\';
+    return directory;
+}
+
+std::string Joined(const std::string& start, const std::string& name) {
+    std::string path;
+    path.reserve(start.size() + name.size());
+    path = start;
+    return path += name;
 }
 
 }  // namespace
@@ -25,8 +33,10 @@ void FileScanRecursive::Begin(const std::string& path, const std::string& patter
     controls.TmpDirList.Clear();
     controls.ResultList.SetVisible(false);
     controls.TmpDirList.SetVisible(false);
-    source.BeginScan(path);
+    // The new pattern reads where the file list stands from an earlier scan, which is no part of
+    // this one.
     controls.MyTmpFile.SetPattern(pattern);
+    source.BeginScan(path);
     controls.TmpDirList.AddItem(path);
 }
 
@@ -74,7 +84,7 @@ FileScanRecursive::Step FileScanRecursive::CollectFiles(const std::string& progr
     controls.MyTmpFile.SetPath(controls.MyTmpDir.Path());
     if (BreakFlag) return Step::leave;
     // Copies: an event handler may drive the controls too.
-    const std::string directory = controls.MyTmpFile.Path();
+    const std::string directory = WithSeparator(controls.MyTmpFile.Path());
     for (int i = 0; i < controls.MyTmpFile.ListCount(); ++i) {
         controls.ResultList.AddItem(Joined(directory, controls.MyTmpFile.List(i)));
         if (controls.ResultList.ListCount() >= limit || BreakFlag) return Step::stop;
@@ -121,7 +131,7 @@ FileScanRecursive::Step FileScanRecursive::CollectDirectories(const std::string&
     if (BreakFlag) return Step::leave;
     for (int i = 0; i < controls.MyTmpDir.ListCount(); ++i) {
         const std::string directory = controls.MyTmpDir.List(i);
-        controls.ResultList.AddItem(Joined(directory, ""));
+        controls.ResultList.AddItem(WithSeparator(directory));
         controls.TmpDirList.AddItem(directory);
         if (controls.ResultList.ListCount() >= limit || BreakFlag) return Step::stop;
         if (i % 200 != 199) continue;

@@ -8,7 +8,6 @@
 #include "library/find_list_item.h"
 #include "library/list_cache.h"
 #include "library/short_names.h"
-#include "support/collation.h"
 #include "support/fast_list_fill.h"
 #include "support/file_ops.h"
 #include "support/text.h"
@@ -19,15 +18,18 @@ namespace {
 
 constexpr const char* settings = "Settings";
 
-// Paths and names in the order of the paths. A cache that another host or another language has
+// Paths and names in the order of the path list. A cache that another host or another language has
 // written is in another order; sorted by itself, the path list would then no longer fit the names.
-void SortPairs(std::vector<std::string>& paths, std::vector<std::string>& names) {
-    if (std::is_sorted(paths.begin(), paths.end(), support::TextLess{})) return;
+void SortPairs(const forms::ListBox& list, std::vector<std::string>& paths,
+               std::vector<std::string>& names) {
+    const auto before = [&](const std::string& a, const std::string& b) {
+        return list.Precedes(a, b);
+    };
+    if (std::is_sorted(paths.begin(), paths.end(), before)) return;
     std::vector<std::size_t> places(paths.size());
     std::iota(places.begin(), places.end(), std::size_t{0});
-    std::stable_sort(places.begin(), places.end(), [&](std::size_t a, std::size_t b) {
-        return support::CompareText(paths[a], paths[b]) < 0;
-    });
+    std::stable_sort(places.begin(), places.end(),
+                     [&](std::size_t a, std::size_t b) { return before(paths[a], paths[b]); });
     std::vector<std::string> sortedPaths, sortedNames;
     sortedPaths.reserve(paths.size());
     sortedNames.reserve(paths.size());
@@ -68,18 +70,21 @@ void GameLists::FillFromCache(const std::string& bytes) {
     paths.reserve(entries.size());
     names.reserve(entries.size());
     const std::string base = form.BaseDirectory();
+    // One look at the whole file is cheaper than one at each line.
+    const bool utf8 = support::IsUtf8(bytes);
     for (const CacheEntry& entry : entries) {
-        paths.push_back(support::MakeAbsolutePath(base, PathOnDisk(entry.path)));
-        names.push_back(support::IsUtf8(entry.name) ? std::string(entry.name)
-                                                    : files.DecodeText(entry.name));
+        paths.push_back(utf8 ? support::MakeAbsolutePath(base, entry.path)
+                             : support::MakeAbsolutePath(base, PathOnDisk(entry.path)));
+        names.push_back(utf8 || support::IsUtf8(entry.name) ? std::string(entry.name)
+                                                            : files.DecodeText(entry.name));
         if (paths.size() % 500 != 0) continue;
         busy.MeCaption("Loading: " + std::to_string(paths.size()));
         pacer.DoEventsWhenDue();
     }
-    SortPairs(paths, names);
+    SortPairs(form.UAE_FULL, paths, names);
     // A path in an odd last line has no row for its name, if it is the last one in order too.
     if (!entries.empty() && !entries.back().hasName && names.back().empty()) names.pop_back();
-    form.UAE_FULL.AddItems(std::move(paths));
+    form.UAE_FULL.AddSorted(std::move(paths));
     form.UAE_Short.AddItems(std::move(names));
 }
 
@@ -192,16 +197,33 @@ void GameLists::UpdateListCaptions() {
 }
 
 void GameLists::BuildDoublesList() {
-    form.WIthoutDoubles.Clear();
-    support::FastListFill fill(form.WIthoutDoubles);
-    const std::string* last = nullptr;
-    for (int row = 0; row < form.UAE_FULL.ListCount(); ++row) {
-        const std::string& name = form.UAE_Short.List(row);
-        if (last ? name == *last : name.empty()) continue;
-        if (fill.Add(name)) last = &name;
+    const std::vector<const std::string*> rows = NamesWithoutDoubles();
+    // A switch builds the list twice; what stands there already is not built anew.
+    const std::vector<std::string>& present = form.WIthoutDoubles.Rows();
+    const bool same =
+        form.WIthoutDoubles.ListIndex() == -1 &&
+        std::equal(rows.begin(), rows.end(), present.begin(), present.end(),
+                   [](const std::string* a, const std::string& b) { return *a == b; });
+    if (!same) {
+        form.WIthoutDoubles.Clear();
+        support::FastListFill fill(form.WIthoutDoubles);
+        fill.Reserve(rows.size());
+        for (const std::string* row : rows)
+            fill.Add(*row);
     }
-    fill.End();
     UpdateListCaptions();
+}
+
+std::vector<const std::string*> GameLists::NamesWithoutDoubles() const {
+    const std::vector<std::string>& names = form.UAE_Short.Rows();
+    const std::size_t games = std::min(form.UAE_FULL.Rows().size(), names.size());
+    std::vector<const std::string*> rows;
+    rows.reserve(games);
+    for (std::size_t i = 0; i < games; ++i) {
+        if (names[i].empty() || (!rows.empty() && names[i] == *rows.back())) continue;
+        rows.push_back(&names[i]);
+    }
+    return rows;
 }
 
 void GameLists::ApplyAliasList(const std::string& IniFile, const std::string& TRENNZ) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "core/busy_state.h"
 #include "core/form1.h"
@@ -48,6 +49,8 @@ class GameLists {
     void ScanPattern(const std::string& pattern);
     void CutNames();
     void SaveCache();
+    // The display names, a run of equal ones once, empty ones left out.
+    std::vector<const std::string*> NamesWithoutDoubles() const;
 
     core::Form1& form;
     core::Ini& ini;

@@ -1,23 +1,43 @@
 #include "library/scan_source.h"
 
+#include <utility>
+
 namespace kivu::library {
 
-bool ScanSource::Read(const std::string& path, std::vector<std::string>& directories,
-                      std::vector<std::string>& names) {
-    if (scanning && path == lastPath) {
-        directories = lastDirectories;
-        names = lastNames;
+bool ScanSource::Read(const std::string& path, std::vector<std::string>* directories,
+                      std::vector<std::string>* names) {
+    if (!scanning) {
+        std::vector<std::string> readDirectories, readNames;
+        if (!List(path, readDirectories, readNames)) return false;
+        if (directories) *directories = std::move(readDirectories);
+        if (names) *names = std::move(readNames);
         return true;
     }
-    if (!scanning) return List(path, directories, names);
+    if (path != lastPath && !Enter(path)) return false;
+    if (names && !namesAreLeft) {
+        std::vector<std::string> ignored;
+        if (!List(path, ignored, lastNames)) return false;
+    }
+    if (directories) *directories = lastDirectories;
+    if (names) {
+        *names = std::exchange(lastNames, {});
+        namesAreLeft = false;
+    }
+    return true;
+}
+
+// Reads a directory that the scan has not seen yet.
+bool ScanSource::Enter(const std::string& path) {
     const auto identity = files.IdentityOf(path);
     if (identity && entered.contains(*identity)) return false;
+    std::vector<std::string> directories, names;
     if (!List(path, directories, names)) return false;
     LeaveOutLinksInside(path, directories);
     if (identity) entered.insert(*identity);
     lastPath = path;
-    lastDirectories = directories;
-    lastNames = names;
+    lastDirectories = std::move(directories);
+    lastNames = std::move(names);
+    namesAreLeft = true;
     return true;
 }
 
@@ -67,6 +87,7 @@ void ScanSource::EndScan() {
     lastPath.clear();
     lastDirectories.clear();
     lastNames.clear();
+    namesAreLeft = false;
 }
 
 }  // namespace kivu::library

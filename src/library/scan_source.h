@@ -19,8 +19,8 @@ class ScanSource : public forms::DirectorySource {
  public:
     explicit ScanSource(const platform::FileSystem& files) : files(files) {}
 
-    bool Read(const std::string& path, std::vector<std::string>& directories,
-              std::vector<std::string>& names) override;
+    bool Read(const std::string& path, std::vector<std::string>* directories,
+              std::vector<std::string>* names) override;
     bool Matches(const std::string& pattern, const std::string& name) override;
 
     void BeginScan(const std::string& root);
@@ -29,6 +29,7 @@ class ScanSource : public forms::DirectorySource {
  private:
     bool List(const std::string& path, std::vector<std::string>& directories,
               std::vector<std::string>& names);
+    bool Enter(const std::string& path);
     void LeaveOutLinksInside(const std::string& path, std::vector<std::string>& directories) const;
 
     const platform::FileSystem& files;
@@ -38,8 +39,10 @@ class ScanSource : public forms::DirectorySource {
     bool scanning = false;
     std::string rootPath;  // resolved
     std::set<platform::FileSystem::Identity> entered;
+    // The directory that was entered last. Its names are handed over to the first who wants them.
     std::string lastPath;
     std::vector<std::string> lastDirectories, lastNames;
+    bool namesAreLeft = false;
 };
 
 }  // namespace kivu::library

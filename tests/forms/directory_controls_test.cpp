@@ -10,12 +10,12 @@ class FakeDirectories : public DirectorySource {
     struct Content {
         std::vector<std::string> directories, files;
     };
-    bool Read(const std::string& path, std::vector<std::string>& directories,
-              std::vector<std::string>& files) override {
+    bool Read(const std::string& path, std::vector<std::string>* directories,
+              std::vector<std::string>* files) override {
         const auto found = contents.find(path);
         if (found == contents.end()) return false;
-        directories = found->second.directories;
-        files = found->second.files;
+        if (directories) *directories = found->second.directories;
+        if (files) *files = found->second.files;
         return true;
     }
     bool Matches(const std::string& pattern, const std::string& name) override {

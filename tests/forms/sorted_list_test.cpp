@@ -139,6 +139,31 @@ TEST_F(SortedList, FillInOrderCostsOneComparisonARow) {
     EXPECT_LE(collation.comparisons, many);
 }
 
+TEST_F(SortedList, RowsGivenInOrderCostNothing) {
+    std::vector<std::string> names = ShuffledNames(many);
+    std::sort(names.begin(), names.end());
+    list.AddSorted(names);
+    EXPECT_EQ(list.Rows(), names);
+    EXPECT_EQ(collation.comparisons, 0);
+    list.AddItem("");
+    EXPECT_EQ(list.List(0), "");
+    EXPECT_EQ(list.ListCount(), many + 1);
+}
+
+TEST_F(SortedList, RowsGivenInOrderFindTheirPlacesAmongThoseThatAreThere) {
+    list.AddItems({"d", "b"});
+    list.AddSorted({"a", "c", "e"});
+    EXPECT_THAT(RowsOf(list), ElementsAre("a", "b", "c", "d", "e"));
+    list.AddSorted({});
+    EXPECT_EQ(list.ListCount(), 5);
+}
+
+TEST_F(SortedList, PrecedesIsTheOrderOfTheRows) {
+    EXPECT_TRUE(list.Precedes("a", "B"));
+    EXPECT_FALSE(list.Precedes("B", "a"));
+    EXPECT_FALSE(list.Precedes("a", "A"));
+}
+
 TEST_F(SortedList, ClearForgetsWhatWasInOrder) {
     list.AddItems({"a", "b", "c"});
     list.ListIndex();

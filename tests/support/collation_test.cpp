@@ -150,5 +150,38 @@ TEST(CompareText, IsATotalOrderThatSortKeysShare) {
     }
 }
 
+// Long enough for steps of several bytes, alike enough to be equal for many of them.
+TEST(CompareText, ComparesLongTextsAsTheirSortKeys) {
+    const string_view pieces[] = {"Game", "gAME", "a", "A", "b", "1", "-", " ", "ä", "Ä", "\x7F"};
+    std::mt19937 random(8);
+    const auto text = [&](std::size_t kinds) {
+        string made;
+        while (made.size() < 30)
+            made += pieces[random() % kinds];
+        return made;
+    };
+    for (const std::size_t kinds : {2U, 8U, 10U, 11U}) {
+        for (int i = 0; i < 2000; ++i) {
+            const string common = text(kinds).substr(0, 4 * (random() % 5));
+            const string a = common + text(kinds);
+            const string b = common + text(kinds);
+            ASSERT_EQ(Sign(CompareText(a, b)), Sign(SortKey(a).compare(SortKey(b))))
+                << a << '/' << b;
+        }
+    }
+}
+
+TEST(CompareText, PassesOverCaseAtEveryPlaceOfALongText) {
+    const string text = "abcdefghijklmnopqrstuvwxyz";
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        string other = text;
+        other[at] = static_cast<char>(other[at] - 'a' + 'A');
+        EXPECT_EQ(CompareText(text, other), 0) << at;
+        EXPECT_LT(CompareText(other, text + ' '), 0) << at;
+        EXPECT_LT(CompareText(other + 'a', text + 'B'), 0) << at;
+        EXPECT_GT(CompareText(other + 'b', text + 'A'), 0) << at;
+    }
+}
+
 }  // namespace
 }  // namespace kivu::support

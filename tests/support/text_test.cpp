@@ -76,6 +76,19 @@ TEST(Decoding, RefusesWhatIsNotUtf8) {
     EXPECT_TRUE(IsUtf8("a\0b"s));
 }
 
+TEST(IsUtf8, FindsAStrayByteAtEveryPlaceOfALongText) {
+    for (std::size_t size = 1; size < 40; ++size) {
+        EXPECT_TRUE(IsUtf8(string(size, 'x')));
+        for (std::size_t at = 0; at < size; ++at) {
+            string text(size, 'x');
+            text[at] = '\xFF';
+            EXPECT_FALSE(IsUtf8(text)) << size << ' ' << at;
+            text.replace(at, 1, "ä");
+            EXPECT_TRUE(IsUtf8(text)) << size << ' ' << at;
+        }
+    }
+}
+
 TEST(Decoding, ReadsAStrayByteAsItsWindows1252Character) {
     EXPECT_EQ(DecodeAt("\x80", 0).codePoint, U'\u20AC');
     EXPECT_EQ(DecodeAt("\xE4", 0).codePoint, U'ä');
