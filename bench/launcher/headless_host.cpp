@@ -1,5 +1,7 @@
 #include "headless_host.h"
 
+#include "ratio/ratio.h"
+
 namespace kivu::bench {
 
 namespace {
@@ -95,6 +97,12 @@ struct HeadlessHost::Silent {
     EmptyStore userStore;
     OnlyInstance instance;
 };
+
+std::error_code TimedFileSystem::WriteFile(const std::string& path, std::string_view bytes) {
+    std::error_code failure;
+    seconds += Seconds([&] { failure = LinuxFileSystem::WriteFile(path, bytes); });
+    return failure;
+}
 
 HeadlessHost::HeadlessHost() : silent(std::make_unique<Silent>()) {
 }

@@ -8,6 +8,17 @@
 
 namespace kivu::bench {
 
+// The real file system, with a watch on what writing costs: a file is flushed to the disk before it
+// replaces the old one, which takes as long as the disk and its other users please.
+class TimedFileSystem : public platform::LinuxFileSystem {
+ public:
+    std::error_code WriteFile(const std::string& path, std::string_view bytes) override;
+    double SecondsWriting() const { return seconds; }
+
+ private:
+    double seconds = 0;
+};
+
 // The real file system; everything else answers at once and does nothing.
 class HeadlessHost {
  public:
@@ -17,9 +28,11 @@ class HeadlessHost {
     HeadlessHost& operator=(const HeadlessHost&) = delete;
 
     platform::Host Services(const std::string& programDirectory);
+    // Since the beginning.
+    double SecondsWriting() const { return files.SecondsWriting(); }
 
  private:
-    platform::LinuxFileSystem files;
+    TimedFileSystem files;
     struct Silent;
     std::unique_ptr<Silent> silent;
 };

@@ -16,7 +16,7 @@ struct Ratio {
     double goal = 1;  // ours by yardstick is to be at most this
     Run ours;
     Run yardstick;
-    int repetitions = 15;
+    int repetitions = 50;
 };
 
 // Runs the repetitions of all sides in a random order, so that a slow minute of the machine meets
