@@ -40,6 +40,8 @@ QListView* MakeView(QWidget* parent) {
     view->setDragDropMode(QAbstractItemView::NoDragDrop);
     view->setContextMenuPolicy(Qt::NoContextMenu);
     view->viewport()->setFocusPolicy(Qt::NoFocus);
+    // The frame behind it has round corners that the bar must not square.
+    view->verticalScrollBar()->setAttribute(Qt::WA_OpaquePaintEvent, false);
     return view;
 }
 

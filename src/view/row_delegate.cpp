@@ -28,9 +28,9 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     QColor writing = text;
     const QRectF pill = QRectF(option.rect).adjusted(3, 1, -3, -1);
     if (marked) {
-        const QColor fill = active ? accent : Mix(base, accent, 0.42);
+        const QColor fill = active ? accent : Mix(base, text, 0.14);
         writing = Readable(active ? onAccent : text, fill);
-        FillRounded(*painter, pill, cornerRadius, fill);
+        FillRounded(*painter, pill, cornerRadius, fill, accent, 1.5);
     } else if (hover) {
         FillRounded(*painter, pill, cornerRadius, Mix(base, text, 0.09));
     }

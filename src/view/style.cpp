@@ -164,6 +164,8 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
                                QPainter* painter, const QWidget* widget) const {
     const auto* slider = qstyleoption_cast<const QStyleOptionSlider*>(option);
     if (control == CC_ScrollBar && slider) {
+        const bool opaque = !widget || widget->testAttribute(Qt::WA_OpaquePaintEvent);
+        if (opaque) painter->fillRect(option->rect, option->palette.color(QPalette::Base));
         DrawScrollBar(*painter, *slider, ScrollBarPart(*slider, SC_ScrollBarSlider));
         return;
     }

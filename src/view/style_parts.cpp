@@ -128,7 +128,6 @@ void DrawRadio(QPainter& painter, const QStyleOption& option) {
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& slider) {
-    painter.fillRect(bar.rect, bar.palette.color(QPalette::Base));
     if (bar.maximum <= bar.minimum) return;
     const bool upright = bar.orientation == Qt::Vertical;
     const bool held =

@@ -93,6 +93,27 @@ TEST(Dialogs, GiveTheTypedText) {
     EXPECT_EQ(dialogs.InputBox("New Title", "Title", "old"), "");
 }
 
+TEST(Dialogs, StandOverAWindowThatStaysOnTop) {
+    QtDialogs dialogs(false);
+    QWidget window(nullptr, Qt::Window | Qt::WindowStaysOnTopHint);
+    window.setGeometry(100, 100, 600, 500);
+    window.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+    QWidget* parent = nullptr;
+    bool onTop = false;
+    QPoint middle;
+    WhenShown("MessageBox", [&](QDialog& box) {
+        parent = box.parentWidget();
+        onTop = box.windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+        middle = box.geometry().center();
+        box.close();
+    });
+    dialogs.MessageBox("Text", "Title", Buttons::Ok, Icon::None);
+    EXPECT_EQ(parent, &window);
+    EXPECT_TRUE(onTop);
+    EXPECT_LE((middle - window.geometry().center()).manhattanLength(), 3);
+}
+
 TEST(Dialogs, StayOnTheScreenWithAVeryLongText) {
     QtDialogs dialogs(false);
     QRect place;

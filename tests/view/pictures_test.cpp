@@ -1,6 +1,7 @@
 #include "view/pictures.h"
 
 #include <QTemporaryDir>
+#include <filesystem>
 #include <fstream>
 
 namespace kivu::tests {
@@ -50,6 +51,7 @@ TEST(Pictures, AreReadFromAFileWithAnyBytesInItsName) {
     std::ifstream from(directory.filePath("plain.png").toStdString(), std::ios::binary);
     std::ofstream(path, std::ios::binary) << from.rdbuf();
     EXPECT_EQ(view::LoadPicture(path).size(), QSize(3, 2));
+    std::filesystem::remove(path);  // the toolkit could not name it
 }
 
 TEST(Pictures, AreNullForWhatIsNone) {

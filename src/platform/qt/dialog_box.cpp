@@ -17,6 +17,16 @@ namespace {
 
 constexpr int widest = 560;  // pixels of text before it breaks
 
+// The window that a box belongs to: the active one, or while none is, the one that is seen.
+QWidget* Owner() {
+    if (QWidget* active = QApplication::activeWindow()) return active;
+    for (QWidget* window : QApplication::topLevelWidgets()) {
+        const bool popup = window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip;
+        if (window->isVisible() && !popup) return window;
+    }
+    return nullptr;
+}
+
 class Sign : public QWidget {
  public:
     Sign(const QString& letter, const QColor& color) : letter(letter), color(color) {
@@ -46,7 +56,12 @@ class Sign : public QWidget {
 }  // namespace
 
 DialogBox::DialogBox(const QString& name, const QString& title)
-    : QDialog(QApplication::activeWindow(), Qt::Dialog | Qt::FramelessWindowHint) {
+    : QDialog(Owner(), Qt::Dialog | Qt::FramelessWindowHint) {
+    // Over a window that stays on top of all others only one that does so too is seen.
+    const QWindow* owner = parentWidget() ? parentWidget()->windowHandle() : nullptr;
+    if (owner && owner->flags().testFlag(Qt::WindowStaysOnTopHint)) {
+        setWindowFlag(Qt::WindowStaysOnTopHint);
+    }
     setObjectName(name);
     setAccessibleName(name);
     setWindowTitle(title);
