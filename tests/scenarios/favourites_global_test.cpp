@@ -1,0 +1,156 @@
+#include "scenarios/scenario.h"
+
+namespace kivu::scenarios {
+namespace {
+
+class FavouritesGlobal : public LoadedScenario {
+ protected:
+    const std::string file = "Config/Favoriten_Global.ini";
+    const std::string header =
+        "[Favoriten_Global]\r\nFav0_Name=\r\nFav0_System=\r\nFav0_FullPath=\r\n";
+
+    std::string Lines(int number, const std::string& name, const std::string& system,
+                      const std::string& image) {
+        const std::string key = "Fav" + std::to_string(number);
+        return key + "_Name=" + name + "\r\n" + key + "_System=" + system + "\r\n" + key +
+               "_FullPath=" + tree.Path(image) + "\r\n";
+    }
+    void Store() {
+        tree.Write(file,
+                   header +
+                       Lines(1, "Bee (1991)(Maker)", "Alpha", "Roms/Alpha/Bee (1991)(Maker).adf") +
+                       Lines(2, "Cat (1992)(Maker)", "Beta", "Roms/Beta/Cat (1992)(Maker).adf"));
+    }
+    // The emulators, then the tab of the favourites.
+    void Show() {
+        Do("focus", "Form1.EmuListbox");
+        Do("click", "Form1.Label1");
+    }
+};
+
+TEST_F(FavouritesGlobal, GameIsAddedByTheButton) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("beeps");
+    Do("click", "Form1.AddToFavorit_Global");
+    EXPECT_EQ(tree.Read(file),
+              header + Lines(1, "Bee (1991)(Maker)", "Alpha", "Roms/Alpha/Bee (1991)(Maker).adf"));
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Add global Favorite: Bee (1991)(Maker)");
+    EXPECT_EQ(Do("beeps")["beeps"], 1);
+    EXPECT_EQ(Get("Focus"), "Form1.WIthoutDoubles");
+    EXPECT_EQ(Get("WIthoutDoubles.ListIndex"), 1);
+}
+
+TEST_F(FavouritesGlobal, FavouritesTabShowsThemWhileTheChoiceIsOpen) {
+    Store();
+    Start();
+    Show();
+    EXPECT_TRUE(Visible("FavoritenListeGlobal"));
+    EXPECT_FALSE(Visible("FavoritenListe"));
+    EXPECT_TRUE(Visible("DeLFav"));
+    EXPECT_EQ(Get("Label1.Caption"), "Globale Favoriten: 2  ");
+    EXPECT_EQ(Get("FavoritenListeGlobal.List"),
+              Json({"Bee (1991)(Maker)  :  Alpha", "Cat (1992)(Maker)  :  Beta"}));
+    EXPECT_EQ(Get("Focus"), "Form1.FavoritenListeGlobal");
+}
+
+TEST_F(FavouritesGlobal, EscapeAndTheTabsLeadBackToTheGames) {
+    Store();
+    Start();
+    Show();
+    Do("key", "Form1", "Escape");
+    EXPECT_TRUE(Do("boxes")["boxes"].empty());
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    EXPECT_EQ(Get("ListMode"), "2");
+    Show();
+    Do("select", "Form1.FavoritenListeGlobal", 1);
+    Do("click", "Form1.Label3");
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    EXPECT_FALSE(Visible("DeLFav"));
+    EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 0);
+    EXPECT_EQ(Get("EmuListbox.Text"), "Alpha");
+    EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ");
+}
+
+TEST_F(FavouritesGlobal, DoubleClickSwitchesAndStarts) {
+    Store();
+    Start();
+    Show();
+    Do("dblclick", "Form1.FavoritenListeGlobal", 1);
+    EXPECT_EQ(Get("CurrentEmuIndex"), 1);
+    EXPECT_EQ(tree.Stored("Config/Kivu.ini", "LastEmulator"), "Beta");
+    EXPECT_EQ(Do("runs")["runs"].size(), 1U);
+    EXPECT_NE(tree.Read("Config/Beta/Kivu_tmp.bat").find("beta"), std::string::npos);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "Cat (1992)(Maker)");
+    EXPECT_EQ(Get("SuchErgList.List"), Json({"Cat (1992)(Maker)"}));
+    EXPECT_EQ(Get("CURRENT_PROGRAM_STARTED"), "Cat (1992)(Maker)");
+    EXPECT_TRUE(Visible("FavoritenListeGlobal"));
+    EXPECT_TRUE(Visible("EmuListbox"));
+}
+
+TEST_F(FavouritesGlobal, EnterStartsAFavouriteOfTheLoadedEmulator) {
+    Store();
+    Start();
+    Show();
+    Do("select", "Form1.FavoritenListeGlobal", 0);
+    Do("key", "Form1", "Enter");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_EQ(Do("runs")["runs"].size(), 1U);
+    EXPECT_NE(tree.Read("Config/Alpha/Kivu_tmp.bat").find("Bee (1991)"), std::string::npos);
+}
+
+TEST_F(FavouritesGlobal, GamesComeBackWhenTheGameEnds) {
+    Store();
+    Start();
+    Show();
+    Do("dblclick", "Form1.FavoritenListeGlobal", 1);
+    Do("process", "add", "beta", 12);
+    Do("tick", "Form1.EmuActiveTimer", 4);
+    EXPECT_TRUE(Visible("AppRunningPicture"));
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    Do("process", "remove", 12);
+    Do("tick", "Form1.EmuActiveTimer");
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+}
+
+TEST_F(FavouritesGlobal, RemoveButtonTakesTheSelectedOne) {
+    Store();
+    Start();
+    Show();
+    Do("select", "Form1.FavoritenListeGlobal", 0);
+    Do("click", "Form1.DeLFav");
+    EXPECT_EQ(tree.Read(file),
+              header + Lines(1, "Cat (1992)(Maker)", "Beta", "Roms/Beta/Cat (1992)(Maker).adf"));
+    EXPECT_EQ(Get("FavoritenListeGlobal.List"), Json({"Cat (1992)(Maker)  :  Beta"}));
+    EXPECT_TRUE(Visible("DeLFav"));
+    Show();
+    EXPECT_EQ(Get("Label1.Caption"), "Globale Favoriten: 1  ");
+}
+
+TEST_F(FavouritesGlobal, ClickOnlySetsTheEmulatorsRow) {
+    Store();
+    Start();
+    Show();
+    Do("select", "Form1.FavoritenListeGlobal", 1);
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 1);
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_EQ(Get("UAE_Short.ListCount"), 3);
+    EXPECT_TRUE(Visible("FavoritenListeGlobal"));
+}
+
+TEST_F(FavouritesGlobal, ResizeKeepsTheListInFront) {
+    Store();
+    Start();
+    Show();
+    Do("select", "Form1.FavoritenListeGlobal", 1);
+    Do("resize", "Form1", 15000, 10000);
+    EXPECT_TRUE(Visible("FavoritenListeGlobal"));
+    EXPECT_EQ(Form().Children().back(), &Form().FavoritenListeGlobal);
+}
+
+}  // namespace
+}  // namespace kivu::scenarios

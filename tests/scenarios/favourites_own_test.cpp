@@ -1,0 +1,188 @@
+#include "scenarios/scenario.h"
+
+namespace kivu::scenarios {
+namespace {
+
+class FavouritesOwn : public LoadedScenario {
+ protected:
+    const std::string file = "Config/Alpha/Favoriten.ini";
+    const std::string bee = "/Roms/Alpha/Bee (1991)(Maker).adf";
+    const std::string ant2 = "/Roms/Alpha/Ant (1990)(Maker)(Disk 2 of 2).adf";
+
+    // The store as the program writes it.
+    void Store(const std::vector<std::pair<std::string, std::string>>& favourites) {
+        std::string bytes = "[Favoriten]\r\n";
+        int number = 0;
+        for (const auto& [name, path] : favourites) {
+            const std::string key = "Fav" + std::to_string(number++);
+            bytes += key + "_Name=" + name + "\r\n" + key + "_FullPath=" + path + "\r\n";
+        }
+        tree.Write(file, bytes);
+    }
+    Json LastBox() { return Do("boxes")["boxes"].back(); }
+};
+
+TEST_F(FavouritesOwn, WithoutFavouritesTheSimpleListIsShownAndOffersToAdd) {
+    Start();
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    EXPECT_TRUE(Visible("AddToFavorit"));
+    EXPECT_TRUE(Visible("AddToFavorit_Global"));
+    EXPECT_FALSE(Visible("DeLFav"));
+    EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ");
+    EXPECT_FALSE(std::filesystem::exists(tree.Path(file)));
+}
+
+TEST_F(FavouritesOwn, GameIsAddedByTheButtonAndIsThereAfterARestart) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(tree.Read(file),
+              "[Favoriten]\r\nFav0_Name=Bee (1991)(Maker)\r\nFav0_FullPath=" + bee + "\r\n");
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Favorite add: Bee (1991)(Maker)");
+    EXPECT_EQ(Get("Label1.Caption"), " Favorites (1) ");
+    Start();
+    EXPECT_TRUE(Visible("FavoritenListe"));
+    EXPECT_EQ(Get("ListMode"), "1");
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee (1991)(Maker)"}));
+    EXPECT_EQ(Get("FavoritenListe.ListIndex"), 0);
+    EXPECT_EQ(Get("UAE_Short.ListIndex"), 2);
+    EXPECT_EQ(Get("Focus"), "Form1.FavoritenListe");
+}
+
+TEST_F(FavouritesOwn, ClickOffersToRemoveAndFillsTheDrives) {
+    Store({{"Ant", ant2}, {"Bee", bee}});
+    Start();
+    Do("select", "Form1.FavoritenListe", 1);
+    EXPECT_EQ(Get("UAE_FULL.ListIndex"), 2);
+    EXPECT_FALSE(Visible("AddToFavorit"));
+    EXPECT_TRUE(Visible("AddToFavorit_Global"));
+    EXPECT_TRUE(Visible("DeLFav"));
+    Do("select", "Form1.FavoritenListe", 0);
+    EXPECT_EQ(Get("DiskSlots")[0], tree.Path("Roms/Alpha/Ant (1990)(Maker)(Disk 1 of 2).adf"));
+    EXPECT_EQ(Get("DiskSlots")[1], tree.Path("Roms/Alpha/Ant (1990)(Maker)(Disk 2 of 2).adf"));
+    EXPECT_EQ(Get("Check_Dfx(0).ToolTipText"), "Ant (1990)(Maker)(Disk 2 of 2).adf");
+    EXPECT_EQ(Get("Check_Dfx(0).Value"), 1);
+}
+
+TEST_F(FavouritesOwn, DoubleClickAndEnterStartTheFavourite) {
+    Store({{"Ant", ant2}, {"Bee", bee}});
+    Start();
+    Do("dblclick", "Form1.FavoritenListe", 1);
+    EXPECT_EQ(Do("runs")["runs"].size(), 1U);
+    EXPECT_NE(tree.Read("Config/Alpha/Kivu_tmp.bat").find("Bee (1991)"), std::string::npos);
+    Start();
+    Do("select", "Form1.FavoritenListe", 0);
+    Do("key", "Form1", "Enter");
+    EXPECT_EQ(Do("runs")["runs"].size(), 1U);
+    EXPECT_NE(tree.Read("Config/Alpha/Kivu_tmp.bat").find("Disk 2 of 2"), std::string::npos);
+}
+
+TEST_F(FavouritesOwn, FavouriteIsRemovedByTheButton) {
+    Store({{"Ant", ant2}, {"Bee", bee}, {"Cat", "/gone/Cat.adf"}});
+    Start();
+    Do("select", "Form1.FavoritenListe", 1);
+    Do("click", "Form1.DeLFav");
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant", "Cat"}));
+    EXPECT_EQ(Get("Label1.Caption"), " Favorites (2) ");
+    EXPECT_FALSE(Visible("DeLFav"));
+    EXPECT_TRUE(Visible("EmuListbox"));
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    EXPECT_EQ(Get("Focus"), "Form1.FavoritenListe");
+    EXPECT_EQ(tree.Read(file), "[Favoriten]\r\nFav0_Name=Ant\r\nFav0_FullPath=" + ant2 +
+                                   "\r\nFav1_Name=Cat\r\nFav1_FullPath=/gone/Cat.adf\r\n"
+                                   "Fav2_Name=\r\nFav2_FullPath=\r\n");
+}
+
+TEST_F(FavouritesOwn, DeleteKeyAsksFirst) {
+    Store({{"Ant", ant2}});
+    Start();
+    Do("answer", "No", "Yes");
+    Do("key", "Form1.FavoritenListe", "Delete");
+    EXPECT_EQ(LastBox()["text"], "Remove from Favorite-List:\r\rAnt?");
+    EXPECT_EQ(Get("FavoritenListe.ListCount"), 1);
+    Do("key", "Form1.FavoritenListe", "Delete");
+    EXPECT_EQ(Get("FavoritenListe.ListCount"), 0);
+    EXPECT_EQ(tree.Read(file), "[Favoriten]\r\nFav0_Name=\r\nFav0_FullPath=\r\n");
+}
+
+TEST_F(FavouritesOwn, RightClickRenames) {
+    Store({{"Ant", ant2}, {"Bee", bee}});
+    Start();
+    Do("input", "Käfer = [Bee]");
+    Do("rightclick", "Form1.FavoritenListe", 1);
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant", "Käfer = [Bee]"}));
+    EXPECT_NE(tree.Read(file).find("Fav1_Name=Käfer = [Bee]\r\n"), std::string::npos);
+    Start();
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant", "Käfer = [Bee]"}));
+    Do("select", "Form1.FavoritenListe", 1);
+    EXPECT_EQ(Get("UAE_FULL.ListIndex"), 2);
+}
+
+TEST_F(FavouritesOwn, EachEmulatorHasItsOwn) {
+    Store({{"Bee", bee}});
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 1);
+    EXPECT_EQ(Get("FavoritenListe.ListCount"), 0);
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(Get("Label1.Caption"), " Favorites (1) ");
+    EXPECT_EQ(tree.Stored("Config/Beta/Favoriten.ini", "Fav0_Name"), "Cat (1992)(Maker)");
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 0);
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee"}));
+    EXPECT_TRUE(Visible("FavoritenListe"));
+}
+
+TEST_F(FavouritesOwn, MissingFavouriteIsAskedAboutAtTheStartAndRepaired) {
+    Store({{"Bee", "/old/Bee (1991)(Maker).adf"},
+           {"Bee (1991)", "/old/Bee (1991)(Maker).adf"},
+           {"Ant", "/old/Ant.adf"}});
+    prepare = [](driver::Session& run) { run.Host().dialogs.answers = {platform::Answer::Yes}; };
+    Start();
+    // The first one has been found by its file name.
+    EXPECT_TRUE(Do("boxes")["boxes"].empty());
+    Do("answer", "Yes");
+    Do("select", "Form1.FavoritenListe", 1);
+    const Json boxes = Do("boxes")["boxes"];
+    ASSERT_EQ(boxes.size(), 2U);
+    EXPECT_EQ(boxes[0]["title"], "Favorite not found - Repair?");
+    EXPECT_EQ(boxes[1]["title"], "Repair result:");
+    EXPECT_EQ(boxes[1]["text"], "Repaired:Bee\rDeleted: Ant\r");
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee"}));
+    EXPECT_EQ(tree.Stored(file, "Fav0_FullPath"), bee);
+}
+
+TEST_F(FavouritesOwn, GermanWords) {
+    options.language = "German";
+    Store({{"Ant", "/old/Nothing.adf"}});
+    Start();
+    EXPECT_EQ(LastBox()["text"],
+              "Datei wurde nicht gefunden!\rAnt\rSollen die Favoriten repariert werden?");
+    EXPECT_EQ(Get("Label1.Caption"), " Favoriten (1) ");
+    Do("answer", "Yes");
+    Do("key", "Form1.FavoritenListe", "Delete");
+    EXPECT_EQ(LastBox()["text"], "Aus Favoriten entfernen:\r\rAnt?");
+    Do("click", "Form1.Label3");
+    Do("select", "Form1.UAE_Short", 2);
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Neuer Favorit: Bee (1991)(Maker)");
+}
+
+TEST_F(FavouritesOwn, FullDiskLosesNothing) {
+    Store({{"Ant", ant2}});
+    const std::string before = tree.Read(file);
+    Start();
+    files.OnlyFor("Favoriten");
+    files.FillDisk();
+    Do("click", "Form1.Label2");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(tree.Read(file), before);
+    files.Heal();
+    Do("click", "Form1.AddToFavorit");
+    Start();
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant", "Bee (1991)(Maker)"}));
+}
+
+}  // namespace
+}  // namespace kivu::scenarios
