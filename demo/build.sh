@@ -7,8 +7,8 @@
 #
 #     demo/build.sh OUTDIR
 #
-# Needs nasm, and what every Debian has. A profile or an alias list that is there
-# already is kept: it may be the user's own by now.
+# Needs nasm, and what every Debian has. A profile, an alias list or favourites that
+# are there already are kept: they may be the user's own by now.
 
 set -euo pipefail
 
@@ -97,20 +97,33 @@ InstallEmulator() {
     rm -rf -- "$config.new"
     cp -R -- "$template/." "$config.new"
     # Profiles and lists are read on Windows as well: lines end in CR LF.
-    sed -i 's/\r*$/\r/' "$config.new/AliasList.txt" "$config.new/Kivu.ini"
+    for kept in AliasList.txt Favoriten.ini Kivu.ini; do
+        if [[ -e $config.new/$kept ]]; then sed -i 's/\r*$/\r/' "$config.new/$kept"; fi
+    done
     patterns=$(sed -n 's/^Dir_Parameter=\(.*\)\r$/\1/p' "$config.new/Kivu.ini")
     WriteCache "$2" "$patterns" "$config.new/AliasList.txt" >"$config.new/Kivu_Cache.txt"
     count=$(($(wc -l <"$config.new/Kivu_Cache.txt") / 2))
     sed -i "s/^RomCount=.*/RomCount=$count\r/" "$config.new/Kivu.ini"
-    for kept in Kivu.ini AliasList.txt; do
-        if [[ -e $config/$kept ]]; then rm -- "$config.new/$kept"; fi
+    for kept in Kivu.ini AliasList.txt Favoriten.ini; do
+        if [[ -e $config/$kept ]]; then rm -f -- "$config.new/$kept"; fi
     done
     cp -R -- "$config.new/." "$config"
     rm -r -- "$config.new"
     echo "$1: $count images"
 }
 
+# InstallGlobalFavourites: the favourites of all emulators. Their paths are absolute.
+InstallGlobalFavourites() {
+    local target=$out/Config/Favoriten_Global.ini line
+    if [[ -e $target ]]; then return; fi
+    while IFS= read -r line; do
+        printf '%s\r\n' "${line//@OUT@/"$out"}"
+    done <"$here/config/Favoriten_Global.ini" >"$target.new"
+    mv -- "$target.new" "$target"
+}
+
 BuildGames "$here/games/dos.list" "$out/Games/DOS"
 mkdir -p -- "$out/Emulators"
 install -m 755 -- "$here/kivu-dosbox.sh" "$out/Emulators/"
 InstallEmulator DOSBox DOS
+InstallGlobalFavourites

@@ -39,6 +39,7 @@ Interpreter::Interpreter(Session& session) : session(session) {
     AddTextRoutines(routines, session);
     AddFileRoutines(routines, session);
     AddLibraryRoutines(routines, session);
+    AddFavouriteRoutines(routines, session);
     AddLaunchRoutines(routines, session);
     AddWindowRoutines(routines, session);
 }

@@ -9,6 +9,7 @@ namespace kivu::driver {
 void AddTextRoutines(RoutineTable& table, Session& session);
 void AddFileRoutines(RoutineTable& table, Session& session);
 void AddLibraryRoutines(RoutineTable& table, Session& session);
+void AddFavouriteRoutines(RoutineTable& table, Session& session);
 void AddLaunchRoutines(RoutineTable& table, Session& session);
 void AddWindowRoutines(RoutineTable& table, Session& session);
 
