@@ -4,64 +4,18 @@
 #include <random>
 
 #include "png/generator/bit_writer.h"
-#include "png/generator/plain_inflate.h"
+#include "png/inflate_outcome.h"
 
 namespace kivu::png {
 namespace {
 
 using testing::BitWriter;
 using testing::Bytes;
-using testing::PlainInflate;
-
-struct Outcome {
-    InflateResult result;
-    Bytes bytes;
-    int treeFailures = 0;
-};
-
-Outcome InflateTo(const Bytes& input, std::uint64_t expectedSize, bool extended = false) {
-    Outcome run{};
-    Inflater inflater([&] { ++run.treeFailures; });
-    const Inflater::Inflated inflated = inflater.Inflate(input, expectedSize, extended);
-    run.result = inflated.result;
-    const auto bytes = inflated.bytes.Span();
-    run.bytes.assign(bytes.begin(), bytes.end());
-    return run;
-}
-
-// The plain inflate has no cap by the input's size, which no stream reaches anyway.
-void ExpectLikePlain(const Bytes& input, std::size_t expectedSize, bool extended = false) {
-    const auto plain = PlainInflate(input, expectedSize + 100, extended);
-    const Outcome run = InflateTo(input, expectedSize, extended);
-    EXPECT_EQ(static_cast<int>(run.result), plain.result);
-    EXPECT_EQ(run.treeFailures, plain.treeFailures);
-    EXPECT_EQ(run.bytes, plain.bytes);
-}
-
-Bytes Deflated(const Bytes& raw, int level, int strategy) {
-    const Bytes packed = testing::ZlibCompress(raw, level, strategy);
-    return {packed.begin() + 2, packed.end()};
-}
-
-Bytes Mixture(std::size_t size, std::uint32_t seed) {
-    std::mt19937 random(seed);
-    Bytes raw;
-    while (raw.size() < size) {
-        const std::size_t run = random() % 300 + 1;
-        const auto kind = random() % 4;
-        for (std::size_t i = 0; i < run && raw.size() < size; ++i) {
-            if (kind == 0) {
-                raw.push_back(static_cast<std::uint8_t>(random()));
-            } else if (kind == 1) {
-                raw.push_back(static_cast<std::uint8_t>(random() % 5));
-            } else {
-                const std::size_t period = kind == 2 ? seed % 19 + 1 : 4000;
-                raw.push_back(raw.size() < period ? std::uint8_t{7} : raw[raw.size() - period]);
-            }
-        }
-    }
-    return raw;
-}
+using testing::Deflated;
+using testing::ExpectLikePlain;
+using testing::InflateTo;
+using testing::Mixture;
+using testing::Outcome;
 
 TEST(Inflate, GivesBackWhatEveryLevelAndStrategyOfZlibPacked) {
     for (int level = 0; level <= 9; ++level) {
@@ -365,44 +319,6 @@ TEST(Inflate, NeverReservesMoreThanTheInputCanFill) {
 TEST(Inflate, GreatestPossibleRatioFitsTheReservedBuffer) {
     const Bytes raw(3000000, 0);
     EXPECT_EQ(InflateTo(Deflated(raw, 9, 0), raw.size()).bytes, raw);
-}
-
-TEST(Inflate, TruncatedAnywhereItIsLikeThePlainOne) {
-    for (const int strategy : {0, 2, 4}) {
-        const Bytes packed = Deflated(Mixture(3000, 77), strategy == 2 ? 9 : 6, strategy);
-        for (std::size_t size = 0; size <= packed.size(); ++size) {
-            ExpectLikePlain({packed.begin(), packed.begin() + static_cast<std::ptrdiff_t>(size)},
-                            3000);
-        }
-    }
-}
-
-TEST(Inflate, DamagedAnywhereItIsLikeThePlainOne) {
-    std::mt19937 random(5);
-    for (int round = 0; round < 3000; ++round) {
-        Bytes packed = Deflated(Mixture(random() % 2500, static_cast<std::uint32_t>(random())),
-                                static_cast<int>(random() % 10), static_cast<int>(random() % 5));
-        for (unsigned damages = random() % 4; damages-- > 0 && !packed.empty();) {
-            packed[random() % packed.size()] ^= static_cast<std::uint8_t>(1U << random() % 8);
-        }
-        ExpectLikePlain(packed, random() % 3000);
-        if (::testing::Test::HasFailure()) break;
-    }
-}
-
-TEST(Inflate, NoiseIsLikeThePlainOne) {
-    std::mt19937 random(6);
-    for (int round = 0; round < 20000; ++round) {
-        Bytes noise(random() % 200 + 1);
-        for (std::uint8_t& byte : noise) {
-            byte = static_cast<std::uint8_t>(random());
-        }
-        // Compressed blocks; the others end too soon to tell anything.
-        noise[0] = static_cast<std::uint8_t>((noise[0] & 0xF8) | (round % 2 == 0 ? 2 : 4));
-        ExpectLikePlain(noise, random() % 2000);
-        ExpectLikePlain(noise, random() % 2000, true);
-        if (::testing::Test::HasFailure()) break;
-    }
 }
 
 }  // namespace

@@ -1,0 +1,88 @@
+#include <algorithm>
+#include <filesystem>
+#include <gtest/gtest.h>
+
+#include "png/generator/opened.h"
+#include "png/generator/recording_target.h"
+#include "png/generator/temporary_file.h"
+#include "png/load_png.h"
+
+namespace kivu::png {
+namespace {
+
+using testing::Bytes;
+using testing::PngRecipe;
+using testing::RecordingTarget;
+
+TEST(OpenPNG, ReadsAFileLikeItsBytes) {
+    PngRecipe recipe;
+    recipe.colorType = 2;
+    recipe.width = recipe.height = 90;
+    const Bytes bytes = WritePng(recipe);
+    const testing::TemporaryFile file(bytes);
+    RecordingTarget fromFile;
+    RecordingTarget fromBytes;
+    LoadPNG reader;
+    reader.PicBox(&fromFile);
+    EXPECT_FALSE(reader.OpenPNG(file.Path()));
+    reader.PicBox(&fromBytes);
+    reader.OpenBytes(testing::BufferOf(bytes));
+    ASSERT_TRUE(fromFile.painted && fromBytes.painted);
+    for (int y = 0; y < 90; ++y) {
+        EXPECT_TRUE(std::ranges::equal(fromFile.painted->Row(y), fromBytes.painted->Row(y)));
+    }
+}
+
+TEST(OpenPNG, WhatCantBeOpenedIsToldToTheCaller) {
+    RecordingTarget target;
+    LoadPNG reader;
+    reader.PicBox(&target);
+    EXPECT_TRUE(reader.OpenPNG("/no/such/file.png"));
+    EXPECT_TRUE(reader.OpenPNG(std::filesystem::temp_directory_path()));
+    EXPECT_EQ(reader.ErrorNumber(), 0);
+    EXPECT_FALSE(target.WasTouched());
+}
+
+TEST(OpenPNG, EndlessDeviceIsNoFile) {
+    if (!std::filesystem::exists("/dev/zero")) GTEST_SKIP() << "there is no such device";
+    LoadPNG reader;
+    EXPECT_TRUE(reader.OpenPNG("/dev/zero"));
+}
+
+bool IsOpen(const std::filesystem::path& path) {
+    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
+        std::error_code ignored;
+        if (std::filesystem::read_symlink(entry.path(), ignored) == path) return true;
+    }
+    return false;
+}
+
+TEST(OpenPNG, FileStaysOpenAfterAnErrorUntilTheObjectIsGone) {
+    if (!std::filesystem::exists("/proc/self/fd")) GTEST_SKIP() << "open files can't be listed";
+    const testing::TemporaryFile noPng(testing::BytesOf("GIF89a"));
+    Bytes bytes = testing::pngSignature;
+    const testing::TemporaryFile cut(bytes);
+    testing::Append(bytes, testing::MakeChunk("IEND", {}));
+    const testing::TemporaryFile noData(bytes);
+    const testing::TemporaryFile right(WritePng(PngRecipe{}));
+    {
+        LoadPNG reader;
+        EXPECT_FALSE(reader.OpenPNG(noPng.Path()));
+        EXPECT_EQ(reader.ErrorNumber(), 1);
+        EXPECT_TRUE(IsOpen(noPng.Path()));
+        EXPECT_FALSE(reader.OpenPNG(noData.Path()));
+        EXPECT_EQ(reader.ErrorNumber(), 4);
+        EXPECT_FALSE(IsOpen(noPng.Path()));
+        EXPECT_TRUE(IsOpen(noData.Path()));
+        EXPECT_FALSE(reader.OpenPNG(right.Path()));
+        EXPECT_FALSE(IsOpen(noData.Path()));
+        EXPECT_FALSE(IsOpen(right.Path()));
+        EXPECT_FALSE(reader.OpenPNG(cut.Path()));
+        EXPECT_EQ(reader.ErrorNumber(), 3);
+        EXPECT_TRUE(IsOpen(cut.Path()));
+    }
+    EXPECT_FALSE(IsOpen(cut.Path()));
+}
+
+}  // namespace
+}  // namespace kivu::png
