@@ -92,8 +92,10 @@ void Form1::DesignLists() {
     DeLFav.SetCaption("Remove Favorite");
     for (forms::CommandButton* button : {&AddToFavorit, &AddToFavorit_Global, &DeLFav}) {
         button->Move(ListLeft, 0, 2200, 390);
+        button->SetFont({"", 9, false});
         button->SetVisible(false);
     }
+    AddToFavorit_Global.SetWidth(2350);
 }
 
 void Form1::DesignFrame() {
@@ -171,6 +173,8 @@ void Form1::DesignCorner() {
     NormalMaxCapt.SetFont({"", 12, true});
     NormalMaxCapt.SetAlignment(forms::Alignment::center);
     NormalMaxCapt.SetCaption("□");
+    // While the choice of emulators is open this tab stands on the corner's picture.
+    Label1.BringToFront();
 }
 
 }  // namespace kivu::core
