@@ -27,8 +27,7 @@ class RowSource {
 
     const std::uint8_t* NextFiltered() {
         std::uint8_t* row = NextBytes(rowBytes + 1);
-        // Behind the data every row is zeros, whatever was above: no filter is 0.
-        if (row == zeros.data()) return above = row;
+        // Behind the data this does nothing: a row of zeros asks for no filter.
         UndoFilter(row[0], row + 1, above, rowBytes, filterStep);
         return above = row + 1;
     }
