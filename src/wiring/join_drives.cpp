@@ -30,6 +30,10 @@ void Launcher::Routines::JoinDrives() {
             driveSlots.Check_Dfx_KeyPress(drive, key);
         };
     }
+    // A favourite brings the other disks of its game.
+    favoritenEvents.hooks.SelectSimilarDisks = [this](int row, int back, int forward, int limit) {
+        driveSlots.SelectSimilarDisks(row, back, forward, limit);
+    };
     JoinPanelDrag();
 }
 

@@ -60,10 +60,15 @@ Json Start(Session& session, const Json&) {
 Json Select(Session& session, const Json& command) {
     Control& control = Reachable(session, command);
     const auto row = RowAt(control, command, 2);
-    const bool added = command.size() > 3;
-    if (added && TextFrom(command[3], "the key") != "ctrl")
-        throw CommandError("the only key for select is \"ctrl\"");
-    UserInput(FormOf(control)).Click(control, row);
+    const std::string held = command.size() > 3 ? TextFrom(command[3], "the key") : "";
+    const bool ctrl = held == "ctrl", shift = held == "shift";
+    if (command.size() > 3 && !ctrl && !shift)
+        throw CommandError("the keys for select are \"ctrl\" and \"shift\"");
+    UserInput(FormOf(control))
+        .Click(control, row,
+               ctrl    ? forms::shifts::ctrl
+               : shift ? forms::shifts::shift
+                       : 0);
     return Json::object();
 }
 
@@ -104,38 +109,14 @@ Json MouseEvent(Session& session, const Json& command) {
     return Json::object();
 }
 
-struct Point {
-    std::int64_t x = 0;
-    std::int64_t y = 0;
-};
-
-// A control's left top corner in its window.
-Point Corner(const Control& control) {
-    Point corner;
-    for (const Control* at = &control; at && at->GetKind() != forms::Kind::form;
-         at = at->Parent()) {
-        corner.x += at->Left();
-        corner.y += at->Top();
-    }
-    return corner;
-}
-
-// The button goes down at the grip and comes up over the target. The control has the mouse all the
-// while, so it gets the movement too, in its own coordinates.
+// The button goes down at the grip and comes up over the target.
 Json Drag(Session& session, const Json& command) {
     Control& control = Reachable(session, command);
     Control& target = Reachable(session, command, 2);
-    const int x = WholeFrom(command[3], "x"), y = WholeFrom(command[4], "y");
-    const int grabX = WholeFrom(command[5], "grabX"), grabY = WholeFrom(command[6], "grabY");
+    const forms::Point place{WholeFrom(command[3], "x"), WholeFrom(command[4], "y")};
+    const forms::Point grip{WholeFrom(command[5], "grabX"), WholeFrom(command[6], "grabY")};
     if (&FormOf(control) != &FormOf(target)) throw CommandError("both must be in one window");
-    const Point from = Corner(control), to = Corner(target);
-    const int dropX = WholeFrom(Json(to.x - from.x + x), "x");
-    const int dropY = WholeFrom(Json(to.y - from.y + y), "y");
-    UserInput input(FormOf(control));
-    using forms::buttons::left;
-    input.MouseDown(control, {left, 0, grabX, grabY});
-    input.MouseMove(control, {left, 0, dropX, dropY});
-    input.MouseUp(control, {left, 0, dropX, dropY});
+    UserInput(FormOf(control)).Drag(control, grip, target, place);
     return Json::object();
 }
 

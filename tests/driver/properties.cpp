@@ -169,7 +169,13 @@ std::vector<Property> ListProperties() {
          Writes<ListControl, DirectoryControl>(
              [](auto& c, const Json& v) { c.SetListIndex(WholeFrom(v, "ListIndex")); })},
         {"Selected",
-         Reads<ListControl, DirectoryControl>([](auto& c) { return ChosenRows(c.ListIndex()); })},
+         [](Control& control) {
+             auto value = Reads<ListBox>([](auto& c) { return Json(c.SelectedRows()); })(control);
+             return value ? value : Reads<ListControl, DirectoryControl>([](auto& c) {
+                 return ChosenRows(c.ListIndex());
+             })(control);
+         }},
+        {"MultiSelect", Reads<ListBox>([](auto& c) { return c.MultiSelect(); })},
         {"Path", Reads<DirListBox, FileListBox>([](auto& c) { return c.Path(); }),
          Writes<DirListBox, FileListBox>(
              [](auto& c, const Json& v) { c.SetPath(TextFrom(v, "Path")); })},

@@ -31,10 +31,23 @@ void AddStartRoutines(RoutineTable& table, Session& session) {
         Bind("StartEmulator", [&setup](string name, bool ask) { setup.StartEmulator(name, ask); }));
 }
 
+void AddDriveRoutines(RoutineTable& table, Session& session) {
+    auto& files = session.Routines().uaeFiles;
+    table.push_back(Bind("GetMasterConfig", [&files] { return files.GetMasterConfig(); }));
+    auto& drives = session.Routines().driveSlots;
+    table.push_back(Bind("SelectSimilarDisks", [&drives](std::int16_t from, std::int16_t back,
+                                                         std::int16_t forward, std::int16_t limit) {
+        drives.SelectSimilarDisks(from, back, forward, limit);
+    }));
+    table.push_back(Bind("Check_Dfx_MouseUp",
+                         [&drives](std::int16_t index) { drives.Check_Dfx_MouseUp(index); }));
+}
+
 }  // namespace
 
 void AddLaunchRoutines(RoutineTable& table, Session& session) {
     AddStartRoutines(table, session);
+    AddDriveRoutines(table, session);
     auto& all = session.Routines();
     table.push_back(Bind("WAIT", [&all](std::int16_t seconds) {
         launch::WAIT(seconds, all.host.clock, all.pacer);

@@ -1,0 +1,186 @@
+#include "launch/uae_configuration.h"
+
+#include <gmock/gmock.h>
+#include <optional>
+#include <sstream>
+
+namespace kivu::launch {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Reads a configuration as an emulator would: line by line, keys in front of the first "=", the
+// last value of a key counts. Written for the tests alone, with nothing of the launcher in it.
+class UaeReader {
+ public:
+    explicit UaeReader(const std::string& bytes) {
+        std::istringstream stream(bytes);
+        for (std::string line; std::getline(stream, line);) {
+            EXPECT_TRUE(!line.empty() && line.back() == '\r') << "a line does not end in CR LF";
+            if (!line.empty()) line.pop_back();
+            lines.push_back(line);
+        }
+        EXPECT_TRUE(bytes.size() >= 2 && bytes.substr(bytes.size() - 2) == "\r\n");
+    }
+
+    std::optional<std::string> Value(const std::string& key) const {
+        std::optional<std::string> value;
+        for (const std::string& line : lines) {
+            const std::size_t equals = line.find('=');
+            if (equals == std::string::npos || Trimmed(line.substr(0, equals)) != key) continue;
+            value = Trimmed(line.substr(equals + 1));
+            // Quotes hold a path with blanks together.
+            if (value->size() > 1 && value->front() == '"' && value->back() == '"')
+                value = value->substr(1, value->size() - 2);
+        }
+        return value;
+    }
+    int Count(const std::string& key) const {
+        int count = 0;
+        for (const std::string& line : lines)
+            count += line.compare(0, key.size() + 1, key + "=") == 0 ? 1 : 0;
+        return count;
+    }
+
+    std::vector<std::string> lines;
+
+ private:
+    static std::string Trimmed(const std::string& text) {
+        const std::size_t from = text.find_first_not_of(' ');
+        if (from == std::string::npos) return {};
+        return text.substr(from, text.find_last_not_of(' ') - from + 1);
+    }
+};
+
+struct Master {
+    const char* name;
+    const char* bytes;
+    const char* rom;  // what an emulator reads as its ROM from the master, null for none
+    bool namesRom;    // in whatever line
+};
+
+constexpr Master masters[] = {
+    {"none", "", nullptr, false},
+    {"plain", "gfx_width=720\r\nuse_gui = no\r\n", nullptr, false},
+    {"with a ROM", "use_gui = no\r\nkickstart_rom_file=C:\\a b.rom\r\n", "C:\\a b.rom", true},
+    {"with a ROM in a comment", "; kickstart_rom_file=\r\nuse_gui = no\r\n", nullptr, true},
+    {"with a ROM key in capitals", "KICKSTART_ROM_FILE=x\r\n", nullptr, false},
+    {"without an end", "gfx_width=720\nuse_gui = no", nullptr, false},
+};
+
+constexpr const char* roms[] = {"", "C:\\Amiga Roms\\kick 1.3.rom",
+                                "/home/jörg/Käfer roms/kick.rom"};
+
+constexpr const char* disks[] = {"D:\\a.adf", "\"D:\\Amiga Games\\b (Disk 2).adf\"",
+                                 "\"/home/jörg/Spiele für Amiga/Ärger.adf\"", "/x/d.adf",
+                                 "Z:\\x\\e.adf"};
+
+std::string Unquoted(const std::string& text) {
+    return text.front() == '"' ? text.substr(1, text.size() - 2) : text;
+}
+
+void CheckCombination(const Master& master, bool fullscreen, const char* rom, unsigned filled) {
+    UaeStart start;
+    start.master = master.bytes;
+    start.fullscreen = fullscreen;
+    start.rom = rom;
+    for (std::size_t drive = 0; drive < 5; ++drive) {
+        if (filled >> drive & 1) start.floppies[drive] = disks[drive];
+    }
+    const UaeReader read(StartConfiguration(start));
+    ASSERT_FALSE(read.lines.empty());
+    EXPECT_EQ(read.lines.front(), "");
+    const std::optional<std::string> wide =
+        fullscreen ? std::optional<std::string>("True") : std::nullopt;
+    EXPECT_EQ(read.Value("gfx_fullscreen"), wide);
+    EXPECT_EQ(read.Value("gfx_fullscreen_amiga"), wide);
+    const bool added = *rom != 0 && !master.namesRom;
+    if (added) {
+        EXPECT_EQ(read.Value("kickstart_rom_file"), rom);
+    } else {
+        EXPECT_EQ(read.Value("kickstart_rom_file").value_or("-"), master.rom ? master.rom : "-");
+    }
+    for (std::size_t drive = 0; drive < 5; ++drive) {
+        const std::string key = "floppy" + std::to_string(drive);
+        EXPECT_EQ(read.Value(key).value_or("-"),
+                  filled >> drive & 1 ? Unquoted(disks[drive]) : "-");
+        EXPECT_LE(read.Count(key), 1);
+    }
+    EXPECT_EQ(read.Value("floppy5"), std::nullopt);
+    if (std::string(master.bytes).find("use_gui") != std::string::npos) {
+        EXPECT_EQ(read.Value("use_gui"), "no");
+    }
+}
+
+TEST(StartConfiguration, ReadsBackRightForEveryCombination) {
+    for (const Master& master : masters) {
+        for (const bool fullscreen : {false, true}) {
+            for (const char* rom : roms) {
+                for (unsigned filled = 0; filled < 32; ++filled) {
+                    SCOPED_TRACE(std::string(master.name) + ", ROM " + rom + ", drives " +
+                                 std::to_string(filled));
+                    CheckCombination(master, fullscreen, rom, filled);
+                }
+            }
+        }
+    }
+}
+
+TEST(StartConfiguration, SaysNothingByOneLineBreak) {
+    EXPECT_EQ(StartConfiguration({}), "\r\n");
+}
+
+TEST(StartConfiguration, KeepsTheMastersLinesInTheirOrderBehindAnEmptyOne) {
+    UaeStart start;
+    start.master = "a=1\r\n\r\n; remark \xff\xe4 \r\nb = 2";
+    EXPECT_EQ(StartConfiguration(start), "\r\na=1\r\n\r\n; remark \xff\xe4 \r\nb = 2\r\n");
+}
+
+TEST(StartConfiguration, PutsItsOwnLinesBehindThoseOfTheMaster) {
+    UaeStart start;
+    start.master = "gfx_fullscreen=False\r\n";
+    start.fullscreen = true;
+    start.rom = "k.rom";
+    start.floppies[1] = "b.adf";
+    start.floppies[0] = "a.adf";
+    EXPECT_EQ(StartConfiguration(start),
+              "\r\ngfx_fullscreen=False\r\ngfx_fullscreen_amiga=True\r\ngfx_fullscreen=True\r\n"
+              "kickstart_rom_file=k.rom\r\nfloppy0=a.adf\r\nfloppy1=b.adf\r\n");
+}
+
+TEST(StartConfiguration, TrimsTheRomAndOnlyIt) {
+    UaeStart start;
+    start.rom = "  C:\\a b.rom ";
+    start.floppies[4] = " e.adf";
+    EXPECT_EQ(StartConfiguration(start),
+              "\r\nkickstart_rom_file=C:\\a b.rom\r\nfloppy4= e.adf\r\n");
+}
+
+TEST(StartConfiguration, LeavesOutPathsThatWouldBecomeLinesOfTheirOwn) {
+    UaeStart start;
+    start.rom = "a.rom\r\nuse_gui=yes";
+    start.floppies[0] = "a.adf\nfloppy1=b.adf";
+    start.floppies[1] = std::string("a\0.adf", 6);
+    start.floppies[2] = "c.adf";
+    EXPECT_EQ(StartConfiguration(start), "\r\nfloppy2=c.adf\r\n");
+}
+
+TEST(StartConfiguration, DropsAnEditorsMarkInFrontOfTheMaster) {
+    UaeStart start;
+    start.master = "\xEF\xBB\xBFgfx_width=720\r\n";
+    EXPECT_EQ(StartConfiguration(start), "\r\ngfx_width=720\r\n");
+}
+
+TEST(DefaultMasterConfiguration, HasFourteenLinesWithTheirOwnBlanks) {
+    const std::string text = DefaultMasterConfiguration();
+    EXPECT_EQ(text.size(), 231U);
+    EXPECT_THAT(UaeReader(text).lines,
+                ElementsAre("fastmem_size=2", "chipmem_size=4", "gfx_width=720", "gfx_height=568",
+                            "", "floppy_speed=800", "use_gui = no", "autoconfig = no",
+                            "cpu_type = 6800", "cpu_speed = Real", "sound_output = exact",
+                            "sound_channels = stereo", "sound_bits = 16", "bogomem_size = 1"));
+}
+
+}  // namespace
+}  // namespace kivu::launch
