@@ -165,6 +165,21 @@ TEST(Inflate, SymbolsBeyondTheTablesHaveBaseZero) {
     EXPECT_EQ(InflateTo(writer.Done(), 10).result, InflateResult::Good);
 }
 
+TEST(Inflate, NoDistanceGivesZerosWhateverTheBufferHeld) {
+    BitWriter writer;
+    writer.BlockHead(true, 1).StaticSymbol('x').StaticSymbol(257).StaticDistance(30);
+    for (int i = 0; i < 40; ++i) {
+        writer.StaticSymbol('y');
+    }
+    writer.StaticSymbol(256);
+    for (const std::size_t size : {60U, 1000U}) {
+        Bytes output(size, 0xAA);
+        Inflater inflater;
+        ASSERT_EQ(inflater.Inflate(writer.Done(), output).written, 44U);
+        EXPECT_EQ(Bytes(output.begin(), output.begin() + 5), (Bytes{'x', 0, 0, 0, 'y'}));
+    }
+}
+
 TEST(Inflate, TwoStaticBlocksShareTheirTables) {
     BitWriter writer;
     writer.BlockHead(false, 1).StaticSymbol('a').StaticSymbol(256);
