@@ -13,7 +13,6 @@ void Launcher::Routines::JoinHooks() {
     JoinFavourites();
     JoinLaunch();
     JoinDrives();
-    JoinDrives();
     JoinUi();
 }
 

@@ -61,12 +61,9 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, host.dialogs}),
       uaeFiles(form, host.files),
       driveSlots(form, ini, host.beeper),
-      uaeFiles(form, host.files),
-      driveSlots(form, ini, host.beeper),
       layout(form),
       fontSize(form),
       surface(form, ini, host.dialogs),
-      panelDrag(form),
       panelDrag(form),
       navigation(form) {
     const char separator = host.files.Separator();

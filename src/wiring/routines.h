@@ -17,12 +17,10 @@
 #include "favourites/repair_favoriten.h"
 #include "joystick/list_navigation.h"
 #include "launch/drive_slots.h"
-#include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/prozess.h"
 #include "launch/running_watch.h"
-#include "launch/uae_files.h"
 #include "launch/uae_files.h"
 #include "library/emulator_box.h"
 #include "library/file_scan_recursive.h"
@@ -35,7 +33,6 @@
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/layout.h"
-#include "ui/panel_drag.h"
 #include "ui/panel_drag.h"
 #include "ui/window_surface.h"
 #include "wiring/launcher.h"
@@ -89,13 +86,10 @@ struct Launcher::Routines {
     launch::EmulatorSetup emulatorSetup;
     launch::UaeFiles uaeFiles;
     launch::DriveSlots driveSlots;
-    launch::UaeFiles uaeFiles;
-    launch::DriveSlots driveSlots;
 
     ui::Layout layout;
     ui::FontSize fontSize;
     ui::WindowSurface surface;
-    ui::PanelDrag panelDrag;
     ui::PanelDrag panelDrag;
 
     joystick::ListNavigation navigation;
@@ -112,8 +106,6 @@ struct Launcher::Routines {
     void JoinSearch();
     void JoinFavourites();
     void JoinLaunch();
-    void JoinDrives();
-    void JoinPanelDrag();
     void JoinDrives();
     void JoinPanelDrag();
     void JoinUi();
