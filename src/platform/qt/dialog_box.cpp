@@ -66,12 +66,15 @@ DialogBox::DialogBox(const QString& name, const QString& title)
     setAccessibleName(name);
     setWindowTitle(title);
     setModal(true);
+    QFont text = font();
+    text.setPointSizeF(10.5);
+    setFont(text);
     auto* outer = new QVBoxLayout(this);
     outer->setContentsMargins(24, 18, 24, 20);
     outer->setSpacing(16);
     auto* caption = new QLabel(title);
     caption->setTextFormat(Qt::PlainText);
-    QFont bold = caption->font();
+    QFont bold = text;
     bold.setBold(true);
     bold.setPointSizeF(bold.pointSizeF() * 1.15);
     caption->setFont(bold);

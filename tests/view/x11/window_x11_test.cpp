@@ -15,7 +15,7 @@ class X11Test : public ShownForm {
         // The window manager may still be on its way up.
         ASSERT_TRUE(QTest::qWaitFor(
             [] {
-                return Output("xprop", {"-root", "_NET_SUPPORTED"}).contains("_NET_WM_MOVERESIZE");
+                return Output("xprop", {"-root", "_NET_CLIENT_LIST"}).contains("window id");
             },
             patience));
     }
@@ -38,12 +38,15 @@ class X11Test : public ShownForm {
     QString Id() { return QString::number(view.Window().winId()); }
 
     void Drag(QPoint from, QPoint by) {
+        const QRect before = view.Window().geometry();
         Xdo(At(from));
         Xdo({"mousedown", "1"});
         for (int step = 1; step <= 10; ++step) {
             Xdo({"mousemove_relative", "--sync", "--", QString::number(by.x() / 10),
                  QString::number(by.y() / 10)});
         }
+        // The window manager must have taken the mouse before it lets go.
+        EXPECT_TRUE(Wait([&] { return view.Window().geometry() != before; }));
         Xdo({"mouseup", "1"});
     }
 };
