@@ -1,0 +1,148 @@
+#include "library/search_words.h"
+
+#include <gtest/gtest.h>
+#include <random>
+
+namespace kivu::library {
+namespace {
+
+using std::string;
+
+bool Matches(std::string_view text, std::string_view row) {
+    return SearchWords(text).AreIn(row);
+}
+
+std::vector<string> Lines(std::string_view text, std::string_view block) {
+    std::vector<string> lines;
+    const auto decode = [](std::string_view bytes) { return support::FromWindows1252(bytes); };
+    SearchWords(text).ForEachLine(block, decode, [&](std::string_view line) {
+        lines.emplace_back(line);
+        return true;
+    });
+    return lines;
+}
+
+TEST(SearchWords, AllWordsInAnyOrderAnywhereInAnyCase) {
+    const char* row = "The Great Giana Sisters (1987)(Rainbow Arts)";
+    EXPECT_TRUE(Matches("sisters giana", row));
+    EXPECT_TRUE(Matches("GIANA 1987", row));
+    EXPECT_TRUE(Matches("reat ana ter", row));
+    EXPECT_TRUE(Matches("giana giana", row));
+    EXPECT_FALSE(Matches("giana brothers", row));
+    EXPECT_FALSE(Matches("gianasisters", row));
+}
+
+TEST(SearchWords, TwoBlanksMakeAnEmptyWordThatEveryRowContains) {
+    EXPECT_TRUE(Matches("giana  sisters", "Sisters of Giana"));
+    EXPECT_TRUE(Matches("  ", "anything"));
+    EXPECT_TRUE(Matches("", ""));
+    EXPECT_FALSE(Matches(" x ", "anything"));
+}
+
+TEST(SearchWords, WildcardsAndQuotesAreLetters) {
+    EXPECT_FALSE(Matches("tur*", "Turrican"));
+    EXPECT_FALSE(Matches("tur?ican", "Turrican"));
+    EXPECT_FALSE(Matches("\"turrican\"", "Turrican"));
+    EXPECT_TRUE(Matches("\"turrican\"", "The \"Turrican\" Demo"));
+    EXPECT_TRUE(Matches("*", "Who*"));
+}
+
+TEST(SearchWords, TabsDoNotSplit) {
+    EXPECT_TRUE(Matches("a\tb", "xa\tby"));
+    EXPECT_FALSE(Matches("a\tb", "a b"));
+}
+
+TEST(SearchWords, LettersBeyondAsciiHaveACaseToo) {
+    EXPECT_TRUE(Matches("JÄGER", "Der Jäger"));
+    EXPECT_TRUE(Matches("jäger", "DER JÄGER"));
+    EXPECT_TRUE(Matches("ä", "Ä"));
+    EXPECT_FALSE(Matches("jager", "Jäger"));
+    EXPECT_FALSE(Matches("jäger", "Jager"));
+    EXPECT_TRUE(Matches("ИГРА", "Эта игра"));
+    // The bytes of "ä" end like those of "Ӥ" and of others: only the letter counts.
+    EXPECT_FALSE(Matches("ä", "Ӥ"));
+}
+
+TEST(SearchWords, BytesBesideLettersAreNotTakenForThem) {
+    EXPECT_FALSE(Matches("@", "`"));
+    EXPECT_FALSE(Matches("[a]", "{A}"));
+    EXPECT_FALSE(Matches("a", "\xC1"));
+    EXPECT_TRUE(Matches("{a}", "{A}"));
+}
+
+TEST(SearchWords, ARowIsNoLongerThanItsText) {
+    const string rows = "Turrican";
+    EXPECT_FALSE(Matches("turrican", std::string_view(rows).substr(0, 7)));
+    EXPECT_FALSE(Matches("turrican", ""));
+}
+
+TEST(SearchWords, NulIsALetterLikeOthers) {
+    const string row("Tur\0rican", 9);
+    EXPECT_TRUE(Matches("rican", row));
+    EXPECT_FALSE(Matches("turrican", row));
+    EXPECT_TRUE(Matches(std::string_view("r\0r", 3), row));
+}
+
+TEST(SearchWords, AgreesWithThePlainWayOnRandomTexts) {
+    std::mt19937 random(7);
+    const string letters = "abAB1 (ä\xC3\x84\xE4Z/";
+    const auto make = [&](std::size_t most) {
+        string text(random() % (most + 1), ' ');
+        for (char& c : text)
+            c = letters[random() % letters.size()];
+        return text;
+    };
+    for (int round = 0; round < 20000; ++round) {
+        const string word = make(4), row = make(40);
+        if (word.find(' ') != string::npos) continue;
+        EXPECT_EQ(SearchWord(word).IsIn(row), support::ContainsNoCase(row, word))
+            << "'" << word << "' in '" << row << "'";
+    }
+}
+
+TEST(SearchLines, GivesMatchingLinesWithoutTheirEnds) {
+    EXPECT_EQ(Lines("ant", "Ant\r\nbee\r\nGiant\nANT"),
+              (std::vector<string>{"Ant", "Giant", "ANT"}));
+    EXPECT_EQ(Lines("ant 1990", "Ant (1990)\r\nAnt (1991)\r\n"), std::vector<string>{"Ant (1990)"});
+    EXPECT_EQ(Lines("ant", "ant ant ant\nant\n"), (std::vector<string>{"ant ant ant", "ant"}));
+    EXPECT_TRUE(Lines("ant", "").empty());
+    EXPECT_TRUE(Lines("ant", "\n\r\n\n").empty());
+}
+
+TEST(SearchLines, AWordNeverGoesAcrossLines) {
+    EXPECT_TRUE(Lines("ab", "a\nb\n").empty());
+    EXPECT_TRUE(Lines("a\nb", "a\nb\n").empty());
+    EXPECT_TRUE(Lines("a\r", "a\r\nb").empty());
+    EXPECT_TRUE(Lines("one two", "one\ntwo\n").empty());
+}
+
+TEST(SearchLines, LinesInTheWindowsCodePageAreDecoded) {
+    EXPECT_EQ(Lines("JÄGER", "J\xE4ger\r\nJager\r\nJäger\r\n"),
+              (std::vector<string>{"J\xE4ger", "Jäger"}));
+    EXPECT_EQ(Lines("Ä", "\xC4\n\xE4\nx\n"), (std::vector<string>{"\xC4", "\xE4"}));
+}
+
+TEST(SearchLines, StopsWhenTheCallerHasEnough) {
+    int calls = 0;
+    const auto decode = [](std::string_view bytes) { return string(bytes); };
+    EXPECT_FALSE(SearchWords("a").ForEachLine("a\na\na\n", decode,
+                                              [&](std::string_view) { return ++calls < 2; }));
+    EXPECT_EQ(calls, 2);
+}
+
+TEST(CountLineFeeds, CountsInBlocksOfAnyLength) {
+    std::mt19937 random(3);
+    for (std::size_t length = 0; length < 5000; length += 1 + length / 9) {
+        string block(length, 'x');
+        std::size_t count = 0;
+        for (char& c : block) {
+            c = static_cast<char>(random() % 4 == 0 ? '\n' : random());
+            if (c == '\n') ++count;
+        }
+        EXPECT_EQ(CountLineFeeds(block), count);
+        EXPECT_EQ(CountLineFeeds(string(length, '\n')), length);
+    }
+}
+
+}  // namespace
+}  // namespace kivu::library
