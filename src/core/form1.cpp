@@ -173,8 +173,6 @@ void Form1::DesignCorner() {
     NormalMaxCapt.SetFont({"", 12, true});
     NormalMaxCapt.SetAlignment(forms::Alignment::center);
     NormalMaxCapt.SetCaption("□");
-    // While the choice of emulators is open this tab stands on the corner's picture.
-    Label1.BringToFront();
 }
 
 }  // namespace kivu::core

@@ -52,6 +52,8 @@ void EmulatorBox::Open() {
     busy.HideAll(false);
     form.Label1.SetVisible(true);
     form.Label1.SetLeft(form.Width() - form.Label1.Width() - 400);
+    // The tab stands on the corner's picture now.
+    form.Label1.BringToFront();
     form.EmulatorLongListbox.SetVisible(true);
     form.EmuBoxIndexSaved = form.EmuListbox.ListIndex();
     form.EmuListLocked = false;
