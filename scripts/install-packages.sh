@@ -7,7 +7,7 @@ run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cu
 screen=(xvfb openbox xdotool imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)
 fuzz=(clang libclang-rt-14-dev)
-bench=(libbenchmark-dev libpng-dev zlib1g-dev libdeflate-dev findutils grep)
+bench=(libbenchmark-dev libxcb1-dev libpng-dev zlib1g-dev libdeflate-dev findutils grep)
 
 wanted=()
 for job in "$@"; do
