@@ -58,6 +58,13 @@ Answer AnswerFrom(const Json& value) {
     throw CommandError("an answer is OK, Cancel, Yes or No");
 }
 
+// What has come about, as the answer's value and under the command's own name.
+Json Told(const char* name, Json what) {
+    Json more = Value(what);
+    more[name] = std::move(what);
+    return more;
+}
+
 Json QueueAnswers(Session& session, const Json& command) {
     std::vector<Answer> answers;
     for (std::size_t i = 1; i < command.size(); ++i)
@@ -89,7 +96,7 @@ Json Boxes(Session& session, const Json&) {
         boxes.push_back(std::move(box));
     }
     session.Host().dialogs.shown.clear();
-    return Value(std::move(boxes));
+    return Told("boxes", std::move(boxes));
 }
 
 Json Runs(Session& session, const Json&) {
@@ -107,11 +114,11 @@ Json Runs(Session& session, const Json&) {
         runs.push_back(std::move(run));
     }
     session.Host().starter.runs.clear();
-    return Value(std::move(runs));
+    return Told("runs", std::move(runs));
 }
 
 Json Beeps(Session& session, const Json&) {
-    return Value(std::exchange(session.Host().beeper.count, 0));
+    return Told("beeps", std::exchange(session.Host().beeper.count, 0));
 }
 
 Json Kills(Session& session, const Json&) {
@@ -121,7 +128,7 @@ Json Kills(Session& session, const Json&) {
         names.push_back(kill.name);
     }
     session.Host().processes.kills.clear();
-    Json more = Value(std::move(ids));
+    Json more = Told("kills", std::move(ids));
     more["names"] = std::move(names);
     return more;
 }
@@ -160,7 +167,7 @@ Json ShowDevices(const Session& session) {
         shown["buttons"] = device.pressed;
         devices.push_back(std::move(shown));
     }
-    return Value(std::move(devices));
+    return Told("devices", std::move(devices));
 }
 
 void AddDevice(Session& session, const Json& command) {
@@ -245,7 +252,7 @@ Json Display(Session& session, const Json&) {
     display["changes"] = Json::array();
     for (const auto& change : session.display.changes)
         display["changes"].push_back(show(change));
-    return Value(std::move(display));
+    return Told("display", std::move(display));
 }
 
 }  // namespace
