@@ -132,6 +132,7 @@ void FavoritenEvents::DeLFav_Click() {
     if (repair.IsRunning()) return;
     if (form.FavoritenListeGlobal.Visible()) {
         global.RemoveGlobalFavorit();
+        global.ShowHeading();
         form.FavoritenListeGlobal.SetFocus();
         return;
     }

@@ -95,8 +95,7 @@ void GlobalEvents::FocusListInFront() {
 bool GlobalEvents::ShowGlobalFavourites() {
     if (!form.EmulatorLongListbox.Visible()) return false;
     store.LoadGlobalFavoriten();
-    const auto& records = store.Records();
-    form.Label1.SetCaption("Globale Favoriten: " + std::to_string(records.size()) + "  ");
+    store.ShowHeading();
     // The open choice has made the drop-down as wide as the lists; the tabs stand beside it.
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
     hooks.ArrangeLists();

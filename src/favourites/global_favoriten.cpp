@@ -96,6 +96,12 @@ void GlobalFavoriten::RemoveGlobalFavorit() {
     form.FavoritenListeGlobal.RemoveItem(row);
 }
 
+void GlobalFavoriten::ShowHeading() {
+    const auto live = std::count_if(records.begin(), records.end(),
+                                    [](const auto& record) { return !record.Display.empty(); });
+    form.Label1.SetCaption("Globale Favoriten: " + std::to_string(live) + "  ");
+}
+
 const GlobalFavorit* GlobalFavoriten::FindByDisplay(const std::string& display) const {
     const auto found = std::find_if(records.begin(), records.end(), [&](const auto& record) {
         return !display.empty() && record.Display == display;

@@ -35,6 +35,9 @@ class GlobalFavoriten {
     // The record of the selected row, and the row.
     void RemoveGlobalFavorit();
 
+    // The number of records, on the tab of the favourites.
+    void ShowHeading();
+
     // Deleted ones included.
     const std::vector<GlobalFavorit>& Records() const { return records; }
     // Null: no record has this row text. Valid until the next change of the array.

@@ -265,6 +265,7 @@ TEST_F(FavoritenEventsTest, RemoveButtonBelongsToTheGlobalListWhileThatIsOnShow)
     room.form.FavoritenListeGlobal.SetListIndex(0);
     room.events.DeLFav_Click();
     EXPECT_EQ(room.form.FavoritenListeGlobal.ListCount(), 0);
+    EXPECT_EQ(room.form.Label1.Caption(), "Globale Favoriten: 0  ");
     EXPECT_EQ(room.Names(), Texts{"Zool"});
     EXPECT_TRUE(room.form.DeLFav.Visible());
     EXPECT_TRUE(room.form.EmuListbox.Visible());

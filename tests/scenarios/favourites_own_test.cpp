@@ -19,7 +19,7 @@ class FavouritesOwn : public LoadedScenario {
         }
         tree.Write(file, bytes);
     }
-    Json LastBox() { return Do("boxes")["boxes"].back(); }
+    Json LastBox() { return Do("boxes")["value"].back(); }
 };
 
 TEST_F(FavouritesOwn, WithoutFavouritesTheSimpleListIsShownAndOffersToAdd) {
@@ -68,12 +68,12 @@ TEST_F(FavouritesOwn, DoubleClickAndEnterStartTheFavourite) {
     Store({{"Ant", ant2}, {"Bee", bee}});
     Start();
     Do("dblclick", "Form1.FavoritenListe", 1);
-    EXPECT_EQ(Do("runs")["runs"].size(), 1U);
+    EXPECT_EQ(Do("runs")["value"].size(), 1U);
     EXPECT_NE(tree.Read("Config/Alpha/Kivu_tmp.bat").find("Bee (1991)"), std::string::npos);
     Start();
     Do("select", "Form1.FavoritenListe", 0);
     Do("key", "Form1", "Enter");
-    EXPECT_EQ(Do("runs")["runs"].size(), 1U);
+    EXPECT_EQ(Do("runs")["value"].size(), 1U);
     EXPECT_NE(tree.Read("Config/Alpha/Kivu_tmp.bat").find("Disk 2 of 2"), std::string::npos);
 }
 
@@ -140,10 +140,10 @@ TEST_F(FavouritesOwn, MissingFavouriteIsAskedAboutAtTheStartAndRepaired) {
     prepare = [](driver::Session& run) { run.Host().dialogs.answers = {platform::Answer::Yes}; };
     Start();
     // The first one has been found by its file name.
-    EXPECT_TRUE(Do("boxes")["boxes"].empty());
+    EXPECT_TRUE(Do("boxes")["value"].empty());
     Do("answer", "Yes");
     Do("select", "Form1.FavoritenListe", 1);
-    const Json boxes = Do("boxes")["boxes"];
+    const Json boxes = Do("boxes")["value"];
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_EQ(boxes[0]["title"], "Favorite not found - Repair?");
     EXPECT_EQ(boxes[1]["title"], "Repair result:");
