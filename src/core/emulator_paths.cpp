@@ -18,7 +18,7 @@ std::string FindByName(const platform::FileSystem& files, const std::string& dir
 
 void AssignProgramPaths(Form1& form, const platform::FileSystem& files) {
     form.BaseIniName = form.ConfigPath + form.EXE + ".ini";
-    form.FavoritenGlobalIni = form.ConfigPath + "Favoriten_Global.ini";
+    form.FavoritenGlobalIni = FindByName(files, form.ConfigPath, "Favoriten_Global.ini");
     form.GlobalListName = form.ConfigPath + form.EXE + "_Global.txt";
     form.MasterConfigName.clear();
     form.IniPath = form.StartPfad + form.EXE + ".ini";

@@ -104,9 +104,9 @@ void ListEvents::FavoritenListe_GotFocus() {
     if (form.FavouritesListBusy) return;
     {
         const core::Raised busy(form.FavouritesListBusy);
-        form.JoystickFocus = 1;
         form.FavoritenListe.SetVisible(true);
         if (hooks.ShowGlobalFavourites()) return;
+        form.JoystickFocus = 1;
         hooks.RefreshList();
     }
     form.FavoritenListe.SetFocus();
