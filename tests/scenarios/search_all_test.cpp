@@ -1,0 +1,404 @@
+#include "scenarios/scenario.h"
+#include "wiring/routines.h"
+
+namespace kivu::scenarios {
+namespace {
+
+const std::string backing(67, ' ');
+
+std::string Padded(std::string text, std::size_t nameLength, std::size_t to) {
+    return text + std::string(to - nameLength, ' ');
+}
+
+class AllSearchScenario : public Scenario {
+ protected:
+    AllSearchScenario() {
+        for (const char* name : {"Alpha", "Beta", "Gamma"})
+            tree.AddEmulator(name);
+        tree.WriteCache("Alpha",
+                        {{"/Roms/A/Ant (1990)(Maker)(Disk 1 of 2).adf", "Ant (1990)(Maker)"},
+                         {"/Roms/A/Ant (1990)(Maker)(Disk 2 of 2).adf", "Ant (1990)(Maker)"},
+                         {"/Roms/A/Bee (1991)(Maker).adf", "Bee (1991)(Maker)"}});
+        tree.WriteCache("Beta", {{"/Roms/B/Cat (1992)(Maker).d64", "Cat (1992)(Maker)"},
+                                 {"/Roms/B/Giant (1993)(Maker).d64", "Giant (1993)(Maker)"}});
+        tree.WriteProgramProfile({{"LastEmulator", "Alpha"}});
+    }
+    void SearchAll(const char* text) {
+        Do("set", "Form1.SearchDblsTxt.Text", text);
+        Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    }
+    Json Hits() { return Get("GlobalSearchList.List"); }
+};
+
+TEST_F(AllSearchScenario, FindsInTheCachesOfAllEmulators) {
+    Start();
+    SearchAll("ANT");
+    EXPECT_EQ(Hits(),
+              Json({Padded("Alpha:  Ant (1990)", 10, 21), Padded("Beta:  Giant (1993)", 12, 21)}));
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 2" + backing);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_TRUE(Visible("Label4"));
+    EXPECT_TRUE(Visible("SearchDblsTxt"));
+    EXPECT_FALSE(Visible("SuchErgList"));
+    EXPECT_FALSE(Visible("LoadingBtn"));
+    EXPECT_EQ(Get("SearchDblsTxt.Enabled"), true);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "ANT");
+    EXPECT_EQ(Get("SearchAllBtn.BackColor"), "#C0FFC0");
+    EXPECT_EQ(Get("GlobalSearchList.ListIndex"), 0);
+    EXPECT_EQ(Get("Focus"), "Form1.GlobalSearchList");
+    EXPECT_EQ(Get("ListMode"), "4");
+    EXPECT_EQ(Get("Label4.Left"), Form().EmuListbox.Right() + 200);
+    EXPECT_EQ(Get("EmuListbox.Width"), static_cast<int>(220 * Form().EmuListbox.FontSize()));
+    EXPECT_EQ(Get("GlobalSearchList.FontSize"), Get("EmuListbox.FontSize"));
+    EXPECT_EQ(Get("GlobalSearchList.Top"), Get("SuchErgList.Top"));
+    EXPECT_EQ(Get("Label4.BackColor"), Get("GlobalSearchList.BackColor"));
+}
+
+TEST_F(AllSearchScenario, TheButtonSearchesAllToo) {
+    Start();
+    Do("set", "Form1.SearchDblsTxt.Text", "199");
+    Do("click", "Form1.SearchAllBtn");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 4);
+    Do("key", "Form1.SearchDblsTxt", "F3");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 4);
+}
+
+TEST_F(AllSearchScenario, NamesArePaddedToTheNextStep) {
+    EXPECT_EQ(library::GlobalSearchRow("E", std::string(19, 'x')).size(), 4U + 21);
+    EXPECT_EQ(library::GlobalSearchRow("E", std::string(20, 'x')).size(), 4U + 41);
+    EXPECT_EQ(library::GlobalSearchRow("E", std::string(39, 'x')).size(), 4U + 41);
+    EXPECT_EQ(library::GlobalSearchRow("E", std::string(40, 'x')).size(), 4U + 61);
+    EXPECT_EQ(library::GlobalSearchRow("E", std::string(59, 'x')).size(), 4U + 61);
+    EXPECT_EQ(library::GlobalSearchRow("E", std::string(60, 'x')), "E:  " + std::string(60, 'x'));
+    EXPECT_EQ(library::GlobalSearchRow("E", "ä").size(), 4U + 22);
+    EXPECT_EQ(library::GlobalSearchRow("E", ""), "E:  " + std::string(21, ' '));
+}
+
+TEST_F(AllSearchScenario, ANameWithoutABracketGivesTwoRows) {
+    tree.WriteCache("Gamma", {{"/Roms/G/Turrican.adf", "Turrican"}});
+    Start();
+    SearchAll("turr");
+    EXPECT_EQ(Hits(), Json({Padded("Gamma:  Turr", 4, 21), Padded("Gamma:  Turrican", 8, 21)}));
+}
+
+TEST_F(AllSearchScenario, TheLastHitOfASearchIsKnownToTheNext) {
+    tree.WriteCache("Gamma", {{"/Roms/G/Giant (1993)(Else).d64", "Giant (1993)(Else)"}});
+    Start();
+    SearchAll("giant (1993");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    SearchAll("giant (1993");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 0" + backing);
+    SearchAll("bee");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    SearchAll("giant (1993");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+}
+
+TEST_F(AllSearchScenario, WordsThatOnlyThePathHasFallWithTheBoxsText) {
+    Start();
+    // The hits are there, and then the box's own text narrows them by what their rows show.
+    SearchAll("roms cat");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    Call("GlobalSearch", "roms cat");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+}
+
+TEST_F(AllSearchScenario, OneCharacterClearsAndScansNothing) {
+    Start();
+    SearchAll("ant");
+    Do("click", "Form1.Label2");
+    Do("set", "Form1.SearchDblsTxt.Text", "a");
+    files.OnlyFor("_Cache");
+    files.FailFrom(testing::FaultyFileSystem::Step::Read, 1, std::errc::io_error);
+    Call("SearchAllBtn_Click");
+    EXPECT_EQ(files.Failures(), 0);
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_EQ(Get("SuchErgList.ListCount"), 0);
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_TRUE(Visible("SearchDblsTxt"));
+    EXPECT_FALSE(Visible("LoadingBtn"));
+}
+
+TEST_F(AllSearchScenario, CtrlEnterOverAnEmptyBoxLeavesTheBoxUsable) {
+    Start();
+    for (const char* text : {"", "a"}) {
+        SearchAll(text);
+        EXPECT_TRUE(Visible("SearchDblsTxt"));
+        EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
+        EXPECT_FALSE(Visible("LoadingBtn"));
+        EXPECT_TRUE(Visible("SuchErgList"));
+        EXPECT_EQ(Get("Label4.Caption"), " Search results (0) ");
+    }
+    Do("set", "Form1.SearchDblsTxt.Text", "ant");
+    EXPECT_EQ(Get("SuchErgList.ListCount"), 1);
+}
+
+TEST_F(AllSearchScenario, TheBoxNarrowsTheHits) {
+    Start();
+    SearchAll("199");
+    ASSERT_EQ(Get("GlobalSearchList.ListCount"), 4);
+    EXPECT_EQ(Get("ListMode"), "4");
+    Do("focus", "Form1.SearchDblsTxt");
+    EXPECT_EQ(Get("ListMode"), "4");
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    Do("set", "Form1.SearchDblsTxt.Text", "BETA 199");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 2);
+    EXPECT_EQ(Get("Label4.Caption"), " Search results (0) ");
+    EXPECT_EQ(Get("SearchAllBtn.BackColor"), "#C0FFC0");
+    Do("set", "Form1.SearchDblsTxt.Text", "BETA 1992");
+    EXPECT_EQ(Hits(), Json({Padded("Beta:  Cat (1992)", 10, 21)}));
+    // What is gone comes back only with a new search.
+    Do("set", "Form1.SearchDblsTxt.Text", "BETA");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    Do("set", "Form1.SearchDblsTxt.Text", "x");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    Do("set", "Form1.SearchDblsTxt.Text", "beta");
+    Do("key", "Form1.SearchDblsTxt", "Enter");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_EQ(Get("Focus"), "Form1.GlobalSearchList");
+}
+
+TEST_F(AllSearchScenario, AnEmptyBoxEmptiesTheHits) {
+    Start();
+    SearchAll("199");
+    Do("set", "Form1.SearchDblsTxt.Text", "");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+}
+
+TEST_F(AllSearchScenario, ManyHitsAreNarrowedWithTheSelectedRowKept) {
+    ProgramDirectory::Settings images;
+    for (int i = 10000; i < 12000; ++i) {
+        const std::string name = "Game " + std::to_string(i) + " (1990)";
+        images.push_back({"/Roms/" + name + ".adf", name});
+    }
+    tree.WriteCache("Gamma", images);
+    Start();
+    SearchAll("gam");
+    ASSERT_EQ(Get("GlobalSearchList.ListCount"), 2000);
+    Do("set", "Form1.GlobalSearchList.ListIndex", 777);
+    Do("set", "Form1.SearchDblsTxt.Text", "777");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 2);
+    EXPECT_EQ(Get("GlobalSearchList.ListIndex"), 0);
+    Do("set", "Form1.SearchDblsTxt.Text", "11777");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    EXPECT_EQ(Get("GlobalSearchList.ListIndex"), -1);
+}
+
+TEST_F(AllSearchScenario, AClickShowsTheHitAndItsEmulatorOnce) {
+    Start();
+    std::vector<int> shown;
+    session->Routines().globalSearch.hooks.ShowEmulatorPreview = [&](int row) {
+        shown.push_back(row);
+    };
+    SearchAll("199");
+    EXPECT_TRUE(Visible("Current_ProgramNameFull"));
+    EXPECT_EQ(Get("Current_ProgramNameFull.Caption"), "Alpha:\r  Ant (1990)");
+    Do("select", "Form1.GlobalSearchList", 1);
+    EXPECT_EQ(shown, std::vector<int>{0});
+    Do("select", "Form1.GlobalSearchList", 2);
+    EXPECT_EQ(Get("Current_ProgramNameFull.Caption"), "Beta:\r  Cat (1992)");
+    EXPECT_EQ(shown, (std::vector<int>{0, 1}));
+}
+
+TEST_F(AllSearchScenario, AHitLeadsToItsEmulatorsResults) {
+    Start();
+    SearchAll("ant");
+    Do("dblclick", "Form1.GlobalSearchList", 1);
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 1);
+    EXPECT_EQ(Get("CurrentEmuIndex"), 1);
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "ant");
+    EXPECT_EQ(Get("SuchErgList.List"), Json({"Giant (1993)(Maker)"}));
+    EXPECT_TRUE(Visible("SuchErgList"));
+    EXPECT_EQ(Get("SuchErgList.ListIndex"), 0);
+    EXPECT_EQ(Get("UAE_FULL.ListIndex"), 1);
+    EXPECT_EQ(Get("Focus"), "Form1.SuchErgList");
+    EXPECT_EQ(Get("ListMode"), "4");
+    EXPECT_EQ(Get("Label4.Caption"), " Search results (1) ");
+    EXPECT_EQ(tree.Stored("Config/Kivu.ini", "LastEmulator"), "Beta");
+}
+
+TEST_F(AllSearchScenario, AHitOfTheLoadedEmulatorLeadsToItsResultsToo) {
+    Start();
+    SearchAll("ant");
+    Do("key", "Form1.GlobalSearchList", "Enter");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_EQ(Get("SuchErgList.List"), Json({"Ant (1990)(Maker)"}));
+    EXPECT_EQ(Get("Focus"), "Form1.SuchErgList");
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    EXPECT_FALSE(Visible("LoadingBtn"));
+}
+
+TEST_F(AllSearchScenario, AnEmulatorWithAColonInItsNameCannotBeStarted) {
+    tree.AddEmulator("C: Sixty Four");
+    tree.WriteCache("C: Sixty Four", {{"/Roms/C/Ant (1984)(M).d64", "Ant (1984)(M)"}});
+    Start();
+    SearchAll("1984");
+    ASSERT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    Do("key", "Form1.GlobalSearchList", "Enter");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+}
+
+TEST_F(AllSearchScenario, EnterWithoutAHitDoesNothing) {
+    Start();
+    SearchAll("nowhere");
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 0" + backing);
+    Do("key", "Form1.GlobalSearchList", "Enter");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+}
+
+TEST_F(AllSearchScenario, ATabGivesTheWindowBackToTheGames) {
+    Start();
+    SearchAll("ant");
+    Do("click", "Form1.Label4");
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_TRUE(Visible("SuchErgList"));
+    EXPECT_EQ(Get("Label4.Caption"), " Search results (0) ");
+    EXPECT_EQ(Get("SearchAllBtn.BackColor"), "#FFFFFF");
+    EXPECT_TRUE(Visible("SettingsSubPicture"));
+    SearchAll("bee");
+    Do("key", "Form1.GlobalSearchList", "Left");
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_NE(Get("Focus"), "Form1.GlobalSearchList");
+    EXPECT_FALSE(Visible("LoadingBtn"));
+}
+
+TEST_F(AllSearchScenario, HostileCachesGiveWhatTheyHold) {
+    const std::string nul("\0", 1);
+    tree.Write("Config/Gamma/Kivu_Cache.txt",
+               "/Roms/one ant (1)(x)\r\none ant (1)(x)\r\n" + nul + "\r\n" +
+                   std::string(300000, 'a') +
+                   "nt\r\n/Roms/J\xE4ger ant (2)(x)\nJ\xE4ger ant (2)(x)\n" + nul +
+                   "three ant (3)" + nul + "\r\ncut ant (4.adf");
+    Start();
+    SearchAll("ant");
+    const Json hits = Hits();
+    EXPECT_EQ(hits.size(), 2U + 4);
+    EXPECT_NE(hits.dump().find("Gamma:  Jäger ant (2) "), std::string::npos);
+    EXPECT_NE(hits.dump().find("Gamma:  one ant (1) "), std::string::npos);
+    SearchAll("JÄGER");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+}
+
+TEST_F(AllSearchScenario, CachesThatAreNoFilesAreSkipped) {
+    tree.MakeDirectory("Config/Gamma/Kivu_Cache.txt");
+    Start();
+    std::filesystem::remove_all(tree.Path("Config/Beta"));
+    SearchAll("ant");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+}
+
+TEST_F(AllSearchScenario, AnUnreadableCacheIsSkipped) {
+    Start();
+    files.OnlyFor("Alpha/Kivu_Cache");
+    files.FailFrom(testing::FaultyFileSystem::Step::Read, 1, std::errc::io_error);
+    SearchAll("ant");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+}
+
+// A cache of so many games that events run several times within it.
+class LongSearch : public AllSearchScenario {
+ protected:
+    LongSearch() {
+        std::string cache;
+        for (int i = 100000; i < 140000; ++i) {
+            const std::string name = "Long " + std::to_string(i) + "-(1985)";
+            cache += "/Roms/" + name + ".adf\r\n" + name + "\r\n";
+        }
+        tree.Write("Config/Gamma/Kivu_Cache.txt", cache);
+        prepare = [](driver::Session& session) {
+            session.Host().clock.perLook = std::chrono::milliseconds(40);
+        };
+    }
+};
+
+TEST_F(LongSearch, StopsAboveThirtyTwoThousandHits) {
+    Start();
+    SearchAll("long");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 32001);
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 32001 (Abbr.)" + backing);
+}
+
+TEST_F(LongSearch, CountersMoveWhileItRuns) {
+    Start();
+    std::vector<std::string> captions, texts;
+    Host().events.onEvents = [&] {
+        captions.push_back(Form().Label4.Caption());
+        texts.push_back(Form().SearchDblsTxt.Text());
+        EXPECT_EQ(Form().SearchDblsTxt.Enabled(), texts.back() == "99-");
+    };
+    Do("set", "Form1.SearchDblsTxt.Text", "99-");
+    Call("SearchAllBtn_Click");
+    Host().events.onEvents = {};
+    EXPECT_EQ(texts.back(), "Searching: 99-");
+    EXPECT_GT(captions.size(), 10U);
+    EXPECT_NE(std::find(captions.begin(), captions.end(), "Gamma: (0/0)"), captions.end());
+    EXPECT_EQ(captions.back(), "Gamma: (400/80000)");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 400);
+}
+
+TEST_F(LongSearch, NothingElseOfLengthStartsMeanwhile) {
+    Start();
+    int turns = 0;
+    Host().events.onEvents = [&] {
+        if (Form().SearchDblsTxt.Enabled()) return;
+        ++turns;
+        const int rows = Form().GlobalSearchList.ListCount();
+        session->Routines().globalSearch.SearchAllBtn_Click();
+        Form().GlobalSearchList.DoubleClick();
+        session->Routines().emulatorSwitch.SelectEmulator(false);
+        session->Routines().gameLists.LoadBtn_Click();
+        EXPECT_EQ(Form().GlobalSearchList.ListCount(), rows);
+        EXPECT_TRUE(Form().GlobalSearchList.Visible());
+    };
+    Do("set", "Form1.SearchDblsTxt.Text", "99-");
+    Call("SearchAllBtn_Click");
+    Host().events.onEvents = {};
+    EXPECT_GT(turns, 5);
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 400);
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_EQ(Get("UAE_FULL.ListCount"), 3);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "99-");
+}
+
+TEST_F(LongSearch, AUserWhoTurnsToAnotherListEndsTheSearch) {
+    Start();
+    int turns = 0;
+    Host().events.onEvents = [&] {
+        if (Form().SearchDblsTxt.Enabled() || ++turns != 4) return;
+        Form().Label2.Click();
+    };
+    Do("set", "Form1.SearchDblsTxt.Text", "99-");
+    Do("focus", "Form1.SearchDblsTxt");
+    Call("SearchAllBtn_Click");
+    Host().events.onEvents = {};
+    EXPECT_EQ(turns, 4);
+    EXPECT_LT(Form().GlobalSearchList.ListCount(), 400);
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    EXPECT_FALSE(Visible("SuchErgList"));
+    EXPECT_FALSE(Visible("LoadingBtn"));
+    EXPECT_TRUE(Visible("SearchDblsTxt"));
+    EXPECT_EQ(Get("SearchDblsTxt.Enabled"), true);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "99-");
+    EXPECT_EQ(Get("ListMode"), "2");
+    EXPECT_EQ(Get("Focus"), "Form1.WIthoutDoubles");
+}
+
+TEST_F(LongSearch, ACacheThatVanishesMeanwhileIsNoTrouble) {
+    Start();
+    Host().events.onEvents = [&] { std::filesystem::remove_all(tree.Path("Config")); };
+    Do("set", "Form1.SearchDblsTxt.Text", "ant");
+    Call("SearchAllBtn_Click");
+    Host().events.onEvents = {};
+    EXPECT_EQ(Get("SearchDblsTxt.Enabled"), true);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+}
+
+}  // namespace
+}  // namespace kivu::scenarios
