@@ -111,12 +111,16 @@ Click 100 96
 Click 100 96 2
 ChosenEmulator() { grep -q '^LastEmulator=DOSBox' "$program_dir/Config/Kivu.ini"; }
 Until 15 ChosenEmulator || Fail "the emulator was not chosen"
-Shot simple "its games as titles"
-simple=$last
+Shot favourites "its favourites"
+favourites=$last
 
 xdotool key Right
+Shot simple "its games as titles"
+simple=$last
+[ "$(Difference "$favourites" "$last")" -gt 500 ] || Fail "the tab did not turn to the titles"
+xdotool key Right
 Shot complete "its games as files"
-[ "$(Difference "$simple" "$last")" -gt 500 ] || Fail "the tab did not turn"
+[ "$(Difference "$simple" "$last")" -gt 500 ] || Fail "the tab did not turn to the files"
 
 xdotool key Down Down
 Shot chosen "a game chosen"

@@ -3,6 +3,7 @@
 #include <QListView>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <algorithm>
 #include <utility>
 
 #include "view/row_delegate.h"
@@ -24,6 +25,7 @@ class Combo : public QComboBox {
         disconnect(lineEdit(), SIGNAL(returnPressed()), this, nullptr);
         lineEdit()->setFrame(false);
         lineEdit()->setFocusPolicy(Qt::NoFocus);
+        QObject::connect(lineEdit(), &QLineEdit::textChanged, this, [this] { FitText(); });
     }
 
     void showPopup() override {
@@ -42,7 +44,27 @@ class Combo : public QComboBox {
     // A wheel that turns over the window must not change what is chosen.
     void wheelEvent(QWheelEvent* event) override { event->ignore(); }
 
+    void resizeEvent(QResizeEvent* event) override {
+        QComboBox::resizeEvent(event);
+        FitText();
+    }
+
+    void changeEvent(QEvent* event) override {
+        QComboBox::changeEvent(event);
+        if (event->type() == QEvent::FontChange) FitText();
+    }
+
  private:
+    // The field's width follows the font by a fixed rule, so a long text is set narrower before it
+    // is cut; beyond a quarter it would be hard to read.
+    void FitText() {
+        QFont fitted = font();
+        const int room = lineEdit()->width() - 8;
+        const int wanted = QFontMetrics(fitted).horizontalAdvance(lineEdit()->text());
+        if (room > 0 && wanted > room) fitted.setStretch(std::max(75, 100 * room / wanted));
+        if (lineEdit()->font() != fitted) lineEdit()->setFont(fitted);
+    }
+
     const RowSource& source;
     bool dressed = false;
 };
