@@ -2,6 +2,7 @@
 
 #include "app/command_line.h"
 #include "app/desktop_host.h"
+#include "core/language.h"
 #include "platform/linux/clock_linux.h"
 #include "platform/linux/file_system_linux.h"
 #include "platform/linux/instance_linux.h"
@@ -27,7 +28,7 @@ struct DesktopHost::Parts {
     platform::LinuxLocale locale;
     platform::LinuxUserStore userStore;
     platform::LinuxInstance instance{platform::ProgramName(programFile)};
-    platform::QtDialogs dialogs{locale.LanguageEnglishName() == "German"};
+    platform::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
     platform::QtBeeper beeper;
     platform::QtEventPump events;
     std::string commandLine;

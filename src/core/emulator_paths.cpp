@@ -1,5 +1,6 @@
 #include "core/emulator_paths.h"
 
+#include "support/run_file.h"
 #include "support/text.h"
 
 namespace kivu::core {
@@ -32,7 +33,7 @@ void AssignProgramPaths(Form1& form, const platform::FileSystem& files) {
 }
 
 void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const std::string& name) {
-    form.StartPfad = form.ConfigPath + name + files.Separator();
+    form.StartPfad = support::AddPathSeparator(form.ConfigPath + name);
     form.VBSFilename = form.StartPfad + "Startscript.vbs";
     form.FavoritenIni = FindByName(files, form.StartPfad, "Favoriten.ini");
     form.IniPath = form.StartPfad + form.EXE + ".ini";

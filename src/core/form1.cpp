@@ -148,14 +148,17 @@ void Form1::DesignFrame() {
 void Form1::DesignDrives() {
     SettingsSubPicture.Move(9533, 8300, 4560, 480);
     SettingsSubPicture.SetTag("Pic");
-    Frame2.Move(45, 45, 4470, 390);
+    // The edge in front of the boxes is where the panel is gripped.
+    Frame2.Move(240, 45, 4080, 390);
     for (std::size_t i = 0; i < Check_Dfx.size(); ++i) {
         Check_Dfx[i].SetCaption("Df" + std::to_string(i) + ":");
         Check_Dfx[i].SetFont({"Arial Black", 8, true});
-        Check_Dfx[i].Move(60 + static_cast<int>(i) * 850, 45, 840, 300);
+        Check_Dfx[i].Move(30 + static_cast<int>(i) * 810, 45, 800, 300);
     }
     DrivesResizeLabel.SetCaption(std::string(10, ' '));
     DrivesResizeLabel.Move(4360, 270, 200, 210);
+    DrivesResizeLabel.SetFont({"", 8, true});
+    DrivesResizeLabel.SetAlignment(forms::Alignment::center);
     SettingsSubPicture.SetVisible(false);
 }
 

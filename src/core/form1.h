@@ -124,7 +124,7 @@ struct Form1 : forms::Form {
     int CurrentLanguage = 1;     // 1 German, 2 English
     int CurrentEmuIndex = -1;    // row of the emulator whose data is loaded
     int EmuBoxIndexSaved = -1;   // row to go back to when the long list closes
-    bool ListsVisible = false;   // what HideAll was last told
+    bool ListsVisible = true;    // what HideAll was last told
     bool EmuListLocked = false;  // SelectEmulator does nothing
     bool Busy = false;           // a switch, a rescan or a launch is under way
     bool WindowReady = false;    // the Load event is through

@@ -79,6 +79,8 @@ void StartUp::SelectLastEmulator() {
         hooks.SelectEmulator(false);
         return;
     }
+    // The emulator has gone. Nothing is loaded, and nothing else would lay the window out.
+    hooks.ArrangeWindow();
 }
 
 void StartUp::WritePrompt() {

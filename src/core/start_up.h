@@ -23,6 +23,7 @@ class StartUp {
         Hook<void()> FillEmulatorLists;
         Hook<void(bool)> SelectEmulator;
         Hook<void()> InitEmulatorView;
+        Hook<void()> ArrangeWindow;  // what a resize does
     };
 
     StartUp(Form1& form, Ini& ini, platform::FileSystem& files, const platform::Locale& locale,

@@ -7,7 +7,7 @@ namespace kivu::joystick {
 namespace keys = forms::keys;
 
 void ListNavigation::JoystickDirection(int KeyValue) {
-    if (form.JoystickFocus < 0) return;
+    if (form.JoystickFocus < 0 || form.Busy) return;
     if (form.EmulatorLongListbox.Visible()) form.JoystickFocus = 5;
     // The search box must not take the focus during the step.
     form.SearchDblsTxt.SetEnabled(false);

@@ -17,7 +17,8 @@ std::string EmulatorSetup::EmulatorOf(const std::string& name) const {
         support::ProfilePath(form.BaseDirectory(), stored, [&](const std::string& candidate) {
             return files.FileExists(candidate) || files.IsDirectory(candidate);
         });
-    if (files.FileExists(path)) return path;
+    const bool bareName = stored.find_first_of("/\\") == std::string::npos;
+    if (!bareName || files.FileExists(path)) return path;
     const std::string found = ResolveEmulator(stored, form.AppDir, files, services.starter);
     return files.FileExists(found) ? found : path;
 }

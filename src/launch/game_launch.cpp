@@ -28,6 +28,7 @@ void GameLaunch::LaunchBtn_Click() {
 void GameLaunch::StartGame(const std::string& GamePath) {
     if (launching) return;
     const core::Raised once(launching);
+    const core::Raised working(form.Busy);
     const std::string notedTitle = form.Caption();
     Run run;
     run.path = support::RemoveQuotes(GamePath);

@@ -142,20 +142,22 @@ void EmulatorBox::EmulatorLongListbox_Click() {
     form.ListMode = "10";
     form.Current_ProgramNameFull.SetVisible(true);
     if (form.EmulatorLongListbox.ListIndex() != form.EmuListbox.ListIndex()) {
-        const core::Raised locked(form.EmuListLocked);
+        form.EmuListLocked = true;
         form.EmuListbox.SetListIndex(form.EmulatorLongListbox.ListIndex());
+        form.EmuListLocked = false;
     }
-    form.EmuListLocked = false;
     hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
-    const std::string name = form.EmuListbox.SelectedText();
-    const std::string profile = form.ConfigPath + name + files.Separator() + form.EXE + ".ini";
-    form.Current_ProgramNameFull.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
-    std::string caption = form.EmulatorLongListbox.SelectedText();
-    if (files.FileExists(profile)) {
-        const int count = ini.ReadIniWide("Settings", "RomCount", profile, "-1", false).value_or(0);
-        caption += "\r (Roms: " + (count < 0 ? "?" : std::to_string(count)) + ")";
-    }
-    form.Current_ProgramNameFull.SetCaption(caption);
+    const std::string directory =
+        support::AddPathSeparator(form.ConfigPath + form.EmuListbox.SelectedText());
+    const std::string profile = directory + form.EXE + ".ini";
+    forms::Label& name = form.Current_ProgramNameFull;
+    name.SetCaption(form.EmulatorLongListbox.SelectedText());
+    name.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
+    if (!files.FileExists(profile)) return;
+    const int count = ini.ReadIniWide("Settings", "RomCount", profile, "-1", false).value_or(0);
+    // Behind the name as it has been broken to the label's width.
+    name.SetCaption(name.Caption() + "\r (Roms: " + (count < 0 ? "?" : std::to_string(count)) +
+                    ")");
 }
 
 void EmulatorBox::EmulatorLongListbox_GotFocus() {

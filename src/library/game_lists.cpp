@@ -130,6 +130,10 @@ void GameLists::LoadBtn_Click() {
     ini.WriteIniValue(settings, "RomCount", std::to_string(form.UAE_FULL.ListCount()), form.IniPath,
                       true);
     busy.HideAll(true);
+    // The list in front is the complete one: in the mode of an open emulator list, Escape would not
+    // ask to quit and the next resize would open that list.
+    form.ListMode = "3";
+    hooks.ArrangeLists();
     form.EmuListbox.SetVisible(true);
     form.LoadBtn.SetEnabled(true);
     form.SetCaption(noted);
@@ -264,6 +268,7 @@ void GameLists::ReloadEmulatorsAll() {
         form.EmuListbox.SetListIndex(row);
         if (form.EmuListbox.SelectedText() == "-ALL-") continue;
         hooks.SelectEmulator(true);
+        if (form.Ended) return;
         LoadBtn_Click();
         pacer.DoEvents();
     }

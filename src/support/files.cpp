@@ -30,7 +30,7 @@ std::optional<std::int64_t> Files::getFileDate(const std::string& FullPath) cons
 
 bool Files::FileMove(const std::string& Source, const std::string& Destination, bool Overwrite) {
     if (Source.empty() || Destination.empty()) {
-        services.dialogs.MessageBox("File Move without parameter\r\nDestination:" + Destination,
+        services.dialogs.MessageBox("File Move without parameter\rDestination:" + Destination,
                                     "FileMove", platform::Buttons::Ok, platform::Icon::None);
     }
     platform::FileSystem& files = services.files;

@@ -22,7 +22,8 @@ void Layout::Form_Resize() {
     for (int round = 0; round < 2; ++round) {
         Compute();
         PlaceLists();
-        ArrangeLists();
+        // In the busy state no list comes up, whatever the window's size does.
+        if (form.ListsVisible || form.EmulatorLongListbox.Visible()) ArrangeLists();
         ResizeSettingsWindow();
         form.TopRightPic.SetLeft(form.Width() - form.TopRightPic.Width() - 230);
         SetVorschau();
@@ -130,8 +131,8 @@ void Layout::PlaceDrivesHome() {
     if (atHome) panel.Move(drivesHomeLeft, drivesHomeTop, panel.Width(), panel.Height());
 }
 
-// Above the drives panel's home: one place for adding and removing, of which only one makes sense at
-// a time, and one for the global list.
+// Above the drives panel's home: one place for adding and removing, of which only one makes sense
+// at a time, and one for the global list.
 void Layout::PlaceFavouriteButtons() {
     constexpr int gap = 90;
     const int top = drivesHomeTop - form.AddToFavorit.Height() - gap;
@@ -189,7 +190,6 @@ void Layout::ArrangeTabs() {
     const int mode = form.Mode() == 7 ? 4 : form.Mode();
     const bool running = form.AppRunningPicture.Visible();
     const std::array<forms::Label*, 4> tabs{&form.Label1, &form.Label2, &form.Label3, &form.Label4};
-    int left = form.EmuListbox.Right() + tabGap;
     for (int i = 0; i < 4; ++i) {
         forms::Label& tab = *tabs[static_cast<std::size_t>(i)];
         tab.SetBackColor(form.FormBackColor);
@@ -197,13 +197,21 @@ void Layout::ArrangeTabs() {
         tab.SetOpaque(mode == i + 1);
         const bool favouritesAtRight = i == 0 && (mode == 5 || mode == 10);
         tab.SetVisible(!running && (mode < 3 ? i < 3 : mode <= 4 || favouritesAtRight));
-        const int top = form.EmuListbox.Top() + (form.EmuListbox.Height() - tab.Height()) / 2;
-        if (favouritesAtRight) {
-            tab.Move(form.Width() - tab.Width() - 400, top, tab.Width(), tab.Height());
-        } else {
-            tab.Move(left, top, tab.Width(), tab.Height());
-            if (tab.Visible()) left = tab.Right() + tabGap;
+    }
+    PlaceTabs();
+}
+
+void Layout::PlaceTabs() {
+    const bool choosing = form.Mode() == 5 || form.Mode() == 10;
+    int left = form.EmuListbox.Right() + tabGap;
+    for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
+        tab->SetTop(form.EmuListbox.Top() + (form.EmuListbox.Height() - tab->Height()) / 2);
+        if (choosing && tab == &form.Label1) {
+            tab->SetLeft(form.Width() - tab->Width() - 400);
+            continue;
         }
+        tab->SetLeft(left);
+        left = tab->Right() + tabGap;
     }
 }
 

@@ -19,6 +19,8 @@ class Layout {
     void ResizeSettingsWindow();
     // The list of the mode in front, and the tabs.
     void ArrangeLists();
+    // The tabs in their row; a new count makes one wider.
+    void PlaceTabs();
     // The place of the preview picture.
     void SetVorschau();
 

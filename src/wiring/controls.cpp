@@ -18,9 +18,13 @@ void Launcher::Routines::JoinWindow() {
     form.onClick = [this] { surface.Form_Click(); };
     form.onDblClick = [this] { surface.Form_DblClick(); };
     form.onMouseMove = [this](const forms::Mouse&) { alwaysOnTop.MouseLeft(); };
+    form.SettingsFrame.onMouseMove = form.onMouseMove;
 
     form.Uhrzeit.onTimer = [this] { startUp.Uhrzeit_Timer(); };
-    form.EmuActiveTimer.onTimer = [this] { watch.EmuActiveTimer_Timer(); };
+    // The end of a game would bring lists back that a switch or a rescan is filling.
+    form.EmuActiveTimer.onTimer = [this] {
+        if (!form.Busy) watch.EmuActiveTimer_Timer();
+    };
 
     const auto drag = [this](const forms::Mouse& mouse) { surface.Surface_MouseDown(mouse); };
     form.onMouseDown = drag;
@@ -83,6 +87,9 @@ void Launcher::Routines::JoinLists() {
     form.FavoritenListe.onGotFocus = [this] { listEvents.FavoritenListe_GotFocus(); };
     form.FavoritenListe.onLostFocus = [this] { listEvents.FavoritenListe_LostFocus(); };
 
+    for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
+        tab->onResize = [this] { layout.PlaceTabs(); };
+    }
     form.Label1.onClick = [this] { listEvents.Label1_Click(); };
     // While the search box has the focus, the tabs show over the open list of emulators.
     const auto closeChoice = [this] {

@@ -28,6 +28,7 @@ void Launcher::Routines::JoinCore() {
     startUp.hooks.FillEmulatorLists = [this] { emulatorBox.FillEmulatorLists(); };
     startUp.hooks.SelectEmulator = [this](bool global) { emulatorSwitch.SelectEmulator(global); };
     startUp.hooks.InitEmulatorView = [this] { emulatorSwitch.InitEmulatorView(); };
+    startUp.hooks.ArrangeWindow = [this] { layout.Form_Resize(); };
 
     auto& change = emulatorSwitch.hooks;
     change.ShowEmulatorBox = [this](bool show) { emulatorBox.ShowEmulatorBox(show); };

@@ -80,7 +80,7 @@ TEST_F(FilesTest, KeepsTheDestinationWhenTheSourceIsMissing) {
 TEST_F(FilesTest, TellsOfAnEmptyParameter) {
     EXPECT_FALSE(files.FileMove("", "/b.txt", true));
     EXPECT_EQ(host.boxes,
-              std::vector<std::string>{"File Move without parameter\r\nDestination:/b.txt"});
+              std::vector<std::string>{"File Move without parameter\rDestination:/b.txt"});
 }
 
 TEST_F(FilesTest, SplitsARegistryPathIntoRootKeyAndValue) {
