@@ -76,6 +76,7 @@ const std::vector<std::string>& ListControl::Rows() const {
 
 void ListControl::AddItem(std::string text) {
     rows.push_back(std::move(text));
+    ++changes;
     Notify(Aspect::rows);
 }
 
@@ -87,6 +88,7 @@ void ListControl::AddItems(std::vector<std::string> texts) {
         rows.insert(rows.end(), std::make_move_iterator(texts.begin()),
                     std::make_move_iterator(texts.end()));
     }
+    ++changes;
     Notify(Aspect::rows);
 }
 
@@ -97,6 +99,7 @@ void ListControl::AddSorted(std::vector<std::string> texts) {
     }
     rows = std::move(texts);
     settled = rows.size();
+    ++changes;
     Notify(Aspect::rows);
 }
 
@@ -104,6 +107,7 @@ void ListControl::SetList(int row, std::string text) {
     if (row < 0 || row >= ListCount()) return;
     Settle();
     rows[static_cast<std::size_t>(row)] = std::move(text);
+    ++changes;
     Notify(Aspect::rows);
 }
 
@@ -113,6 +117,7 @@ void ListControl::RemoveItem(int row) {
     rows.erase(rows.begin() + row);
     settled = rows.size();
     const bool deselected = selection.RowRemoved(row);
+    ++changes;
     Notify(Aspect::rows);
     if (deselected) Notify(Aspect::selection);
 }
@@ -122,6 +127,7 @@ void ListControl::Clear() {
     rows.clear();
     settled = 0;
     const bool deselected = selection.Clear();
+    ++changes;
     Notify(Aspect::rows);
     if (deselected) Notify(Aspect::selection);
 }

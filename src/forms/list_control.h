@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -26,6 +27,9 @@ class ListControl : public Control {
     bool Sorted() const { return order == Order::sorted; }
     int ListCount() const { return static_cast<int>(rows.size()); }
     const std::string& List(int row) const;
+    // How often rows have been added, changed or taken away: who keeps something made of them sees
+    // by it when to make it anew.
+    std::uint64_t Changes() const { return changes; }
     // All rows in their order; valid until the next change.
     const std::vector<std::string>& Rows() const;
 
@@ -67,6 +71,7 @@ class ListControl : public Control {
 
     Order order;
     mutable std::vector<std::string> rows;
+    std::uint64_t changes = 0;
     mutable std::size_t settled = 0;  // so many rows at the front are in order
 };
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "library/search_words.h"
 #include "support/text.h"
 
 namespace kivu::library {
@@ -60,7 +61,7 @@ int FindListItem(std::string_view findstring, int rowCount, const RowText& row, 
         const char32_t wanted = FirstCharacter(findstring);
         StartRow = static_cast<int>(Probe(wanted, rowCount, row, StartRow));
     }
-    const support::NoCaseNeedle needle(findstring);
+    const SearchWord needle(findstring);
     for (int index = StartRow; index < rowCount; ++index) {
         if (needle.IsIn(row(index))) return index;
     }

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "library/search_colors.h"
-#include "library/search_words.h"
 #include "support/text.h"
 
 namespace kivu::library {
@@ -40,12 +39,11 @@ void ListSearch::SearchInList(const std::string& Text, int StartRow) {
     const std::vector<std::string>& rows = form.WIthoutDoubles.Rows();
     std::vector<std::string> found;
     int first = -1;
-    for (std::size_t row = static_cast<std::size_t>(std::max(StartRow, 0)); row < rows.size();
-         ++row) {
-        if (!words.AreIn(rows[row])) continue;
+    games.Take(rows, form.WIthoutDoubles.Changes());
+    games.ForEachRow(words, static_cast<std::size_t>(std::max(StartRow, 0)), [&](std::size_t row) {
         if (first < 0) first = static_cast<int>(row);
         found.push_back(rows[row]);
-    }
+    });
     // Its picture shows while the user types.
     if (first >= 0) form.WIthoutDoubles.SetListIndex(first);
     form.SuchErgList.AddItems(std::move(found));

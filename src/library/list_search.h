@@ -5,6 +5,7 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
+#include "library/search_words.h"
 
 namespace kivu::library {
 
@@ -55,6 +56,7 @@ class ListSearch {
     void ShowTab();
 
     core::Form1& form;
+    JoinedRows games;  // of WIthoutDoubles
 };
 
 }  // namespace kivu::library

@@ -1,6 +1,7 @@
 #include "library/search_words.h"
 
 #include <algorithm>
+#include <array>
 #include <bit>
 #include <cstring>
 
@@ -12,6 +13,7 @@ using Lanes = std::uint64_t;  // eight bytes side by side
 constexpr Lanes kOnes = 0x0101010101010101;
 constexpr Lanes kLow7 = 0x7F7F7F7F7F7F7F7F;
 constexpr std::size_t kLaneCount = sizeof(Lanes);
+constexpr std::size_t kStep = 64;  // bytes looked at in one go where nothing is expected
 
 Lanes Fill(char byte) {
     return kOnes * static_cast<unsigned char>(byte);
@@ -89,6 +91,24 @@ bool SearchWord::MatchesAt(const char* place) const {
     return true;
 }
 
+// Whether one of the places begin to begin + kStep - 1 has both letters. A plain loop of fixed
+// length, which compilers turn into vector instructions.
+bool SearchWord::LettersStandNear(const char* begin) const {
+    const auto firstCase = static_cast<unsigned char>(caseBits[first]);
+    const auto secondCase = static_cast<unsigned char>(caseBits[second]);
+    const auto firstLetter = static_cast<unsigned char>(probe[first]);
+    const auto secondLetter = static_cast<unsigned char>(probe[second]);
+    const auto* a = reinterpret_cast<const unsigned char*>(begin + first);
+    const auto* b = reinterpret_cast<const unsigned char*>(begin + second);
+    unsigned char any = 0;
+    for (std::size_t i = 0; i < kStep; ++i) {
+        const auto differs = static_cast<unsigned char>(((a[i] | firstCase) ^ firstLetter) |
+                                                        ((b[i] | secondCase) ^ secondLetter));
+        any |= static_cast<unsigned char>(differs == 0 ? 1 : 0);
+    }
+    return any != 0;
+}
+
 std::size_t SearchWord::Find(std::string_view text, std::size_t from) const {
     if (text.size() < probe.size()) return std::string_view::npos;
     const char* const begin = text.data();
@@ -96,12 +116,17 @@ std::size_t SearchWord::Find(std::string_view text, std::size_t from) const {
     const Lanes firstCase = Fill(caseBits[first]), firstLetter = Fill(probe[first]);
     const Lanes secondCase = Fill(caseBits[second]), secondLetter = Fill(probe[second]);
     std::size_t at = from;
-    for (; at + kLaneCount <= places; at += kLaneCount) {
-        const Lanes a = (Load(begin + at + first) | firstCase) ^ firstLetter;
-        const Lanes b = (Load(begin + at + second) | secondCase) ^ secondLetter;
-        for (Lanes found = ZeroLanes(a | b); found != 0; found &= found - 1) {
-            const std::size_t place = at + static_cast<std::size_t>(std::countr_zero(found)) / 8;
-            if (MatchesAt(begin + place)) return place;
+    while (at + kLaneCount <= places) {
+        while (at + kStep <= places && !LettersStandNear(begin + at))
+            at += kStep;
+        for (const std::size_t end = at + kStep; at < end && at + kLaneCount <= places;
+             at += kLaneCount) {
+            const Lanes a = (Load(begin + at + first) | firstCase) ^ firstLetter;
+            const Lanes b = (Load(begin + at + second) | secondCase) ^ secondLetter;
+            for (Lanes found = ZeroLanes(a | b); found != 0; found &= found - 1) {
+                const auto lane = static_cast<std::size_t>(std::countr_zero(found)) / 8;
+                if (MatchesAt(begin + at + lane)) return at + lane;
+            }
         }
     }
     for (; at < places; ++at) {
@@ -155,18 +180,53 @@ bool SearchWords::ForEachLine(std::string_view block, const Decode& decode, cons
     return true;
 }
 
+void JoinedRows::Take(const std::vector<std::string>& rows, std::uint64_t version) {
+    if (taken == version) return;
+    taken = version;
+    text.clear();
+    begins.clear();
+    begins.reserve(rows.size());
+    for (const std::string& row : rows) {
+        begins.push_back(text.size());
+        text += row;
+        // A line end within a row would make two of it. Nobody can search for one.
+        const auto from = text.begin() + static_cast<std::ptrdiff_t>(begins.back());
+        if (row.find('\n') != std::string::npos) std::replace(from, text.end(), '\n', '\0');
+        text += '\n';
+    }
+}
+
+void JoinedRows::ForEachRow(const SearchWords& words, std::size_t start,
+                            const std::function<void(std::size_t row)>& hit) const {
+    if (start >= begins.size()) return;
+    std::size_t row = start;
+    const auto asItIs = [](std::string_view bytes) { return std::string(bytes); };
+    const std::string_view block = std::string_view(text).substr(begins[start]);
+    words.ForEachLine(block, asItIs, [&](std::string_view line) {
+        const auto place = static_cast<std::size_t>(line.data() - text.data());
+        const auto next = std::upper_bound(begins.begin() + static_cast<std::ptrdiff_t>(row),
+                                           begins.end(), place);
+        row = static_cast<std::size_t>(next - begins.begin()) - 1;
+        hit(row);
+        return true;
+    });
+}
+
 std::size_t CountLineFeeds(std::string_view block) {
-    const Lanes feed = Fill('\n');
+    // Each of the columns counts for itself, which goes well for 255 rows.
+    constexpr std::size_t columns = 64;
     std::size_t count = 0;
     std::size_t at = 0;
-    while (at + kLaneCount <= block.size()) {
-        // Each lane counts for itself, which goes well for 255 steps.
-        const std::size_t steps = std::min<std::size_t>((block.size() - at) / kLaneCount, 255);
-        Lanes sums = 0;
-        for (std::size_t i = 0; i < steps; ++i, at += kLaneCount)
-            sums += ZeroLanes(Load(block.data() + at) ^ feed) >> 7;
-        for (; sums != 0; sums >>= 8)
-            count += sums & 0xFF;
+    while (at + columns <= block.size()) {
+        const std::size_t rows = std::min<std::size_t>((block.size() - at) / columns, 255);
+        std::array<unsigned char, columns> sums{};
+        for (std::size_t row = 0; row < rows; ++row, at += columns) {
+            const char* place = block.data() + at;
+            for (std::size_t i = 0; i < columns; ++i)
+                sums[i] = static_cast<unsigned char>(sums[i] + (place[i] == '\n' ? 1 : 0));
+        }
+        for (const unsigned char sum : sums)
+            count += sum;
     }
     return count + static_cast<std::size_t>(std::count(
                        block.begin() + static_cast<std::ptrdiff_t>(at), block.end(), '\n'));

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,6 +34,7 @@ class SearchWord {
 
  private:
     bool MatchesAt(const char* place) const;
+    bool LettersStandNear(const char* begin) const;
 
     std::size_t length = 0;  // bytes of the folded word
     std::string probe;       // folded
@@ -62,6 +65,21 @@ class SearchWords {
     std::vector<SearchWord> words;  // the empty ones left out
     std::size_t driver = 0;         // the word with the longest probe
     bool plainAscii = true;
+};
+
+// The rows of a list one behind the other, to be searched as one text.
+class JoinedRows {
+ public:
+    // Takes the rows over unless it has those of this version already.
+    void Take(const std::vector<std::string>& rows, std::uint64_t version);
+    // Calls `hit` with the number of each row from `start` on that contains all words, in order.
+    void ForEachRow(const SearchWords& words, std::size_t start,
+                    const std::function<void(std::size_t row)>& hit) const;
+
+ private:
+    std::string text;                 // each row ended by LF
+    std::vector<std::size_t> begins;  // of each row in the text
+    std::optional<std::uint64_t> taken;
 };
 
 // Line feeds in a block.

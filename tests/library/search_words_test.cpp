@@ -130,6 +130,42 @@ TEST(SearchLines, StopsWhenTheCallerHasEnough) {
     EXPECT_EQ(calls, 2);
 }
 
+std::vector<std::size_t> RowsWith(std::string_view text, const std::vector<string>& rows,
+                                  std::size_t start = 0) {
+    JoinedRows joined;
+    joined.Take(rows, 1);
+    std::vector<std::size_t> found;
+    joined.ForEachRow(SearchWords(text), start, [&](std::size_t row) { found.push_back(row); });
+    return found;
+}
+
+TEST(JoinedRows, GiveTheNumbersOfMatchingRows) {
+    const std::vector<string> rows = {"Ant", "", "Giant ant", "Bee", "ant\r", "Jäger", "J\xE4ger"};
+    using Numbers = std::vector<std::size_t>;
+    EXPECT_EQ(RowsWith("ant", rows), (Numbers{0, 2, 4}));
+    EXPECT_EQ(RowsWith("ant", rows, 1), (Numbers{2, 4}));
+    EXPECT_EQ(RowsWith("ant", rows, 5), Numbers{});
+    EXPECT_EQ(RowsWith("ant", rows, 99), Numbers{});
+    EXPECT_EQ(RowsWith("JÄGER", rows), (Numbers{5, 6}));
+    EXPECT_EQ(RowsWith("", rows), (Numbers{0, 1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(RowsWith("tb", {"ant", "bee"}), Numbers{});
+    EXPECT_EQ(RowsWith("a c", {"a\nb\nc", "c"}), Numbers{0});
+    EXPECT_EQ(RowsWith("a", {}), Numbers{});
+}
+
+TEST(JoinedRows, AreTakenAnewOnlyWithANewVersion) {
+    JoinedRows joined;
+    int hits = 0;
+    const auto count = [&](std::size_t) { ++hits; };
+    joined.Take({"a"}, 1);
+    joined.Take({"a", "a"}, 1);
+    joined.ForEachRow(SearchWords("a"), 0, count);
+    EXPECT_EQ(hits, 1);
+    joined.Take({"a", "a"}, 2);
+    joined.ForEachRow(SearchWords("a"), 0, count);
+    EXPECT_EQ(hits, 3);
+}
+
 TEST(CountLineFeeds, CountsInBlocksOfAnyLength) {
     std::mt19937 random(3);
     for (std::size_t length = 0; length < 5000; length += 1 + length / 9) {
