@@ -54,6 +54,8 @@ ButtonMirror::ButtonMirror(forms::CommandButton& control, QWidget* parent, Mirro
 ButtonMirror::ButtonMirror(forms::ValueButton& control, QWidget* parent, MirrorHost& host)
     : Mirror(control, host) {
     Take(MakeValueButton(control, parent));
+    // Not that of the panel that it may stand on.
+    button->setCursor(Qt::ArrowCursor);
 }
 
 void ButtonMirror::Take(QAbstractButton* newButton) {

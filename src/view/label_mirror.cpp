@@ -57,6 +57,8 @@ class LabelWidget : public QWidget {
 
  private:
     void DrawLines(QPainter& painter) {
+        // Blanks that do not fit leave nothing to tell of.
+        if (label.Caption().find_first_not_of(' ') == std::string::npos) return;
         const QRect place = rect().marginsRemoved(mirror.Overhang()).adjusted(1, 0, -1, 0);
         if (brokenFor != place.size()) {
             brokenFor = place.size();

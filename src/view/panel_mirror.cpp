@@ -12,6 +12,10 @@ namespace kivu::view {
 
 namespace {
 
+bool IsDraggable(const forms::Control& control) {
+    return control.onMouseDown && !control.Tag().empty();
+}
+
 class PanelWidget : public QWidget {
  public:
     PanelWidget(const forms::Control& control, QWidget* parent)
@@ -28,6 +32,7 @@ class PanelWidget : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const bool image = control.GetKind() == forms::Kind::image;
+        if (IsDraggable(control)) DrawPlate(painter);
         const QColor back = ToQt(control.BackColor());
         if (!image && control.BackColor() != control.ParentForm()->BackColor()) {
             painter.fillRect(rect(), back);
@@ -44,6 +49,24 @@ class PanelWidget : public QWidget {
     }
 
  private:
+    // What can be dragged about stands out, with a grip at its edge.
+    void DrawPlate(QPainter& painter) {
+        const QColor ink = ToQt(control.ForeColor());
+        QColor plate = ink, line = ink, dots = ink;
+        plate.setAlphaF(0.07F);
+        line.setAlphaF(0.22F);
+        dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
+        FillRounded(painter, QRectF(rect()), cornerRadius, plate, line);
+        if (!picture.Scaled(size(), PictureCache::Fit::stretch).isNull()) return;
+        constexpr int step = 5;  // pixels
+        const int rows = qBound(1, (height() - 6) / step, 4);
+        const int top = (height() - (rows - 1) * step) / 2;
+        for (int dot = 0; dot < 2 * rows; ++dot) {
+            const QRectF place(5 + step * (dot % 2), top - 1 + step * (dot / 2), 2, 2);
+            FillRounded(painter, place, 1, dots);
+        }
+    }
+
     void DrawCaption(QPainter& painter, const QString& caption) {
         const QColor text = ToQt(control.ForeColor());
         const int height = fontMetrics().height();
@@ -76,6 +99,10 @@ void PanelMirror::Apply(forms::Aspect aspect) {
     if (aspect == forms::Aspect::text) widget->update();
     if (aspect == forms::Aspect::geometry && control.onClick) {
         widget->setCursor(Qt::PointingHandCursor);
+    }
+    if (aspect == forms::Aspect::geometry && IsDraggable(control)) {
+        widget->setCursor(Qt::SizeAllCursor);
+        widget->setAttribute(Qt::WA_Hover);
     }
 }
 
