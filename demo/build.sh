@@ -123,7 +123,9 @@ InstallGlobalFavourites() {
 }
 
 BuildGames "$here/games/dos.list" "$out/Games/DOS"
+BuildGames "$here/games/disks.list" "$out/Games/Disks"
 mkdir -p -- "$out/Emulators"
 install -m 755 -- "$here/kivu-dosbox.sh" "$out/Emulators/"
 InstallEmulator DOSBox DOS
+InstallEmulator "Disk Box" Disks
 InstallGlobalFavourites

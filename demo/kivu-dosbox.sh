@@ -5,6 +5,9 @@
 # Runs one DOS program file in DOSBox, whatever the file is called:
 #
 #     kivu-dosbox.sh FILE     runs FILE; DOSBox ends with it
+#     kivu-dosbox.sh -f CONFIG   a machine with five drives: shows the disks that the
+#                             lines "floppy0=" to "floppy4=" of CONFIG name, and runs
+#                             the one whose key is pressed, until "Q"
 #     kivu-dosbox.sh          opens DOSBox on the directory of the games
 #
 # DOS knows names of eight and three plain characters, so FILE is copied under
@@ -27,6 +30,12 @@ Fail() {
 self=$(readlink -f -- "$0") || Fail 'where am I?'
 dosbox=$(type -P dosbox) || dosbox=/usr/bin/dosbox
 [[ -x $dosbox ]] || Fail 'DOSBox is not installed (Debian package "dosbox")'
+config=
+if [[ ${1:-} == -f ]]; then
+    config=${2:-}
+    [[ -f $config && -r $config ]] || Fail "no configuration that can be read: $config"
+    shift 2
+fi
 (($# <= 1)) || Fail 'one file, please'
 if (($# == 1)); then
     [[ -f $1 && -r $1 ]] || Fail "no file that can be read: $1"
@@ -86,13 +95,44 @@ mount c . > nul
 c:
 CONF
 
+# InsertDisks: each drive's disk under a name of its own, and a menu of them. A disk's name reaches
+# DOS with its plain letters alone, so that nothing in it is acted upon.
+InsertDisks() {
+    local line drive disk name keys='' jumps='' runs='' menu=''
+    while IFS= read -r line || [[ -n $line ]]; do
+        line=${line%$'\r'}
+        [[ $line =~ ^floppy([0-4])=(.+)$ ]] || continue
+        drive=${BASH_REMATCH[1]} disk=${BASH_REMATCH[2]}
+        if [[ $disk == \"*\" ]]; then disk=${disk:1:-1}; fi
+        cp -- "$disk" "$work/DF$drive.COM" || continue
+        chmod u+rw -- "$work/DF$drive.COM"
+        name=$(printf '%s' "${disk##*/}" | iconv -f UTF-8 -t ASCII//TRANSLIT 2>/dev/null |
+            tr -c 'A-Za-z0-9 ().-' '_')
+        keys+=$drive
+        menu+="echo    $drive  Df$drive:  $name"$'\n'
+        # The highest answer is asked for first: "errorlevel" means "or more".
+        jumps="if errorlevel ${#keys} goto df$drive"$'\n'$jumps
+        runs+=":df$drive"$'\n'"DF$drive.COM"$'\n'"goto box"$'\n'
+    done <"$1"
+    [[ -n $keys ]] || menu=$'echo    All drives are empty.\n'
+    printf '@echo off\n:box\ncls\necho.\necho  Disk Box\necho.\n%secho.\necho    Q  Switch off\necho.\n' \
+        "$menu" >"$work/BOX.BAT"
+    printf 'choice /c%sq /n\nif errorlevel %s goto off\n%s%s:off\nexit\n' \
+        "$keys" "$((${#keys} + 1))" "$jumps" "$runs" >>"$work/BOX.BAT"
+    sed -i 's/$/\r/' "$work/BOX.BAT"
+    printf 'BOX.BAT\nexit\n' >>"$work/dosbox.conf"
+}
+
 start=$work
+if [[ -n $config ]]; then
+    InsertDisks "$config"
+fi
 if (($# == 1)); then
     # A path that begins with "-" is still a path.
     cp -- "$1" "$work/GAME.COM" || Fail "cannot copy: $1"
     chmod u+rw -- "$work/GAME.COM"
     printf 'cls\nGAME.COM\nexit\n' >>"$work/dosbox.conf"
-else
+elif [[ -z $config ]]; then
     games=${self%/*}/../Games/DOS
     [[ -d $games ]] && start=$games
 fi
