@@ -1,0 +1,113 @@
+#include <gmock/gmock.h>
+
+#include "core/busy_state.h"
+#include "core/form1.h"
+#include "core/ini.h"
+#include "library/file_scan_recursive.h"
+#include "library/game_lists.h"
+#include "library/scan_source.h"
+#include "testing/memory_file_system.h"
+#include "testing/scripted_host.h"
+
+namespace kivu::library {
+namespace {
+
+using ::testing::Contains;
+using ::testing::ElementsAre;
+using ::testing::Not;
+
+// Every title that the window has had.
+class Titles : public forms::Observer {
+ public:
+    explicit Titles(forms::Form& form) : form(form) { form.SetObserver(this); }
+    ~Titles() override { form.SetObserver(nullptr); }
+    void Changed(forms::Control& control, forms::Aspect aspect) override {
+        if (&control == &form && aspect == forms::Aspect::text) seen.push_back(form.Caption());
+    }
+    std::vector<std::string> seen;
+
+ private:
+    forms::Form& form;
+};
+
+struct Aliases : ::testing::Test {
+    Aliases() {
+        form.UAE_Short.AddItems({"Ant (1)", "Ant (2)", "Bee", "Ant (3)", "Cat", "Ant (4)"});
+    }
+    void Apply(const std::string& rules, const std::string& separator = ";") {
+        files.AddFile("/AliasList.txt", rules);
+        lists.ApplyAliasList("/AliasList.txt", separator);
+    }
+    const std::vector<std::string>& Names() { return form.UAE_Short.Rows(); }
+
+    kivu::testing::MemoryFileSystem files;
+    kivu::testing::ScriptedHost host{files};
+    ScanSource source{files};
+    core::Form1 form{forms::Toolkit{nullptr, nullptr, &source}};
+    core::Ini ini{files};
+    core::EventPacer pacer{host.events, host.clock};
+    core::BusyState busy{form, host.events};
+    FileScanRecursive scanner{form, source, host.beeper, pacer};
+    GameLists lists{form, ini, files, busy, pacer, scanner};
+};
+
+TEST_F(Aliases, SecondRuleWithTheSameTextHitsTheNextDisk) {
+    Apply("Ant;First\r\nAnt;Second\r\nAnt;Third\r\n");
+    EXPECT_THAT(Names(), ElementsAre("First", "Second", "Bee", "Third", "Cat", "Ant (4)"));
+}
+
+TEST_F(Aliases, RuleOutOfOrderHasNoHitAboveTheLastOne) {
+    Apply("Cat;Felis\r\nBee;Apis\r\n");
+    EXPECT_THAT(Names(), ElementsAre("Ant (1)", "Ant (2)", "Bee", "Ant (3)", "Felis", "Ant (4)"));
+}
+
+TEST_F(Aliases, RuleWithoutAHitMakesTheNextOneSearchFromTheTop) {
+    Apply("Cat;Felis\r\nBee;never seen\r\nBee;Apis\r\n");
+    EXPECT_THAT(Names(), ElementsAre("Ant (1)", "Ant (2)", "Apis", "Ant (3)", "Felis", "Ant (4)"));
+}
+
+TEST_F(Aliases, SearchGoesOnBehindAHitThatFollowedARestart) {
+    Apply("Cat;Felis\r\nnothing;x\r\nAnt;First\r\nAnt;Second\r\nBee;Apis\r\nAnt;Third\r\n");
+    EXPECT_THAT(Names(), ElementsAre("First", "Second", "Apis", "Third", "Felis", "Ant (4)"));
+}
+
+TEST_F(Aliases, HitOnTheLastRowSendsTheNextRuleBehindTheEnd) {
+    Apply("Ant (4);Last\r\nBee;x\r\nBee;Apis\r\n");
+    EXPECT_THAT(Names(), ElementsAre("Ant (1)", "Ant (2)", "Apis", "Ant (3)", "Cat", "Last"));
+}
+
+TEST_F(Aliases, CaseDoesNotCountAndBothSidesAreTrimmed) {
+    Apply("  bEE  ;  Apis mellifera  \r\n");
+    EXPECT_EQ(form.UAE_Short.List(2), "Apis mellifera");
+}
+
+TEST_F(Aliases, FirstSeparatorOfTheLineCounts) {
+    Apply("Bee;a;b\r\nno separator\r\n\r\n");
+    EXPECT_EQ(form.UAE_Short.List(2), "a;b");
+}
+
+TEST_F(Aliases, SelectedRowKeepsItsPlaceUnderItsNewName) {
+    form.UAE_Short.SetListIndex(2);
+    Apply("Bee;Apis\r\n");
+    EXPECT_EQ(form.UAE_Short.ListIndex(), 2);
+    EXPECT_EQ(form.UAE_Short.SelectedText(), "Apis");
+}
+
+TEST_F(Aliases, EverySecondRuleShowsItsNumber) {
+    Titles titles(form);
+    Apply("a;b\r\nBee;Apis\r\nno rule\r\nq;r\r\nq;r\r\nq;r\r\n");
+    EXPECT_THAT(titles.seen, ElementsAre("Alias names: ", "Alias Names: 2", "Alias Names: 4"));
+}
+
+TEST_F(Aliases, MissingFileOrSeparatorChangesNothing) {
+    const std::vector<std::string> before = Names();
+    Titles titles(form);
+    lists.ApplyAliasList("", ";");
+    lists.ApplyAliasList("/none.txt", ";");
+    Apply("Bee;Apis\r\n", "");
+    EXPECT_EQ(Names(), before);
+    EXPECT_THAT(titles.seen, Not(Contains("Alias names: ")));
+}
+
+}  // namespace
+}  // namespace kivu::library
