@@ -34,6 +34,10 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     } else if (hover) {
         FillRounded(*painter, pill, cornerRadius, Mix(base, text, 0.09));
     }
+    if (!followsCurrent && source.ShowsCurrent() && source.Selected() == index.row()) {
+        FillRounded(*painter, pill.adjusted(2, 2, -2, -2), cornerRadius - 1, Qt::transparent,
+                    marked ? writing : accent, 1.5);
+    }
     painter->setPen(writing);
     painter->setFont(option.font);
     const QRect line = option.rect.adjusted(10, 0, -8, 0);

@@ -9,6 +9,12 @@ bool ListRowSource::IsMarked(int row) const {
     return box && box->MultiSelect() ? box->Selected(row) : list.ListIndex() == row;
 }
 
+bool ListRowSource::ShowsCurrent() const {
+    const auto* box = dynamic_cast<const forms::ListBox*>(&list);
+    // One row that is chosen alone stands out as it is.
+    return box && box->MultiSelect() && (box->SelCount() != 1 || !box->Selected(box->ListIndex()));
+}
+
 void ListRowSource::Click(int row, int shift) {
     using forms::Choice;
     const bool range = (shift & forms::shifts::shift) != 0;

@@ -16,6 +16,8 @@ class RowSource {
     virtual int Selected() const = 0;
     // Chosen, where several rows can be.
     virtual bool IsMarked(int row) const { return Selected() == row; }
+    // The selected row is to stand out among those chosen.
+    virtual bool ShowsCurrent() const { return false; }
     // With the shift state of the mouse.
     virtual void Click(int row, int shift) = 0;
     virtual void Select(int row) = 0;
@@ -28,6 +30,7 @@ class ListRowSource : public RowSource {
     const std::string& Text(int row) const override { return list.List(row); }
     int Selected() const override { return list.ListIndex(); }
     bool IsMarked(int row) const override;
+    bool ShowsCurrent() const override;
     void Click(int row, int shift) override;
     void Select(int row) override { list.SetListIndex(row); }
 
