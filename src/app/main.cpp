@@ -1,5 +1,6 @@
 #include <QApplication>
 #include <QIcon>
+#include <QTimer>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -7,6 +8,7 @@
 
 #include "app/desktop_host.h"
 #include "view/form_view.h"
+#include "view/pictures.h"
 #include "view/style.h"
 #include "view/text_measure.h"
 #include "wiring/launcher.h"
@@ -29,6 +31,8 @@ void EndAtOnce() {
 int main(int argc, char** argv) {
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
+    // Ready when the launcher is.
+    kivu::view::PreloadPicture(":/background");
     kivu::view::ApplyStyle();
 
     kivu::app::DesktopHost host(std::vector<std::string>(argv + 1, argv + argc));
@@ -37,9 +41,11 @@ int main(int argc, char** argv) {
     launcher.Start();
 
     kivu::view::FormView view(launcher.MainWindow());
-    view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon")));
     view.onClosed = EndAtOnce;
     host.ListenForInstances([&view] { view.Summon(); });
     view.Show();
+    // Behind the first frame.
+    QTimer::singleShot(0, &view.Window(),
+                       [&view] { view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon"))); });
     return QApplication::exec();
 }

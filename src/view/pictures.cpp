@@ -60,6 +60,24 @@ QImage LoadPicture(const std::string& source) {
     return reader.read();
 }
 
+namespace {
+
+struct Preloaded {
+    std::string source;
+    std::future<QImage> image;
+};
+
+Preloaded& ThePreloaded() {
+    static Preloaded preloaded;
+    return preloaded;
+}
+
+}  // namespace
+
+void PreloadPicture(const std::string& source) {
+    ThePreloaded() = {source, std::async(std::launch::async, LoadPicture, source)};
+}
+
 void PictureCache::Set(const forms::Picture& value) {
     picture = value;
     loaded = false;
@@ -70,7 +88,12 @@ void PictureCache::Set(const forms::Picture& value) {
 
 void PictureCache::Prefetch() {
     if (loaded || picture.pixels || picture.source.empty() || coming.valid()) return;
-    coming = std::async(std::launch::async, LoadPicture, picture.source);
+    Preloaded& preloaded = ThePreloaded();
+    if (preloaded.image.valid() && preloaded.source == picture.source) {
+        coming = std::move(preloaded.image);
+    } else {
+        coming = std::async(std::launch::async, LoadPicture, picture.source);
+    }
 }
 
 void PictureCache::TakeDense(QSize wanted) {

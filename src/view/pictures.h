@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QPixmap>
 #include <future>
+#include <string>
 
 #include "forms/types.h"
 
@@ -33,6 +34,10 @@ class PictureCache {
     QImage original;
     QPixmap scaled;
 };
+
+// Begins to load on another thread the picture that the first control to prefetch this source will
+// take: for a program whose window is not built yet.
+void PreloadPicture(const std::string& source);
 
 // A file that cannot be read, is no picture or is far too large gives a null image.
 QImage LoadPicture(const std::string& source);
