@@ -1,0 +1,287 @@
+// Launches with everything but the host's own programs: what stands in the start files.
+
+#include <gmock/gmock.h>
+
+#include "launch/emulator_setup.h"
+#include "launch/game_launch.h"
+#include "launch/uae_files.h"
+#include "testing/memory_file_system.h"
+#include "testing/scripted_host.h"
+
+namespace kivu::launch {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+// A missing file has no short name.
+class Disk : public kivu::testing::MemoryFileSystem {
+ public:
+    using MemoryFileSystem::MemoryFileSystem;
+    std::string ShortPathName(const std::string& path) const override {
+        if (!FileExists(path) && !IsDirectory(path)) return {};
+        return MemoryFileSystem::ShortPathName(path);
+    }
+};
+
+struct Room {
+    Room(char separator, const std::string& program, const std::string& emulatorName)
+        : files(separator) {
+        host.starter.usesShell = separator == '/';
+        form.AppDir = program;
+        form.EXE = "Kivu";
+        form.ConfigPath = program + "Config" + separator;
+        form.StartPfad = form.ConfigPath + emulatorName + separator;
+        form.BaseIniName = form.ConfigPath + "Kivu.ini";
+        form.IniPath = form.StartPfad + "Kivu.ini";
+        form.TmpBatName = form.StartPfad + "Kivu_tmp.bat";
+        form.StartScriptName = form.StartPfad + "Kivu_StartScript.uaecfg";
+        Profile("");
+        launch.hooks.WriteStartConfiguration = [this](bool windowsPaths) {
+            uae.WriteStartConfiguration(windowsPaths);
+        };
+        uae.hooks.Add_CURRENT_PROGRAM_STARTED = [this](std::string& name) {
+            launch.Add_CURRENT_PROGRAM_STARTED(name);
+        };
+    }
+
+    void Profile(const std::string& settings) {
+        files.AddFile(form.IniPath, "[Settings]\r\n" + settings);
+    }
+    void Emulator(const std::string& path) {
+        files.AddFile(path, "MZ");
+        form.txtWinUAEExe.SetText(path);
+    }
+    void Launch(const std::string& game, bool exists = true) {
+        if (exists) files.AddFile(game, "x");
+        launch.StartGame(game);
+    }
+    std::string StartFile() { return files.BytesOf(form.StartPfad + "Kivu_tmp.bat"); }
+    std::string Companion() { return files.BytesOf(form.StartPfad + "Kivu_tmp_wine.bat"); }
+
+    Disk files;
+    kivu::testing::ScriptedHost host{files};
+    core::Form1 form{forms::Toolkit{}};
+    core::Ini ini{files};
+    core::EventPacer pacer{host.events, host.clock};
+    core::BusyState busy{form, host.events};
+    GameLaunch launch{
+        form, ini, busy, pacer, {files, host.starter, host.clock, host.dialogs, host.beeper}};
+    EmulatorSetup setup{form, ini, pacer, {files, host.starter, host.clock, host.dialogs}};
+    UaeFiles uae{form, files};
+};
+
+struct WindowsStart : ::testing::Test, Room {
+    WindowsStart() : Room('\\', "C:\\Kivu\\", "Amiga 500") {
+        Emulator("C:\\Program Files\\WinUAE\\winuae.exe");
+    }
+    void GiveShortNames() {
+        files.SetShortName("C:\\Program Files\\WinUAE\\", "C:\\PROGRA~1\\WinUAE\\");
+        files.SetShortName("C:\\Kivu\\Config\\Amiga 500\\Kivu_StartScript.uaecfg",
+                           "C:\\Kivu\\Config\\AMIGA5~1\\KIVU_S~1.UAE");
+    }
+    // Nothing can be written where a directory has the start file's name.
+    void BlockStartFile() { files.AddDirectory(form.TmpBatName); }
+};
+
+// "/k/" as the program's directory, "Alpha" as the emulator's name.
+struct WineStart : ::testing::Test, Room {
+    WineStart() : Room('/', "/k/", "Alpha") {}
+};
+
+constexpr const char* winuae = "Start \"\" \"C:\\Program Files\\WinUAE\\winuae.exe\"";
+
+TEST_F(WindowsStart, ConfigurationStandsInItsLongFormAtTheFirstLaunchAndShortFromThenOn) {
+    GiveShortNames();
+    Profile("WinUAE_ConfigParameter=-f\r\n");
+    const std::string directory = "cd C:\\PROGRA~1\\WinUAE\\\r\n";
+    Launch("D:\\Game.adf");
+    EXPECT_EQ(StartFile(),
+              directory + winuae + " -f C:\\Kivu\\Config\\Amiga 500\\Kivu_StartScript.uaecfg\r\n");
+    EXPECT_TRUE(files.FileExists(form.StartScriptName));
+    Launch("D:\\Game.adf");
+    EXPECT_EQ(StartFile(), directory + winuae + " -f C:\\Kivu\\Config\\AMIGA5~1\\KIVU_S~1.UAE\r\n");
+}
+
+TEST_F(WindowsStart, WithoutShortNamesTheDirectoryStandsInQuotes) {
+    Profile("WinUAE_UseMasterConfig=0\r\n");
+    Launch("D:\\Game.adf");
+    EXPECT_EQ(StartFile(), std::string("cd \"C:\\Program Files\\WinUAE\\\"\r\n") + winuae + "\r\n");
+}
+
+TEST_F(WindowsStart, StartFileRunsMinimizedInTheEmulatorsDirectory) {
+    Launch("D:\\Game.adf");
+    ASSERT_EQ(host.starter.runs.size(), 1U);
+    const platform::StartRequest& run = host.starter.runs[0].request;
+    EXPECT_EQ(run.command, "\"C:\\Kivu\\Config\\Amiga 500\\Kivu_tmp.bat\"");
+    EXPECT_EQ(run.style, platform::WindowStyle::Minimized);
+    EXPECT_EQ(run.directory, "C:\\Program Files\\WinUAE");
+    EXPECT_TRUE(run.startFile);
+    EXPECT_EQ(files.CurrentDirectory(), "C:\\Kivu");
+    EXPECT_EQ(host.beeper.count, 0);
+}
+
+TEST_F(WindowsStart, DirectStartTakesThePlainTextAndShowsAProgramMaximized) {
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    BlockStartFile();
+    Launch("D:\\A&B 100%.adf");
+    EXPECT_EQ(host.beeper.count, 1);
+    ASSERT_EQ(host.starter.runs.size(), 1U);
+    const platform::StartRequest& run = host.starter.runs[0].request;
+    EXPECT_EQ(run.command, "\"C:\\Program Files\\WinUAE\\winuae.exe\" \"D:\\A&B 100%.adf\"");
+    EXPECT_EQ(run.style, platform::WindowStyle::Maximized);
+    EXPECT_FALSE(run.startFile);
+    EXPECT_TRUE(form.GameIsRunning);
+    ASSERT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_EQ(host.dialogs.shown[0].text,
+              "Bat - Start-File not found: \rC:\\Kivu\\Config\\Amiga 500\\Kivu_tmp.bat");
+}
+
+TEST_F(WindowsStart, DirectStartOfABatchFileIsMinimized) {
+    Profile("WinUAE_UseMasterConfig=0\r\n");
+    Emulator("C:\\Emus\\run.bat");
+    BlockStartFile();
+    Launch("D:\\Game.adf");
+    ASSERT_EQ(host.starter.runs.size(), 1U);
+    EXPECT_EQ(host.starter.runs[0].request.command, "C:\\Emus\\run.bat ");
+    EXPECT_EQ(host.starter.runs[0].request.style, platform::WindowStyle::Minimized);
+    EXPECT_EQ(form.CurrentRunninApplication, "cmd.exe");
+}
+
+TEST_F(WindowsStart, StartFileOfAFormerGameIsNeverRunAgain) {
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    files.AddFile(form.TmpBatName, "cd C:\\\r\nStart \"\" old.exe\r\n");
+    files.SetReadOnly(form.TmpBatName);
+    files.SetReadOnly(form.StartPfad);
+    Launch("D:\\New.adf");
+    ASSERT_EQ(host.starter.runs.size(), 1U);
+    EXPECT_FALSE(host.starter.runs[0].request.startFile);
+    EXPECT_THAT(host.starter.runs[0].request.command, HasSubstr("D:\\New.adf"));
+}
+
+TEST_F(WindowsStart, UmlautsStandInTheSystemsCodePage) {
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    Launch("D:\\K\xC3\xA4se.adf");
+    EXPECT_THAT(StartFile(), HasSubstr("D:\\K\xE4"
+                                       "se.adf\r\n"));
+}
+
+TEST_F(WindowsStart, LaunchStoresItsDefaultsButNoStartScript) {
+    Launch("D:\\Game.adf");
+    const std::string profile = files.BytesOf(form.IniPath);
+    EXPECT_THAT(profile, HasSubstr("UseQuote=0\r\n"));
+    EXPECT_THAT(profile, HasSubstr("SplashTimer=6\r\n"));
+    EXPECT_THAT(profile, HasSubstr("AutoMountDeamonTool=0\r\n"));
+    EXPECT_THAT(profile, Not(HasSubstr("RunVBS_Script")));
+}
+
+TEST_F(WindowsStart, SettingUpAnEmulatorStoresNothingInItsProfile) {
+    const std::string profile = "C:\\Kivu\\Config\\Other\\Kivu.ini";
+    for (const char* bytes : {"[Settings]\r\nRomPath=x\r\n", "[Settings]\r\nEmulatorPath=\r\n"}) {
+        files.AddFile(profile, bytes);
+        setup.StartEmulator("Other", false);
+        EXPECT_EQ(files.BytesOf(profile), bytes);
+    }
+    setup.StartEmulator("Amiga 600", false);
+    EXPECT_FALSE(files.IsDirectory("C:\\Kivu\\Config\\Amiga 600"));
+    EXPECT_EQ(host.dialogs.shown.size(), 3U);
+    EXPECT_THAT(host.starter.runs, IsEmpty());
+}
+
+TEST_F(WineStart, ProgramTakesConfigurationGameAndDisksUnderZ) {
+    Emulator("/my emus/winuae.exe");
+    Profile("WinUAE_ConfigParameter=-f\r\nEmulatorParameterAddDiskPath=1\r\n");
+    form.DiskSlots[0] = "/roms/disk 1.adf";
+    Launch("/roms/It's & $x.adf");
+    EXPECT_EQ(StartFile(),
+              "cd '/my emus/'\n'wine' '/my emus/winuae.exe' '-f' "
+              "'Z:\\k\\Config\\Alpha\\Kivu_StartScript.uaecfg' 'Z:\\roms\\It'\\''s & $x.adf' &\n");
+    EXPECT_THAT(files.BytesOf(form.StartScriptName), HasSubstr("floppy0=\"Z:\\roms\\disk 1.adf\""));
+    EXPECT_EQ(Companion(), "(no file)");
+}
+
+TEST_F(WineStart, NameAloneStaysWithoutADrive) {
+    Emulator("/e/winuae.exe");
+    Profile(
+        "WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n"
+        "EmulatorParameterAddDiskPathWithoutPath=1\r\n");
+    Launch("/roms/Super Game.zip");
+    EXPECT_EQ(StartFile(), "cd '/e/'\n'wine' '/e/winuae.exe' 'Super Game.zip' &\n");
+}
+
+TEST_F(WineStart, BatchEmulatorRunsFromABatchFileOfItsOwn) {
+    for (const char* ending : {"bat", "CMD"}) {
+        Emulator(std::string("/my emus/run.") + ending);
+        Profile(
+            "WinUAE_ConfigParameter=-f\r\nEmulatorParameter=-x & y\r\n"
+            "EmulatorParameterAddDiskPath=1\r\n");
+        Launch("/roms/A&B 100%.zip");
+        EXPECT_EQ(Companion(), std::string("cd \"Z:\\my emus\\\"\r\n\"Z:\\my emus\\run.") + ending +
+                                   "\" -f Z:\\k\\Config\\Alpha\\Kivu_StartScript.uaecfg -x & y "
+                                   "\"Z:\\roms\\A&B 100%%.zip\"\r\n");
+        EXPECT_EQ(StartFile(),
+                  "cd '/my emus/'\n'wine' 'cmd' '/c' 'Z:\\k\\Config\\Alpha\\Kivu_tmp_wine.bat' "
+                  "&\n");
+    }
+}
+
+TEST_F(WineStart, NativeEmulatorGetsPlainPathsAndNoCompanion) {
+    Emulator("/e/emu");
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    Launch("/roms/Say \"x\".zip");
+    EXPECT_EQ(StartFile(), "cd '/e/'\n'/e/emu' '/roms/Say \"x\".zip' &\n");
+    EXPECT_EQ(Companion(), "(no file)");
+}
+
+TEST_F(WineStart, NameThatNothingMakesSafeIsRefused) {
+    Emulator("/e/run.bat");
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    files.AddFile(form.TmpBatName, "old");
+    const std::string game = "/roms/Say \"x\" & y.zip";
+    Launch(game);
+    ASSERT_EQ(host.dialogs.shown.size(), 1U);
+    const kivu::testing::ShownBox& box = host.dialogs.shown[0];
+    EXPECT_THAT(box.text, HasSubstr("cannot be given to a batch file safely"));
+    EXPECT_THAT(box.text, ::testing::EndsWith("\r" + game));
+    EXPECT_EQ(box.icon, platform::Icon::Warning);
+    EXPECT_EQ(box.buttons, platform::Buttons::Ok);
+    EXPECT_THAT(host.starter.runs, IsEmpty());
+    EXPECT_EQ(StartFile(), "(no file)");
+    EXPECT_EQ(Companion(), "(no file)");
+    EXPECT_FALSE(form.EmuActiveTimer.Enabled());
+    EXPECT_FALSE(form.GameIsRunning);
+}
+
+TEST_F(WineStart, EmulatorThatNothingMakesSafeIsRefusedToo) {
+    Emulator("/a \"b\" & c/run.bat");
+    Profile("WinUAE_UseMasterConfig=0\r\n");
+    Launch("/roms/a.zip");
+    EXPECT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_THAT(host.starter.runs, IsEmpty());
+}
+
+TEST_F(WineStart, CompanionThatCannotBeWrittenStartsNothing) {
+    Emulator("/e/run.bat");
+    files.AddDirectory(form.StartPfad + "Kivu_tmp_wine.bat");
+    Launch("/roms/a.zip");
+    EXPECT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_THAT(host.starter.runs, IsEmpty());
+}
+
+TEST_F(WineStart, DirectStartOfABatchFileGoesThroughItsCompanion) {
+    Emulator("/e/run.bat");
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    files.AddDirectory(form.TmpBatName);
+    Launch("/roms/a.zip");
+    ASSERT_EQ(host.starter.runs.size(), 1U);
+    const platform::StartRequest& run = host.starter.runs[0].request;
+    EXPECT_THAT(run.words,
+                ElementsAre("wine", "cmd", "/c", "Z:\\k\\Config\\Alpha\\Kivu_tmp_wine.bat"));
+    EXPECT_EQ(run.style, platform::WindowStyle::Minimized);
+    EXPECT_EQ(Companion(), "cd Z:\\e\\\r\nZ:\\e\\run.bat Z:\\roms\\a.zip\r\n");
+}
+
+}  // namespace
+}  // namespace kivu::launch
