@@ -133,11 +133,8 @@ TEST_F(FavouritesOwn, EachEmulatorHasItsOwn) {
     EXPECT_TRUE(Visible("FavoritenListe"));
 }
 
-TEST_F(FavouritesOwn, MissingFavouriteIsAskedAboutAtTheStartAndRepaired) {
-    Store({{"Bee", "/old/Bee (1991)(Maker).adf"},
-           {"Bee (1991)", "/old/Bee (1991)(Maker).adf"},
-           {"Ant", "/old/Ant.adf"}});
-    prepare = [](driver::Session& run) { run.Host().dialogs.answers = {platform::Answer::Yes}; };
+TEST_F(FavouritesOwn, MissingFavouriteIsAskedAboutAndMovedOnesAreRepaired) {
+    Store({{"Bee", "/old/Bee (1991)(Maker).adf"}, {"Ghost", "/old/Ghost.adf"}, {"Disk 2", ant2}});
     Start();
     // The first one has been found by its file name.
     EXPECT_TRUE(Do("boxes")["value"].empty());
@@ -147,8 +144,8 @@ TEST_F(FavouritesOwn, MissingFavouriteIsAskedAboutAtTheStartAndRepaired) {
     ASSERT_EQ(boxes.size(), 2U);
     EXPECT_EQ(boxes[0]["title"], "Favorite not found - Repair?");
     EXPECT_EQ(boxes[1]["title"], "Repair result:");
-    EXPECT_EQ(boxes[1]["text"], "Repaired:Bee\rDeleted: Ant\r");
-    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee"}));
+    EXPECT_EQ(boxes[1]["text"], "Repaired:Bee\rDeleted: Ghost\r");
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee", "Disk 2"}));
     EXPECT_EQ(tree.Stored(file, "Fav0_FullPath"), bee);
 }
 
