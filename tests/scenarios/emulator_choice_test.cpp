@@ -23,6 +23,29 @@ TEST_F(EmulatorChoice, FocusOnTheDropDownOpensTheLongList) {
     EXPECT_FALSE(Visible("Label2"));
 }
 
+TEST_F(EmulatorChoice, OpenChoiceShowsTheSearchBoxAndTheFirstTabAtTheRight) {
+    Start();
+    const auto atTheRight = [this] {
+        return Form().Label1.Left() == Form().Width() - Form().Label1.Width() - 400;
+    };
+    EXPECT_FALSE(atTheRight());
+    Open();
+    for (const char* mode : {"5", "10"}) {
+        if (std::string(mode) == "10") Do("focus", "Form1.EmulatorLongListbox");
+        EXPECT_EQ(Get("ListMode"), mode);
+        EXPECT_TRUE(Visible("SearchDblsTxt")) << mode;
+        EXPECT_TRUE(Visible("Label1")) << mode;
+        EXPECT_TRUE(atTheRight()) << mode;
+        Do("resize", "Form1", 15000, 9000);
+        EXPECT_TRUE(Visible("SearchDblsTxt")) << mode;
+        EXPECT_TRUE(Visible("Label1")) << mode;
+        EXPECT_TRUE(atTheRight()) << mode;
+    }
+    Do("key", "Form1", "Escape");
+    EXPECT_TRUE(Visible("Label1"));
+    EXPECT_FALSE(atTheRight());
+}
+
 TEST_F(EmulatorChoice, DoubleClickSwitchesTheEmulatorAndRemembersIt) {
     Start();
     Open();
