@@ -155,6 +155,31 @@ TEST_F(Rescan, ScanOfAllEmulatorsCollectsTheFormerCaches) {
     EXPECT_FALSE(tree.Exists("Config/-ALL-/Kivu_Cache.txt"));
 }
 
+TEST_F(Rescan, SwitchThatCollectsAppendsTheNewCacheUnderACaptionOfItsOwn) {
+    struct Captions : forms::Observer {
+        void Changed(forms::Control& control, forms::Aspect aspect) override {
+            const auto* label = dynamic_cast<forms::Label*>(&control);
+            if (!label || label->Name() != "Label1" || aspect != forms::Aspect::text) return;
+            seen.push_back(label->Caption());
+        }
+        std::vector<std::string> seen;
+    } captions;
+    Start();
+    tree.Write("Config/Kivu_Global.txt", "before\r\n");
+    Do("set", "Form1.EmuListbox.ListIndex", 1);
+    Form().SetObserver(&captions);
+    Call("SelectEmulator", true);
+    Form().SetObserver(nullptr);
+    EXPECT_THAT(captions.seen, ::testing::Contains("Global List: Beta"));
+    EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ");
+    EXPECT_EQ(tree.Read("Config/Kivu_Global.txt"),
+              "before\r\n" + tree.Read("Config/Beta/Kivu_Cache.txt"));
+    // The same emulator again loads and collects nothing.
+    Call("SelectEmulator", true);
+    EXPECT_EQ(tree.Read("Config/Kivu_Global.txt"),
+              "before\r\n" + tree.Read("Config/Beta/Kivu_Cache.txt"));
+}
+
 TEST_F(Rescan, SecondRescanDuringTheFirstDoesNothing) {
     Start();
     int nested = 0;
