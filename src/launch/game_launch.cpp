@@ -180,8 +180,11 @@ std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
     const std::string companion = form.StartPfad + form.EXE + "_tmp_wine.bat";
     const std::string content =
         BatchStartFile(cd, program + " " + std::string(support::Trim(run.parameters.BatchText())));
+    // The command processor reads its own path too.
+    const std::string path = support::ToWinePath(companion);
+    if (support::EscapeForCmd(path) != path) safe = false;
     if (safe && files.WriteFile(companion, content)) safe = false;
-    return {"wine", "cmd", "/c", support::ToWinePath(companion)};
+    return {"wine", "cmd", "/c", path};
 }
 
 void GameLaunch::EnterEmulatorDirectory(const Run& run) {
@@ -217,7 +220,8 @@ void GameLaunch::StartEmulatorProgram(const Run& run) {
     request.command = support::QuoteIfNeeded(run.emulator) + " " +
                       std::string(support::Trim(run.parameters.Text()));
     bool safe = true;
-    request.words = HostWords(run, safe);
+    // A host that starts by the command text needs no words, nor any file for them.
+    if (services.starter.UsesShell()) request.words = HostWords(run, safe);
     const bool program = support::ToLower(run.emulator).find(".exe") != std::string::npos;
     request.style = program ? platform::WindowStyle::Maximized : platform::WindowStyle::Minimized;
     if (safe) (void)services.starter.Run(request);
