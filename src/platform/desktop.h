@@ -48,7 +48,8 @@ class UserStore {
     virtual ~UserStore() = default;
     virtual std::string Get(const std::string& section, const std::string& key,
                             const std::string& missing) const = 0;
-    virtual void Set(const std::string& section, const std::string& key, const std::string& value) = 0;
+    virtual void Set(const std::string& section, const std::string& key,
+                     const std::string& value) = 0;
     // A value of the system's own registry by its full path; empty where there is none.
     virtual std::string SystemValue(const std::string& root, const std::string& key,
                                     const std::string& name) const = 0;

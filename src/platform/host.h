@@ -10,8 +10,8 @@
 
 namespace kivu::platform {
 
-// Everything the launcher asks of its host, gathered where the program is put together. Routines take
-// the single services they need, never this.
+// Everything the launcher asks of its host, gathered where the program is put together. Routines
+// take the single services they need, never this.
 struct Host {
     FileSystem& files;
     ProcessList& processes;

@@ -12,8 +12,8 @@ namespace kivu::platform {
 struct ProcessEntry {
     std::int32_t id = 0;
     std::vector<std::string> names;
-    bool ofLaunch = false;   // belongs to the launch of ProcessList::WatchLaunch
-    bool foreign = false;    // the launcher itself, its ancestors, other users' processes
+    bool ofLaunch = false;  // belongs to the launch of ProcessList::WatchLaunch
+    bool foreign = false;   // the launcher itself, its ancestors, other users' processes
 };
 
 class ProcessList {

@@ -8,17 +8,18 @@ namespace kivu::platform {
 
 enum class WindowStyle { Hidden, Normal, Minimized, Maximized, NormalNoFocus, MinimizedNoFocus };
 
-// One program to start. `command` is the literal command text, as it is shown and as Windows takes it;
-// `words` is the same split into its program and arguments, for hosts that start by words. The two
-// say the same thing; a host uses one of them.
+// One program to start. `command` is the literal command text, as it is shown and as Windows takes
+// it; `words` is the same split into its program and arguments, for hosts that start by words. The
+// two say the same thing; a host uses one of them.
 struct StartRequest {
     std::string command;
     std::vector<std::string> words;
-    std::string directory;   // absolute; empty: the launcher's current one
+    std::string directory;  // absolute; empty: the launcher's current one
     WindowStyle style = WindowStyle::Normal;
-    bool wait = false;       // return only when the program has ended
-    bool startFile = false;  // words[0] is a start file of the launcher, for the host's command processor
-    bool watched = false;    // the launch that ProcessList marks with ProcessEntry::ofLaunch
+    bool wait = false;  // return only when the program has ended
+    bool startFile =
+        false;  // words[0] is a start file of the launcher, for the host's command processor
+    bool watched = false;  // the launch that ProcessList marks with ProcessEntry::ofLaunch
 };
 
 // Starts programs and holds no handle to them: nothing is left behind when they end.
@@ -27,8 +28,8 @@ class ProgramStarter {
     virtual ~ProgramStarter() = default;
     virtual std::error_code Run(const StartRequest& request) = 0;
 
-    // How this host runs a program: false, and the launcher writes start files for cmd.exe; true, and
-    // it writes them for /bin/sh (words in single quotes, lines ended by LF).
+    // How this host runs a program: false, and the launcher writes start files for cmd.exe; true,
+    // and it writes them for /bin/sh (words in single quotes, lines ended by LF).
     virtual bool UsesShell() const = 0;
 
     // A program by its bare name, where the system's search path finds it; empty where it does not.
