@@ -283,5 +283,31 @@ TEST_F(WineStart, DirectStartOfABatchFileGoesThroughItsCompanion) {
     EXPECT_EQ(Companion(), "cd Z:\\e\\\r\nZ:\\e\\run.bat Z:\\roms\\a.zip\r\n");
 }
 
+TEST_F(WindowsStart, DirectStartWritesNoFileForAnotherWorld) {
+    Emulator("C:\\Emus\\run.bat");
+    BlockStartFile();
+    Launch("D:\\Game.adf");
+    EXPECT_EQ(Companion(), "(no file)");
+}
+
+TEST_F(WindowsStart, DirectStartOfABatchFileNeedsNoRoomOnTheDisk) {
+    Profile("WinUAE_UseMasterConfig=0\r\n");
+    Emulator("C:\\Emus\\run.bat");
+    files.SetReadOnly(form.StartPfad);
+    Launch("D:\\Game.adf");
+    EXPECT_EQ(host.starter.runs.size(), 1U);
+}
+
+TEST_F(WineStart, RefusesACompanionWhoseOwnPathWouldBeActedUpon) {
+    form.StartPfad = form.ConfigPath + "A&B/";
+    form.IniPath = form.StartPfad + "Kivu.ini";
+    form.TmpBatName = form.StartPfad + "Kivu_tmp.bat";
+    Profile("WinUAE_UseMasterConfig=0\r\n");
+    Emulator("/e/run.bat");
+    Launch("/roms/a.zip");
+    EXPECT_THAT(host.starter.runs, IsEmpty());
+    EXPECT_EQ(Companion(), "(no file)");
+}
+
 }  // namespace
 }  // namespace kivu::launch
