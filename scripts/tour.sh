@@ -106,9 +106,9 @@ start=$last
 Click 110 52
 Shot emulators "the emulators found"
 [ "$(Difference "$start" "$last")" -gt 5000 ] || Fail "the list of emulators did not open"
-xdotool key --window 0 Tab 2>/dev/null || true
+# DOSBox is the second row, behind Disk Box.
 Click 100 96
-Click 100 96 2
+xdotool key Down Return
 ChosenEmulator() { grep -q '^LastEmulator=DOSBox' "$program_dir/Config/Kivu.ini"; }
 Until 15 ChosenEmulator || Fail "the emulator was not chosen"
 Shot favourites "its favourites"
