@@ -1,7 +1,8 @@
 #pragma once
 
 #include <utility>
-#include <windows.h>
+
+#include "platform/windows/win32.h"
 
 namespace kivu::platform {
 
