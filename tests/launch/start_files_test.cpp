@@ -2,11 +2,7 @@
 
 #include <gmock/gmock.h>
 
-#include "launch/emulator_setup.h"
-#include "launch/game_launch.h"
-#include "launch/uae_files.h"
-#include "testing/memory_file_system.h"
-#include "testing/scripted_host.h"
+#include "launch_room.h"
 
 namespace kivu::launch {
 namespace {
@@ -16,65 +12,8 @@ using ::testing::HasSubstr;
 using ::testing::IsEmpty;
 using ::testing::Not;
 
-// A missing file has no short name.
-class Disk : public kivu::testing::MemoryFileSystem {
- public:
-    using MemoryFileSystem::MemoryFileSystem;
-    std::string ShortPathName(const std::string& path) const override {
-        if (!FileExists(path) && !IsDirectory(path)) return {};
-        return MemoryFileSystem::ShortPathName(path);
-    }
-};
-
-struct Room {
-    Room(char separator, const std::string& program, const std::string& emulatorName)
-        : files(separator) {
-        host.starter.usesShell = separator == '/';
-        form.AppDir = program;
-        form.EXE = "Kivu";
-        form.ConfigPath = program + "Config" + separator;
-        form.StartPfad = form.ConfigPath + emulatorName + separator;
-        form.BaseIniName = form.ConfigPath + "Kivu.ini";
-        form.IniPath = form.StartPfad + "Kivu.ini";
-        form.TmpBatName = form.StartPfad + "Kivu_tmp.bat";
-        form.StartScriptName = form.StartPfad + "Kivu_StartScript.uaecfg";
-        Profile("");
-        launch.hooks.WriteStartConfiguration = [this](bool windowsPaths) {
-            uae.WriteStartConfiguration(windowsPaths);
-        };
-        uae.hooks.Add_CURRENT_PROGRAM_STARTED = [this](std::string& name) {
-            launch.Add_CURRENT_PROGRAM_STARTED(name);
-        };
-    }
-
-    void Profile(const std::string& settings) {
-        files.AddFile(form.IniPath, "[Settings]\r\n" + settings);
-    }
-    void Emulator(const std::string& path) {
-        files.AddFile(path, "MZ");
-        form.txtWinUAEExe.SetText(path);
-    }
-    void Launch(const std::string& game, bool exists = true) {
-        if (exists) files.AddFile(game, "x");
-        launch.StartGame(game);
-    }
-    std::string StartFile() { return files.BytesOf(form.StartPfad + "Kivu_tmp.bat"); }
-    std::string Companion() { return files.BytesOf(form.StartPfad + "Kivu_tmp_wine.bat"); }
-
-    Disk files;
-    kivu::testing::ScriptedHost host{files};
-    core::Form1 form{forms::Toolkit{}};
-    core::Ini ini{files};
-    core::EventPacer pacer{host.events, host.clock};
-    core::BusyState busy{form, host.events};
-    GameLaunch launch{
-        form, ini, busy, pacer, {files, host.starter, host.clock, host.dialogs, host.beeper}};
-    EmulatorSetup setup{form, ini, pacer, {files, host.starter, host.clock, host.dialogs}};
-    UaeFiles uae{form, files};
-};
-
-struct WindowsStart : ::testing::Test, Room {
-    WindowsStart() : Room('\\', "C:\\Kivu\\", "Amiga 500") {
+struct WindowsStart : ::testing::Test, LaunchRoom {
+    WindowsStart() : LaunchRoom('\\', "C:\\Kivu\\", "Amiga 500") {
         Emulator("C:\\Program Files\\WinUAE\\winuae.exe");
     }
     void GiveShortNames() {
@@ -87,8 +26,8 @@ struct WindowsStart : ::testing::Test, Room {
 };
 
 // "/k/" as the program's directory, "Alpha" as the emulator's name.
-struct WineStart : ::testing::Test, Room {
-    WineStart() : Room('/', "/k/", "Alpha") {}
+struct WineStart : ::testing::Test, LaunchRoom {
+    WineStart() : LaunchRoom('/', "/k/", "Alpha") {}
 };
 
 constexpr const char* winuae = "Start \"\" \"C:\\Program Files\\WinUAE\\winuae.exe\"";

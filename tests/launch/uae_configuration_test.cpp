@@ -2,56 +2,14 @@
 
 #include <gmock/gmock.h>
 #include <optional>
-#include <sstream>
+
+#include "uae_reader.h"
 
 namespace kivu::launch {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-// Reads a configuration as an emulator would: line by line, keys in front of the first "=", the
-// last value of a key counts. Written for the tests alone, with nothing of the launcher in it.
-class UaeReader {
- public:
-    explicit UaeReader(const std::string& bytes) {
-        std::istringstream stream(bytes);
-        for (std::string line; std::getline(stream, line);) {
-            EXPECT_TRUE(!line.empty() && line.back() == '\r') << "a line does not end in CR LF";
-            if (!line.empty()) line.pop_back();
-            lines.push_back(line);
-        }
-        EXPECT_TRUE(bytes.size() >= 2 && bytes.substr(bytes.size() - 2) == "\r\n");
-    }
-
-    std::optional<std::string> Value(const std::string& key) const {
-        std::optional<std::string> value;
-        for (const std::string& line : lines) {
-            const std::size_t equals = line.find('=');
-            if (equals == std::string::npos || Trimmed(line.substr(0, equals)) != key) continue;
-            value = Trimmed(line.substr(equals + 1));
-            // Quotes hold a path with blanks together.
-            if (value->size() > 1 && value->front() == '"' && value->back() == '"')
-                value = value->substr(1, value->size() - 2);
-        }
-        return value;
-    }
-    int Count(const std::string& key) const {
-        int count = 0;
-        for (const std::string& line : lines)
-            count += line.compare(0, key.size() + 1, key + "=") == 0 ? 1 : 0;
-        return count;
-    }
-
-    std::vector<std::string> lines;
-
- private:
-    static std::string Trimmed(const std::string& text) {
-        const std::size_t from = text.find_first_not_of(' ');
-        if (from == std::string::npos) return {};
-        return text.substr(from, text.find_last_not_of(' ') - from + 1);
-    }
-};
 
 struct Master {
     const char* name;
