@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <system_error>
+
+// By SystemPath; see WindowsFileSystem::WriteFile and AppendFile.
+namespace kivu::platform {
+
+// Replaces the file in one step. On any failure no temporary file stays behind and the old file is
+// as it was.
+std::error_code WriteWhole(const std::wstring& systemPath, std::string_view bytes);
+
+// Writes behind the file's end.
+std::error_code WriteBehind(const std::wstring& systemPath, std::string_view bytes);
+
+}  // namespace kivu::platform

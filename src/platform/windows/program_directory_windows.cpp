@@ -1,0 +1,32 @@
+#include "platform/windows/program_directory_windows.h"
+
+#include "platform/windows/system_text.h"
+#include "platform/windows/wide_path.h"
+#include "platform/windows/wide_text.h"
+#include "support/text.h"
+
+namespace kivu::platform {
+
+std::string ProgramFile() {
+    // A path that does not fit is cut, and its length is then the buffer's.
+    return Narrow(WithoutPrefix(SystemText(
+        [](wchar_t* buffer, DWORD size) { return ::GetModuleFileNameW(nullptr, buffer, size); })));
+}
+
+std::string ProgramName(const std::string& programFile) {
+    const std::string name = programFile.substr(programFile.find_last_of("\\/") + 1);
+    if (name.size() <= 4) return name;
+    std::string ending = name.substr(name.size() - 4);
+    for (char& letter : ending)
+        letter = support::ToLowerAscii(letter);
+    return ending == ".exe" ? name.substr(0, name.size() - 4) : name;
+}
+
+std::string ProgramDirectory(const std::string& programFile) {
+    const auto separator = programFile.find_last_of("\\/");
+    if (separator == std::string::npos) return {};
+    const bool isDrive = separator == 2 && programFile[1] == ':';
+    return programFile.substr(0, isDrive ? separator + 1 : separator);
+}
+
+}  // namespace kivu::platform
