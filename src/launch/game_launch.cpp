@@ -138,8 +138,13 @@ bool GameLaunch::WriteStartFile(Run& run) {
     const std::string program = BatchWord(support::QuoteIfNeeded(run.emulator), safe);
     const std::string content =
         BatchStartFile(cd, StartCommand(program, run.parameters.BatchText()));
+    // A batch file's line goes to a second command processor, which reads it again and may take the
+    // outer quotes off it: nothing that is quoted or doubled here is safe there.
+    if (!IsProgramFile(run.emulator))
+        safe &= run.parameters.HasPlainPaths() && support::IsPlainForCmd(run.emulator);
+    const auto bytes = services.starter.StartFileBytes(content);
     // Written for nobody to run when it is not safe: the emulator is then started directly.
-    const bool written = safe && !files.WriteFile(form.TmpBatName, files.EncodeText(content));
+    const bool written = safe && bytes && !files.WriteFile(form.TmpBatName, *bytes);
     run.startFileFailed = !written || !files.FileExists(form.TmpBatName);
     return true;
 }

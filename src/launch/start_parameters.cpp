@@ -20,6 +20,7 @@ void StartParameters::AppendPath(std::string_view quotedOrPlain, std::string_vie
         word == path ? std::string(quotedOrPlain) : support::QuoteIfNeeded(word);
     text += shown;
     batchText += BatchWord(shown, batchSafe);
+    plainPaths = plainPaths && support::IsPlainForCmd(shown);
     words.push_back(word);
 }
 

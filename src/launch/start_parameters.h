@@ -26,10 +26,13 @@ class StartParameters {
     const std::vector<std::string>& Words() const { return words; }
     // False: a path cannot be written into a batch file without being acted upon.
     bool IsBatchSafe() const { return batchSafe; }
+    // True: no path in them holds a character that cmd.exe acts upon, quoted or not.
+    bool HasPlainPaths() const { return plainPaths; }
 
  private:
     bool translatePaths;
     bool batchSafe = true;
+    bool plainPaths = true;
     std::string text;
     std::string batchText;
     std::vector<std::string> words;

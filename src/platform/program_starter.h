@@ -1,6 +1,8 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -31,6 +33,12 @@ class ProgramStarter {
     // How this host runs a program: false, and the launcher writes start files for cmd.exe; true,
     // and it writes them for /bin/sh (words in single quotes, lines ended by LF).
     virtual bool UsesShell() const = 0;
+
+    // The bytes of a start file for cmd.exe, in the code page in which it reads them. Empty: that
+    // code page does not hold every character of the text.
+    virtual std::optional<std::string> StartFileBytes(std::string_view text) const {
+        return std::string(text);
+    }
 
     // A program by its bare name, where the system's search path finds it; empty where it does not.
     virtual std::string FindInPath(const std::string&) const { return {}; }

@@ -93,6 +93,10 @@ std::optional<std::string> EscapeForCmd(std::string_view word) {
     return escaped;
 }
 
+bool IsPlainForCmd(std::string_view word) {
+    return word.find_first_of("&|<>^%") == std::string_view::npos;
+}
+
 std::string ToWinePath(std::string_view path) {
     if (!path.starts_with('/')) return std::string(path);
     std::string windows = "Z:";

@@ -29,6 +29,9 @@ std::string DoublePercent(std::string_view text);
 // which ends the file).
 std::optional<std::string> EscapeForCmd(std::string_view word);
 
+// The word holds nothing that cmd.exe acts upon once its quotes are gone: none of & | < > ^ %.
+bool IsPlainForCmd(std::string_view word);
+
 // An absolute POSIX path as Windows programs see it under Wine: "/a/b" is "Z:\a\b". Any other text
 // comes back as it is. A name with "\" in it has no such form: its "\" will separate.
 std::string ToWinePath(std::string_view path);

@@ -25,6 +25,9 @@ struct LaunchRoom {
     LaunchRoom(char separator, const std::string& program, const std::string& emulatorName)
         : files(separator) {
         host.starter.usesShell = separator == '/';
+        host.starter.startFileBytes = [this](std::string_view text) {
+            return files.EncodeText(text);
+        };
         form.AppDir = program;
         form.EXE = "Kivu";
         form.ConfigPath = program + "Config" + separator;

@@ -107,6 +107,45 @@ TEST_F(WindowsStart, UmlautsStandInTheSystemsCodePage) {
                                        "se.adf\r\n"));
 }
 
+TEST_F(WindowsStart, CharactersThatTheStartFileCannotHoldGoToADirectStart) {
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    files.AddFile(form.TmpBatName, "Start \"\" old.exe\r\n");
+    host.starter.startFileBytes = [](std::string_view) { return std::nullopt; };
+    Launch("D:\\\xE4\xB8\xAD.adf");
+    ASSERT_EQ(host.starter.runs.size(), 1U);
+    EXPECT_FALSE(host.starter.runs[0].request.startFile);
+    EXPECT_THAT(host.starter.runs[0].request.command, HasSubstr("D:\\\xE4\xB8\xAD.adf"));
+    EXPECT_EQ(StartFile(), "(no file)");
+}
+
+// "Start" runs a batch file in a second command processor, which reads the line once more.
+TEST_F(WindowsStart, BatchEmulatorWithAnOddNameIsStartedDirectly) {
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\nUseQuote=1\r\n");
+    for (const char* emulator : {"C:\\My Emus\\run.bat", "C:\\Emus\\run.CMD", "C:\\Emus\\run"}) {
+        for (const char* game : {"D:\\A & B.zip", "D:\\100%.zip", "D:\\x^y.zip"}) {
+            Emulator(emulator);
+            host.starter.runs.clear();
+            Launch(game);
+            ASSERT_EQ(host.starter.runs.size(), 1U);
+            EXPECT_FALSE(host.starter.runs[0].request.startFile) << emulator << game;
+        }
+    }
+    Emulator("C:\\R&D\\run.bat");
+    Launch("D:\\Game.zip");
+    EXPECT_FALSE(host.starter.runs.back().request.startFile);
+}
+
+TEST_F(WindowsStart, BatchEmulatorWithPlainNamesRunsFromTheStartFile) {
+    Profile(
+        "WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\nUseQuote=1\r\n"
+        "EmulatorParameter=-x & y\r\n");
+    Emulator("C:\\My Emus\\run.bat");
+    Launch("D:\\My Roms\\Super Game.zip");
+    EXPECT_THAT(StartFile(), HasSubstr("Start \"\" \"C:\\My Emus\\run.bat\" -x & y "
+                                       "\"D:\\My Roms\\Super Game.zip\"\r\n"));
+    EXPECT_TRUE(host.starter.runs[0].request.startFile);
+}
+
 TEST_F(WindowsStart, LaunchStoresItsDefaultsButNoStartScript) {
     Launch("D:\\Game.adf");
     const std::string profile = files.BytesOf(form.IniPath);

@@ -88,6 +88,13 @@ TEST(QuoteForShell, ComesThroughARealShellUnchanged) {
     EXPECT_EQ(ShellOutput("printf '[%s]'" + words), expected);
 }
 
+TEST(IsPlainForCmd, FindsWhatIsActedUponAlsoInQuotes) {
+    EXPECT_TRUE(IsPlainForCmd("\"D:\\My Roms\\Super (Game)'s; a,b=c!.zip\""));
+    EXPECT_TRUE(IsPlainForCmd(""));
+    for (const char c : "&|<>^%"s)
+        EXPECT_FALSE(IsPlainForCmd("\"D:\\a "s + c + " b.zip\"")) << c;
+}
+
 TEST(EscapeForCmd, LeavesAHarmlessWord) {
     EXPECT_EQ(EscapeForCmd("D:\\MYROMS~1\\SUPERG~1.ZIP"), "D:\\MYROMS~1\\SUPERG~1.ZIP");
     EXPECT_EQ(EscapeForCmd("\"D:\\My Roms\\Super Game.zip\""), "\"D:\\My Roms\\Super Game.zip\"");

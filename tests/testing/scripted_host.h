@@ -8,6 +8,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 #include <vector>
@@ -247,6 +248,9 @@ class ScriptedStarter : public platform::ProgramStarter {
         return result;
     }
     bool UsesShell() const override { return usesShell; }
+    std::optional<std::string> StartFileBytes(std::string_view text) const override {
+        return startFileBytes ? startFileBytes(text) : std::string(text);
+    }
     std::string FindInPath(const std::string& program) const override {
         const auto found = path.find(program);
         return found == path.end() ? "" : found->second;
@@ -262,6 +266,7 @@ class ScriptedStarter : public platform::ProgramStarter {
     std::function<void(const platform::StartRequest&)> onRun;
     std::error_code result;
     bool usesShell = true;
+    std::function<std::optional<std::string>(std::string_view)> startFileBytes;  // unset: UTF-8
     std::map<std::string, std::string> path;  // programs on the search path, by their bare names
 };
 
