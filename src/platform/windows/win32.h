@@ -2,7 +2,14 @@
 
 // windows.h without those of its macros that would rename routines of the launcher: each stands for
 // the wide form of a call, which is called by its own name here.
+// The others need the first.
+// clang-format off
 #include <windows.h>
+#include <objbase.h>
+#include <sddl.h>
+#include <shellapi.h>
+#include <tlhelp32.h>
+// clang-format on
 
 #undef CreateDirectory
 #undef DeleteFile

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/desktop.h"
+#include "platform/windows/handle.h"
+#include "platform/windows/win32.h"
+
+namespace kivu::platform {
+
+// One instance for each user and program name, within a session. The first one holds a named mutex,
+// which goes with its process whatever becomes of it, and a hidden window of its own for calls. A
+// later one finds that window and sends it a message. Neither the class nor the title of the
+// visible window would do: the class is the toolkit's and changes with it, and the title is a
+// running progress report.
+class WindowsInstance : public Instance {
+ public:
+    explicit WindowsInstance(const std::string& programName);
+    ~WindowsInstance() override;
+    WindowsInstance(const WindowsInstance&) = delete;
+    WindowsInstance& operator=(const WindowsInstance&) = delete;
+
+    // False: this is the first one, and it hears calls from now on while the thread that asked
+    // serves its messages. The title plays no part. Where the system refuses a mutex, every
+    // instance is a first one.
+    bool HandOver(const std::string& title) override;
+    void OnSummoned(std::function<void()> summon) override;
+
+ private:
+    static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
+    bool BecomeFirst();
+    bool Call() const;
+    void Summoned();
+
+    std::wstring name;  // of the mutex, and title of the window
+    Handle mutex;
+    HWND window = nullptr;
+    std::function<void()> summon;
+    bool missedSummons = false;  // a call came before there was somebody to tell
+};
+
+}  // namespace kivu::platform
