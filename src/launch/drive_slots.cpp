@@ -36,8 +36,9 @@ void DriveSlots::FillFromFile() {
     Empty();
     if (smart) {
         const std::vector<int> chosen = form.UAE_Short.SelectedRows();
-        for (const int row : chosen) {
-            if (row != form.UAE_Short.ListIndex()) form.UAE_Short.SetSelected(row, false);
+        // From the end, where a row goes out of a long choice without moving the others.
+        for (auto row = chosen.rbegin(); row != chosen.rend(); ++row) {
+            if (*row != form.UAE_Short.ListIndex()) form.UAE_Short.SetSelected(*row, false);
         }
         // Also after a click that has taken its mark away.
         form.UAE_Short.SetSelected(form.UAE_Short.ListIndex(), true);
@@ -103,6 +104,7 @@ int DriveSlots::SmartRomSelection() {
 void DriveSlots::Empty() {
     for (std::size_t drive = 0; drive < form.Check_Dfx.size(); ++drive) {
         form.Check_Dfx[drive].SetValue(0);
+        form.Check_Dfx[drive].SetToolTipText("");
         form.DiskSlots[drive].clear();
     }
 }

@@ -55,8 +55,8 @@ std::string StartConfiguration(const UaeStart& start) {
         AddLine(text, "gfx_fullscreen=True");
     }
     const bool romKnown = text.find(romKey) != std::string::npos;
-    if (!start.rom.empty() && !romKnown && FitsOneLine(start.rom))
-        AddLine(text, romKey, support::Trim(start.rom));
+    if (start.rom && !romKnown && FitsOneLine(*start.rom))
+        AddLine(text, romKey, support::Trim(*start.rom));
     for (std::size_t drive = 0; drive < start.floppies.size(); ++drive) {
         const std::string& disk = start.floppies[drive];
         if (disk.empty() || !FitsOneLine(disk)) continue;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -15,7 +16,7 @@ std::string DefaultMasterConfiguration();
 struct UaeStart {
     std::string_view master;  // whole file; empty when there is none
     bool fullscreen = false;
-    std::string rom;                      // empty: none
+    std::optional<std::string> rom;       // none: no line
     std::array<std::string, 5> floppies;  // as they are to stand there; empty: no disk
 };
 

@@ -225,6 +225,21 @@ TEST_F(Drives, ClickEmptiesTheDrivesOfTheGameBefore) {
     Click(2);
     EXPECT_THAT(Slots(), ElementsAre(2, -1, -1, -1, -1));
     EXPECT_THAT(Ticks(), ElementsAre(1, 0, 0, 0, 0));
+    EXPECT_EQ(form.Check_Dfx[0].ToolTipText(), "Entirely Other.adf");
+    EXPECT_EQ(form.Check_Dfx[1].ToolTipText(), "");
+}
+
+TEST_F(Drives, LongChoiceShrinksToTheClickedRow) {
+    Smart("1");
+    Disks(40);
+    form.ShortListHasFocus = true;
+    for (const int row : {0, 17, 39}) {
+        form.UAE_Short.ClickRow(0);
+        form.UAE_Short.ClickRow(39, forms::Choice::extend);
+        ASSERT_EQ(form.UAE_Short.SelCount(), 40);
+        Click(row, forms::Choice::addRange);
+        EXPECT_THAT(form.UAE_Short.SelectedRows(), ElementsAre(row));
+    }
 }
 
 TEST_F(Drives, HandSelectionTicksBoxesAndLeavesTheDrivesEmpty) {

@@ -42,7 +42,7 @@ void CheckCombination(const Master& master, bool fullscreen, const char* rom, un
     UaeStart start;
     start.master = master.bytes;
     start.fullscreen = fullscreen;
-    start.rom = rom;
+    if (*rom != 0) start.rom = rom;
     for (std::size_t drive = 0; drive < 5; ++drive) {
         if (filled >> drive & 1) start.floppies[drive] = disks[drive];
     }
@@ -105,6 +105,12 @@ TEST(StartConfiguration, PutsItsOwnLinesBehindThoseOfTheMaster) {
     EXPECT_EQ(StartConfiguration(start),
               "\r\ngfx_fullscreen=False\r\ngfx_fullscreen_amiga=True\r\ngfx_fullscreen=True\r\n"
               "kickstart_rom_file=k.rom\r\nfloppy0=a.adf\r\nfloppy1=b.adf\r\n");
+}
+
+TEST(StartConfiguration, RomOfBlanksIsALineWithoutAPath) {
+    UaeStart start;
+    start.rom = "  ";
+    EXPECT_EQ(StartConfiguration(start), "\r\nkickstart_rom_file=\r\n");
 }
 
 TEST(StartConfiguration, TrimsTheRomAndOnlyIt) {

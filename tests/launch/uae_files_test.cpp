@@ -159,6 +159,15 @@ TEST_F(LinuxRoom, GapsStayEmptyAndTheSixthSlotIsNeverWritten) {
     EXPECT_EQ(form.DiskSlots[1], "/b.adf");
 }
 
+TEST_F(LinuxRoom, OnlyTheEmptyTextMeansThatThereIsNoRom) {
+    for (const bool windowsPaths : {false, true}) {
+        form.TxtKickstartRomFile.SetText("");
+        EXPECT_EQ(Written(windowsPaths), "\r\n");
+        form.TxtKickstartRomFile.SetText("   ");
+        EXPECT_EQ(Written(windowsPaths), "\r\nkickstart_rom_file=\r\n");
+    }
+}
+
 TEST_F(LinuxRoom, NativeEmulatorTakesPlainPaths) {
     form.TxtKickstartRomFile.SetText("/home/jörg/Amiga Roms/kick 1.3.rom");
     form.DiskSlots[0] = "/home/jörg/Käfer König.adf";
