@@ -199,6 +199,10 @@ void UserInput::RightClick(Control& control, std::optional<int> row) {
 }
 
 Key UserInput::KeyDown(Key key) {
+    if (form.Dragged() && key.code == keys::escape) {
+        CancelDrag();
+        return {};
+    }
     Control::Run(form.onPreviewKeyDown, key);
     if (key.code != 0 && form.Focus()) Control::Run(form.Focus()->onKeyDown, key);
     return key;

@@ -73,6 +73,28 @@ TEST_F(Dragging, StepsFindTheTargetBehindTheDraggedControl) {
     EXPECT_EQ(log.size(), 4U);
 }
 
+TEST_F(Dragging, EscapeBringsTheControlBackAndGoesNoFurther) {
+    list.onDragOver = [](Control& source, int x, int y) {
+        source.Move(x, y, source.Width(), source.Height());
+    };
+    form.onPreviewKeyDown = [this](Key& key) { log.push_back(std::to_string(key.code)); };
+    user.MouseDown(panel, {buttons::left, 0, 10, 10});
+    user.DragOver({1200, 2100});
+    EXPECT_EQ(panel.Left(), 1200);
+    user.Stroke({keys::down, 0});
+    EXPECT_EQ(form.Dragged(), &panel);
+    log.clear();
+    user.Stroke({keys::escape, 0});
+    EXPECT_THAT(log, IsEmpty());
+    EXPECT_EQ(form.Dragged(), nullptr);
+    EXPECT_EQ(panel.Left(), 1000);
+    EXPECT_EQ(panel.Top(), 2000);
+    user.Drop({1301, 2201});
+    EXPECT_THAT(log, IsEmpty());
+    user.Stroke({keys::escape, 0});
+    EXPECT_THAT(log, ElementsAre(std::to_string(keys::escape)));
+}
+
 TEST_F(Dragging, StepsTakeTheNearestTargetAroundTheControlInFront) {
     user.MouseDown(panel, {buttons::left, 0, 10, 10});
     user.Drop({5300, 150});
