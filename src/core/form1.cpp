@@ -159,6 +159,7 @@ void Form1::DesignDrives() {
     DrivesResizeLabel.Move(4360, 270, 200, 210);
     DrivesResizeLabel.SetFont({"", 8, true});
     DrivesResizeLabel.SetAlignment(forms::Alignment::center);
+    DrivesResizeLabel.SetToolTipText("Laufwerke ein- und ausklappen");
     DrivesResizeLabel.SetOpaque(true);
     DrivesResizeLabel.SetBackColor(Rgb(0x2a, 0x6c, 0xc8));
     SettingsSubPicture.SetVisible(false);

@@ -20,6 +20,7 @@ void ApplyEnglishCaptions(Form1& form) {
     form.SettingsBtn.SetToolTipText("Options..");
     form.EmuListbox.SetToolTipText("Select emulator");
     form.AppRunningPicture.SetToolTipText("Kill Emulator process");
+    form.DrivesResizeLabel.SetToolTipText("Fold and unfold the drives");
     form.JoystickIcon.SetToolTipText("Joystick / Gamepad navigation aktiv");
 }
 

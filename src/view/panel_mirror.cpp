@@ -49,12 +49,13 @@ class PanelWidget : public QWidget {
     }
 
  private:
-    // What can be dragged about stands out, with a grip at its edge.
+    // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose
+    // rows must not show through.
     void DrawPlate(QPainter& painter) {
         const QColor ink = ToQt(control.ForeColor());
-        QColor plate = ink, line = ink, dots = ink;
-        plate.setAlphaF(0.07F);
-        line.setAlphaF(0.22F);
+        const QColor plate = Mix(ToQt(control.BackColor()).darker(135), ink, 0.05);
+        QColor line = ink, dots = ink;
+        line.setAlphaF(0.3F);
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
         FillRounded(painter, QRectF(rect()), cornerRadius, plate, line);
         if (!picture.Scaled(size(), PictureCache::Fit::stretch).isNull()) return;
