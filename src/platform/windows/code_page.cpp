@@ -15,9 +15,9 @@ bool Fits(std::size_t size) {
     return size <= static_cast<std::size_t>(std::numeric_limits<int>::max() / 4);
 }
 
-// In bytes, or 0: the call does not know the code page, or not these flags with it.
-int ToBytes(unsigned codePage, DWORD flags, std::wstring_view wide, std::string& bytes) {
-    const char* replacement = "?";
+// In bytes, or 0: the call does not know the code page, or not these arguments with it.
+int ToBytes(unsigned codePage, DWORD flags, const char* replacement, std::wstring_view wide,
+            std::string& bytes) {
     const int length = static_cast<int>(wide.size());
     const int needed = ::WideCharToMultiByte(codePage, flags, wide.data(), length, nullptr, 0,
                                              replacement, nullptr);
@@ -47,9 +47,9 @@ std::string EncodeInCodePage(std::string_view text, unsigned codePage) {
     const std::wstring wide = Wide(text);
     if (!Fits(wide.size())) return support::ToWindows1252(text);
     std::string bytes;
-    if (ToBytes(codePage, WC_NO_BEST_FIT_CHARS, wide, bytes) > 0) return bytes;
-    // A few code pages hold every character and refuse the flag.
-    if (ToBytes(codePage, 0, wide, bytes) > 0) return bytes;
+    if (ToBytes(codePage, WC_NO_BEST_FIT_CHARS, "?", wide, bytes) > 0) return bytes;
+    // A few code pages hold every character and refuse to be told what to do without one.
+    if (ToBytes(codePage, 0, nullptr, wide, bytes) > 0) return bytes;
     return support::ToWindows1252(text);
 }
 

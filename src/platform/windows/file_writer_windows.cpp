@@ -41,16 +41,22 @@ bool IsInUseOrDenied(DWORD error) {
     return IsInUse(error) || error == ERROR_ACCESS_DENIED;
 }
 
-Handle OpenForWriting(const std::wstring& systemPath, DWORD sharing, DWORD disposition) {
+struct Opened {
     Handle file;
-    TryForAMoment(
+    DWORD error = ERROR_SUCCESS;  // why there is no file
+};
+
+Opened OpenForWriting(const std::wstring& systemPath, DWORD sharing, DWORD disposition) {
+    Opened opened;
+    const bool done = TryForAMoment(
         [&] {
-            file = Handle(::CreateFileW(systemPath.c_str(), GENERIC_WRITE, sharing, nullptr,
-                                        disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
-            return static_cast<bool>(file);
+            opened.file = Handle(::CreateFileW(systemPath.c_str(), GENERIC_WRITE, sharing, nullptr,
+                                               disposition, FILE_ATTRIBUTE_NORMAL, nullptr));
+            return static_cast<bool>(opened.file);
         },
         IsInUse);
-    return file;
+    if (!done) opened.error = ::GetLastError();
+    return opened;
 }
 
 std::error_code WriteAll(const Handle& file, std::string_view bytes) {
@@ -137,13 +143,33 @@ class TemporaryFile {
     Handle file;
 };
 
-// A rename asks only the directory, but a user who protects a file means its content: the old file
-// must be one that could be written to.
-std::error_code LookAtOld(const std::wstring& systemPath, Heritage& heritage) {
-    const Handle old = OpenForWriting(
-        systemPath, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
-    if (!old) return LastError();
-    if (!IsDiskFile(old)) return std::make_error_code(std::errc::operation_not_supported);
+// A rename asks only the directory, but a user who protects a file means its content: whatever is
+// replaced or written behind must be a file that can be opened for writing.
+std::error_code CheckOpened(const Opened& opened, const std::wstring& systemPath) {
+    const Handle& file = opened.file;
+    if (!file) {
+        const DWORD attributes = AttributesOf(systemPath);
+        const bool isDirectory =
+            attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+        return isDirectory ? std::make_error_code(std::errc::is_a_directory)
+                           : SystemError(opened.error);
+    }
+    if (!IsDiskFile(file)) return std::make_error_code(std::errc::operation_not_supported);
+    FILE_BASIC_INFO basic{};
+    if (!::GetFileInformationByHandleEx(file.Get(), FileBasicInfo, &basic, sizeof basic))
+        return LastError();
+    // Wine opens a read-only file for a user with enough rights.
+    const bool isReadOnly = (basic.FileAttributes & FILE_ATTRIBUTE_READONLY) != 0;
+    return isReadOnly ? SystemError(ERROR_ACCESS_DENIED) : std::error_code();
+}
+
+// Whether an open has failed for want of the file: one of this name may be made.
+bool MayBeMade(const Opened& opened, const std::wstring& systemPath) {
+    return opened.error == ERROR_FILE_NOT_FOUND && !EndsInDeviceName(systemPath) &&
+           !IsLinkAt(systemPath);
+}
+
+std::error_code Inherit(const Handle& old, Heritage& heritage) {
     FILE_BASIC_INFO basic{};
     if (!::GetFileInformationByHandleEx(old.Get(), FileBasicInfo, &basic, sizeof basic))
         return LastError();
@@ -156,29 +182,14 @@ std::error_code LookAtOld(const std::wstring& systemPath, Heritage& heritage) {
     return {};
 }
 
-std::error_code WhyNotToWrite(DWORD attributes) {
-    if ((attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
-        return std::make_error_code(std::errc::is_a_directory);
-    // Not every system and disk sees to it by itself.
-    return (attributes & FILE_ATTRIBUTE_READONLY) != 0 ? SystemError(ERROR_ACCESS_DENIED)
-                                                       : std::error_code();
-}
-
 // The file that is to be replaced, behind all links, and what it hands on.
 std::error_code FindTarget(std::wstring& systemPath, Heritage& heritage) {
-    const DWORD attributes = ::GetFileAttributesW(systemPath.c_str());
-    if (attributes == INVALID_FILE_ATTRIBUTES) {
-        if (::GetLastError() != ERROR_FILE_NOT_FOUND) return LastError();
-        return EndsInDeviceName(systemPath) ? Unusable() : std::error_code();
-    }
-    if (IsLinkAt(systemPath)) {
-        systemPath = FinalPath(systemPath);
-        if (systemPath.empty()) return Unusable();
-    }
-    const DWORD target = AttributesOf(systemPath);
-    if (target == INVALID_FILE_ATTRIBUTES) return Unusable();
-    if (const auto failure = WhyNotToWrite(target)) return failure;
-    return LookAtOld(systemPath, heritage);
+    const Opened old = OpenForWriting(
+        systemPath, FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
+    if (MayBeMade(old, systemPath)) return {};
+    if (const auto failure = CheckOpened(old, systemPath)) return failure;
+    if (IsLinkAt(systemPath)) systemPath = FinalPath(systemPath);
+    return systemPath.empty() ? Unusable() : Inherit(old.file, heritage);
 }
 
 }  // namespace
@@ -194,18 +205,15 @@ std::error_code WriteWhole(const std::wstring& systemPath, std::string_view byte
 }
 
 std::error_code WriteBehind(const std::wstring& systemPath, std::string_view bytes) {
-    const DWORD attributes = AttributesOf(systemPath);
-    const bool isNew = attributes == INVALID_FILE_ATTRIBUTES;
-    if (isNew && EndsInDeviceName(systemPath)) return Unusable();
-    if (const auto failure = WhyNotToWrite(attributes); !isNew && failure) return failure;
-
-    Handle file = OpenForWriting(systemPath, FILE_SHARE_READ, isNew ? CREATE_NEW : OPEN_EXISTING);
-    if (!file) return LastError();
-    if (!IsDiskFile(file)) return std::make_error_code(std::errc::operation_not_supported);
+    Opened opened = OpenForWriting(systemPath, FILE_SHARE_READ, OPEN_EXISTING);
+    const bool isNew = MayBeMade(opened, systemPath);
+    if (isNew) opened = OpenForWriting(systemPath, FILE_SHARE_READ, CREATE_NEW);
+    if (const auto failure = CheckOpened(opened, systemPath)) return failure;
+    Handle& file = opened.file;
     LARGE_INTEGER end{};
     if (!::SetFilePointerEx(file.Get(), {}, &end, FILE_END)) return LastError();
 
-    auto failure = WriteAll(file, bytes);
+    const auto failure = WriteAll(file, bytes);
     if (!failure) return file.Close() ? std::error_code() : LastError();
     if (::SetFilePointerEx(file.Get(), end, nullptr, FILE_BEGIN)) ::SetEndOfFile(file.Get());
     file.Close();
