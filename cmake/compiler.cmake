@@ -10,6 +10,13 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LES
   endforeach()
 endif()
 
+if(WIN32)
+  # Wide-character calls of Windows 10 and later, and no DLL of the compiler's.
+  target_compile_definitions(kivu_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
+                                                    _WIN32_WINNT=0x0A00)
+  target_link_options(kivu_options INTERFACE -static)
+endif()
+
 if(KIVU_SANITIZE)
   target_compile_options(kivu_options INTERFACE -fsanitize=${KIVU_SANITIZE} -fno-omit-frame-pointer
                                                 -fno-sanitize-recover=all)
@@ -30,16 +37,47 @@ function(kivu_library name folder)
   endif()
 endfunction()
 
+# kivu_test_sources(variable folder patterns...): the folder's sources that hold on this host.
+# tests/not_on_windows.txt lists those that don't on Windows, as a pattern and a reason a line.
+function(kivu_test_sources variable folder)
+  list(TRANSFORM ARGN PREPEND ${PROJECT_SOURCE_DIR}/tests/${folder}/ OUTPUT_VARIABLE patterns)
+  file(GLOB sources CONFIGURE_DEPENDS ${patterns})
+  if(WIN32)
+    set(list ${PROJECT_SOURCE_DIR}/tests/not_on_windows.txt)
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${list})
+    file(STRINGS ${list} lines REGEX "^[^#]")
+    foreach(line IN LISTS lines)
+      string(REGEX MATCH "^[^ ]+" pattern "${line}")
+      file(GLOB left_out ${PROJECT_SOURCE_DIR}/tests/${pattern})
+      list(REMOVE_ITEM sources ${left_out})
+    endforeach()
+  endif()
+  set(${variable} ${sources} PARENT_SCOPE)
+endfunction()
+
+# kivu_add_tests(name seconds [environment...]): the program's tests, each as a test of CTest. Where they run
+# in an emulator of Windows, whose start costs more than most tests, the program is one test.
+function(kivu_add_tests name seconds)
+  if(CMAKE_CROSSCOMPILING)
+    add_test(NAME ${name} COMMAND ${name})
+    math(EXPR seconds "${seconds} * 5")
+    set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "${ARGN}")
+  else()
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
+                         PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "${ARGN}")
+  endif()
+endfunction()
+
 # kivu_test(folder [libraries...]): one GoogleTest program of all sources in tests/folder.
 function(kivu_test folder)
-  file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/tests/${folder}/*_test.cpp)
+  kivu_test_sources(sources ${folder} *_test.cpp)
   if(NOT sources)
     return()
   endif()
   string(REPLACE "/" "_" name kivu_test_${folder})
   add_executable(${name} ${sources})
-  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+  target_include_directories(${name} PRIVATE ${KIVU_TEST_INCLUDES})
   target_link_libraries(${name} PRIVATE ${ARGN} GTest::gmock GTest::gtest_main)
   target_precompile_headers(${name} PRIVATE <string> <vector> <gtest/gtest.h>)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+  kivu_add_tests(${name} 120)
 endfunction()

@@ -27,6 +27,9 @@ for size in 16 24 32 48 64 128 256 512; do
         "$assets/svg/$drawing.svg"
 done
 
+# The icon of the Windows program.
+convert "$assets"/icon/kivu-{16,24,32,48,64,128,256}.png "$assets/icon/kivu.ico"
+
 for drawing in "$assets"/svg/*.svg; do
     name=$(basename -- "$drawing" .svg)
     case $name in kivu | kivu-small) continue ;; esac

@@ -22,7 +22,8 @@ bool IsAbsolute(const std::string& path) {
 
 std::string CommandLineText(std::vector<std::string> arguments, const std::string& directory,
                             const std::function<bool(const std::string&)>& fileExists) {
-    const std::string base = directory.ends_with('/') ? directory : directory + "/";
+    const char separator = directory.find('\\') == std::string::npos ? '/' : '\\';
+    const std::string base = directory.ends_with(separator) ? directory : directory + separator;
     const auto absolute = [&](const std::string& path) {
         const bool ours = !path.empty() && !IsAbsolute(path) && fileExists(base + path);
         return ours ? base + path : path;

@@ -3,7 +3,6 @@
 #include <functional>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "platform/host.h"
 
@@ -13,8 +12,8 @@ namespace kivu::app {
 // Needs a QApplication.
 class DesktopHost {
  public:
-    // The user's arguments, without those that the toolkit has taken.
-    explicit DesktopHost(const std::vector<std::string>& arguments);
+    // As given to main, without the arguments that the toolkit has taken.
+    DesktopHost(int argc, char** argv);
     ~DesktopHost();
 
     platform::Host Services();

@@ -35,10 +35,10 @@ struct DesktopHost::Parts {
     std::unique_ptr<QSocketNotifier> calls;
 };
 
-DesktopHost::DesktopHost(const std::vector<std::string>& arguments)
-    : parts(std::make_unique<Parts>()) {
+// The arguments byte for byte: a file name need not be text.
+DesktopHost::DesktopHost(int argc, char** argv) : parts(std::make_unique<Parts>()) {
     parts->commandLine =
-        CommandLineText(arguments, parts->files.CurrentDirectory(),
+        CommandLineText({argv + 1, argv + argc}, parts->files.CurrentDirectory(),
                         [this](const std::string& path) { return parts->files.FileExists(path); });
 }
 

@@ -4,7 +4,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <string>
-#include <vector>
 
 #include "app/desktop_host.h"
 #include "view/form_view.h"
@@ -35,7 +34,7 @@ int main(int argc, char** argv) {
     kivu::view::PreloadPicture(":/background");
     kivu::view::ApplyStyle();
 
-    kivu::app::DesktopHost host(std::vector<std::string>(argv + 1, argv + argc));
+    kivu::app::DesktopHost host(argc, argv);
     const kivu::view::TextMeasure measure;
     kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce);
     launcher.Start();

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/ini.h"
-#include "platform/linux/file_system_linux.h"
+#include "host_files.h"
 #include "platform/temporary_directory.h"
 #include "testing/faulty_file_system.h"
 
@@ -17,7 +17,7 @@ using testing::TemporaryDirectory;
 class IniDiskTest : public ::testing::Test {
  protected:
     TemporaryDirectory directory;
-    platform::LinuxFileSystem disk;
+    testing::HostFileSystem disk;
     FaultyFileSystem faulty{disk};
     Ini ini{faulty};
     const std::string path = directory.Path("Kivu.ini");

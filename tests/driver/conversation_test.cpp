@@ -4,7 +4,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
-#include "platform/linux/file_system_linux.h"
+#include "host_files.h"
 #include "platform/temporary_directory.h"
 
 namespace kivu::driver {
@@ -40,7 +40,7 @@ class ConversationTest : public ::testing::Test {
 
     TemporaryDirectory directory;
     std::filesystem::path before = std::filesystem::current_path();
-    platform::LinuxFileSystem files;
+    testing::HostFileSystem files;
     Session session{files, Options{directory.Root()}};
     Interpreter interpreter{session};
     std::deque<std::string> lines;

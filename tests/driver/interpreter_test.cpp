@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
-#include "platform/linux/file_system_linux.h"
+#include "host_files.h"
 #include "platform/temporary_directory.h"
 
 namespace kivu::driver {
@@ -25,7 +25,7 @@ class InterpreterTest : public ::testing::Test {
     }
 
     TemporaryDirectory directory;
-    platform::LinuxFileSystem files;
+    testing::HostFileSystem files;
     Session session{files, Options{directory.Root()}};
     Interpreter interpreter{session};
     std::filesystem::path before = std::filesystem::current_path();

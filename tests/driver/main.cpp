@@ -6,7 +6,7 @@
 
 #include "driver/command_line.h"
 #include "driver/conversation.h"
-#include "platform/linux/file_system_linux.h"
+#include "host_files.h"
 
 int main(int count, char** values) {
     using namespace kivu;
@@ -18,7 +18,7 @@ int main(int count, char** values) {
         std::cerr << "kivu-drive: " << error << "\n" << driver::usage;
         return 2;
     }
-    platform::LinuxFileSystem files;
+    kivu::testing::HostFileSystem files;
     driver::Session session(files, *options);
     driver::Interpreter interpreter(session);
     const auto next = []() -> std::optional<std::string> {

@@ -6,8 +6,8 @@
 #include <map>
 
 #include "favourites_testing.h"
+#include "host_files.h"
 #include "killed_process.h"
-#include "platform/linux/file_system_linux.h"
 #include "platform/temporary_directory.h"
 #include "testing/faulty_file_system.h"
 
@@ -97,7 +97,7 @@ class WholeStoreTest : public ::testing::Test {
     }
 
     TemporaryDirectory directory;
-    platform::LinuxFileSystem disk;
+    testing::HostFileSystem disk;
 };
 
 TEST_F(WholeStoreTest, FullDiskAtAnyStepOfAnyWriteLeavesTheOldStore) {

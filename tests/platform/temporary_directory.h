@@ -3,19 +3,16 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdlib.h>
 #include <string>
+
+#include "testing/new_directory.h"
 
 namespace kivu::testing {
 
 // A directory of the test's own that goes away with it.
 class TemporaryDirectory {
  public:
-    TemporaryDirectory() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "kivu-test-XXXXXX").string();
-        root = ::mkdtemp(pattern.data());
-    }
+    TemporaryDirectory() { root = NewDirectory(std::filesystem::temp_directory_path()); }
     ~TemporaryDirectory() {
         std::error_code ignored;
         std::filesystem::remove_all(root, ignored);
@@ -24,15 +21,15 @@ class TemporaryDirectory {
     TemporaryDirectory& operator=(const TemporaryDirectory&) = delete;
 
     const std::string& Root() const { return root; }
-    std::string Path(const std::string& name) const { return root + "/" + name; }
+    std::string Path(const std::string& name) const { return HostPath(root + "/" + name); }
 
     std::string Write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(Path(name), std::ios::binary) << bytes;
+        std::ofstream(std::filesystem::path(Path(name)), std::ios::binary) << bytes;
         return Path(name);
     }
     std::string Read(const std::string& name) const {
         std::ostringstream bytes;
-        bytes << std::ifstream(Path(name), std::ios::binary).rdbuf();
+        bytes << std::ifstream(std::filesystem::path(Path(name)), std::ios::binary).rdbuf();
         return bytes.str();
     }
     std::size_t Count() const {

@@ -3,10 +3,11 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <stdlib.h>
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "testing/new_directory.h"
 
 namespace kivu::scenarios {
 
@@ -19,10 +20,7 @@ class ProgramDirectory {
     ProgramDirectory() {
         namespace fs = std::filesystem;
         const fs::path memory = "/dev/shm";
-        std::string pattern =
-            ((fs::is_directory(memory) ? memory : fs::temp_directory_path()) / "kivu-XXXXXX")
-                .string();
-        root = ::mkdtemp(pattern.data());
+        root = testing::NewDirectory(fs::is_directory(memory) ? memory : fs::temp_directory_path());
     }
     ~ProgramDirectory() {
         std::error_code ignored;
@@ -32,16 +30,16 @@ class ProgramDirectory {
     ProgramDirectory& operator=(const ProgramDirectory&) = delete;
 
     const std::string& Root() const { return root; }
-    std::string Path(const std::string& name) const { return root + "/" + name; }
+    std::string Path(const std::string& name) const { return testing::HostPath(root + "/" + name); }
 
     std::string Write(const std::string& name, const std::string& bytes = {}) const {
         std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
-        std::ofstream(Path(name), std::ios::binary) << bytes;
+        std::ofstream(std::filesystem::path(Path(name)), std::ios::binary) << bytes;
         return Path(name);
     }
     std::string Read(const std::string& name) const {
         std::ostringstream bytes;
-        bytes << std::ifstream(Path(name), std::ios::binary).rdbuf();
+        bytes << std::ifstream(std::filesystem::path(Path(name)), std::ios::binary).rdbuf();
         return bytes.str();
     }
     bool Exists(const std::string& name) const { return std::filesystem::exists(Path(name)); }

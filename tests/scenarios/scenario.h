@@ -6,7 +6,7 @@
 #include <string>
 
 #include "driver/interpreter.h"
-#include "platform/linux/file_system_linux.h"
+#include "host_files.h"
 #include "scenarios/program_directory.h"
 #include "testing/faulty_file_system.h"
 
@@ -58,7 +58,7 @@ class Scenario : public ::testing::Test {
     driver::Options options;
     // Changes the scripted host in front of the start.
     std::function<void(driver::Session&)> prepare;
-    platform::LinuxFileSystem disk;
+    testing::HostFileSystem disk;
     testing::FaultyFileSystem files{disk};
     std::unique_ptr<driver::Session> session;
     std::unique_ptr<driver::Interpreter> interpreter;

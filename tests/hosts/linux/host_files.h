@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/linux/file_system_linux.h"
+
+namespace kivu::testing {
+
+// The real files of the host that the tests run on.
+using HostFileSystem = platform::LinuxFileSystem;
+
+}  // namespace kivu::testing
