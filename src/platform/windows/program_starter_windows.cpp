@@ -11,6 +11,7 @@
 #include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
 #include "support/run_file.h"
+#include "support/text.h"
 
 namespace kivu::platform {
 
@@ -47,6 +48,11 @@ bool IsFile(const std::wstring& path) {
 
 bool IsBareName(std::string_view name) {
     return name.find_first_of("\\/:") == std::string_view::npos;
+}
+
+bool IsProgramFile(const std::string& path) {
+    const std::string name = support::ToLower(path);
+    return name.ends_with(".exe") || name.ends_with(".com");
 }
 
 // A command text, taken apart.
@@ -160,8 +166,10 @@ std::error_code RunBatch(const StartRequest& request, const Command& command) {
 std::error_code RunProgram(const StartRequest& request, const Command& command) {
     const std::string commandLine = "\"" + command.program + "\"" + command.arguments;
     const auto failure = CreateIn(request, Wide(command.program), Wide(commandLine));
-    const bool forTheShell =
-        failure == Failure(ERROR_BAD_EXE_FORMAT) || failure == Failure(elevationRequired);
+    // A broken program would come back from the shell, with a box on the way.
+    const bool isDocument =
+        failure == Failure(ERROR_BAD_EXE_FORMAT) && !IsProgramFile(command.program);
+    const bool forTheShell = isDocument || failure == Failure(elevationRequired);
     return forTheShell ? OpenByShell(request, command) : failure;
 }
 
@@ -177,8 +185,9 @@ std::wstring SearchedDirectories() {
 }
 
 bool IsAbsolute(std::wstring_view directory) {
-    return directory.starts_with(L"\\\\") || directory.substr(1).starts_with(L":\\") ||
-           directory.substr(1).starts_with(L":/");
+    if (directory.starts_with(L"\\\\")) return true;
+    return directory.size() > 2 && directory[1] == L':' &&
+           (directory[2] == L'\\' || directory[2] == L'/');
 }
 
 // Empty: it is not there.
