@@ -1,0 +1,66 @@
+#!/usr/bin/env bash
+# Takes Kivu.exe under Wine through a game on a virtual display, by key presses and clicks alone:
+#
+#     scripts/windows/tour.sh KIVU_EXE EMULATOR_EXE [SCREENSHOT_DIR]
+#
+# The emulator is any program that stays until it is ended. Leaves numbered screenshots, and fails when a step does
+# not come about. LANG sets the language as usual.
+set -euo pipefail
+
+kivu_exe=$(realpath "$1")
+emulator_exe=$(realpath "$2")
+here=$(cd "$(dirname "$0")/../.." && pwd)
+shots=${3:-$here/tour/windows}
+. "$here/scripts/screen.sh"
+
+export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" LANG=${LANG:-C.UTF-8}
+export WINEPREFIX="${WINEPREFIX:-$work/prefix}"
+unset QT_QPA_PLATFORM
+
+Finish() {
+  wineserver -k 2>/dev/null || true
+  StopScreen
+}
+trap Finish EXIT
+
+# Three games with odd names, one of two disks, below a directory with a blank.
+program_dir="$work/Kivu & more"
+games="$program_dir/Games of (1990)"
+config="$program_dir/Config/Test Machine"
+mkdir -p "$games/Ärger" "$config" "$program_dir/Emulators"
+cp "$kivu_exe" "$program_dir/Kivu.exe"
+cp "$emulator_exe" "$program_dir/Emulators/machine.exe"
+for game in 'Moon & Miner (1990)(Kivu)(Disk 1 of 2)' 'Moon & Miner (1990)(Kivu)(Disk 2 of 2)' \
+            'Ärger/100% Ärger (1991)(Kivu)' 'Zebra (1992)(Kivu)'; do
+  printf 'x' >"$games/$game.img"
+done
+# A profile as Windows keeps it: lines ended by CR LF, in the ANSI code page.
+printf '%s\r\n' '[Settings]' 'EmulatorPath=Emulators\machine.exe' 'RomPath=Games of (1990)' 'Dir_Parameter=*.img' \
+  'EmulatorParameterAddDiskPath=1' 'EmulatorParameter=-game ' 'WinUAE_UseMasterConfig=0' >"$config/Kivu.ini"
+
+Emulator() { pgrep -f 'machine\.exe'; }
+NoEmulator() { ! Emulator; }
+
+StartScreen
+wineboot -i >/dev/null 2>&1
+wineserver -w
+
+echo "A tour of Kivu for Windows on a screen of $size:"
+(cd "$program_dir" && exec wine Kivu.exe >"$work/kivu.log" 2>&1) &
+window=""
+FindWindow() {
+  window=$(xdotool search --onlyvisible --class 'kivu.exe' 2>/dev/null | tail -n 1)
+  [ -n "$window" ]
+}
+Until 90 FindWindow || Fail "no window came up: $(cat "$work/kivu.log")"
+Kivu() { pgrep -f '^Kivu\.exe|[\\/]Kivu\.exe'; }
+Shot start "the window after the start"
+start=$last
+
+# The drop-down opens the long list; its only emulator is chosen by keys.
+Click 110 52
+Shot emulators "the emulators found"
+[ "$(Difference "$start" "$last")" -gt 3000 ] || Fail "the list of emulators did not open"
+xdotool key Return
+ChosenEmulator() { grep -q '^LastEmulator=Test Machine' "$program_dir/Config/Kivu.ini"; }
+Until 30 ChosenEmulator || Fail "the emulator was not chosen"

@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Builds Kivu and its tests for Windows and runs them under Wine. Arguments go to ctest (for example -R launch).
+set -euo pipefail
+cd "$(dirname "$0")"
+
+. scripts/windows/prepare.sh
+cmake --build --preset windows
+scripts/windows/check-program.sh build/windows/program/Kivu.exe
+
+# A Windows of our own, new at each run, without Wine's messages and without the offer of a browser engine.
+WINEPREFIX="$(mktemp -d)"
+export WINEPREFIX WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" QT_QPA_PLATFORM=offscreen
+trap 'wineserver -k || true; rm -rf "$WINEPREFIX"' EXIT
+scripts/install-packages.sh screen
+xvfb-run -a wineboot -i >/dev/null 2>&1
+wineserver -w
+
+status=0
+ctest --preset windows -j "$(nproc)" "$@" || status=$?
+
+echo "== not run on Windows, and why"
+sed -n '/^[^#]/p' tests/not_on_windows.txt
+for report in build/windows/reports/*.xml; do
+  scripts/windows/skipped-tests.sh "$report"
+done
+exit "$status"
