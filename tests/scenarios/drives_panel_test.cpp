@@ -22,9 +22,55 @@ class DrivesPanel : public DrivesScenario {
     }
 };
 
-TEST_F(DrivesPanel, IsThereWithTheSmartSelectionAlone) {
+TEST_F(DrivesPanel, IsThereWithTheSmartSelectionAndWithHands) {
     Start();
     EXPECT_TRUE(Visible("SettingsSubPicture"));
+    WriteProfile({{"SmartRomSelection", "0"}});
+    Start();
+    EXPECT_TRUE(Visible("SettingsSubPicture"));
+    // The settings alone hide it; the end of the busy state brings it back.
+    Call("LoadSettings");
+    EXPECT_FALSE(Visible("SettingsSubPicture"));
+}
+
+TEST_F(DrivesPanel, EachTargetAddsItsOwnPlaceOrThatOfItsFrame) {
+    Start();
+    for (const char* shown : {"VorschauBild", "GamePicture", "GamePictureVis", "LoadingBtn",
+                              "Current_ProgramNameFull", "FavoritenListe", "UAE_Short"})
+        Do("set", std::string("Form1.") + shown + ".Visible", true);
+    const std::pair<const char*, std::vector<const char*>> targets[] = {
+        {"GamePicture", {"VorschauBild"}},      {"GamePictureVis", {"VorschauBild"}},
+        {"VorschauBild", {"VorschauBild"}},     {"Current_ProgramNameFull", {"SettingsFrame"}},
+        {"SettingsFrame", {"SettingsFrame"}},   {"TimeString", {"TopRightPic", "TimeString"}},
+        {"TopRightPic", {"TopRightPic"}},       {"FavoritenListe", {"FavoritenListe"}},
+        {"MyCaptionLabel", {"MyCaptionLabel"}}, {"LoadingBtn", {"LoadingBtn"}},
+        {"UAE_Short", {"UAE_Short"}},           {"WIthoutDoubles", {"WIthoutDoubles"}}};
+    for (const auto& [target, origins] : targets) {
+        Do("set", std::string(panel) + ".Left", 3000);
+        Do("set", std::string(panel) + ".Top", 2000);
+        int x = 150, y = 90;
+        for (const char* origin : origins) {
+            x += Number(std::string(origin) + ".Left");
+            y += Number(std::string(origin) + ".Top");
+        }
+        const auto expected = Expected(x, y, 30, 40);
+        Do("drag", panel, std::string("Form1.") + target, 150, 90, 30, 40);
+        EXPECT_EQ(Place(), expected) << target;
+    }
+}
+
+TEST_F(DrivesPanel, PanelBeyondTheLeftOrTheTopComesBackInside) {
+    Start();
+    const int width = Number("SettingsSubPicture.Width");
+    const int height = Number("SettingsSubPicture.Height");
+    Do("set", std::string(panel) + ".Left", -width);
+    Do("set", std::string(panel) + ".Top", -height);
+    Do("resize", "Form1", 14000, 10000);
+    EXPECT_EQ(Place(), std::make_pair(200, 200));
+    // What can still be grabbed stays where it is.
+    Do("set", std::string(panel) + ".Left", 300 - width);
+    Do("resize", "Form1", 14100, 10000);
+    EXPECT_EQ(Place(), std::make_pair(300 - width, 200));
 }
 
 TEST_F(DrivesPanel, DropMovesItToTheListsPlaceLessTheGrip) {
