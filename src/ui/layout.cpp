@@ -148,6 +148,10 @@ void Layout::KeepDrivesInside() {
     forms::PictureBox& panel = form.SettingsSubPicture;
     if (panel.Left() > form.Width() - 300) panel.SetLeft(form.Width() - panel.Width() - 200);
     if (panel.Top() > form.Height() - 500) panel.SetTop(form.Height() - panel.Height() - 200);
+    // Beyond the other edges nothing would be left to grab it by.
+    constexpr int leastInside = 150;
+    if (panel.Right() < leastInside) panel.SetLeft(200);
+    if (panel.Bottom() < leastInside) panel.SetTop(200);
 }
 
 void Layout::ArrangeLists() {
