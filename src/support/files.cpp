@@ -17,9 +17,12 @@ constexpr const char* shellFolders =
     "HKEY_USERS\\.DEFAULT\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell "
     "Folders\\";
 
-std::optional<std::string> Environment(const std::string& name) {
-    const char* value = std::getenv(name.c_str());
-    return value ? std::optional<std::string>(value) : std::nullopt;
+// Variables hold text in the system code page.
+EnvironmentLookup Environment(const platform::FileSystem& files) {
+    return [&files](const std::string& name) -> std::optional<std::string> {
+        const char* value = std::getenv(name.c_str());
+        return value ? std::optional<std::string>(files.DecodeText(value)) : std::nullopt;
+    };
 }
 
 }  // namespace
@@ -49,7 +52,7 @@ std::string Files::RegistryGetAbsolutValue(const std::string& RegistryKeyPath) c
 }
 
 std::string Files::FolderValue(const std::string& path) const {
-    return ExpandUserProfile(RegistryGetAbsolutValue(path), Environment);
+    return ExpandUserProfile(RegistryGetAbsolutValue(path), Environment(services.files));
 }
 
 std::string Files::GetWindowsPath() const {

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdlib>
 #include <optional>
-#include <stdlib.h>
 #include <string>
+
+#include "environment.h"
 
 namespace kivu::testing {
 
@@ -10,7 +12,7 @@ namespace kivu::testing {
 class EnvironmentVariable {
  public:
     EnvironmentVariable(const char* name, const std::optional<std::string>& value) : name(name) {
-        if (const char* old = ::getenv(name)) before = old;
+        if (const char* old = std::getenv(name)) before = old;
         Assign(value);
     }
     ~EnvironmentVariable() { Assign(before); }
@@ -20,9 +22,9 @@ class EnvironmentVariable {
  private:
     void Assign(const std::optional<std::string>& value) {
         if (value) {
-            ::setenv(name, value->c_str(), 1);
+            SetVariable(name, value->c_str());
         } else {
-            ::unsetenv(name);
+            UnsetVariable(name);
         }
     }
 

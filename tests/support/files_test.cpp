@@ -1,9 +1,9 @@
 #include "support/files.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 #include <map>
 
+#include "platform/environment_variable.h"
 #include "testing/memory_file_system.h"
 
 namespace kivu::support {
@@ -94,9 +94,8 @@ TEST_F(FilesTest, PutsTheUsersDirectoryIntoAFolder) {
     host.values
         ["HKEY_USERS|.DEFAULT\\Software\\Microsoft\\Windows\\CurrentVersion\\Explorer\\User Shell "
          "Folders|Desktop"] = "%USERPROFILE%\\Desktop";
-    ::setenv("USERPROFILE", "C:\\Users\\me", 1);
+    const testing::EnvironmentVariable user("USERPROFILE", "C:\\Users\\me");
     EXPECT_EQ(files.GetDesktopPath(), "C:\\Users\\me\\Desktop");
-    ::unsetenv("USERPROFILE");
     EXPECT_EQ(files.GetStartMenuPath(), "");
 }
 
