@@ -42,7 +42,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     if (!WriteStartFile(run)) return;
     busy.MeCaption("Spiel Läuft");
     pacer.DoEvents();
-    const std::string found = FindStartFile(form.TmpBatName);
+    const std::string found = run.direct ? "" : FindStartFile(form.TmpBatName);
     if (!found.empty()) form.TmpBatName = found;
     form.TmpBatName =
         "\"" + support::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
@@ -143,8 +143,8 @@ bool GameLaunch::WriteStartFile(Run& run) {
     if (!IsProgramFile(run.emulator))
         safe &= run.parameters.HasPlainPaths() && support::IsPlainForCmd(run.emulator);
     const auto bytes = services.starter.StartFileBytes(content);
-    // Written for nobody to run when it is not safe: the emulator is then started directly.
-    const bool written = safe && bytes && !files.WriteFile(form.TmpBatName, *bytes);
+    run.direct = !safe || !bytes;
+    const bool written = !run.direct && !files.WriteFile(form.TmpBatName, *bytes);
     run.startFileFailed = !written || !files.FileExists(form.TmpBatName);
     return true;
 }
@@ -221,7 +221,7 @@ void GameLaunch::StartEmulatorProgram(const Run& run) {
         (void)services.starter.Run(request);
         return;
     }
-    services.beeper.Beep();
+    if (!run.direct) services.beeper.Beep();
     request.command = support::QuoteIfNeeded(run.emulator) + " " +
                       std::string(support::Trim(run.parameters.Text()));
     bool safe = true;

@@ -65,6 +65,7 @@ class GameLaunch {
         bool useMasterConfig = false;
         bool windowsPaths = false;  // a Windows program on a POSIX host
         bool startFileFailed = false;
+        bool direct = false;  // no start file can say it safely
         StartParameters parameters;
     };
 

@@ -116,6 +116,9 @@ TEST_F(WindowsStart, CharactersThatTheStartFileCannotHoldGoToADirectStart) {
     EXPECT_FALSE(host.starter.runs[0].request.startFile);
     EXPECT_THAT(host.starter.runs[0].request.command, HasSubstr("D:\\\xE4\xB8\xAD.adf"));
     EXPECT_EQ(StartFile(), "(no file)");
+    // Nothing has failed.
+    EXPECT_EQ(host.beeper.count, 0);
+    EXPECT_THAT(host.dialogs.shown, IsEmpty());
 }
 
 // "Start" runs a batch file in a second command processor, which reads the line once more.
