@@ -52,9 +52,9 @@ class DrivesScenario : public Scenario {
     // The drives' disks by their file names.
     Json Disks() {
         Json names = Json::array();
-        const Json slots = Get("DiskSlots");
+        const Json held = Get("DiskSlots");
         for (std::size_t drive = 0; drive < 5; ++drive) {
-            const auto path = slots[drive].get<std::string>();
+            const auto path = held[drive].get<std::string>();
             names.push_back(path.substr(path.rfind('/') + 1));
         }
         return names;

@@ -1,6 +1,5 @@
 #pragma once
 
-// In front of the toolkit's headers, whose `slots` is a word of its own.
 #include <QAbstractItemView>
 #include <QCheckBox>
 #include <QCoreApplication>
@@ -12,7 +11,6 @@
 #include "scenarios/drives_collection.h"
 #include "view/form_view.h"
 #include "view/geometry.h"
-#include "view/text_measure.h"
 
 namespace kivu::scenarios {
 
