@@ -65,6 +65,7 @@ void Favoriten::SaveFavoriten() {
         }
         Write(*profile, written++, entry.Name, support::MakeRelativePath(base, entry.FullPath));
     }
+    if (count > 0 && written == 0) return;
     if (count == 0) Write(*profile, 0, "", "");
     // As many keys behind the last one as there are live ones, less one: the last of two favourites
     // leaves its keys behind, and comes back with the next load.
@@ -171,15 +172,18 @@ void Favoriten::Rename(int row, const std::string& Name) {
     const int record = RecordOfRow(row);
     if (record < 0 || unread) return;
     FavoritEntry& entry = entries[static_cast<std::size_t>(record)];
+    entry.Name = Name;
     const auto stored = StoredTexts::Read(ini, files, form.FavoritenIni);
     if (!stored) return;
     // After a gap or a double entry in the file its numbers are not those of the rows until the
     // next save.
     const bool numbered =
         stored->Path(section, PathKey(row), form.BaseDirectory()) == entry.FullPath;
-    if (numbered) ini.WriteIniValue(section, NameKey(row), Name, form.FavoritenIni, true);
-    entry.Name = Name;
-    if (!numbered) SaveFavoriten();
+    if (numbered) {
+        ini.WriteIniValue(section, NameKey(row), Name, form.FavoritenIni, true);
+    } else {
+        SaveFavoriten();
+    }
 }
 
 bool Favoriten::IsRecord(int record) const {

@@ -27,6 +27,10 @@ void FavoritenEvents::FavoritenListe_Click() {
         return;
     }
     SelectByFileName(support::GetFileNameOnly(favourite.FullPath));
+    OfferButtons();
+}
+
+void FavoritenEvents::OfferButtons() {
     form.AddToFavorit.SetVisible(false);
     form.AddToFavorit_Global.SetVisible(true);
     form.DeLFav.SetVisible(true);

@@ -39,6 +39,8 @@ class FavoritenEvents {
     // Selects the favourite's game in the game list, or asks whether to repair the favourites.
     void FavoritenListe_Click();
     void FavoritenListe_DblClick();
+    // The buttons that make sense for a chosen favourite.
+    void OfferButtons();
     void FavoritenListe_MouseDown(const forms::Mouse& mouse);
     void FavoritenListe_KeyDown(forms::Key& key);
     void FavoritenListe_KeyPress(forms::Character& character);

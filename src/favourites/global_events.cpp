@@ -100,6 +100,8 @@ bool GlobalEvents::ShowGlobalFavourites() {
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
     hooks.ArrangeLists();
     form.DeLFav.SetVisible(true);
+    // The choice of a font size leaves this list out.
+    form.FavoritenListeGlobal.SetFontSize(form.FavoritenListe.FontSize());
     form.FavoritenListeGlobal.SetVisible(true);
     form.FavoritenListeGlobal.BringToFront();
     form.FavoritenListeGlobal.SetFocus();

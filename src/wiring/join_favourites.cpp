@@ -25,7 +25,12 @@ void Launcher::Routines::JoinFavourites() {
     global.ShowEmulatorBox = [this](bool show) { emulatorBox.ShowEmulatorBox(show); };
 
     auto& lists = listEvents.hooks;
-    lists.ShowGlobalFavourites = [this] { return globalEvents.ShowGlobalFavourites(); };
+    lists.ShowGlobalFavourites = [this] {
+        if (globalEvents.ShowGlobalFavourites()) return true;
+        // A favourite that is still chosen can be removed at once.
+        if (form.FavoritenListe.ListIndex() >= 0) favoritenEvents.OfferButtons();
+        return false;
+    };
     lists.LeaveGlobalFavourites = [this] { globalEvents.LeaveGlobalFavourites(); };
     // A game that is selected can be made a favourite.
     lists.OfferFavouriteButtons = [this] {

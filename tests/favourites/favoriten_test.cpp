@@ -65,6 +65,16 @@ TEST_F(FavoritenTest, OneGapIsSteppedOverAndTwoEndTheList) {
     EXPECT_EQ(room.Names(), (Texts{"A", "C", "E"}));
 }
 
+TEST_F(FavoritenTest, EntriesBehindAGapGetNewNumbersAtTheNextSave) {
+    Store(header + Lines(0, "A", "/A") + Lines(2, "C", "/C") + Lines(4, "E", "/E"));
+    room.store.LoadFavoriten();
+    room.store.SaveFavoriten();
+    EXPECT_EQ(Stored(), header + Lines(0, "A", "/A") + Lines(2, "E", "/E") + Lines(4, "", "") +
+                            Lines(1, "C", "/C") + Lines(3, "", ""));
+    room.store.LoadFavoriten();
+    EXPECT_EQ(room.Names(), (Texts{"A", "C", "E"}));
+}
+
 TEST_F(FavoritenTest, EntryBehindAnEmptyFirstOneIsFound) {
     Store(header + "Fav0_Name=\r\nFav0_FullPath=\r\n" + Lines(1, "B", "/B"));
     room.store.LoadFavoriten();
@@ -245,6 +255,14 @@ TEST_F(FavoritenTest, NothingIsWrittenWhenAllRecordsAreBlank) {
     EXPECT_EQ(Stored(), before);
 }
 
+TEST_F(FavoritenTest, BlankRecordsAloneMakeNoFile) {
+    room.store.AddFavoritEntry("A", "/k/A", 0, false);
+    room.store.Blank(0);
+    room.store.SaveFavoriten();
+    EXPECT_TRUE(disk.changes.empty());
+    EXPECT_EQ(Stored(), "(no file)");
+}
+
 TEST_F(FavoritenTest, SortLooksAtTheFirstCharacterAloneAndKeepsTies) {
     for (const char* name : {"b2", "Ä1", "a", "b1", "B", "Ä0", "1", "é"}) {
         room.store.AddFavoritEntry(name, std::string("/k/") + name, 0, false);
@@ -303,6 +321,19 @@ TEST_F(FavoritenTest, RenameWritesOneKeyOfTheRow) {
     expected.replace(expected.find("Name=B"), 6, "Name=Bee");
     EXPECT_EQ(Stored(), expected);
     EXPECT_EQ(room.Names(), (Texts{"A", "Bee", "C"}));
+    room.store.LoadFavoriten();
+    EXPECT_EQ(room.Names(), (Texts{"A", "Bee", "C"}));
+}
+
+TEST_F(FavoritenTest, RenameThatTheDiskRefusesIsWrittenWithTheNextSave) {
+    Add("ABC");
+    disk.SetUnreadable(room.form.FavoritenIni);
+    disk.changes.clear();
+    room.store.Rename(1, "Bee");
+    EXPECT_EQ(room.Names(), (Texts{"A", "Bee", "C"}));
+    EXPECT_TRUE(disk.changes.empty());
+    disk.SetUnreadable(room.form.FavoritenIni, false);
+    room.store.SaveFavoriten();
     room.store.LoadFavoriten();
     EXPECT_EQ(room.Names(), (Texts{"A", "Bee", "C"}));
 }

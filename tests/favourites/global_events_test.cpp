@@ -194,6 +194,24 @@ TEST_F(GlobalEventsTest, OpenChoiceBringsTheGlobalListUp) {
     EXPECT_EQ(room.form.FavoritenListeGlobal.List(0), "Boulder  :  C64");
 }
 
+TEST_F(GlobalEventsTest, GlobalListHasTheLettersOfTheOwnOne) {
+    room.form.EmulatorLongListbox.SetVisible(true);
+    room.form.FavoritenListe.SetFontSize(40);
+    EXPECT_TRUE(room.globalEvents.ShowGlobalFavourites());
+    EXPECT_EQ(room.form.FavoritenListeGlobal.FontSize(), 40);
+}
+
+TEST_F(GlobalEventsTest, FullStoreKeepsWhatItHas) {
+    for (int i = 0; i < 1000; ++i)
+        room.global.AddGlobalFavorit("G" + std::to_string(i), "C64", "/g");
+    ASSERT_EQ(room.global.Records().size(), 1000U);
+    const std::string before = disk.BytesOf(room.form.FavoritenGlobalIni);
+    room.form.UAE_Short.SetListIndex(0);
+    room.globalEvents.AddToFavorit_Global_Click();
+    EXPECT_EQ(disk.BytesOf(room.form.FavoritenGlobalIni), before);
+    EXPECT_EQ(room.host.beeper.count, 1);
+}
+
 TEST_F(GlobalEventsTest, LeavingClosesTheChoiceOnlyWhileTheListIsOnShow) {
     room.form.EmuListbox.SetListIndex(2);
     room.globalEvents.LeaveGlobalFavourites();

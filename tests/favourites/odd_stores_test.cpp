@@ -120,6 +120,20 @@ TEST_F(OddStoresTest, PathFromTheRootWrittenByHandIsTakenAsItStandsWhereItExists
     EXPECT_EQ(room.store.Entries()[1].FullPath, "/k/media/B.adf");
 }
 
+TEST_F(OddStoresTest, PathsAroundTheProgramsDirectoryComeBack) {
+    const Texts paths{"/k/A.adf",      "/k2/A.adf", "/k games/A.adf",     "/A.adf",
+                      "/kk/k/k/A.adf", "/l/A.adf",  "/k/Config/..A..adf", "/k/ A .adf"};
+    for (const std::string& path : paths) {
+        disk.AddFile(path, "");
+        room.store.AddFavoritEntry("of " + path, path, 0, false);
+    }
+    room.store.SaveFavoriten();
+    room.store.LoadFavoriten();
+    ASSERT_EQ(room.store.Entries().size(), paths.size());
+    for (std::size_t i = 0; i < paths.size(); ++i)
+        EXPECT_EQ(room.store.Entries()[i].FullPath, paths[i]);
+}
+
 TEST_F(OddStoresTest, GarbageIsNoFavouriteAndDoesNoHarm) {
     for (const std::string& bytes :
          {std::string("\0\xff[Favoriten", 12), std::string(100000, '['), std::string("=\r\n==\r\n"),
