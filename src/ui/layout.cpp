@@ -4,6 +4,7 @@
 #include <array>
 
 #include "library/short_names.h"
+#include "support/string_ops.h"
 #include "ui/layout_numbers.h"
 
 namespace kivu::ui {
@@ -11,6 +12,11 @@ namespace kivu::ui {
 namespace {
 constexpr int cornerRadius = 30;  // pixels
 constexpr int tabGap = 200;
+constexpr int nameTop = 200;  // of the current entry's name, in its frame
+constexpr int rowPitch = 540;
+constexpr int buttonGap = 90;
+constexpr int lowestRow = 800;  // from the frame's bottom
+constexpr int drivesRow = lowestRow + 2 * rowPitch + 750;
 }  // namespace
 
 void Layout::Form_Resize() {
@@ -80,42 +86,82 @@ void Layout::SetVorschau() {
 
 void Layout::ResizeSettingsWindow() {
     const int left = form.ListLeft + form.ListWidth + 100;
-    const int top = form.VorschauBild.Top() + form.VorschauBild.Height();
-    form.SettingsFrame.Move(left, top, form.Width() - left - 100, form.Height() - top);
-    PlaceInFrame();
+    const int width = form.Width() - left - 100;
+    const int height = HeightOfFrame(width, form.Height() - form.VorschauBild.Bottom());
+    form.SettingsFrame.Move(left, form.Height() - height, width, height);
+    PlaceName();
     PlaceFrameRows();
     PlaceDrivesHome();
     PlaceFavouriteButtons();
     KeepDrivesInside();
 }
 
-void Layout::PlaceInFrame() {
+// From the name's bottom edge to the frame's: the favourites' buttons, the drives and the rows.
+int Layout::RoomBelowName() const {
+    return buttonGap + form.AddToFavorit.Height() + buttonGap + drivesRow;
+}
+
+int Layout::LineOfName() const {
+    const std::string& caption = form.Current_ProgramNameFull.Caption();
+    const auto breaks = static_cast<int>(std::count(caption.begin(), caption.end(), '\r'));
+    return std::max(1, form.Current_ProgramNameFull.TextHeight() / (breaks + 1));
+}
+
+// With the breaks that the view adds where a line is too wide all the same.
+int Layout::HeightOfName(int width) const {
+    const forms::Label& name = form.Current_ProgramNameFull;
+    const std::string_view caption = name.Caption();
+    if (caption.empty()) return 0;
+    int lines = 0;
+    for (std::size_t start = 0; start <= caption.size();) {
+        const std::size_t end = std::min(caption.find('\r', start), caption.size());
+        const int wide = name.WidthOf(caption.substr(start, end - start));
+        lines += 1 + std::max(0, wide - 1) / std::max(1, width);
+        start = end + 1;
+    }
+    return lines * LineOfName();
+}
+
+// A name of many lines needs more than the picture leaves. The frame then begins higher, since the
+// rows at its bottom have to stay in the window, but not above the lists.
+int Layout::HeightOfFrame(int width, int height) const {
+    const int text = HeightOfName(width - 100);
+    if (text == 0) return height;
+    const int twice = text > height ? 2 * text : 0;
+    const int wanted = std::max(twice, nameTop + text + RoomBelowName());
+    return std::max(height, std::min(wanted, form.Height() - form.FavoritenListe.Top()));
+}
+
+void Layout::PlaceName() {
     forms::Label& name = form.Current_ProgramNameFull;
     const int width = form.SettingsFrame.Width() - 100;
-    name.Move(100, 200, width, std::max(name.TextHeight(), 0));
-    if (name.Height() > form.SettingsFrame.Height())
-        form.SettingsFrame.SetHeight(2 * name.Height());
+    const int text = HeightOfName(width);
+    const int line = LineOfName();
+    const int lines = std::max(1, (form.SettingsFrame.Height() - nameTop - RoomBelowName()) / line);
+    name.Move(100, nameTop, width, std::clamp(text, line, lines * line));
+    // What is cut, or has lost a letter to a break, can be read there.
+    const bool whole = text <= lines * line && name.WidthOf(name.Caption()) <= width;
+    name.SetToolTipText(whole ? "" : support::replaceall(fullName, "\r", " "));
 }
 
 // From the right and from the bottom: the exit and the search, above them options and rescan, below
 // them the font size and the pins.
 void Layout::PlaceFrameRows() {
-    constexpr int pitch = 540;
     const int frameWidth = form.SettingsFrame.Width();
-    const int lowest = form.SettingsFrame.Height() - 800;
+    const int lowest = form.SettingsFrame.Height() - lowestRow;
     const auto place = [](forms::Control& control, int left, int top) {
         control.Move(left, top, control.Width(), control.Height());
     };
-    place(form.SettingsBtn, frameWidth - form.SettingsBtn.Width() - 300, lowest - 2 * pitch);
+    place(form.SettingsBtn, frameWidth - form.SettingsBtn.Width() - 300, lowest - 2 * rowPitch);
     form.SettingsShortBtn.Move(form.SettingsBtn.Left(), form.SettingsBtn.Top(),
                                form.SettingsBtn.Width(), form.SettingsBtn.Height());
-    place(form.ExitBtn, frameWidth - form.ExitBtn.Width() - 300, lowest - pitch);
+    place(form.ExitBtn, frameWidth - form.ExitBtn.Width() - 300, lowest - rowPitch);
     place(form.SearchDblsTxt, form.ExitBtn.Left() - form.SearchDblsTxt.Width() - 300,
-          lowest - pitch);
+          lowest - rowPitch);
     place(form.SearchAllBtn, form.SearchDblsTxt.Left() - form.SearchAllBtn.Width() - 100,
-          lowest - pitch);
+          lowest - rowPitch);
     form.SuchErg.Move(form.SearchDblsTxt.Right() + 20, form.SearchDblsTxt.Top() + 75, 260, 260);
-    place(form.LoadBtn, form.SearchAllBtn.Left(), lowest - 2 * pitch);
+    place(form.LoadBtn, form.SearchAllBtn.Left(), lowest - 2 * rowPitch);
     place(form.FontSizeCombo, form.SearchAllBtn.Left(), lowest);
     place(form.AlwaysOnTop1, frameWidth - form.AlwaysOnTop1.Width() - 150, lowest);
     place(form.JoystickIcon, form.AlwaysOnTop1.Left() - form.JoystickIcon.Width() - 200, lowest);
@@ -127,21 +173,20 @@ void Layout::PlaceDrivesHome() {
     const bool atHome =
         drivesHomeLeft < 0 || (panel.Left() == drivesHomeLeft && panel.Top() == drivesHomeTop);
     drivesHomeLeft = form.SettingsFrame.Left() + 100;
-    drivesHomeTop = form.SettingsFrame.Top() + form.LoadBtn.Top() - 750;
+    drivesHomeTop = form.SettingsFrame.Bottom() - drivesRow;
     if (atHome) panel.Move(drivesHomeLeft, drivesHomeTop, panel.Width(), panel.Height());
 }
 
 // Above the drives panel's home: one place for adding and removing, of which only one makes sense
 // at a time, and one for the global list.
 void Layout::PlaceFavouriteButtons() {
-    constexpr int gap = 90;
-    const int top = drivesHomeTop - form.AddToFavorit.Height() - gap;
+    const int top = drivesHomeTop - form.AddToFavorit.Height() - buttonGap;
     const auto place = [&](forms::CommandButton& button, int left) {
         button.Move(left, top, button.Width(), button.Height());
     };
     place(form.AddToFavorit, drivesHomeLeft);
     place(form.DeLFav, drivesHomeLeft);
-    place(form.AddToFavorit_Global, form.AddToFavorit.Right() + gap);
+    place(form.AddToFavorit_Global, form.AddToFavorit.Right() + buttonGap);
 }
 
 void Layout::KeepDrivesInside() {
@@ -246,6 +291,7 @@ void Layout::Current_ProgramNameFull_Change() {
     if (wrapping) return;
     const core::Raised once(wrapping);
     forms::Label& name = form.Current_ProgramNameFull;
+    fullName = name.Caption();
     const auto width = [&](const std::string& caption) {
         return static_cast<double>(name.WidthOf(caption));
     };
@@ -253,7 +299,7 @@ void Layout::Current_ProgramNameFull_Change() {
         library::WrapCaption(name.Caption(), width, name.Width());
     name.SetCaption(wrapped.caption);
     if (wrapped.hide) name.SetVisible(false);
-    name.SetHeight(name.TextHeight());
+    ResizeSettingsWindow();
 }
 
 }  // namespace kivu::ui

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "core/form1.h"
 #include "core/hook.h"
 
@@ -35,7 +37,11 @@ class Layout {
     void Compute();
     void PlaceLists();
     void PlaceBusySigns();
-    void PlaceInFrame();
+    int RoomBelowName() const;
+    int LineOfName() const;
+    int HeightOfName(int width) const;
+    int HeightOfFrame(int width, int height) const;
+    void PlaceName();
     void PlaceFrameRows();
     void KeepDrivesInside();
     void PlaceDrivesHome();
@@ -46,6 +52,7 @@ class Layout {
     core::Form1& form;
     int drivesHomeLeft = -1, drivesHomeTop = -1;
     int drivesWidth = 0, drivesHeight = 0;  // natural size while folded
+    std::string fullName;                   // in Current_ProgramNameFull, unbroken
     bool wrapping = false;
 };
 
