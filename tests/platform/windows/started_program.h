@@ -138,7 +138,7 @@ class Telling {
     InheritedVariable trapped{L"KIVU_TRAP", platform::Wide(report.Path("trapped"))};
 };
 
-// The process object is gone, or going: nobody holds a handle to it.
+// Nobody holds a handle to the ended process of that id any more.
 inline bool IsForgotten(DWORD id) {
     const platform::Handle process(::OpenProcess(SYNCHRONIZE, FALSE, id));
     return !process;
