@@ -91,14 +91,17 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
     const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
     const QColor text = option.palette.color(QPalette::WindowText);
     QColor fill = on || between ? accent : Mix(option.palette.color(QPalette::Window), text, 0.12);
-    QColor line = Has(option, QStyle::State_MouseOver) || Has(option, QStyle::State_HasFocus)
+    const bool focus = Has(option, QStyle::State_HasFocus);
+    QColor line = focus || Has(option, QStyle::State_MouseOver)
                       ? accent
                       : Mix(option.palette.color(QPalette::Window), text, 0.55);
+    // The accent would not be seen around itself.
+    if (focus && (on || between)) line = text;
     if (!enabled) {
         fill.setAlphaF(0.4F);
         line.setAlphaF(0.4F);
     }
-    FillRounded(painter, box, 4, fill, line, 1.2);
+    FillRounded(painter, box, 4, fill, line, focus ? 2 : 1.2);
     if (!on && !between) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

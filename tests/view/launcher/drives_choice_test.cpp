@@ -157,6 +157,26 @@ TEST_F(DrivesBySimilarity, ArrowAndEnterStartAGameWithItsDisks) {
     EXPECT_EQ(Do("runs")["value"].size(), 1U);
 }
 
+TEST_F(DrivesBySimilarity, BoxWithTheFocusStandsOutTickedOrNot) {
+    Show();
+    OpenFiles();
+    ClickRow(3);
+    for (const int drive : {1, 4}) {
+        forms::CheckBox& box = Form().Check_Dfx[static_cast<std::size_t>(drive)];
+        QWidget* widget = Find(box.FullName().c_str());
+        const auto picture = [&] {
+            Settle();
+            return view->Window()
+                .grab({widget->mapTo(&view->Window(), QPoint()), widget->size()})
+                .toImage();
+        };
+        const QImage before = picture();
+        box.SetFocus();
+        ASSERT_TRUE(box.HasFocus());
+        EXPECT_NE(picture(), before) << drive;
+    }
+}
+
 TEST_F(DrivesBySimilarity, BoxOfAnEmptyDriveIsTickedByNeitherMouseNorBlank) {
     Show();
     OpenFiles();
