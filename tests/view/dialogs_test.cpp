@@ -63,6 +63,34 @@ TEST(Dialogs, TakeEnterForTheFirstButton) {
     EXPECT_EQ(dialogs.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::Yes);
 }
 
+TEST(Dialogs, TakeTheLetterOfAButtonWithAltAndWithout) {
+    QtDialogs english(false), german(true);
+    WhenShown("MessageBox", [](QDialog& box) { QTest::keyClick(box.focusWidget(), Qt::Key_N); });
+    EXPECT_EQ(english.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::No);
+    WhenShown("MessageBox", [](QDialog& box) {
+        QTest::keyClick(box.focusWidget(), Qt::Key_Y);  // stands on no button
+        QTest::keyClick(box.focusWidget(), Qt::Key_J, Qt::ControlModifier);
+        EXPECT_TRUE(box.isVisible());
+        QTest::keyClick(box.focusWidget(), Qt::Key_J);
+    });
+    EXPECT_EQ(german.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::Yes);
+}
+
+TEST(Dialogs, BreakNoLineThatHasRoom) {
+    QtDialogs dialogs(false);
+    int height = 0, line = 0;
+    WhenShown("MessageBox", [&](QDialog& box) {
+        auto* label = box.findChild<QLabel*>("Text");
+        height = label->heightForWidth(label->width());
+        line = label->fontMetrics().lineSpacing();
+        box.close();
+    });
+    dialogs.MessageBox("Do you want to try to repair the favorites?\r\r", "Title", Buttons::YesNo,
+                       Icon::Question);
+    // One line, and none for the breaks at the end.
+    EXPECT_LT(height, 2 * line);
+}
+
 TEST(Dialogs, BreakLinesAtCarriageReturnsAndShowNoMarkup) {
     QtDialogs dialogs(true);
     QString text;

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
@@ -99,7 +100,11 @@ void DialogBox::SetSign(const QString& letter, const QColor& color) {
 void DialogBox::SetText(const QString& text) {
     QString lines = text;
     lines.replace(QLatin1String("\r\n"), QLatin1String("\n")).replace(u'\r', u'\n');
+    while (lines.endsWith(u'\n'))
+        lines.chop(1);
     auto* label = new QLabel(lines);
+    // Measured before it has a parent to take the font from.
+    label->setFont(font());
     label->setObjectName(QStringLiteral("Text"));
     label->setAccessibleName(lines);
     label->setTextFormat(Qt::PlainText);
@@ -158,6 +163,18 @@ void DialogBox::paintEvent(QPaintEvent*) {
     painter.fillRect(rect(), palette().color(QPalette::Window));
     painter.setPen(QColor(255, 255, 255, 70));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+// As in the system's own boxes a button's letter presses it without Alt, too.
+void DialogBox::keyPressEvent(QKeyEvent* event) {
+    const bool alone = (event->modifiers() & ~Qt::KeyboardModifiers(Qt::ShiftModifier)) == 0;
+    for (QPushButton* button : findChildren<QPushButton*>()) {
+        const QKeySequence letter = QKeySequence::mnemonic(button->text());
+        if (!alone || letter.isEmpty() || letter[0].key() != event->key()) continue;
+        button->click();
+        return;
+    }
+    QDialog::keyPressEvent(event);
 }
 
 void DialogBox::mousePressEvent(QMouseEvent* event) {

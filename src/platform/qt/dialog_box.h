@@ -28,6 +28,7 @@ class DialogBox : public QDialog {
 
  protected:
     void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
 
  private:
