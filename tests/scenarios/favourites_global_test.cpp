@@ -77,6 +77,53 @@ TEST_F(FavouritesGlobal, EscapeAndTheTabsLeadBackToTheGames) {
     EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ");
 }
 
+TEST_F(FavouritesGlobal, FavouritesTabGoesToTheRightAndBack) {
+    Store();
+    Start();
+    const Json home = Get("Label1.Left");
+    Do("focus", "Form1.EmuListbox");
+    EXPECT_EQ(Get("Label1.Left"), Get("Width").get<int>() - Get("Label1.Width").get<int>() - 400);
+    Do("click", "Form1.Label1");
+    EXPECT_EQ(Get("Label1.Left"), home);
+    Do("key", "Form1", "Escape");
+    EXPECT_EQ(Get("Label1.Left"), home);
+}
+
+TEST_F(FavouritesGlobal, MissingFileIsReportedAndTheListStays) {
+    Store();
+    std::filesystem::remove(tree.Path("Roms/Beta/Cat (1992)(Maker).adf"));
+    Start();
+    Show();
+    Do("boxes");
+    Do("dblclick", "Form1.FavoritenListeGlobal", 1);
+    const Json boxes = Do("boxes")["value"];
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0]["title"], "Game - File not found!");
+    EXPECT_TRUE(Do("runs")["value"].empty());
+    EXPECT_EQ(Get("CurrentEmuIndex"), 1);
+    EXPECT_TRUE(Visible("FavoritenListeGlobal"));
+    EXPECT_TRUE(Visible("EmuListbox"));
+    Do("key", "Form1", "Escape");
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    EXPECT_FALSE(Visible("LoadingBtn"));
+}
+
+TEST_F(FavouritesGlobal, UnknownEmulatorBeepsAndStartsNothing) {
+    Store();
+    tree.Write(file, tree.Read(file) + Lines(3, "Dog", "Gamma", "Roms/Beta/Cat (1992)(Maker).adf"));
+    Start();
+    Show();
+    Do("beeps");
+    Do("dblclick", "Form1.FavoritenListeGlobal", 2);
+    // Once for the click, once for the double click.
+    EXPECT_EQ(Do("beeps")["value"], 2);
+    EXPECT_TRUE(Do("runs")["value"].empty());
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    Do("click", "Form1.DeLFav");
+    EXPECT_EQ(Get("FavoritenListeGlobal.ListCount"), 2);
+}
+
 TEST_F(FavouritesGlobal, DoubleClickSwitchesAndStarts) {
     Store();
     Start();

@@ -64,6 +64,72 @@ TEST_F(FavouritesOwn, ClickOffersToRemoveAndFillsTheDrives) {
     EXPECT_EQ(Get("Check_Dfx(0).Value"), 1);
 }
 
+TEST_F(FavouritesOwn, ChosenFavouriteCanBeRemovedAsSoonAsItsTabIsInFront) {
+    Store({{"Ant", ant2}, {"Bee", bee}, {"Cat", "/gone/Cat.adf"}});
+    Start();
+    EXPECT_EQ(Get("FavoritenListe.ListIndex"), 0);
+    EXPECT_TRUE(Visible("DeLFav"));
+    Do("click", "Form1.Label2");
+    EXPECT_FALSE(Visible("DeLFav"));
+    EXPECT_TRUE(Visible("AddToFavorit"));
+    Do("click", "Form1.Label1");
+    EXPECT_TRUE(Visible("DeLFav"));
+    EXPECT_FALSE(Visible("AddToFavorit"));
+    EXPECT_EQ(Get("JoystickFocus"), 1);
+    Do("click", "Form1.DeLFav");
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee", "Cat"}));
+    // Nothing is chosen any more.
+    Do("click", "Form1.Label2");
+    Do("click", "Form1.Label1");
+    EXPECT_FALSE(Visible("DeLFav"));
+}
+
+TEST_F(FavouritesOwn, ArrowsChooseTheGameOfEachRow) {
+    Store({{"Ant", ant2}, {"Bee", bee}});
+    Start();
+    Do("key", "Form1", "Down");
+    EXPECT_EQ(Get("FavoritenListe.ListIndex"), 1);
+    EXPECT_EQ(Get("UAE_FULL.ListIndex"), 2);
+    Do("key", "Form1", "Up");
+    EXPECT_EQ(Get("UAE_FULL.ListIndex"), 1);
+}
+
+TEST_F(FavouritesOwn, MissingFavouriteStartsNothing) {
+    Store({{"Bee", bee}, {"Ghost", "/old/Ghost.adf"}});
+    Start();
+    Do("answer", "No", "No");
+    Do("dblclick", "Form1.FavoritenListe", 1);
+    Do("key", "Form1", "Enter");
+    EXPECT_EQ(Do("boxes")["value"].size(), 2U);
+    EXPECT_TRUE(Do("runs")["value"].empty());
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee", "Ghost"}));
+    EXPECT_TRUE(Visible("DeLFav"));
+}
+
+TEST_F(FavouritesOwn, OddStoreOfAThousandIsShownWholeAndSurvivesAnAddition) {
+    std::string bytes = "; mine\r\n[favoriten]\r\nNote=kept\r\n";
+    for (int i = 0; i < 2000; i += 2) {
+        const std::string n = std::to_string(i / 2), key = "fAV" + n;
+        if (i / 2 == 500) continue;
+        bytes += key + "_name=G = [" + n + "]\r\n" + key + "_FULLPATH=/G/" + n + "].adf\r\n";
+        bytes += key + "_name=double\r\n";
+    }
+    tree.Write(file, bytes);
+    Start();
+    EXPECT_EQ(Get("FavoritenListe.ListCount"), 999);
+    Do("click", "Form1.Label3");
+    Do("select", "Form1.UAE_Short", 2);
+    Do("click", "Form1.AddToFavorit");
+    Start();
+    const Json rows = Get("FavoritenListe.List");
+    ASSERT_EQ(rows.size(), 1000U);
+    EXPECT_EQ(rows[0], "Bee (1991)(Maker)");
+    EXPECT_EQ(rows[1], "G = [0]");
+    EXPECT_EQ(rows[501], "G = [501]");
+    EXPECT_EQ(rows[999], "G = [999]");
+    EXPECT_TRUE(tree.Read(file).starts_with("; mine\r\n[favoriten]\r\nNote=kept\r\n"));
+}
+
 TEST_F(FavouritesOwn, DoubleClickAndEnterStartTheFavourite) {
     Store({{"Ant", ant2}, {"Bee", bee}});
     Start();
