@@ -127,8 +127,7 @@ int Layout::HeightOfName(int width) const {
 int Layout::HeightOfFrame(int width, int height) const {
     const int text = HeightOfName(width - 100);
     if (text == 0) return height;
-    const int twice = text > height ? 2 * text : 0;
-    const int wanted = std::max(twice, nameTop + text + RoomBelowName());
+    const int wanted = nameTop + text + RoomBelowName();
     return std::max(height, std::min(wanted, form.Height() - form.FavoritenListe.Top()));
 }
 
