@@ -14,7 +14,7 @@ if(WIN32)
   # Wide-character calls of Windows 10 and later, and no DLL of the compiler's.
   target_compile_definitions(kivu_options INTERFACE UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN
                                                     _WIN32_WINNT=0x0A00)
-  target_link_options(kivu_options INTERFACE -static)
+  target_link_options(kivu_options INTERFACE -static $<$<CONFIG:Release>:-s>)
 endif()
 
 if(KIVU_SANITIZE)
@@ -65,6 +65,15 @@ function(kivu_add_tests name seconds)
   else()
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60
                          PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "${ARGN}")
+  endif()
+endfunction()
+
+# kivu_offscreen(name): a program that shows its windows nowhere. Static libraries bring no such platform by
+# themselves.
+function(kivu_offscreen name)
+  if(WIN32)
+    qt_import_plugins(${name} INCLUDE Qt6::QOffscreenIntegrationPlugin)
+    target_compile_options(${name} PRIVATE -O0)
   endif()
 endfunction()
 

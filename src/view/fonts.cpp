@@ -7,9 +7,19 @@
 
 namespace kivu::view {
 
+QFont PlainFont(QFont font) {
+    QStringList families = font.families();
+    for (const char* family : {"Segoe UI", "Noto Sans", "DejaVu Sans", "Verdana", "Arial"})
+        families.append(QLatin1String(family));
+    families.removeDuplicates();
+    font.setFamilies(families);
+    font.setStyleHint(QFont::SansSerif);
+    return font;
+}
+
 QFont ToQt(const forms::Font& font) {
     QFont result = QGuiApplication::font();
-    if (!font.name.empty()) result.setFamily(ToQt(font.name));
+    if (!font.name.empty()) result.setFamilies(QStringList(ToQt(font.name)) + result.families());
     const QScreen* screen = QGuiApplication::primaryScreen();
     const double dpi = screen ? screen->logicalDotsPerInchY() : 96;
     // Above this the toolkit would spend seconds on a glyph.

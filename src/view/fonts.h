@@ -6,6 +6,10 @@
 
 namespace kivu::view {
 
+// The font with plain ones behind it, for a system that names a font which it does not have: what
+// it would take instead may be of any kind.
+QFont PlainFont(QFont font);
+
 // The toolkit's font. Points are those of a 96 dpi screen, as twips are, whatever the screen's own
 // resolution: text and geometry must stay in proportion.
 QFont ToQt(const forms::Font& font);

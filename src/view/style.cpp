@@ -7,6 +7,7 @@
 #include <algorithm>
 
 #include "view/colors.h"
+#include "view/fonts.h"
 #include "view/style_parts.h"
 
 namespace kivu::view {
@@ -183,6 +184,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
 
 void ApplyStyle() {
     QApplication::setStyle(new Style);
+    QApplication::setFont(PlainFont(QApplication::font()));
     const QColor window(0x00, 0x3f, 0x91);
     const QColor base(0xf4, 0xf7, 0xfc);
     QPalette palette(Qt::white, window);

@@ -1,27 +1,11 @@
-#include <filesystem>
-#include <gtest/gtest.h>
-#include <string>
+#include "core/ini_disk.h"
 
-#include "core/ini.h"
-#include "host_files.h"
-#include "platform/temporary_directory.h"
-#include "testing/faulty_file_system.h"
+#include <filesystem>
 
 namespace kivu::core {
 namespace {
 
 using testing::FaultyFileSystem;
-using testing::TemporaryDirectory;
-
-// The store on the real disk.
-class IniDiskTest : public ::testing::Test {
- protected:
-    TemporaryDirectory directory;
-    testing::HostFileSystem disk;
-    FaultyFileSystem faulty{disk};
-    Ini ini{faulty};
-    const std::string path = directory.Path("Kivu.ini");
-};
 
 TEST_F(IniDiskTest, ProfileFillsItselfReadByRead) {
     EXPECT_EQ(ini.ReadIniValue("Settings", "A", path, "1", true), "1");
@@ -61,29 +45,6 @@ TEST_F(IniDiskTest, DirectoryInPlaceOfTheProfileStays) {
     EXPECT_FALSE(ini.LoadProfile(path));
     EXPECT_TRUE(std::filesystem::is_directory(path));
     EXPECT_EQ(directory.Count(), 1U);
-}
-
-TEST_F(IniDiskTest, PipeInPlaceOfTheProfileIsNeitherReadNorReplaced) {
-    ASSERT_EQ(std::system(("mkfifo '" + path + "'").c_str()), 0);
-    EXPECT_EQ(ini.ReadIniValue("Settings", "A", path, "1", true), "1");
-    ini.WriteIniValue("Settings", "A", "2", path, true);
-    EXPECT_TRUE(std::filesystem::is_fifo(path));
-}
-
-TEST_F(IniDiskTest, LinkedProfileStaysALink) {
-    directory.Write("real.ini", "[Settings]\nA=1\n");
-    std::filesystem::create_symlink("real.ini", path);
-    ini.WriteIniValue("Settings", "A", "2", path, true);
-    EXPECT_TRUE(std::filesystem::is_symlink(path));
-    EXPECT_EQ(directory.Read("real.ini"), "[Settings]\nA=2\r\n");
-}
-
-TEST_F(IniDiskTest, RightsOfTheProfileStay) {
-    directory.Write("Kivu.ini", "");
-    using std::filesystem::perms;
-    std::filesystem::permissions(path, perms::owner_read | perms::owner_write);
-    ini.WriteIniValue("Settings", "A", "2", path, true);
-    EXPECT_EQ(std::filesystem::status(path).permissions(), perms::owner_read | perms::owner_write);
 }
 
 TEST_F(IniDiskTest, ProfileOfTenMegabytesIsReadAndWritten) {

@@ -13,7 +13,8 @@ std::string Absolute(const std::string& path) {
     std::error_code failed;
     std::string absolute = std::filesystem::absolute(path, failed).lexically_normal().string();
     if (failed) return path;
-    while (absolute.size() > 1 && absolute.back() == '/')
+    while (absolute.size() > 1 && (absolute.back() == '/' ||
+                                   absolute.back() == std::filesystem::path::preferred_separator))
         absolute.pop_back();
     return absolute;
 }

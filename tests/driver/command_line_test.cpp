@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "testing/new_directory.h"
+
 namespace kivu::driver {
 namespace {
 
@@ -14,9 +16,10 @@ std::optional<Options> Parse(const std::vector<std::string>& arguments) {
 }
 
 TEST(CommandLineTest, OnlyTheDirectoryIsNeeded) {
+    using std::filesystem::absolute;
     const auto options = Parse({"--program-dir", "/tmp/kivu/"});
     ASSERT_TRUE(options);
-    EXPECT_EQ(options->programDirectory, "/tmp/kivu");
+    EXPECT_EQ(options->programDirectory, testing::HostPath(absolute("/tmp/kivu").string()));
     EXPECT_EQ(options->program, "Kivu");
     EXPECT_EQ(options->language, "English");
     EXPECT_EQ(options->time.hour, 12);

@@ -1,6 +1,6 @@
 #include "testing/faulty_file_system.h"
 
-#include "platform/linux/file_system_linux.h"
+#include "host_files.h"
 #include "platform/temporary_directory.h"
 
 namespace kivu::testing {
@@ -11,7 +11,7 @@ using Step = FaultyFileSystem::Step;
 class FaultyFileSystemTest : public ::testing::Test {
  protected:
     TemporaryDirectory directory;
-    platform::LinuxFileSystem real;
+    HostFileSystem real;
     FaultyFileSystem files{real};
 };
 

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "open_files.h"
 #include "png/generator/opened.h"
 #include "png/generator/recording_target.h"
 #include "png/generator/temporary_file.h"
@@ -49,16 +50,7 @@ TEST(OpenPNG, EndlessDeviceIsNoFile) {
     EXPECT_TRUE(reader.OpenPNG("/dev/zero"));
 }
 
-bool IsOpen(const std::filesystem::path& path) {
-    for (const auto& entry : std::filesystem::directory_iterator("/proc/self/fd")) {
-        std::error_code ignored;
-        if (std::filesystem::read_symlink(entry.path(), ignored) == path) return true;
-    }
-    return false;
-}
-
 TEST(OpenPNG, FileStaysOpenAfterAnErrorUntilTheObjectIsGone) {
-    if (!std::filesystem::exists("/proc/self/fd")) GTEST_SKIP() << "open files can't be listed";
     const testing::TemporaryFile noPng(testing::BytesOf("GIF89a"));
     Bytes bytes = testing::pngSignature;
     const testing::TemporaryFile cut(bytes);
@@ -69,19 +61,19 @@ TEST(OpenPNG, FileStaysOpenAfterAnErrorUntilTheObjectIsGone) {
         LoadPNG reader;
         EXPECT_FALSE(reader.OpenPNG(noPng.Path()));
         EXPECT_EQ(reader.ErrorNumber(), 1);
-        EXPECT_TRUE(IsOpen(noPng.Path()));
+        EXPECT_TRUE(kivu::testing::IsOpen(noPng.Path()));
         EXPECT_FALSE(reader.OpenPNG(noData.Path()));
         EXPECT_EQ(reader.ErrorNumber(), 4);
-        EXPECT_FALSE(IsOpen(noPng.Path()));
-        EXPECT_TRUE(IsOpen(noData.Path()));
+        EXPECT_FALSE(kivu::testing::IsOpen(noPng.Path()));
+        EXPECT_TRUE(kivu::testing::IsOpen(noData.Path()));
         EXPECT_FALSE(reader.OpenPNG(right.Path()));
-        EXPECT_FALSE(IsOpen(noData.Path()));
-        EXPECT_FALSE(IsOpen(right.Path()));
+        EXPECT_FALSE(kivu::testing::IsOpen(noData.Path()));
+        EXPECT_FALSE(kivu::testing::IsOpen(right.Path()));
         EXPECT_FALSE(reader.OpenPNG(cut.Path()));
         EXPECT_EQ(reader.ErrorNumber(), 3);
-        EXPECT_TRUE(IsOpen(cut.Path()));
+        EXPECT_TRUE(kivu::testing::IsOpen(cut.Path()));
     }
-    EXPECT_FALSE(IsOpen(cut.Path()));
+    EXPECT_FALSE(kivu::testing::IsOpen(cut.Path()));
 }
 
 }  // namespace

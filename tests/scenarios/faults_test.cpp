@@ -1,72 +1,9 @@
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include "scenarios/scenario.h"
+#include "scenarios/faults.h"
 
 namespace kivu::scenarios {
 namespace {
 
 using ::testing::HasSubstr;
-
-class Faults : public LoadedScenario {
- protected:
-    void Scan() { Do("click", "Form1.LoadBtn"); }
-    // The window takes the next thing that the user does.
-    void ExpectUsable() {
-        EXPECT_TRUE(Visible("EmuListbox"));
-        Do("focus", "Form1.EmuListbox");
-        Do("dblclick", "Form1.EmulatorLongListbox", 1);
-        EXPECT_EQ(Get("CurrentEmuIndex"), 1);
-        EXPECT_FALSE(Visible("LoadingBtn"));
-        EXPECT_EQ(Get("Busy"), false);
-    }
-};
-
-TEST_F(Faults, LinksThatLoopEndTheScanAndCountNothingTwice) {
-    std::filesystem::create_directory_symlink(tree.Path("Roms"), tree.Path("Roms/Alpha/loop"));
-    std::filesystem::create_directory_symlink(".", tree.Path("Roms/Alpha/self"));
-    Start();
-    Scan();
-    // The loop leads out of the tree, where there is one more game.
-    EXPECT_EQ(Get("UAE_FULL.ListCount"), 4);
-    ExpectUsable();
-}
-
-TEST_F(Faults, OddEntriesAreLeftOut) {
-    std::filesystem::create_symlink("/nowhere", tree.Path("Roms/Alpha/dangling.adf"));
-    ASSERT_EQ(::mkfifo(tree.Path("Roms/Alpha/pipe.adf").c_str(), 0600), 0);
-    tree.Write("Roms/Alpha/.hidden.adf");
-    tree.Write("Roms/Alpha/line\nbreak.adf");
-    tree.Write("Roms/Alpha/carriage\rreturn.adf");
-    Start();
-    Scan();
-    EXPECT_EQ(Get("UAE_FULL.ListCount"), 3);
-    ExpectUsable();
-}
-
-TEST_F(Faults, NameThatIsNoUtf8ComesThroughTheCacheAndIsStarted) {
-    const std::string name = "B\xe4r [long].adf";
-    tree.Write("Roms/Alpha/" + name, "x");
-    Start();
-    Scan();
-    EXPECT_EQ(Form().UAE_Short.List(2), "Bär [long]");
-    Start();
-    ASSERT_EQ(Form().UAE_FULL.List(2), tree.Path("Roms/Alpha/" + name));
-    EXPECT_EQ(Form().UAE_Short.List(2), "Bär [long]");
-    LaunchBee();
-    EXPECT_THAT(tree.Read("Config/Alpha/Kivu_tmp.bat"), HasSubstr(name));
-}
-
-TEST_F(Faults, NameOf255BytesIsStarted) {
-    const std::string name = std::string(251, 'n') + ".adf";
-    tree.Write("Roms/Alpha/" + name, "x");
-    Start();
-    Scan();
-    EXPECT_EQ(Form().UAE_Short.List(3), std::string(251, 'n'));
-    Do("click", "Form1.Label3");
-    Do("dblclick", "Form1.UAE_Short", 3);
-    EXPECT_THAT(tree.Read("Config/Alpha/Kivu_tmp.bat"), HasSubstr(name));
-}
 
 TEST_F(Faults, DirectoryThatCannotBeReadIsDropped) {
     tree.Write("Roms/Alpha/Sub/Dog (1993)(Maker).adf");
@@ -205,21 +142,6 @@ TEST_F(Faults, EmulatorThatIsNoneIsStartedAndTheWatchEndsIt) {
         EXPECT_EQ(Get("GameIsRunning"), false) << path;
         ExpectUsable();
     }
-}
-
-TEST_F(Faults, EmulatorNameOfShellCharactersIsOnlyAName) {
-    const std::string name = "a'b;$(x) & `y`";
-    tree.AddEmulator(name, {{"EmulatorPath", "/Emu/alpha"},
-                            {"WinUAE_UseMasterConfig", "0"},
-                            {"EmulatorParameterAddDiskPath", "1"}});
-    tree.WriteCache(name, {{"/Roms/Alpha/Bee (1991)(Maker).adf", "Bee"}});
-    tree.WriteProgramProfile({{"LastEmulator", name}});
-    Start();
-    Do("click", "Form1.Label3");
-    Do("dblclick", "Form1.UAE_Short", 0);
-    const Json runs = Do("runs")["value"];
-    ASSERT_EQ(runs.size(), 1U);
-    EXPECT_EQ(runs[0]["words"], Json::array({tree.Path("Config/" + name + "/Kivu_tmp.bat")}));
 }
 
 }  // namespace

@@ -1,10 +1,9 @@
 // The real program through its pipes.
 
-#include <cstdio>
 #include <gmock/gmock.h>
-#include <sys/wait.h>
 
 #include "driver/json.h"
+#include "run_program.h"
 #include "scenarios/program_directory.h"
 
 namespace kivu::scenarios {
@@ -16,18 +15,13 @@ using ::testing::HasSubstr;
 class Program : public ::testing::Test {
  protected:
     // Gives the lines that the program answers to these, and keeps its exit code.
-    std::vector<std::string> Talk(const std::string& lines, const std::string& more = "") {
+    std::vector<std::string> Talk(const std::string& lines,
+                                  const std::vector<std::string>& more = {}) {
         const std::string input = tree.Write("input.txt", lines);
-        const std::string command = std::string(KIVU_DRIVE) + " --program-dir '" +
-                                    tree.Path("program") + "' " + more + " < '" + input + "'";
-        std::string output;
-        if (std::FILE* pipe = ::popen(command.c_str(), "r")) {
-            char part[4096];
-            while (const std::size_t read = std::fread(part, 1, sizeof part, pipe))
-                output.append(part, read);
-            const int status = ::pclose(pipe);
-            exitCode = WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-        }
+        std::vector<std::string> words{KIVU_DRIVE, "--program-dir", tree.Path("program")};
+        words.insert(words.end(), more.begin(), more.end());
+        const auto [output, code] = testing::RunProgram(words, input);
+        exitCode = code;
         std::vector<std::string> answers;
         std::istringstream split(output);
         for (std::string line; std::getline(split, line);)
@@ -67,7 +61,7 @@ TEST_F(Program, TakesItsOptions) {
     const auto answers = Talk(
         "[\"start\"]\n[\"get\",\"Form1.TimeString.Caption\"]\n[\"get\",\"Form1.CurrentLanguage\"]"
         "\n[\"get\",\"Form1.EXE\"]\n",
-        "--language German --time 07:08:09 --program Other");
+        {"--language", "German", "--time", "07:08:09", "--program", "Other"});
     ASSERT_EQ(answers.size(), 4U);
     EXPECT_THAT(answers[1], HasSubstr("\"07:08\""));
     EXPECT_THAT(answers[2], HasSubstr(":1}"));
@@ -78,14 +72,14 @@ TEST_F(Program, TakesItsOptions) {
 TEST_F(Program, CommandLineThatStartsAGameEndsTheProgram) {
     tree.Write("program/game.adf", "x");
     const auto answers =
-        Talk("[\"start\"]\n[\"runs\"]\n", "--command-line '" + tree.Path("program/game.adf") + "'");
+        Talk("[\"start\"]\n[\"runs\"]\n", {"--command-line", tree.Path("program/game.adf")});
     ASSERT_EQ(answers.size(), 2U);
     EXPECT_EQ(answers[0], "{\"ok\":true,\"ended\":true}");
     EXPECT_EQ(Json::parse(answers[1])["value"].size(), 1U);
 }
 
 TEST_F(Program, NonsenseAmongItsOwnArgumentsIsRefused) {
-    EXPECT_TRUE(Talk("[\"start\"]\n", "--time noon 2>/dev/null").empty());
+    EXPECT_TRUE(Talk("[\"start\"]\n", {"--time", "noon"}).empty());
     EXPECT_EQ(exitCode, 2);
 }
 

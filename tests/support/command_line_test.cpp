@@ -1,9 +1,6 @@
 #include "support/command_line.h"
 
-#include <array>
-#include <cstdio>
 #include <gmock/gmock.h>
-#include <random>
 
 namespace kivu::support {
 namespace {
@@ -57,35 +54,6 @@ TEST(QuoteForShell, PutsEveryWordInSingleQuotes) {
 
 TEST(QuoteForShell, CutsAtNul) {
     EXPECT_EQ(QuoteForShell("a\0b'"s), "'a'");
-}
-
-string ShellOutput(const string& command) {
-    string output;
-    FILE* pipe = popen(command.c_str(), "r");
-    if (pipe == nullptr) return output;
-    std::array<char, 4096> buffer;
-    for (std::size_t n = 0; (n = std::fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
-        output.append(buffer.data(), n);
-    }
-    pclose(pipe);
-    return output;
-}
-
-TEST(QuoteForShell, ComesThroughARealShellUnchanged) {
-    std::mt19937 random(10);
-    string words;
-    string expected;
-    for (int i = 0; i < 200; ++i) {
-        string word;
-        for (auto n = random() % 12; n > 0; --n)
-            word += static_cast<char>(1 + random() % 255);
-        for (const char c : "'\"$`\\;&|<>()*?[]#~!% \n"sv) {
-            if (random() % 3 == 0) word += c;
-        }
-        words += ' ' + QuoteForShell(word);
-        expected += '[' + word + ']';
-    }
-    EXPECT_EQ(ShellOutput("printf '[%s]'" + words), expected);
 }
 
 TEST(IsPlainForCmd, FindsWhatIsActedUponAlsoInQuotes) {
