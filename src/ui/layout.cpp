@@ -17,6 +17,22 @@ constexpr int rowPitch = 540;
 constexpr int buttonGap = 90;
 constexpr int lowestRow = 800;  // from the frame's bottom
 constexpr int drivesRow = lowestRow + 2 * rowPitch + 750;
+
+// How many lines a line becomes where it breaks between words, and wherever it must within one.
+int BrokenLines(const forms::Label& label, std::string_view line, int width) {
+    int lines = 1;
+    std::size_t begin = 0, word = 0;
+    while (word < line.size()) {
+        const std::size_t end = std::min(line.find(' ', word), line.size());
+        if (label.WidthOf(line.substr(begin, end - begin)) > width) {
+            lines += word > begin;
+            begin = word;
+            lines += std::max(0, label.WidthOf(line.substr(begin, end - begin)) - 1) / width;
+        }
+        word = end + 1;
+    }
+    return lines;
+}
 }  // namespace
 
 void Layout::Form_Resize() {
@@ -115,8 +131,7 @@ int Layout::HeightOfName(int width) const {
     int lines = 0;
     for (std::size_t start = 0; start <= caption.size();) {
         const std::size_t end = std::min(caption.find('\r', start), caption.size());
-        const int wide = name.WidthOf(caption.substr(start, end - start));
-        lines += 1 + std::max(0, wide - 1) / std::max(1, width);
+        lines += BrokenLines(name, caption.substr(start, end - start), std::max(1, width));
         start = end + 1;
     }
     return lines * LineOfName();
