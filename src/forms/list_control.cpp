@@ -125,6 +125,18 @@ void ListControl::RemoveItem(int row) {
 void ListControl::Clear() {
     if (rows.empty()) return;
     rows.clear();
+    NoteCleared();
+}
+
+std::vector<std::string> ListControl::TakeRows() {
+    if (rows.empty()) return {};
+    Settle();
+    std::vector<std::string> taken = std::exchange(rows, {});
+    NoteCleared();
+    return taken;
+}
+
+void ListControl::NoteCleared() {
     settled = 0;
     const bool deselected = selection.Clear();
     ++changes;

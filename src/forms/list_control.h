@@ -45,6 +45,9 @@ class ListControl : public Control {
     void RemoveItem(int row);
     // Takes the selection away without a click.
     void Clear();
+    // Clears the list and hands its rows on in their order: who fills it anew need not copy those
+    // that stay.
+    std::vector<std::string> TakeRows();
     // Room for so many rows, to spare a long fill the moves.
     void Reserve(int count) { rows.reserve(static_cast<std::size_t>(count < 0 ? 0 : count)); }
 
@@ -68,6 +71,7 @@ class ListControl : public Control {
  private:
     void Settle() const;
     void PlaceNewRows() const;
+    void NoteCleared();
 
     Order order;
     mutable std::vector<std::string> rows;

@@ -12,25 +12,28 @@ namespace kivu::forms {
 // already, one behind another: this costs one comparison a row to find them, and a merge of those
 // that overlap. Rows in no order cost about the comparisons of a merge sort. The merges move the
 // rows' numbers; each row itself moves once.
-template <typename Before>
+template <typename Before, typename Iterator = std::vector<std::string>::iterator>
 class RowSort {
  public:
-    RowSort(std::vector<std::string>::iterator first, std::vector<std::string>::iterator last,
-            Before before)
+    RowSort(Iterator first, Iterator last, Before before)
         : first(first), last(last), before(std::move(before)) {}
 
+    using Place = std::uint32_t;
+
     void Run() {
+        if (!FindOrder().empty()) MoveRows();
+    }
+
+    // The rows' places in their order; empty for rows that are in order as they are.
+    const std::vector<Place>& FindOrder() {
         FindRuns();
-        if (runEnds.size() < 2) return;
-        Number();
+        if (runEnds.size() > 1) Number();
         while (runEnds.size() > 1)
             MergeNeighbours();
-        MoveRows();
+        return places;
     }
 
  private:
-    using Place = std::uint32_t;
-
     const std::string& Row(Place place) const { return first[static_cast<std::ptrdiff_t>(place)]; }
     bool RowBefore(Place a, Place b) const { return before(Row(a), Row(b)); }
 
@@ -86,7 +89,7 @@ class RowSort {
         std::move(rows.begin(), rows.end(), first);
     }
 
-    std::vector<std::string>::iterator first, last;
+    Iterator first, last;
     Before before;
     std::vector<Place> runEnds;
     std::vector<Place> places, merged;
@@ -96,6 +99,14 @@ template <typename Before>
 void SortRows(std::vector<std::string>::iterator first, std::vector<std::string>::iterator last,
               Before before) {
     RowSort<Before>(first, last, std::move(before)).Run();
+}
+
+// The places that the rows have in their order, equal ones as they come; empty for rows that are in
+// order as they are.
+template <typename Before>
+std::vector<std::uint32_t> OrderOfRows(const std::vector<std::string>& rows, Before before) {
+    using Iterator = std::vector<std::string>::const_iterator;
+    return RowSort<Before, Iterator>(rows.begin(), rows.end(), std::move(before)).FindOrder();
 }
 
 }  // namespace kivu::forms

@@ -18,10 +18,6 @@ constexpr const char* idleGerman = "Suche..";
 constexpr const char* idleEnglish = "Search here..";
 constexpr int tabGap = 200;
 
-bool IsLetter(char32_t code) {
-    return (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z');
-}
-
 }  // namespace
 
 bool IsIdleText(std::string_view text) {
@@ -32,21 +28,33 @@ bool IsLongEnough(std::string_view text) {
     return support::CodePointCount(support::Trim(text)) >= 2;
 }
 
+bool BeginsSearch(const forms::Character& character) {
+    return (character.code >= 'a' && character.code <= 'z') ||
+           (character.code >= 'A' && character.code <= 'Z');
+}
+
 void ListSearch::SearchInList(const std::string& Text, int StartRow) {
-    form.SuchErgList.Clear();
-    if (support::Trim(Text).empty()) return;
-    const SearchWords words(Text);
-    const std::vector<std::string>& rows = form.WIthoutDoubles.Rows();
-    std::vector<std::string> found;
-    int first = -1;
-    games.Take(rows, form.WIthoutDoubles.Changes());
-    games.ForEachRow(words, static_cast<std::size_t>(std::max(StartRow, 0)), [&](std::size_t row) {
-        if (first < 0) first = static_cast<int>(row);
-        found.push_back(rows[row]);
-    });
+    if (support::Trim(Text).empty()) {
+        form.SuchErgList.Clear();
+        return;
+    }
+    titles.ClearResults();
+    const RowNumbers& found = titles.Find(Text, static_cast<std::size_t>(std::max(StartRow, 0)));
     // Its picture shows while the user types.
-    if (first >= 0) form.WIthoutDoubles.SetListIndex(first);
-    form.SuchErgList.AddItems(std::move(found));
+    if (!found.empty()) SelectGame(static_cast<int>(found.front()));
+    titles.FillResults();
+}
+
+// The row may be selected already while another list has chosen another game since. That one would
+// be started in place of the one in sight.
+void ListSearch::SelectGame(int row) {
+    forms::ListBox& games = form.WIthoutDoubles;
+    const bool already = games.ListIndex() == row;
+    if (already && form.UAE_Short.SelectedText() != games.SelectedText()) {
+        games.ClickRow(row);
+    } else {
+        games.SetListIndex(row);
+    }
 }
 
 void ListSearch::SearchDblsTxt_Change() {
@@ -104,7 +112,7 @@ void ListSearch::NarrowGlobalList(const std::string& text) {
     const auto before = std::count_if(rows.begin(), rows.begin() + std::max(selected, 0),
                                       [&](const std::string& row) { return words.AreIn(row); });
     list.Clear();
-    list.AddItems(std::move(kept));
+    list.AddSorted(std::move(kept));
     if (!stays) return;
     const auto click = std::exchange(list.onClick, {});
     list.SetListIndex(static_cast<int>(before));
@@ -207,20 +215,23 @@ void ListSearch::SuchErg_Click() {
 void ListSearch::SuchErgList_Click() {
     const std::vector<std::string>& rows = form.WIthoutDoubles.Rows();
     const auto found = std::find(rows.begin(), rows.end(), form.SuchErgList.SelectedText());
-    if (found != rows.end())
-        form.WIthoutDoubles.SetListIndex(static_cast<int>(found - rows.begin()));
+    if (found != rows.end()) SelectGame(static_cast<int>(found - rows.begin()));
     form.AddToFavorit.SetVisible(true);
     form.AddToFavorit_Global.SetVisible(true);
 }
 
 void ListSearch::SuchErgList_DblClick() {
-    hooks.LaunchBtn_Click();
+    // Below the last result there is no game, and the one selected elsewhere is not meant.
+    if (form.SuchErgList.ListIndex() >= 0) hooks.LaunchBtn_Click();
 }
 
 void ListSearch::SuchErgList_KeyPress(forms::Character& character) {
     if (character.code == keys::enter) {
+        if (form.SuchErgList.ListIndex() < 0) return;
+        // Another list may have selected another game since the row was clicked.
+        SuchErgList_Click();
         SuchErgList_DblClick();
-    } else if (IsLetter(character.code)) {
+    } else if (BeginsSearch(character)) {
         hooks.EmuListbox_KeyPress(character);
     }
 }

@@ -5,7 +5,7 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "library/search_words.h"
+#include "library/title_search.h"
 
 namespace kivu::library {
 
@@ -13,6 +13,8 @@ namespace kivu::library {
 bool IsIdleText(std::string_view text);
 // Below two characters a text hits too much to be searched for.
 bool IsLongEnough(std::string_view text);
+// A key that goes to the search box from whatever list has the focus.
+bool BeginsSearch(const forms::Character& character);
 
 // The search box, and the results that it filters out of the current emulator's games. The same box
 // narrows the results of a search over all emulators.
@@ -26,7 +28,8 @@ class ListSearch {
         core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
     };
 
-    explicit ListSearch(core::Form1& form) : form(form) {}
+    explicit ListSearch(core::Form1& form)
+        : form(form), titles(form.WIthoutDoubles, form.SuchErgList) {}
 
     // Fills SuchErgList with the rows of WIthoutDoubles, from `StartRow` on, that contain every
     // word of `Text`, and selects the first of them there.
@@ -48,6 +51,7 @@ class ListSearch {
     Hooks hooks;
 
  private:
+    void SelectGame(int row);
     void FilterCurrentList(const std::string& text);
     void NarrowGlobalList(const std::string& text);
     void FindNext();
@@ -56,7 +60,7 @@ class ListSearch {
     void ShowTab();
 
     core::Form1& form;
-    JoinedRows games;  // of WIthoutDoubles
+    TitleSearch titles;
 };
 
 }  // namespace kivu::library

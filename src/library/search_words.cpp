@@ -66,11 +66,18 @@ std::size_t Commonness(char c) {
     return place == std::string_view::npos ? order.size() : place;
 }
 
+std::vector<SearchWord> WordsOf(std::string_view text) {
+    std::vector<SearchWord> words;
+    for (const std::string_view word : support::Split(text, ' ')) {
+        if (!word.empty()) words.emplace_back(word);
+    }
+    return words;
+}
+
 }  // namespace
 
 SearchWord::SearchWord(std::string_view word) : needle(word) {
-    const std::string folded = support::ToLower(word);
-    length = folded.size();
+    folded = support::ToLower(word);
     probe = AsciiRun(folded);
     for (const char c : probe)
         caseBits += CaseBit(c);
@@ -140,10 +147,16 @@ bool SearchWord::IsIn(std::string_view text) const {
     return IsExact() || needle.IsIn(text);
 }
 
-SearchWords::SearchWords(std::string_view text) {
-    for (const std::string_view word : support::Split(text, ' ')) {
-        if (!word.empty()) words.emplace_back(word);
-    }
+// Within stray bytes a word may stand where it begins in the middle of a character.
+bool SearchWord::Implies(const SearchWord& other) const {
+    if (folded == other.folded) return true;
+    return support::IsUtf8(other.folded) && folded.find(other.folded) != std::string::npos;
+}
+
+SearchWords::SearchWords(std::string_view text) : SearchWords(WordsOf(text)) {
+}
+
+SearchWords::SearchWords(std::vector<SearchWord> left) : words(std::move(left)) {
     for (std::size_t i = 0; i < words.size(); ++i) {
         plainAscii = plainAscii && words[i].IsExact();
         if (words[i].ProbeLength() > words[driver].ProbeLength()) driver = i;
@@ -155,17 +168,43 @@ bool SearchWords::AreIn(std::string_view text) const {
                        [text](const SearchWord& word) { return word.IsIn(text); });
 }
 
+std::optional<SearchWords> SearchWords::Beyond(const SearchWords& found) const {
+    const auto implied = [](const SearchWord& word, const std::vector<SearchWord>& by) {
+        return std::any_of(by.begin(), by.end(),
+                           [&word](const SearchWord& other) { return other.Implies(word); });
+    };
+    for (const SearchWord& word : found.words) {
+        if (!implied(word, words)) return {};
+    }
+    std::vector<SearchWord> left;
+    for (const SearchWord& word : words) {
+        if (!implied(word, found.words)) left.push_back(word);
+    }
+    return SearchWords(std::move(left));
+}
+
+const SearchWord* SearchWords::Driver() const {
+    return !words.empty() && words[driver].HasProbe() ? &words[driver] : nullptr;
+}
+
+bool SearchWords::OthersAreIn(std::string_view text) const {
+    for (std::size_t i = 0; i < words.size(); ++i) {
+        if (i != driver && !words[i].IsIn(text)) return false;
+    }
+    return true;
+}
+
 bool SearchWords::AreInLine(std::string_view line, const Decode& decode) const {
     if (plainAscii || support::IsUtf8(line)) return AreIn(line);
     return AreIn(decode(line));
 }
 
 bool SearchWords::ForEachLine(std::string_view block, const Decode& decode, const Hit& hit) const {
-    const bool jump = !words.empty() && words[driver].HasProbe();
+    const SearchWord* jump = Driver();
     for (std::size_t at = 0; at < block.size();) {
         std::size_t begin = at;
         if (jump) {
-            const std::size_t place = words[driver].Find(block, at);
+            const std::size_t place = jump->Find(block, at);
             if (place == std::string_view::npos) return true;
             begin = place;
             while (begin > at && block[begin - 1] != '\n')
@@ -178,38 +217,6 @@ bool SearchWords::ForEachLine(std::string_view block, const Decode& decode, cons
         at = end + 1;
     }
     return true;
-}
-
-void JoinedRows::Take(const std::vector<std::string>& rows, std::uint64_t version) {
-    if (taken == version) return;
-    taken = version;
-    text.clear();
-    begins.clear();
-    begins.reserve(rows.size());
-    for (const std::string& row : rows) {
-        begins.push_back(text.size());
-        text += row;
-        // A line end within a row would make two of it. Nobody can search for one.
-        const auto from = text.begin() + static_cast<std::ptrdiff_t>(begins.back());
-        if (row.find('\n') != std::string::npos) std::replace(from, text.end(), '\n', '\0');
-        text += '\n';
-    }
-}
-
-void JoinedRows::ForEachRow(const SearchWords& words, std::size_t start,
-                            const std::function<void(std::size_t row)>& hit) const {
-    if (start >= begins.size()) return;
-    std::size_t row = start;
-    const auto asItIs = [](std::string_view bytes) { return std::string(bytes); };
-    const std::string_view block = std::string_view(text).substr(begins[start]);
-    words.ForEachLine(block, asItIs, [&](std::string_view line) {
-        const auto place = static_cast<std::size_t>(line.data() - text.data());
-        const auto next = std::upper_bound(begins.begin() + static_cast<std::ptrdiff_t>(row),
-                                           begins.end(), place);
-        row = static_cast<std::size_t>(next - begins.begin()) - 1;
-        hit(row);
-        return true;
-    });
 }
 
 std::size_t CountLineFeeds(std::string_view block) {

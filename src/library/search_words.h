@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -27,19 +26,20 @@ class SearchWord {
     // IsIn. Not for words without a probe.
     std::size_t Find(std::string_view text, std::size_t from) const;
 
-    bool IsEmpty() const { return length == 0; }
     bool HasProbe() const { return !probe.empty(); }
-    bool IsExact() const { return probe.size() == length; }
+    bool IsExact() const { return probe.size() == folded.size(); }
     std::size_t ProbeLength() const { return probe.size(); }
+    // Whether every text with this word contains the other one.
+    bool Implies(const SearchWord& other) const;
 
  private:
     bool MatchesAt(const char* place) const;
     bool LettersStandNear(const char* begin) const;
 
-    std::size_t length = 0;  // bytes of the folded word
-    std::string probe;       // folded
-    std::string caseBits;    // what each byte of a text is joined with before it is compared
-    std::size_t first = 0;   // places in `probe` of the two rarest letters, in rising order
+    std::string folded;
+    std::string probe;      // folded
+    std::string caseBits;   // what each byte of a text is joined with before it is compared
+    std::size_t first = 0;  // places in `probe` of the two rarest letters, in rising order
     std::size_t second = 0;
     support::NoCaseNeedle needle;
 };
@@ -52,6 +52,14 @@ class SearchWords {
     explicit SearchWords(std::string_view text);
 
     bool AreIn(std::string_view text) const;
+    // The words that are left to be looked for in texts that contain all words of `found`. Nothing:
+    // there may be other texts that match.
+    std::optional<SearchWords> Beyond(const SearchWords& found) const;
+    bool IsEmpty() const { return words.empty(); }
+    // The word to look for first, if there is one with a probe.
+    const SearchWord* Driver() const;
+    // Whether the others are in a text too.
+    bool OthersAreIn(std::string_view text) const;
     // Calls `hit` with each matching line of `block`, in order, until it gives false, which comes
     // back. A line ends in LF or CR LF, which are not part of it; the last may lack its end.
     // A line that is not UTF-8 is decoded by `decode` first where that matters.
@@ -60,26 +68,12 @@ class SearchWords {
     bool ForEachLine(std::string_view block, const Decode& decode, const Hit& hit) const;
 
  private:
+    explicit SearchWords(std::vector<SearchWord> left);
     bool AreInLine(std::string_view line, const Decode& decode) const;
 
     std::vector<SearchWord> words;  // the empty ones left out
     std::size_t driver = 0;         // the word with the longest probe
     bool plainAscii = true;
-};
-
-// The rows of a list one behind the other, to be searched as one text.
-class JoinedRows {
- public:
-    // Takes the rows over unless it has those of this version already.
-    void Take(const std::vector<std::string>& rows, std::uint64_t version);
-    // Calls `hit` with the number of each row from `start` on that contains all words, in order.
-    void ForEachRow(const SearchWords& words, std::size_t start,
-                    const std::function<void(std::size_t row)>& hit) const;
-
- private:
-    std::string text;                 // each row ended by LF
-    std::vector<std::size_t> begins;  // of each row in the text
-    std::optional<std::uint64_t> taken;
 };
 
 // Line feeds in a block.

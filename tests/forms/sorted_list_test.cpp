@@ -158,6 +158,22 @@ TEST_F(SortedList, RowsGivenInOrderFindTheirPlacesAmongThoseThatAreThere) {
     EXPECT_EQ(list.ListCount(), 5);
 }
 
+TEST_F(SortedList, HandsItsRowsOnInOrder) {
+    list.AddItems({"d", "b", "c"});
+    list.SetListIndex(1);
+    int clicks = 0;
+    list.onClick = [&] { ++clicks; };
+    const std::uint64_t before = list.Changes();
+    EXPECT_THAT(list.TakeRows(), ElementsAre("b", "c", "d"));
+    EXPECT_EQ(list.ListCount(), 0);
+    EXPECT_EQ(list.ListIndex(), -1);
+    EXPECT_EQ(clicks, 0);
+    EXPECT_NE(list.Changes(), before);
+    EXPECT_TRUE(list.TakeRows().empty());
+    list.AddItems({"b", "a"});
+    EXPECT_THAT(RowsOf(list), ElementsAre("a", "b"));
+}
+
 TEST_F(SortedList, PrecedesIsTheOrderOfTheRows) {
     EXPECT_TRUE(list.Precedes("a", "B"));
     EXPECT_FALSE(list.Precedes("B", "a"));

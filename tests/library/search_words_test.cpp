@@ -130,40 +130,30 @@ TEST(SearchLines, StopsWhenTheCallerHasEnough) {
     EXPECT_EQ(calls, 2);
 }
 
-std::vector<std::size_t> RowsWith(std::string_view text, const std::vector<string>& rows,
-                                  std::size_t start = 0) {
-    JoinedRows joined;
-    joined.Take(rows, 1);
-    std::vector<std::size_t> found;
-    joined.ForEachRow(SearchWords(text), start, [&](std::size_t row) { found.push_back(row); });
-    return found;
+// Whether a text that contains all of `found` needs only be looked through for what is left.
+std::optional<bool> LeftIsIn(std::string_view text, std::string_view found, std::string_view row) {
+    const auto left = SearchWords(text).Beyond(SearchWords(found));
+    return left ? std::optional(left->AreIn(row)) : std::nullopt;
 }
 
-TEST(JoinedRows, GiveTheNumbersOfMatchingRows) {
-    const std::vector<string> rows = {"Ant", "", "Giant ant", "Bee", "ant\r", "Jäger", "J\xE4ger"};
-    using Numbers = std::vector<std::size_t>;
-    EXPECT_EQ(RowsWith("ant", rows), (Numbers{0, 2, 4}));
-    EXPECT_EQ(RowsWith("ant", rows, 1), (Numbers{2, 4}));
-    EXPECT_EQ(RowsWith("ant", rows, 5), Numbers{});
-    EXPECT_EQ(RowsWith("ant", rows, 99), Numbers{});
-    EXPECT_EQ(RowsWith("JÄGER", rows), (Numbers{5, 6}));
-    EXPECT_EQ(RowsWith("", rows), (Numbers{0, 1, 2, 3, 4, 5, 6}));
-    EXPECT_EQ(RowsWith("tb", {"ant", "bee"}), Numbers{});
-    EXPECT_EQ(RowsWith("a c", {"a\nb\nc", "c"}), Numbers{0});
-    EXPECT_EQ(RowsWith("a", {}), Numbers{});
+TEST(SearchWordsBeyond, ALongerTextIsLookedForInWhatTheShorterOneHasLeft) {
+    EXPECT_TRUE(SearchWords("ant").Beyond(SearchWords("ant"))->IsEmpty());
+    EXPECT_TRUE(SearchWords("ANT ").Beyond(SearchWords("ant"))->IsEmpty());
+    EXPECT_TRUE(SearchWords("bee ant").Beyond(SearchWords("ant bee"))->IsEmpty());
+    EXPECT_EQ(LeftIsIn("giant", "ant", "Ant"), false);
+    EXPECT_EQ(LeftIsIn("giant", "ant", "GIANT"), true);
+    EXPECT_EQ(LeftIsIn("ant bee", "ant", "Bee"), true);
+    EXPECT_EQ(LeftIsIn("jäger", "ä", "Jäger"), true);
+    EXPECT_EQ(LeftIsIn("a", "", "b"), false);
 }
 
-TEST(JoinedRows, AreTakenAnewOnlyWithANewVersion) {
-    JoinedRows joined;
-    int hits = 0;
-    const auto count = [&](std::size_t) { ++hits; };
-    joined.Take({"a"}, 1);
-    joined.Take({"a", "a"}, 1);
-    joined.ForEachRow(SearchWords("a"), 0, count);
-    EXPECT_EQ(hits, 1);
-    joined.Take({"a", "a"}, 2);
-    joined.ForEachRow(SearchWords("a"), 0, count);
-    EXPECT_EQ(hits, 3);
+TEST(SearchWordsBeyond, OtherTextsAreLookedForAnew) {
+    EXPECT_FALSE(SearchWords("an").Beyond(SearchWords("ant")));
+    EXPECT_FALSE(SearchWords("ant").Beyond(SearchWords("ant bee")));
+    EXPECT_FALSE(SearchWords("").Beyond(SearchWords("ant")));
+    EXPECT_FALSE(SearchWords("bee").Beyond(SearchWords("ant")));
+    // A stray byte is no part of a letter.
+    EXPECT_FALSE(SearchWords("ä").Beyond(SearchWords("\xC3")));
 }
 
 TEST(CountLineFeeds, CountsInBlocksOfAnyLength) {
