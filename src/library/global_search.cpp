@@ -79,7 +79,7 @@ void AllEmulatorsSearch::SearchAllBtn_Click() {
     }
     const int count = form.GlobalSearchList.ListCount();
     form.Label4.SetCaption(" Globale Suche: " + std::to_string(count) +
-                           (count >= limit ? " (Abbr.)" : ""));
+                           (count >= limit ? " (Abbr.)" : "") + Backing());
     ShowResults();
 }
 
@@ -90,6 +90,7 @@ void AllEmulatorsSearch::ArrangeForSearch() {
     form.SearchAllBtn.SetBackColor(allEmulatorsColor);
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
     PlaceLabel4();
+    CoverTabs();
     form.ListMode = "4";
     hooks.RebuildLayout();
 }
@@ -114,8 +115,15 @@ void AllEmulatorsSearch::PlaceLabel4() {
     form.Label4.SetLeft(form.EmuListbox.Right() + tabGap);
 }
 
+// The label covers the other tabs, of which one may have been brought to the front, and none of
+// what stands in front of them all.
+void AllEmulatorsSearch::CoverTabs() {
+    form.Label4.BringToFront();
+    form.TopRightPic.BringToFront();
+    form.SettingsSubPicture.BringToFront();
+}
+
 void AllEmulatorsSearch::ShowResults() {
-    form.Label4.SetCaption(form.Label4.Caption() + Backing());
     PlaceLabel4();
     form.Label4.SetBackColor(form.GlobalSearchList.BackColor());
     form.Label4.SetForeColor(form.GlobalSearchList.ForeColor());
@@ -125,9 +133,10 @@ void AllEmulatorsSearch::ShowResults() {
     form.GlobalSearchList.SetFocus();
 }
 
-// Nothing has been searched for, so the window is what it was.
+// Nothing has been searched for, so the window goes back to the current emulator's results.
 void AllEmulatorsSearch::LeaveWithoutResults(bool backToBox) {
     busy.HideAll(true);
+    hooks.RebuildLayout();
     if (backToBox) form.SearchDblsTxt.SetFocus();
 }
 
@@ -195,7 +204,7 @@ bool AllEmulatorsSearch::ScanCache(const std::string& emulator, const SearchWord
     const auto cache =
         files.OpenFile(form.ConfigPath + emulator + files.Separator() + form.EXE + "_Cache.txt");
     if (!cache) return true;
-    ShowProgress(emulator);
+    ShowProgress(emulator, lines);
     LineBlocks blocks(*cache);
     while (MayGoOn() && blocks.Next()) {
         const bool goesOn = ScanBlock(emulator, words, blocks.Block());
@@ -205,7 +214,7 @@ bool AllEmulatorsSearch::ScanCache(const std::string& emulator, const SearchWord
         lines += static_cast<std::int32_t>(blocks.LineCount());
         if (lines / linesPerTurn == before / linesPerTurn) continue;
         form.Label4.SetVisible(true);
-        ShowProgress(emulator);
+        ShowProgress(emulator, lines - lines % linesPerTurn);
     }
     return MayGoOn();
 }
@@ -229,11 +238,9 @@ bool AllEmulatorsSearch::TakeHit(const std::string& emulator, std::string_view l
     return ++hits <= limit;
 }
 
-// What is counted is shown in steps of a hundred lines.
-void AllEmulatorsSearch::ShowProgress(const std::string& emulator) {
-    const std::int32_t shown = lines - lines % linesPerTurn;
-    form.Label4.SetCaption(emulator + ": (" + std::to_string(hits) + "/" + std::to_string(shown) +
-                           ")");
+void AllEmulatorsSearch::ShowProgress(const std::string& emulator, std::int32_t linesShown) {
+    form.Label4.SetCaption(emulator + ": (" + std::to_string(hits) + "/" +
+                           std::to_string(linesShown) + ")");
     PlaceLabel4();
     pacer.DoEventsWhenDue();
 }
@@ -284,7 +291,13 @@ void AllEmulatorsSearch::OpenHit(int row) {
 }
 
 void AllEmulatorsSearch::GlobalSearchList_KeyPress(forms::Character& character) {
-    if (character.code == forms::keys::enter) GlobalSearchList_DblClick();
+    // While the caches are searched the box shows what for.
+    if (form.Busy) return;
+    if (character.code == forms::keys::enter) {
+        GlobalSearchList_DblClick();
+    } else if (BeginsSearch(character)) {
+        hooks.EmuListbox_KeyPress(character);
+    }
 }
 
 }  // namespace kivu::library

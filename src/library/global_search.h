@@ -28,6 +28,7 @@ class AllEmulatorsSearch {
         core::Hook<void()> EmuListbox_DblClick;
         core::Hook<void()> SearchDblsTxt_Change;
         core::Hook<void()> Label4_Click;
+        core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
     };
 
     // The scan stops when it has more hits.
@@ -63,11 +64,12 @@ class AllEmulatorsSearch {
     void LeaveWithoutResults(bool backToBox);
     void LeaveForOtherList();
     void PlaceLabel4();
+    void CoverTabs();
     void ScanCaches(const SearchWords& words);
     bool ScanCache(const std::string& emulator, const SearchWords& words);
     bool ScanBlock(const std::string& emulator, const SearchWords& words, std::string_view block);
     bool TakeHit(const std::string& emulator, std::string_view line);
-    void ShowProgress(const std::string& emulator);
+    void ShowProgress(const std::string& emulator, std::int32_t linesShown);
     bool MayGoOn() const;
     int EmulatorRow(std::string_view name) const;
     void OpenHit(int row);

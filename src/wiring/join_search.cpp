@@ -24,6 +24,10 @@ void Launcher::Routines::JoinSearch() {
     all.EmuListbox_DblClick = [this] { emulatorBox.EmuListbox_DblClick(); };
     all.SearchDblsTxt_Change = [this] { listSearch.SearchDblsTxt_Change(); };
     all.Label4_Click = [this] { listEvents.Label4_Click(); };
+    // Letters typed in the hits narrow them.
+    all.EmuListbox_KeyPress = [this](forms::Character& key) {
+        emulatorBox.EmuListbox_KeyPress(key);
+    };
 
     forms::TextBox& box = form.SearchDblsTxt;
     box.onChange = [this] { globalSearch.SearchDblsTxt_Change(); };

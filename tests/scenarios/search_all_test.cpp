@@ -164,6 +164,126 @@ TEST_F(AllSearchScenario, ManyHitsAreNarrowedWithTheSelectedRowKept) {
     EXPECT_EQ(Get("GlobalSearchList.ListIndex"), -1);
 }
 
+TEST_F(AllSearchScenario, AHitLeadsToTheResultsOfTheWholeSearchsText) {
+    Start();
+    SearchAll("199");
+    Do("set", "Form1.SearchDblsTxt.Text", "giant");
+    Do("key", "Form1.SearchDblsTxt", "Down");
+    Do("key", "Form1.GlobalSearchList", "Enter");
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "199");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 1);
+    EXPECT_EQ(Get("SuchErgList.ListCount"), 2);
+}
+
+TEST_F(AllSearchScenario, LettersTypedInTheHitsNarrowThem) {
+    Start();
+    SearchAll("199");
+    ASSERT_EQ(Get("Focus"), "Form1.GlobalSearchList");
+    Do("key", "Form1.GlobalSearchList", "c");
+    EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "c");
+    EXPECT_EQ(Form().SearchDblsTxt.SelStart(), 1);
+    Do("key", "Form1.SearchDblsTxt", "a");
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "ca");
+    EXPECT_EQ(Hits(), Json({Padded("Beta:  Cat (1992)", 10, 21)}));
+    Do("key", "Form1.SearchDblsTxt", "Down");
+    EXPECT_EQ(Get("Focus"), "Form1.GlobalSearchList");
+    EXPECT_EQ(Get("GlobalSearchList.ListIndex"), 0);
+    Do("key", "Form1.GlobalSearchList", "5");
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "ca");
+}
+
+TEST_F(AllSearchScenario, ARowWithoutAnEmulatorLeadsNowhere) {
+    Start();
+    SearchAll("ant");
+    Form().GlobalSearchList.AddItem("Zz no colon");
+    Do("dblclick", "Form1.GlobalSearchList", 2);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "ant");
+}
+
+TEST_F(AllSearchScenario, ASecondEmulatorOfTheSameNameRunsTheHitAgain) {
+    Start();
+    Form().EmuListbox.AddItem("Beta");
+    Form().EmulatorLongListbox.AddItem("Beta");
+    SearchAll("giant");
+    Do("key", "Form1.GlobalSearchList", "Enter");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 2);
+    // The text went with the first one.
+    EXPECT_EQ(Get("SuchErgList.ListCount"), 0);
+}
+
+TEST_F(AllSearchScenario, AnEmulatorWithoutANameIsPassedOver) {
+    tree.Write("Config/Kivu_Cache.txt", "/Roms/Ant (1977)(M).adf\r\nAnt (1977)(M)\r\n");
+    Start();
+    Form().EmuListbox.AddItem("");
+    Form().EmuListbox.AddItem("Nothing there");
+    SearchAll("1977");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+}
+
+TEST_F(AllSearchScenario, EachEmulatorBeginsWithTheCountersSoFar) {
+    Start();
+    std::vector<std::string> captions;
+    Host().clock.perLook = std::chrono::milliseconds(40);
+    Host().events.onEvents = [&] {
+        if (!Form().SearchDblsTxt.Enabled()) captions.push_back(Form().Label4.Caption());
+    };
+    SearchAll("ant");
+    Host().events.onEvents = {};
+    // Three games are six lines.
+    EXPECT_EQ(captions, (std::vector<std::string>{"Alpha: (0/0)", "Beta: (1/6)"}));
+}
+
+TEST_F(AllSearchScenario, NothingToSearchForLeavesTheHitsAlone) {
+    Start();
+    SearchAll("ant");
+    Do("set", "Form1.SearchAllBtn.BackColor", "#FFFFFF");
+    Call("GlobalSearch", "  ");
+    EXPECT_EQ(Get("SearchAllBtn.BackColor"), "#C0FFC0");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 2);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "ant");
+    EXPECT_EQ(Get("SearchDblsTxt.Enabled"), true);
+}
+
+TEST_F(AllSearchScenario, AnIdleTextSearchesNothingAndLeavesAListInFront) {
+    Start();
+    Do("set", "Form1.SearchDblsTxt.Text", "Suche.");
+    ASSERT_EQ(Get("SearchAllBtn.Enabled"), true);
+    Do("set", "Form1.SearchDblsTxt.Text", "Suche..");
+    Do("click", "Form1.SearchAllBtn");
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_TRUE(Visible("SuchErgList"));
+    EXPECT_TRUE(Visible("SearchDblsTxt"));
+    EXPECT_TRUE(Visible("Label1"));
+    EXPECT_FALSE(Visible("LoadingBtn"));
+    EXPECT_EQ(Get("Label4.Caption").get<std::string>().find(backing), std::string::npos);
+}
+
+TEST_F(AllSearchScenario, TheHitsFollowTheWindowsSize) {
+    Start();
+    SearchAll("ant");
+    Do("resize", "Form1", 20000, 12000);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(Get("GlobalSearchList.Width"), Get("ListWidth"));
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 2);
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 2" + backing);
+    EXPECT_EQ(Get("Label4.Left"), Form().EmuListbox.Right() + 200);
+}
+
+TEST_F(AllSearchScenario, FewHitsAreTakenOutWithTheSelectedRowKept) {
+    Start();
+    SearchAll("199");
+    Do("select", "Form1.GlobalSearchList", 3);
+    int clicks = 0;
+    Form().GlobalSearchList.onClick = [&] { ++clicks; };
+    Do("set", "Form1.SearchDblsTxt.Text", "beta");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 2);
+    EXPECT_EQ(Get("GlobalSearchList.ListIndex"), 1);
+    EXPECT_EQ(clicks, 0);
+}
+
 TEST_F(AllSearchScenario, AClickShowsTheHitAndItsEmulatorOnce) {
     Start();
     std::vector<int> shown;
@@ -178,6 +298,20 @@ TEST_F(AllSearchScenario, AClickShowsTheHitAndItsEmulatorOnce) {
     Do("select", "Form1.GlobalSearchList", 2);
     EXPECT_EQ(Get("Current_ProgramNameFull.Caption"), "Beta:\r  Cat (1992)");
     EXPECT_EQ(shown, (std::vector<int>{0, 1}));
+}
+
+TEST_F(AllSearchScenario, TheCaptionCoversTheTabThatTheChoiceHasBroughtToTheFront) {
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 1);
+    SearchAll("ant");
+    const auto& order = Form().Children();
+    const auto place = [&](const forms::Control& control) {
+        return std::find(order.begin(), order.end(), &control);
+    };
+    EXPECT_LT(place(Form().Label1), place(Form().Label4));
+    EXPECT_LT(place(Form().Label4), place(Form().TopRightPic));
+    EXPECT_LT(place(Form().Label4), place(Form().SettingsSubPicture));
 }
 
 TEST_F(AllSearchScenario, AHitLeadsToItsEmulatorsResults) {

@@ -1,3 +1,4 @@
+#include "forms/user_input.h"
 #include "scenarios/all_search.h"
 #include "wiring/routines.h"
 
@@ -27,6 +28,38 @@ TEST_F(LongSearch, StopsAboveThirtyTwoThousandHits) {
     EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 32001 (Abbr.)" + backing);
 }
 
+TEST_F(LongSearch, ThirtyTwoThousandHitsAreMarkedAsManyToo) {
+    std::string cache;
+    for (int i = 100000; i < 132000; ++i)
+        cache += "Title " + std::to_string(i) + "-(1985)\r\n";
+    tree.Write("Config/Gamma/Kivu_Cache.txt", cache);
+    Start();
+    SearchAll("title");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 32000);
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 32000 (Abbr.)" + backing);
+    SearchAll("title 131998");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    EXPECT_EQ(Get("Label4.Caption"), " Globale Suche: 1" + backing);
+}
+
+TEST_F(LongSearch, LettersTypedInTheHitsWaitForTheEnd) {
+    Start();
+    int turns = 0;
+    Host().events.onEvents = [&] {
+        if (Form().SearchDblsTxt.Enabled()) return;
+        ++turns;
+        Form().GlobalSearchList.SetFocus();
+        forms::UserInput(Form()).Stroke(forms::KeyOf('x'));
+        EXPECT_EQ(Form().SearchDblsTxt.Text(), "Searching: 99-");
+    };
+    Do("set", "Form1.SearchDblsTxt.Text", "99-");
+    Call("SearchAllBtn_Click");
+    Host().events.onEvents = {};
+    EXPECT_GT(turns, 5);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "99-");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 400);
+}
+
 TEST_F(LongSearch, CountersMoveWhileItRuns) {
     Start();
     std::vector<std::string> captions, texts;
@@ -40,7 +73,7 @@ TEST_F(LongSearch, CountersMoveWhileItRuns) {
     Host().events.onEvents = {};
     EXPECT_EQ(texts.back(), "Searching: 99-");
     EXPECT_GT(captions.size(), 10U);
-    EXPECT_NE(std::find(captions.begin(), captions.end(), "Gamma: (0/0)"), captions.end());
+    EXPECT_NE(std::find(captions.begin(), captions.end(), "Gamma: (0/10)"), captions.end());
     EXPECT_EQ(captions.back(), "Gamma: (400/80000)");
     EXPECT_EQ(Get("GlobalSearchList.ListCount"), 400);
 }

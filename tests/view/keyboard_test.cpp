@@ -20,6 +20,19 @@ TEST_F(KeyboardTest, RunsWindowAndControlHandlersInOrder) {
     EXPECT_EQ(form.text.Text(), "a");
 }
 
+TEST_F(KeyboardTest, TellsOnceOfAKeyThatAFieldMakesNothingOf) {
+    form.onPreviewKeyDown = [this](forms::Key&) { form.log.push_back("window down"); };
+    form.onPreviewKeyPress = [this](forms::Character&) { form.log.push_back("window press"); };
+    form.text.onKeyDown = [this](forms::Key&) { form.log.push_back("down"); };
+    form.text.SetFocus();
+    Show();
+    Key(Qt::Key_F3);
+    EXPECT_EQ(form.log, (std::vector<std::string>{"window down", "down"}));
+    form.log.clear();
+    Key(Qt::Key_Escape);
+    EXPECT_EQ(form.log, (std::vector<std::string>{"window down", "down", "window press"}));
+}
+
 TEST_F(KeyboardTest, LetsAKeySwallowedByTheWindowGoNoFurther) {
     form.onPreviewKeyDown = [](forms::Key& key) { key.code = 0; };
     form.text.onKeyDown = [this](forms::Key&) { form.log.push_back("down"); };
