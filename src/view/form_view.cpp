@@ -212,8 +212,10 @@ bool FormView::eventFilter(QObject* object, QEvent* event) {
             event->accept();
             return true;
         case QEvent::KeyPress:
-            event->accept();
             keyboard.Press(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
+            // A field that makes nothing of a key would hand it on to the windows behind, and with
+            // it to the form once more.
+            event->accept();
             return true;
         case QEvent::FocusIn:
             TakeFocus(mirror, static_cast<QFocusEvent*>(event)->reason());
