@@ -20,11 +20,6 @@ bool IsBatchFile(const std::string& program) {
     return name.find(".exe") == std::string::npos && name.find(".bat") != std::string::npos;
 }
 
-bool IsProgramFile(const std::string& program) {
-    const std::string name = support::ToLower(program);
-    return name.ends_with(".exe") || name.ends_with(".com");
-}
-
 std::string WatchedName(const std::string& program) {
     return IsBatchFile(program) ? "cmd.exe" : support::GetFileNameOnly(program);
 }

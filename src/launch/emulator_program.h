@@ -17,9 +17,6 @@ std::string ResolveEmulator(const std::string& program, const std::string& progr
 // ".bat" in a file name without ".exe": the emulator is started by a batch file.
 bool IsBatchFile(const std::string& program);
 
-// ".exe" or ".com" at its end: what "Start" runs itself, and not through another program.
-bool IsProgramFile(const std::string& program);
-
 // The name under which a running emulator is looked for: its file name, or that of the command
 // processor when it is started by a batch file.
 std::string WatchedName(const std::string& program);

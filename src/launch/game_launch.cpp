@@ -140,7 +140,7 @@ bool GameLaunch::WriteStartFile(Run& run) {
         BatchStartFile(cd, StartCommand(program, run.parameters.BatchText()));
     // A batch file's line goes to a second command processor, which reads it again and may take the
     // outer quotes off it: nothing that is quoted or doubled here is safe there.
-    if (!IsProgramFile(run.emulator))
+    if (!support::IsProgramFile(run.emulator))
         safe &= run.parameters.HasPlainPaths() && support::IsPlainForCmd(run.emulator);
     const auto bytes = services.starter.StartFileBytes(content);
     run.direct = !safe || !bytes;

@@ -15,6 +15,11 @@ bool IsGap(char c) {
     return c == ' ' || c == '\t';
 }
 
+bool EndsWith(std::string_view text, std::string_view ending) {
+    return text.size() >= ending.size() &&
+           EqualsNoCase(text.substr(text.size() - ending.size()), ending);
+}
+
 // Takes the arguments off the front of a command line, one at a time.
 class ArgumentReader {
  public:
@@ -105,13 +110,15 @@ std::string ToWinePath(std::string_view path) {
     return windows;
 }
 
+bool IsProgramFile(std::string_view path) {
+    return EndsWith(path, ".exe") || EndsWith(path, ".com");
+}
+
 bool IsWindowsProgram(std::string_view path) {
     constexpr std::array<std::string_view, 3> kEndings = {".exe", ".bat", ".cmd"};
     const std::string_view bare = WithoutQuotes(path);
-    return std::any_of(kEndings.begin(), kEndings.end(), [&](std::string_view ending) {
-        return bare.size() >= ending.size() &&
-               EqualsNoCase(bare.substr(bare.size() - ending.size()), ending);
-    });
+    return std::any_of(kEndings.begin(), kEndings.end(),
+                       [&](std::string_view ending) { return EndsWith(bare, ending); });
 }
 
 }  // namespace kivu::support

@@ -36,6 +36,10 @@ bool IsPlainForCmd(std::string_view word);
 // comes back as it is. A name with "\" in it has no such form: its "\" will separate.
 std::string ToWinePath(std::string_view path);
 
+// By its ending, without regard to case: .exe or .com, which Windows runs itself, and not through
+// another program.
+bool IsProgramFile(std::string_view path);
+
 // By its ending: .exe, .bat or .cmd without regard to case, inside of enclosing quotes or not.
 bool IsWindowsProgram(std::string_view path);
 

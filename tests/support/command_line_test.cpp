@@ -56,6 +56,13 @@ TEST(QuoteForShell, CutsAtNul) {
     EXPECT_EQ(QuoteForShell("a\0b'"s), "'a'");
 }
 
+TEST(IsProgramFile, GoesByTheEnding) {
+    for (const char* path : {"C:\\a b\\emu.exe", "EMU.EXE", "x.bat.Com", ".exe"})
+        EXPECT_TRUE(IsProgramFile(path)) << path;
+    for (const char* path : {"run.bat", "run.cmd", "run", "emu.exe.lnk", "exe", ""})
+        EXPECT_FALSE(IsProgramFile(path)) << path;
+}
+
 TEST(IsPlainForCmd, FindsWhatIsActedUponAlsoInQuotes) {
     EXPECT_TRUE(IsPlainForCmd("\"D:\\My Roms\\Super (Game)'s; a,b=c!.zip\""));
     EXPECT_TRUE(IsPlainForCmd(""));

@@ -10,8 +10,8 @@
 #include "platform/windows/system_text.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
+#include "support/command_line.h"
 #include "support/run_file.h"
-#include "support/text.h"
 
 namespace kivu::platform {
 
@@ -48,11 +48,6 @@ bool IsFile(const std::wstring& path) {
 
 bool IsBareName(std::string_view name) {
     return name.find_first_of("\\/:") == std::string_view::npos;
-}
-
-bool IsProgramFile(const std::string& path) {
-    const std::string name = support::ToLower(path);
-    return name.ends_with(".exe") || name.ends_with(".com");
 }
 
 // A command text, taken apart.
@@ -168,7 +163,7 @@ std::error_code RunProgram(const StartRequest& request, const Command& command) 
     const auto failure = CreateIn(request, Wide(command.program), Wide(commandLine));
     // A broken program would come back from the shell, with a box on the way.
     const bool isDocument =
-        failure == Failure(ERROR_BAD_EXE_FORMAT) && !IsProgramFile(command.program);
+        failure == Failure(ERROR_BAD_EXE_FORMAT) && !support::IsProgramFile(command.program);
     const bool forTheShell = isDocument || failure == Failure(elevationRequired);
     return forTheShell ? OpenByShell(request, command) : failure;
 }

@@ -1,4 +1,5 @@
 #include <gtest/gtest.h>
+#include <random>
 
 #include "platform/windows/batch_command.h"
 
@@ -32,6 +33,35 @@ TEST(HarmlessArgumentsWindows, SeesQuotesAsTheCommandProcessorDoes) {
     // A backslash does not keep a quote from opening: "&" is inside here, and outside there.
     EXPECT_EQ(HarmlessArguments(" \\\"a&b"), " \\\"a&b");
     EXPECT_EQ(HarmlessArguments(" \"a\\\"&b\""), std::nullopt);
+}
+
+// As the command processor reads the text, from its beginning to its end.
+bool HoldsLiveCharacter(const std::string& text) {
+    bool quoted = false;
+    for (const char c : text) {
+        if (c == '"') quoted = !quoted;
+        if (!quoted && std::string_view("&|<>^").find(c) != std::string_view::npos) return true;
+    }
+    return false;
+}
+
+TEST(HarmlessArgumentsWindows, LeavesNothingAliveInAnyText) {
+    std::mt19937 random(20);
+    constexpr std::string_view letters = "ab \t\"\"\"\\&|<>^%!(),";
+    int given = 0;
+    for (int i = 0; i < 20000; ++i) {
+        std::string text;
+        for (std::size_t length = random() % 24; length > 0; --length)
+            text += letters[random() % letters.size()];
+        const auto harmless = HarmlessArguments(text);
+        if (!harmless) continue;
+        ++given;
+        EXPECT_FALSE(HoldsLiveCharacter(*harmless)) << text << " gives " << *harmless;
+        if (!HoldsLiveCharacter(text)) {
+            EXPECT_EQ(*harmless, text);
+        }
+    }
+    EXPECT_GT(given, 10000);
 }
 
 TEST(HarmlessArgumentsWindows, RefusesALineEnd) {
