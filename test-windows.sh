@@ -23,4 +23,8 @@ sed -n '/^[^#]/p' tests/not_on_windows.txt
 for report in build/windows/reports/*.xml; do
   scripts/windows/skipped-tests.sh "$report"
 done
-exit "$status"
+[ "$status" -eq 0 ] || exit "$status"
+
+if [ $# -eq 0 ]; then
+  scripts/windows/tour.sh build/windows/program/Kivu.exe build/windows/tests/platform/windows/kivu_stay.exe
+fi

@@ -45,15 +45,26 @@ StartScreen
 wineboot -i >/dev/null 2>&1
 wineserver -w
 
+import -window root "$work/black.png"
+
 echo "A tour of Kivu for Windows on a screen of $size:"
 (cd "$program_dir" && exec wine Kivu.exe >"$work/kivu.log" 2>&1) &
+kivu=$!
 window=""
 FindWindow() {
   window=$(xdotool search --onlyvisible --class 'kivu.exe' 2>/dev/null | tail -n 1)
   [ -n "$window" ]
 }
+# Wine may have given the launcher another window meanwhile.
+Activate() {
+  FindWindow || Fail "the window has gone"
+  xdotool windowactivate --sync "$window"
+  sleep 1
+}
 Until 90 FindWindow || Fail "no window came up: $(cat "$work/kivu.log")"
-Kivu() { pgrep -f '^Kivu\.exe|[\\/]Kivu\.exe'; }
+# The window is there before its picture is.
+Painted() { import -window root "$work/now.png" && [ "$(Difference "$work/black.png" "$work/now.png")" -gt 100000 ]; }
+Until 60 Painted || Fail "the window shows nothing"
 Shot start "the window after the start"
 start=$last
 
@@ -61,6 +72,47 @@ start=$last
 Click 110 52
 Shot emulators "the emulators found"
 [ "$(Difference "$start" "$last")" -gt 3000 ] || Fail "the list of emulators did not open"
+Click 100 100
 xdotool key Return
 ChosenEmulator() { grep -q '^LastEmulator=Test Machine' "$program_dir/Config/Kivu.ini"; }
 Until 30 ChosenEmulator || Fail "the emulator was not chosen"
+Shot chosen "the emulator chosen, its list empty"
+empty=$last
+
+# The button that reads the directory anew.
+Click 712 569
+Cached() { grep -q 'Zebra' "$config/Kivu_Cache.txt"; }
+Until 30 Cached || Fail "the games were not found"
+Shot games "the games found"
+[ "$(Difference "$empty" "$last")" -gt 2000 ] || Fail "the games are not shown"
+games_shown=$last
+
+Click 100 100
+xdotool key Down Return
+Until 30 Emulator || Fail "the emulator did not come up: $(cat "$config/Kivu_tmp.bat")"
+sleep 3
+MovingShot running "the emulator running"
+
+# The launcher's files are in the ANSI code page, with short names in the start file.
+grep -q 'MOON' "$config/Kivu_tmp.bat" || Fail "the start file names no game: $(cat "$config/Kivu_tmp.bat")"
+LC_ALL=C grep -q $'\xc4rger' "$config/Kivu_Cache.txt" || Fail "the cache is not in the ANSI code page"
+
+# Alt+F4 in the launcher's window ends the emulator, and not the launcher.
+Activate
+xdotool key alt+F4
+Until 20 NoEmulator || Fail "the emulator was not ended"
+Back() { import -window root "$work/now.png" && [ "$(Difference "$games_shown" "$work/now.png")" -lt 60000 ]; }
+Until 20 Back || Fail "the list did not come back"
+Shot list "the list again"
+kill -0 "$kivu" || Fail "the launcher has gone too"
+
+# Escape asks, and Enter on its OK ends the program.
+Activate
+xdotool key Escape
+sleep 2
+Shot question "the question before the end"
+xdotool key Return
+Ended() { ! kill -0 "$kivu" 2>/dev/null; }
+Until 20 Ended || Fail "the program did not end"
+grep -q '^WindowX=' "$program_dir/Config/Kivu.ini" || Fail "the window's place was not kept"
+echo "The tour is through; the pictures are in ${shots#"$here"/}."
