@@ -7,6 +7,11 @@ namespace kivu::scenarios {
 // Blanks behind a counter, so that the label keeps its width.
 inline const std::string backing(67, ' ');
 
+// A row of hits whose name has so many characters, padded.
+inline std::string Padded(const std::string& text, std::size_t nameLength, std::size_t to) {
+    return text + std::string(to - nameLength, ' ');
+}
+
 // Three emulators, two of them with games, for searches through all their caches.
 class AllSearchScenario : public Scenario {
  protected:
