@@ -103,6 +103,8 @@ void Layout::SetVorschau() {
 void Layout::ResizeSettingsWindow() {
     const int left = form.ListLeft + form.ListWidth + 100;
     const int width = form.Width() - left - 100;
+    stacked =
+        100 + form.AddToFavorit.Width() + buttonGap + form.AddToFavorit_Global.Width() > width;
     const int height = HeightOfFrame(width, form.Height() - form.VorschauBild.Bottom());
     form.SettingsFrame.Move(left, form.Height() - height, width, height);
     PlaceName();
@@ -114,7 +116,7 @@ void Layout::ResizeSettingsWindow() {
 
 // From the name's bottom edge to the frame's: the favourites' buttons, the drives and the rows.
 int Layout::RoomBelowName() const {
-    return buttonGap + form.AddToFavorit.Height() + buttonGap + drivesRow;
+    return (stacked ? 2 : 1) * (form.AddToFavorit.Height() + buttonGap) + buttonGap + drivesRow;
 }
 
 int Layout::LineOfName() const {
@@ -170,6 +172,10 @@ void Layout::PlaceFrameRows() {
     form.SettingsShortBtn.Move(form.SettingsBtn.Left(), form.SettingsBtn.Top(),
                                form.SettingsBtn.Width(), form.SettingsBtn.Height());
     place(form.ExitBtn, frameWidth - form.ExitBtn.Width() - 300, lowest - rowPitch);
+    // A narrow window leaves less for the search box.
+    constexpr int widest = 2250, narrowest = 900, margin = 150;
+    const int room = form.ExitBtn.Left() - 300 - 100 - form.SearchAllBtn.Width() - margin;
+    form.SearchDblsTxt.SetWidth(std::clamp(room, narrowest, widest));
     place(form.SearchDblsTxt, form.ExitBtn.Left() - form.SearchDblsTxt.Width() - 300,
           lowest - rowPitch);
     place(form.SearchAllBtn, form.SearchDblsTxt.Left() - form.SearchAllBtn.Width() - 100,
@@ -192,15 +198,20 @@ void Layout::PlaceDrivesHome() {
 }
 
 // Above the drives panel's home: one place for adding and removing, of which only one makes sense
-// at a time, and one for the global list.
+// at a time, and one for the global list, on top of them where they do not fit beside one another.
 void Layout::PlaceFavouriteButtons() {
     const int top = drivesHomeTop - form.AddToFavorit.Height() - buttonGap;
-    const auto place = [&](forms::CommandButton& button, int left) {
+    const auto place = [](forms::CommandButton& button, int left, int top) {
         button.Move(left, top, button.Width(), button.Height());
     };
-    place(form.AddToFavorit, drivesHomeLeft);
-    place(form.DeLFav, drivesHomeLeft);
-    place(form.AddToFavorit_Global, form.AddToFavorit.Right() + buttonGap);
+    place(form.AddToFavorit, drivesHomeLeft, top);
+    place(form.DeLFav, drivesHomeLeft, top);
+    forms::CommandButton& toGlobal = form.AddToFavorit_Global;
+    if (stacked) {
+        place(toGlobal, drivesHomeLeft, top - toGlobal.Height() - buttonGap);
+    } else {
+        place(toGlobal, form.AddToFavorit.Right() + buttonGap, top);
+    }
 }
 
 void Layout::KeepDrivesInside() {

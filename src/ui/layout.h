@@ -52,6 +52,7 @@ class Layout {
     core::Form1& form;
     int drivesHomeLeft = -1, drivesHomeTop = -1;
     int drivesWidth = 0, drivesHeight = 0;  // natural size while folded
+    bool stacked = false;                   // the favourites' buttons, in a narrow window
     std::string fullName;                   // in Current_ProgramNameFull, unbroken
     bool wrapping = false;
 };

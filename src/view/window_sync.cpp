@@ -91,7 +91,8 @@ void WindowSync::RequestGeometry() {
     if (wanted == known) return;
     if (!shown) wanted = OnSomeScreen(wanted);
     known = wanted;
-    if (wanted.size() != window.size()) window.resize(wanted.size());
+    // Without a size of its own, be it the toolkit's default, a window fits itself to its controls.
+    if (!shown || wanted.size() != window.size()) window.resize(wanted.size());
     if (HasPositions() && wanted.topLeft() != window.pos()) window.move(wanted.topLeft());
     if (shown) answer.start();
 }

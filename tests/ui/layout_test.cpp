@@ -88,6 +88,26 @@ TEST_F(LayoutTest, NameWithAWordThatIsTooWideIsToldByTheToolTipAsItIs) {
     EXPECT_LE(NameBottom(), form.AddToFavorit.Top());
 }
 
+TEST_F(LayoutTest, NarrowWindowStacksTheFavouritesButtonsAndShortensTheSearchBox) {
+    EXPECT_EQ(form.AddToFavorit_Global.Top(), form.AddToFavorit.Top());
+    EXPECT_LE(form.AddToFavorit_Global.Right(), form.SettingsFrame.Right());
+    EXPECT_EQ(form.SearchDblsTxt.Width(), 2250);
+    Resize(12000, 9000);
+    EXPECT_EQ(form.AddToFavorit_Global.Left(), form.AddToFavorit.Left());
+    EXPECT_LT(form.AddToFavorit_Global.Bottom(), form.AddToFavorit.Top());
+    EXPECT_LE(form.AddToFavorit_Global.Right(), form.Width());
+    EXPECT_LT(form.SearchDblsTxt.Width(), 2250);
+    EXPECT_GE(form.SearchAllBtn.Left(), 0);
+    EXPECT_GE(form.LoadBtn.Left(), 0);
+    EXPECT_LT(form.LoadBtn.Right(), form.SettingsBtn.Left());
+    EXPECT_EQ(form.SearchDblsTxt.Left(), form.ExitBtn.Left() - form.SearchDblsTxt.Width() - 300);
+    Name(4);
+    EXPECT_LE(NameBottom(), form.AddToFavorit_Global.Top());
+    Resize(14400, 10200);
+    EXPECT_EQ(form.SearchDblsTxt.Width(), 2250);
+    EXPECT_EQ(form.AddToFavorit_Global.Top(), form.AddToFavorit.Top());
+}
+
 TEST_F(LayoutTest, DrivesPanelStaysWhereItIsWhileNamesChange) {
     form.SettingsSubPicture.Move(500, 2000, form.SettingsSubPicture.Width(),
                                  form.SettingsSubPicture.Height());

@@ -17,6 +17,12 @@ TEST_F(WindowTest, HasTheFormsSizeTitleAndFrame) {
     EXPECT_EQ(view.Window().windowTitle(), "50 % [*][*] <b>");
 }
 
+TEST_F(WindowTest, TakesTheToolkitsDefaultSizeAsAnyOther) {
+    form.Move(1500, 1500, 9600, 7200);
+    Show();
+    EXPECT_EQ(view.Window().size(), QSize(640, 480));
+}
+
 TEST_F(WindowTest, ChangesItsFlagsWithoutHidingItself) {
     Show();
     form.SetTopmost(true);
