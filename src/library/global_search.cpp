@@ -84,6 +84,8 @@ void AllEmulatorsSearch::SearchAllBtn_Click() {
 }
 
 void AllEmulatorsSearch::ArrangeForSearch() {
+    // The row that was chosen there so far has not been loaded.
+    if (form.EmulatorLongListbox.Visible()) hooks.CloseEmulatorChoice();
     busy.HideAll(false);
     // It tells what is searched for, and takes the next search.
     form.SearchDblsTxt.SetVisible(true);

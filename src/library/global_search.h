@@ -23,6 +23,7 @@ class AllEmulatorsSearch {
  public:
     struct Hooks {
         core::Hook<void()> RebuildLayout;  // the list in front, the tabs and their counts
+        core::Hook<void()> CloseEmulatorChoice;
         core::Hook<void(int)> ShowEmulatorPreview;
         core::Hook<void()> EmuListbox_GotFocus;
         core::Hook<void()> EmuListbox_DblClick;

@@ -142,9 +142,12 @@ void ListSearch::SearchDblsTxt_GotFocus() {
     form.SearchDblsTxt.SetBackColor(form.FormForeColor);
     form.SearchDblsTxt.SetForeColor(form.FormBackColor);
     if (form.GlobalSearchList.Visible()) return;
+    // From the list of emulators a search goes through them all, so it stays in front. The tabs
+    // stand beside the drop-down, which the open choice has made as wide as the list.
+    const bool choosing = form.EmulatorLongListbox.Visible();
+    if (choosing) form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
     hooks.RebuildLayout();
-    // From the list of emulators a search goes through them all, so it stays in front.
-    if (form.EmulatorLongListbox.Visible()) form.EmulatorLongListbox.BringToFront();
+    if (choosing) form.EmulatorLongListbox.BringToFront();
     form.ListMode = "7";
     if (IsIdleText(form.SearchDblsTxt.Text())) form.SearchDblsTxt.SetText("");
 }

@@ -148,6 +148,28 @@ TEST_F(HitsOfAll, TheBoxNarrowsTheHits) {
     EXPECT_EQ(Get("Focus"), "Form1.GlobalSearchList");
 }
 
+TEST_F(HitsOfAll, ASearchFromTheOpenChoiceClosesIt) {
+    Start();
+    const Json colour = Get("EmuListbox.BackColor");
+    Do("focus", "Form1.EmuListbox");
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    Do("key", "Form1.EmulatorLongListbox", "a");
+    EXPECT_TRUE(Visible("EmulatorLongListbox"));
+    EXPECT_GE(Get("Label1.Left"), Form().EmuListbox.Right());
+    EXPECT_LE(Form().Label4.Right(), Form().Width());
+    Do("type", "Form1.SearchDblsTxt", "nt");
+    Do("key", "Form1.SearchDblsTxt", "Enter");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 2);
+    EXPECT_EQ(Get("ListMode"), "4");
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    EXPECT_EQ(Get("EmuListbox.BackColor"), colour);
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 0);
+    EXPECT_EQ(Get("EmuListbox.Text"), "Alpha");
+    Do("click", "Form1.Label2");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 0);
+}
+
 TEST_F(HitsOfAll, AnEmptyBoxEmptiesTheHits) {
     Start();
     SearchAll("199");
