@@ -85,6 +85,52 @@ sleep 4
 Shot list "the list again"
 [ "$(Difference "$simple" "$last")" -lt 60000 ] || Fail "the list did not come back"
 
+Front() {
+  xdotool windowactivate --sync "$window" 2>/dev/null || true
+  sleep 0.5
+}
+
+# The chosen game becomes a favourite, and Delete takes it away again.
+favourites_file=$program_dir/Config/DOSBox/Favoriten.ini
+Favourites() { grep -c '^Fav[0-9]*_Name=.' "$favourites_file" || true; }
+before=$(Favourites)
+Front
+# Type Storm
+Click 100 233
+sleep 0.5
+Click 707 485
+More() { [ "$(Favourites)" -gt "$before" ]; }
+Until 10 More || Fail "the game did not become a favourite"
+xdotool key Left
+Shot favourite "the game among the favourites"
+
+# A machine with drives: one disk of a game brings the others.
+Click 110 52
+Click 100 96
+xdotool key Return
+OtherEmulator() { grep -q '^LastEmulator=Disk Box' "$program_dir/Config/Kivu.ini"; }
+Until 15 OtherEmulator || Fail "the machine with drives was not chosen"
+# Without favourites it begins with the titles.
+xdotool key Right
+Shot disks "the disks of the other machine"
+disks=$last
+Click 100 130
+Shot drives "one disk chosen, the others in their drives"
+[ "$(Difference "$disks" "$last")" -gt 1000 ] || Fail "the drives did not fill"
+
+# Two words find games in this list.
+xdotool type --delay 120 'r (19'
+Shot search "a search in this list"
+[ "$(Difference "$disks" "$last")" -gt 5000 ] || Fail "the search found nothing"
+found=$last
+
+# The same in the lists of all emulators.
+Click 664 605
+Shot everywhere "the search in all lists"
+[ "$(Difference "$found" "$last")" -gt 2000 ] || Fail "the search in all lists found nothing"
+xdotool key Down
+Shot hit "a hit chosen"
+
 # Escape asks, and Enter on its OK ends the program.
 xdotool windowactivate --sync "$window" 2>/dev/null || true
 xdotool key Escape
