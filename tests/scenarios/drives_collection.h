@@ -1,6 +1,8 @@
 #pragma once
 
 #include "scenarios/scenario.h"
+#include "support/file_ops.h"
+#include "support/path_forms.h"
 
 namespace kivu::scenarios {
 
@@ -45,7 +47,6 @@ class DrivesScenario : public Scenario {
     }
 
     static constexpr const char* list = "Form1.UAE_Short";
-    static constexpr const char* kaefer = "/Roms/Amiga/Käfer König (1990)(Maker)(Disk ";
 
     void ShowFiles() { Do("click", "Form1.Label3"); }
     void ShowGames() { Do("click", "Form1.Label2"); }
@@ -55,7 +56,7 @@ class DrivesScenario : public Scenario {
         const Json held = Get("DiskSlots");
         for (std::size_t drive = 0; drive < 5; ++drive) {
             const auto path = held[drive].get<std::string>();
-            names.push_back(path.substr(path.rfind('/') + 1));
+            names.push_back(path.substr(path.find_last_of("/\\") + 1));
         }
         return names;
     }
@@ -64,6 +65,12 @@ class DrivesScenario : public Scenario {
         for (int drive = 0; drive < 5; ++drive)
             ticks.push_back(Get("Check_Dfx(" + std::to_string(drive) + ").Value"));
         return ticks;
+    }
+    // A drive's line in the start configuration, with the short name that the host may have.
+    std::string FloppyLine(int drive, const std::string& name) {
+        const std::string path = support::ShortFileName(files, tree.Path("Roms/Amiga/" + name));
+        return "floppy" + std::to_string(drive) + "=" +
+               files.EncodeText(support::QuoteIfNeeded(path)) + "\r\n";
     }
     std::string StartConfiguration() { return tree.Read("Config/Amiga/Kivu_StartScript.uaecfg"); }
 };

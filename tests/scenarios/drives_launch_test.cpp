@@ -34,8 +34,8 @@ TEST_F(DrivesLaunch, EachLaunchWritesWhatLiesInTheDrives) {
     Do("dblclick", list, 1);
     std::string expected = "\r\nuse_gui = no\r\n";
     for (int disk = 1; disk <= 3; ++disk) {
-        expected += "floppy" + std::to_string(disk - 1) + "=\"" + tree.Root() + kaefer +
-                    std::to_string(disk) + " of 3).adf\"\r\n";
+        expected += FloppyLine(
+            disk - 1, "Käfer König (1990)(Maker)(Disk " + std::to_string(disk) + " of 3).adf");
     }
     EXPECT_EQ(StartConfiguration(), expected);
     EXPECT_EQ(Get("CURRENT_PROGRAM_STARTED"),
@@ -57,8 +57,8 @@ TEST_F(DrivesLaunch, FullscreenAndRomStandBetweenMasterAndDrives) {
     EXPECT_EQ(StartConfiguration(),
               "\r\na=1\r\ngfx_fullscreen_amiga=True\r\ngfx_fullscreen=True\r\n"
               "kickstart_rom_file=" +
-                  tree.Path("Roms/Kick 1.3 für alle.rom") + "\r\nfloppy0=\"" +
-                  tree.Path("Roms/Amiga/Solo Flight (1992)(Other Maker).adf") + "\"\r\n");
+                  files.EncodeText(tree.Path("Roms/Kick 1.3 für alle.rom")) + "\r\n" +
+                  FloppyLine(0, "Solo Flight (1992)(Other Maker).adf"));
 }
 
 TEST_F(DrivesLaunch, WindowsEmulatorReadsPathsOfItsOwnWorld) {
@@ -82,7 +82,8 @@ TEST_F(DrivesLaunch, UntickedBoxLeavesItsDiskInTheConfiguration) {
     Do("click", "Form1.Check_Dfx(1)");
     ASSERT_EQ(Ticks(), Json({1, 0, 0, 0, 0}));
     Call("LaunchBtn_Click");
-    EXPECT_NE(StartConfiguration().find("floppy1=\""), std::string::npos);
+    EXPECT_NE(StartConfiguration().find(FloppyLine(1, "Moon Miner (1991)(Disk 2 of 2).adf")),
+              std::string::npos);
 }
 
 TEST_F(DrivesLaunch, RowsChosenByHandReachNoDrive) {

@@ -14,11 +14,6 @@ constexpr const char* moon1 = "Moon Miner (1991)(Disk 1 of 2).adf";
 constexpr const char* moon2 = "Moon Miner (1991)(Disk 2 of 2).adf";
 constexpr const char* solo = "Solo Flight (1992)(Other Maker).adf";
 
-std::string Floppy(const ProgramDirectory& tree, int drive, const char* disk) {
-    return "floppy" + std::to_string(drive) + "=\"" + tree.Path("Roms/Amiga/" + std::string(disk)) +
-           "\"\r\n";
-}
-
 TEST_F(DrivesStory, WhicheverDiskIsClickedTheGameStartsWithAllOfThemInOrder) {
     tree.Write("Config/Kivu_Master.uaecfg", "a=1\r\n");
     for (const int row : {0, 1, 2}) {
@@ -27,8 +22,8 @@ TEST_F(DrivesStory, WhicheverDiskIsClickedTheGameStartsWithAllOfThemInOrder) {
         Do("select", list, row);
         EXPECT_EQ(Disks(), Json({disk1, disk2, disk3, "", ""})) << row;
         Do("key", list, "Enter");
-        EXPECT_EQ(StartConfiguration(), "\r\na=1\r\n" + Floppy(tree, 0, disk1) +
-                                            Floppy(tree, 1, disk2) + Floppy(tree, 2, disk3));
+        EXPECT_EQ(StartConfiguration(), "\r\na=1\r\n" + FloppyLine(0, disk1) +
+                                            FloppyLine(1, disk2) + FloppyLine(2, disk3));
         const Json runs = Do("runs")["value"];
         ASSERT_EQ(runs.size(), 1U);
     }
@@ -41,8 +36,7 @@ TEST_F(DrivesStory, SimpleListStartsTheFirstDiskWithWhatTheOtherDrivesStillHold)
     Do("select", list, 3);
     ShowGames();
     Do("dblclick", "Form1.WIthoutDoubles", 0);
-    EXPECT_EQ(StartConfiguration(),
-              "\r\na=1\r\n" + Floppy(tree, 0, disk1) + Floppy(tree, 1, moon2));
+    EXPECT_EQ(StartConfiguration(), "\r\na=1\r\n" + FloppyLine(0, disk1) + FloppyLine(1, moon2));
 }
 
 TEST_F(DrivesStory, ClickOnAFileEmptiesWhatTheSimpleListHasLeft) {

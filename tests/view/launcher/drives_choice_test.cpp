@@ -150,10 +150,9 @@ TEST_F(DrivesBySimilarity, ArrowAndEnterStartAGameWithItsDisks) {
     Key(Qt::Key_End);
     Key(Qt::Key_Up);
     Key(Qt::Key_Return);
-    EXPECT_EQ(StartConfiguration(),
-              "\r\nuse_gui = no\r\nfloppy0=\"" +
-                  tree.Path("Roms/Amiga/Moon Miner (1991)(Disk 1 of 2).adf") + "\"\r\nfloppy1=\"" +
-                  tree.Path("Roms/Amiga/Moon Miner (1991)(Disk 2 of 2).adf") + "\"\r\n");
+    EXPECT_EQ(StartConfiguration(), "\r\nuse_gui = no\r\n" +
+                                        FloppyLine(0, "Moon Miner (1991)(Disk 1 of 2).adf") +
+                                        FloppyLine(1, "Moon Miner (1991)(Disk 2 of 2).adf"));
     EXPECT_EQ(Do("runs")["value"].size(), 1U);
 }
 
