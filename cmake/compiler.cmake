@@ -59,7 +59,7 @@ endfunction()
 # in an emulator of Windows, whose start costs more than most tests, the program is one test.
 function(kivu_add_tests name seconds)
   if(CMAKE_CROSSCOMPILING)
-    add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${CMAKE_BINARY_DIR}/reports/${name}.xml)
+    add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:Z:${CMAKE_BINARY_DIR}/reports/${name}.xml)
     math(EXPR seconds "${seconds} * 5")
     set_tests_properties(${name} PROPERTIES TIMEOUT ${seconds} ENVIRONMENT "${ARGN}")
   else()
