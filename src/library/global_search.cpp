@@ -121,7 +121,6 @@ void AllEmulatorsSearch::PlaceLabel4() {
 // what stands in front of them all.
 void AllEmulatorsSearch::CoverTabs() {
     form.Label4.BringToFront();
-    form.TopRightPic.BringToFront();
     form.SettingsSubPicture.BringToFront();
 }
 
@@ -255,8 +254,10 @@ int AllEmulatorsSearch::EmulatorRow(std::string_view name) const {
 
 void AllEmulatorsSearch::GlobalSearchList_Click() {
     const std::string row = form.GlobalSearchList.SelectedText();
-    form.Current_ProgramNameFull.SetVisible(true);
     form.Current_ProgramNameFull.SetCaption(support::replaceall(support::Trim(row), ":", ":\r"));
+    // Behind the caption: an emulator's name that is too wide to be broken must not hide the title,
+    // of which the list may show little.
+    form.Current_ProgramNameFull.SetVisible(true);
     const int emulator = EmulatorRow(EmulatorOf(row));
     if (emulator < 0 || emulator == shownEmulator) return;
     shownEmulator = emulator;

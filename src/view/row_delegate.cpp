@@ -1,6 +1,9 @@
 #include "view/row_delegate.h"
 
+#include <QAbstractItemView>
+#include <QHelpEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include "view/colors.h"
 #include "view/style_parts.h"
@@ -11,6 +14,22 @@ int RowHeight(const QFontMetrics& metrics) {
     // Air in proportion, but no gulfs between rows of 40 points.
     return metrics.height() + qBound(8, metrics.height() / 2, 12);
 }
+
+namespace {
+
+QRect LineOf(const QRect& row) {
+    return row.adjusted(10, 0, -8, 0);
+}
+
+QString ShownText(const QModelIndex& index) {
+    QString shown = index.data().toString();
+    for (QChar& c : shown) {
+        if (c.category() == QChar::Other_Control) c = u' ';
+    }
+    return shown;
+}
+
+}  // namespace
 
 QSize RowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
     return {0, RowHeight(option.fontMetrics)};
@@ -40,13 +59,21 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     }
     painter->setPen(writing);
     painter->setFont(option.font);
-    const QRect line = option.rect.adjusted(10, 0, -8, 0);
-    QString shown = index.data().toString();
-    for (QChar& c : shown) {
-        if (c.category() == QChar::Other_Control) c = u' ';
-    }
-    painter->drawText(line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
-                      option.fontMetrics.elidedText(shown, Qt::ElideRight, line.width()));
+    const QRect line = LineOf(option.rect);
+    painter->drawText(
+        line, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+        option.fontMetrics.elidedText(ShownText(index), Qt::ElideRight, line.width()));
+}
+
+bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
+                            const QStyleOptionViewItem& option, const QModelIndex& index) {
+    const QString text = ShownText(index).trimmed();
+    const int width = LineOf(view->visualRect(index)).width();
+    const bool cut = QFontMetrics(view->font()).horizontalAdvance(text) > width;
+    if (event->type() != QEvent::ToolTip || !cut)
+        return QStyledItemDelegate::helpEvent(event, view, option, index);
+    QToolTip::showText(event->globalPos(), text.toHtmlEscaped(), view);
+    return true;
 }
 
 }  // namespace kivu::view

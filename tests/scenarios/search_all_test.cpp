@@ -165,8 +165,8 @@ TEST_F(AllSearchScenario, TheCaptionCoversTheTabThatTheChoiceHasBroughtToTheFron
         return std::find(order.begin(), order.end(), &control);
     };
     EXPECT_LT(place(Form().Label1), place(Form().Label4));
-    EXPECT_LT(place(Form().Label4), place(Form().TopRightPic));
     EXPECT_LT(place(Form().Label4), place(Form().SettingsSubPicture));
+    EXPECT_LT(place(Form().TopRightPic), place(Form().Label4));
 }
 
 TEST_F(AllSearchScenario, HostileCachesGiveWhatTheyHold) {
@@ -196,7 +196,7 @@ TEST_F(AllSearchScenario, CachesThatAreNoFilesAreSkipped) {
 
 TEST_F(AllSearchScenario, AnUnreadableCacheIsSkipped) {
     Start();
-    files.OnlyFor("Alpha/Kivu_Cache");
+    files.OnlyFor(testing::HostPath("Alpha/Kivu_Cache"));
     files.FailFrom(testing::FaultyFileSystem::Step::Read, 1, std::errc::io_error);
     SearchAll("ant");
     EXPECT_EQ(Get("GlobalSearchList.ListCount"), 1);

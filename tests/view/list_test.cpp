@@ -1,4 +1,6 @@
+#include <QHelpEvent>
 #include <QSignalSpy>
+#include <QToolTip>
 
 #include "view/shown_form.h"
 
@@ -60,6 +62,22 @@ TEST_F(ListTest, ShowsStrayBytesAsWindows1252) {
     form.list.AddItem("Gr\xf6\xdf\x65 \x80 caf\xc3\xa9");
     Show();
     EXPECT_EQ(RowText(Find<QAbstractItemView>("List"), 0), QString::fromUtf8("Größe € café"));
+}
+
+TEST_F(ListTest, TellsTheWholeTextOfARowThatIsCut) {
+    form.list.AddItem("short");
+    form.list.AddItem("long <b> " + std::string(500, 'x'));
+    Show();
+    auto* list = Find<QAbstractItemView>("List");
+    const auto pointAt = [&](int row) {
+        const QPoint at = list->visualRect(list->model()->index(row, 0)).center();
+        QHelpEvent event(QEvent::ToolTip, at, list->viewport()->mapToGlobal(at));
+        QCoreApplication::sendEvent(list->viewport(), &event);
+        return QToolTip::text();
+    };
+    EXPECT_EQ(pointAt(0), "");
+    EXPECT_TRUE(pointAt(1).startsWith("long &lt;b&gt; xxx"));
+    QToolTip::hideText();
 }
 
 TEST_F(ListTest, ClicksTheRowUnderTheMouse) {
