@@ -94,6 +94,8 @@ void Form1::DesignLists() {
         button->Move(ListLeft, 0, 2200, 390);
         button->SetFont({"", 9, false});
         button->SetVisible(false);
+        // They lie on SettingsFrame.
+        button->BringToFront();
     }
     AddToFavorit_Global.SetWidth(2350);
 }
@@ -179,6 +181,9 @@ void Form1::DesignCorner() {
     NormalMaxCapt.SetFont({"", 12, true});
     NormalMaxCapt.SetAlignment(forms::Alignment::center);
     NormalMaxCapt.SetCaption("□");
+    // In a narrow window the tabs reach onto the corner's picture.
+    for (forms::Label* tab : {&Label1, &Label2, &Label3, &Label4})
+        tab->BringToFront();
 }
 
 }  // namespace kivu::core

@@ -48,6 +48,11 @@ struct Form1 : forms::Form {
                                         forms::ListControl::Order::asAdded};
     forms::ListBox GlobalSearchList{this, "GlobalSearchList", forms::ListControl::Order::sorted};
 
+    // The Tab key comes to them right after the list whose game they take.
+    forms::CommandButton AddToFavorit{this, "AddToFavorit"};
+    forms::CommandButton AddToFavorit_Global{this, "AddToFavorit_Global"};
+    forms::CommandButton DeLFav{this, "DeLFav"};
+
     // Their tabs, in the same order.
     forms::Label Label1{this, "Label1"};
     forms::Label Label2{this, "Label2"};
@@ -74,10 +79,6 @@ struct Form1 : forms::Form {
     forms::Image AOT_Enabled{&AlwaysOnTop1, "AOT_Enabled"};
     forms::Image AOT_Disabled{&AlwaysOnTop1, "AOT_Disabled"};
     forms::Image AOT_MouseMove{&AlwaysOnTop1, "AOT_MouseMove"};
-
-    forms::CommandButton AddToFavorit{this, "AddToFavorit"};
-    forms::CommandButton AddToFavorit_Global{this, "AddToFavorit_Global"};
-    forms::CommandButton DeLFav{this, "DeLFav"};
 
     // The drives panel.
     forms::PictureBox SettingsSubPicture{this, "SettingsSubPicture"};
