@@ -80,7 +80,8 @@ std::string_view ReadableValue(std::string_view rawValue) {
     std::string_view value = TrimBlanksAndTabs(rawValue.substr(0, rawValue.find('\0')));
     const char quote = value.empty() ? '\0' : value.front();
     if ((quote == '"' || quote == '\'') && value.size() >= 2 && value.back() == quote) {
-        value = TrimBlanksAndTabs(value.substr(1, value.size() - 2));
+        // Tabs in quotes are meant.
+        value = support::Trim(value.substr(1, value.size() - 2));
     }
     return value;
 }

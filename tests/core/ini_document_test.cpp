@@ -66,6 +66,11 @@ TEST(IniDocumentRead, OneEnclosingPairOfQuotesIsDropped) {
     EXPECT_EQ(Read("[Settings]\nA=\"\"\n", "A"), "");
 }
 
+TEST(IniDocumentRead, BlanksInQuotesGoAndTabsStay) {
+    EXPECT_EQ(Read("[Settings]\r\nA=\" 1 2 \"\r\n", "A"), "1 2");
+    EXPECT_EQ(Read("[Settings]\r\nA=\"\t1\t\"\r\n", "A"), "\t1\t");
+}
+
 TEST(IniDocumentRead, QuotesThatEncloseNothingStay) {
     EXPECT_EQ(Read("[Settings]\nA=\"x\n", "A"), "\"x");
     EXPECT_EQ(Read("[Settings]\nA=\"x'\n", "A"), "\"x'");

@@ -100,8 +100,6 @@ const std::vector<Difference> differences = {
      "names are equal without regard to case in every letter; Wine's only in those of ASCII"},
     {"[Settings]\r\nA=x\x1A\r\n", "A", "x\x1A",
      "only blanks and tabs around a value go; Wine drops control characters as well"},
-    {"[Settings]\r\nA=\"\tx\t\"\r\n", "A", "x",
-     "tabs go from inside the quotes as well; Wine leaves them"},
     {"\xEF\xBB\xBF[Settings]\r\nA=\xC3\xBC\r\n", "A", "\xC3\xBC",
      "a file with the mark of UTF-8 is UTF-8; so it is to Wine, but not to every Windows"},
     {"[Settings]\r\n;A=1\r\n", ";A", "",
