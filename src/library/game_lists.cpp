@@ -73,8 +73,8 @@ void GameLists::FillFromCache(const std::string& bytes) {
     // One look at the whole file is cheaper than one at each line.
     const bool utf8 = support::IsUtf8(bytes);
     for (const CacheEntry& entry : entries) {
-        paths.push_back(utf8 ? support::MakeAbsolutePath(base, entry.path)
-                             : support::MakeAbsolutePath(base, PathOnDisk(entry.path)));
+        paths.push_back(utf8 ? support::StoredPath(base, entry.path)
+                             : support::StoredPath(base, PathOnDisk(entry.path)));
         names.push_back(utf8 || support::IsUtf8(entry.name) ? std::string(entry.name)
                                                             : files.DecodeText(entry.name));
         if (paths.size() % 500 != 0) continue;
@@ -93,7 +93,7 @@ void GameLists::FillFromCache(const std::string& bytes) {
 std::string GameLists::PathOnDisk(std::string_view stored) const {
     if (support::IsUtf8(stored)) return std::string(stored);
     std::string plain(stored);
-    if (files.FileExists(support::MakeAbsolutePath(form.BaseDirectory(), plain))) return plain;
+    if (files.FileExists(support::StoredPath(form.BaseDirectory(), plain))) return plain;
     return files.DecodeText(stored);
 }
 

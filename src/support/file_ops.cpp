@@ -29,6 +29,17 @@ std::string_view WithoutClosingSeparator(std::string_view path) {
     return WithoutClosing(path, path.find('\\') != kNone ? '\\' : '/');
 }
 
+std::string Turned(std::string_view path, char from, char to) {
+    std::string turned(path);
+    std::replace(turned.begin(), turned.end(), from, to);
+    return turned;
+}
+
+// What is below a base begins with one separator and not with two.
+bool IsNetworkShare(std::string_view path) {
+    return path.starts_with("\\\\") && path.size() > 2 && path[2] != '\\';
+}
+
 struct CommonStart {
     std::size_t inBase = 0;      // bytes of the common start in the base
     std::size_t lastInBase = 0;  // where its last character begins
@@ -136,11 +147,8 @@ std::string JoinPosix(std::string_view base, std::string_view path) {
 }
 
 std::string MakeAbsolutePosix(std::string_view base, std::string_view path) {
-    if (path.starts_with('\\') || path.starts_with(kWindowsUp)) {
-        std::string turned(path);
-        std::replace(turned.begin(), turned.end(), '\\', '/');
-        return JoinPosix(base, turned);
-    }
+    if (path.starts_with('\\') || path.starts_with(kWindowsUp))
+        return JoinPosix(base, Turned(path, '\\', '/'));
     const bool relative = path.starts_with('/') || path.starts_with(kPosixUp);
     if (!relative && path.size() > 1 && path[1] == ':') return std::string(path);
     return JoinPosix(base, path);
@@ -167,8 +175,14 @@ std::string MakeAbsolutePath(std::string_view base, std::string_view path) {
     return IsPosix(base) ? MakeAbsolutePosix(base, path) : MakeAbsoluteWindows(base, path);
 }
 
+std::string StoredPath(std::string_view base, std::string_view text) {
+    if (IsPosix(base)) return MakeAbsolutePosix(base, text);
+    if (text.find('/') != kNone) return StoredPath(base, Turned(text, '/', '\\'));
+    return IsNetworkShare(text) ? std::string(text) : MakeAbsoluteWindows(base, text);
+}
+
 std::string ProfilePath(std::string_view base, std::string_view text, const PathTest& exists) {
-    std::string below = MakeAbsolutePath(base, text);
+    std::string below = StoredPath(base, text);
     if (!IsPosix(base) || !text.starts_with('/') || !exists || exists(below)) return below;
     std::string asItStands(text);
     return exists(asItStands) ? asItStands : below;

@@ -31,9 +31,14 @@ std::string MakeRelativePath(std::string_view base, std::string_view fullPath);
 // written on Windows and has its "\" turned first.
 std::string MakeAbsolutePath(std::string_view base, std::string_view path);
 
-// MakeAbsolutePath for a profile field that the user may have written by hand: a path from the root
-// that exists as it stands, and does not below the base, is taken as it stands. `exists` is asked
-// for files and directories, and only about a text that begins with "/" under the POSIX rule.
+// MakeAbsolutePath for what a profile or a cache holds, on whichever host it was written. Under the
+// Windows rule each "/" is turned first, since no name there has one, and a network share
+// ("\\server\share\...") comes back as it is: it is how MakeRelativePath leaves one.
+std::string StoredPath(std::string_view base, std::string_view text);
+
+// StoredPath for a profile field that the user may have written by hand: a path from the root that
+// exists as it stands, and does not below the base, is taken as it stands. `exists` is asked for
+// files and directories, and only about a text that begins with "/" under the POSIX rule.
 std::string ProfilePath(std::string_view base, std::string_view text, const PathTest& exists);
 
 }  // namespace kivu::support

@@ -7,10 +7,12 @@
 #include "driver/command_line.h"
 #include "driver/conversation.h"
 #include "host_files.h"
+#include "standard_streams.h"
 
 int main(int count, char** values) {
     using namespace kivu;
     std::ios::sync_with_stdio(false);
+    kivu::testing::TakeBytesAsTheyAre();
     std::string error;
     const auto options =
         driver::ParseCommandLine(std::vector<std::string>(values + 1, values + count), error);

@@ -24,12 +24,12 @@ class TemporaryDirectory {
     std::string Path(const std::string& name) const { return HostPath(root + "/" + name); }
 
     std::string Write(const std::string& name, const std::string& bytes) const {
-        std::ofstream(std::filesystem::path(Path(name)), std::ios::binary) << bytes;
+        std::ofstream(PathOf(Path(name)), std::ios::binary) << bytes;
         return Path(name);
     }
     std::string Read(const std::string& name) const {
         std::ostringstream bytes;
-        bytes << std::ifstream(std::filesystem::path(Path(name)), std::ios::binary).rdbuf();
+        bytes << std::ifstream(PathOf(Path(name)), std::ios::binary).rdbuf();
         return bytes.str();
     }
     std::size_t Count() const {

@@ -239,7 +239,7 @@ TEST_F(EmulatorChoice, SwitchAddsTheCacheToTheGlobalListOnRequest) {
     Do("set", "Form1.EmuListbox.ListIndex", 1);
     Call("SelectEmulator", true);
     EXPECT_EQ(tree.Read("Config/Kivu_Global.txt"),
-              "/Roms/Beta/Cat (1992)(Maker).adf\r\nCat (1992)(Maker)\r\n");
+              testing::HostPath("/Roms/Beta/Cat (1992)(Maker).adf\r\nCat (1992)(Maker)\r\n"));
     Do("set", "Form1.EmuListbox.ListIndex", 2);
     Call("SelectEmulator", true);
     Do("set", "Form1.EmuListbox.ListIndex", 1);

@@ -7,12 +7,12 @@ using ::testing::HasSubstr;
 
 TEST_F(Faults, DirectoryThatCannotBeReadIsDropped) {
     tree.Write("Roms/Alpha/Sub/Dog (1993)(Maker).adf");
-    files.OnlyFor("/Roms/Alpha/Sub");
+    files.OnlyFor(testing::HostPath("/Roms/Alpha/Sub"));
     files.FailFrom(testing::FaultyFileSystem::Step::List, 1, std::errc::permission_denied);
     Start();
     Scan();
     EXPECT_EQ(Get("UAE_FULL.ListCount"), 3);
-    files.OnlyFor("/Roms/Alpha");
+    files.OnlyFor(testing::HostPath("/Roms/Alpha"));
     Scan();
     EXPECT_EQ(Get("UAE_FULL.ListCount"), 0);
     ExpectUsable();
@@ -142,6 +142,21 @@ TEST_F(Faults, EmulatorThatIsNoneIsStartedAndTheWatchEndsIt) {
         EXPECT_EQ(Get("GameIsRunning"), false) << path;
         ExpectUsable();
     }
+}
+
+TEST_F(Faults, EmulatorNameOfShellCharactersIsOnlyAName) {
+    const std::string name = "a'b;$(x) & `y`";
+    tree.AddEmulator(name, {{"EmulatorPath", "/Emu/alpha"},
+                            {"WinUAE_UseMasterConfig", "0"},
+                            {"EmulatorParameterAddDiskPath", "1"}});
+    tree.WriteCache(name, {{"/Roms/Alpha/Bee (1991)(Maker).adf", "Bee"}});
+    tree.WriteProgramProfile({{"LastEmulator", name}});
+    Start();
+    Do("click", "Form1.Label3");
+    Do("dblclick", "Form1.UAE_Short", 0);
+    const Json runs = Do("runs")["value"];
+    ASSERT_EQ(runs.size(), 1U);
+    EXPECT_EQ(runs[0]["words"], Json::array({tree.Path("Config/" + name + "/Kivu_tmp.bat")}));
 }
 
 }  // namespace

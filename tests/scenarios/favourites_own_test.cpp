@@ -6,8 +6,8 @@ namespace {
 class FavouritesOwn : public LoadedScenario {
  protected:
     const std::string file = "Config/Alpha/Favoriten.ini";
-    const std::string bee = "/Roms/Alpha/Bee (1991)(Maker).adf";
-    const std::string ant2 = "/Roms/Alpha/Ant (1990)(Maker)(Disk 2 of 2).adf";
+    const std::string bee = testing::HostPath("/Roms/Alpha/Bee (1991)(Maker).adf");
+    const std::string ant2 = testing::HostPath("/Roms/Alpha/Ant (1990)(Maker)(Disk 2 of 2).adf");
 
     // The store as the program writes it.
     void Store(const std::vector<std::pair<std::string, std::string>>& favourites) {
@@ -144,7 +144,7 @@ TEST_F(FavouritesOwn, DoubleClickAndEnterStartTheFavourite) {
 }
 
 TEST_F(FavouritesOwn, FavouriteIsRemovedByTheButton) {
-    Store({{"Ant", ant2}, {"Bee", bee}, {"Cat", "/gone/Cat.adf"}});
+    Store({{"Ant", ant2}, {"Bee", bee}, {"Cat", testing::HostPath("/gone/Cat.adf")}});
     Start();
     Do("select", "Form1.FavoritenListe", 1);
     Do("click", "Form1.DeLFav");
@@ -154,9 +154,11 @@ TEST_F(FavouritesOwn, FavouriteIsRemovedByTheButton) {
     EXPECT_TRUE(Visible("EmuListbox"));
     EXPECT_FALSE(Visible("EmulatorLongListbox"));
     EXPECT_EQ(Get("Focus"), "Form1.FavoritenListe");
-    EXPECT_EQ(tree.Read(file), "[Favoriten]\r\nFav0_Name=Ant\r\nFav0_FullPath=" + ant2 +
-                                   "\r\nFav1_Name=Cat\r\nFav1_FullPath=/gone/Cat.adf\r\n"
-                                   "Fav2_Name=\r\nFav2_FullPath=\r\n");
+    EXPECT_EQ(tree.Read(file),
+              "[Favoriten]\r\nFav0_Name=Ant\r\nFav0_FullPath=" + ant2 +
+                  "\r\nFav1_Name=Cat\r\nFav1_FullPath=" + testing::HostPath("/gone/Cat.adf") +
+                  "\r\n"
+                  "Fav2_Name=\r\nFav2_FullPath=\r\n");
 }
 
 TEST_F(FavouritesOwn, DeleteKeyAsksFirst) {
@@ -177,7 +179,7 @@ TEST_F(FavouritesOwn, RightClickRenames) {
     Do("input", "Käfer = [Bee]");
     Do("rightclick", "Form1.FavoritenListe", 1);
     EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant", "Käfer = [Bee]"}));
-    EXPECT_NE(tree.Read(file).find("Fav1_Name=Käfer = [Bee]\r\n"), std::string::npos);
+    EXPECT_NE(tree.Read(file).find(tree.Encoded("Fav1_Name=Käfer = [Bee]\r\n")), std::string::npos);
     Start();
     EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant", "Käfer = [Bee]"}));
     Do("select", "Form1.FavoritenListe", 1);

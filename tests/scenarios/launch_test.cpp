@@ -1,21 +1,10 @@
-#include "scenarios/scenario.h"
+#include "scenarios/launches.h"
 #include "testing/memory_file_system.h"
 
 namespace kivu::scenarios {
 namespace {
 
 using ::testing::HasSubstr;
-
-class Launch : public LoadedScenario {
- protected:
-    std::string StartFile() { return tree.Read("Config/Alpha/Kivu_tmp.bat"); }
-    void Profile(ProgramDirectory::Settings settings) {
-        settings.insert(settings.begin(),
-                        {{"EmulatorPath", "/Emu/alpha"}, {"WinUAE_UseMasterConfig", "0"}});
-        tree.AddEmulator("Alpha", settings);
-    }
-    std::string Bee() { return tree.Path("Roms/Alpha/Bee (1991)(Maker).adf"); }
-};
 
 TEST_F(Launch, DoubleClickWritesTheStartFileAndRunsIt) {
     Start();
@@ -134,30 +123,6 @@ TEST_F(Launch, NameWithoutPathIsOneWord) {
     }
 }
 
-TEST_F(Launch, NoCharacterOfANameIsEverActedUpon) {
-    const std::string name = "It's; $(touch x) `id` \"q\" & | > < * ? \\ %PATH% !.adf";
-    tree.Write("Roms/Alpha/" + name, "x");
-    Start();
-    Call("StartGame", tree.Path("Roms/Alpha/" + name));
-    EXPECT_THAT(StartFile(),
-                HasSubstr("'" + tree.Path("Roms/Alpha/It") +
-                          "'\\''s; $(touch x) `id` \"q\" & | > < * ? \\ %PATH% !.adf' &\n"));
-    EXPECT_EQ(Do("boxes")["value"], Json::array());
-}
-
-TEST_F(Launch, WindowsProgramRunsThroughWineWithItsPaths) {
-    tree.Write("Emu/winuae.exe", "MZ");
-    tree.AddEmulator("Alpha", {{"EmulatorPath", "/Emu/winuae.exe"},
-                               {"WinUAE_UseMasterConfig", "0"},
-                               {"EmulatorParameterAddDiskPath", "1"}});
-    Start();
-    Call("StartGame", Bee());
-    std::string wine = "Z:" + Bee();
-    std::replace(wine.begin(), wine.end(), '/', '\\');
-    EXPECT_THAT(StartFile(), HasSubstr("'wine' '" + tree.Path("Emu/winuae.exe") + "' '" + wine));
-    EXPECT_EQ(Get("CurrentRunninApplication"), "winuae.exe");
-}
-
 TEST_F(Launch, BatchFileIsWatchedAsTheCommandProcessor) {
     tree.Write("Emu/run.BAT", "x");
     tree.AddEmulator("Alpha", {{"EmulatorPath", "/Emu/run.BAT"}, {"WinUAE_UseMasterConfig", "0"}});
@@ -235,8 +200,8 @@ TEST_F(Launch, WindowsStartFileHoldsTheTwoLines) {
     options.windowsStartFiles = true;
     Start();
     Call("StartGame", Bee());
-    EXPECT_EQ(StartFile(), "cd " + tree.Path("Emu/") + "\r\nStart \"\" " + tree.Path("Emu/alpha") +
-                               " \"" + Bee() + "\"\r\n");
+    EXPECT_EQ(StartFile(), "cd " + Short(tree.Path("Emu/")) + "\r\nStart \"\" " +
+                               tree.Path("Emu/alpha") + " " + Short(Bee()) + "\r\n");
 }
 
 // The same on a Windows host, with short names.

@@ -1,6 +1,7 @@
 // Names and entries that only a POSIX file system holds.
 #include <sys/stat.h>
 
+#include "scenarios/all_search.h"
 #include "scenarios/faults.h"
 
 namespace kivu::scenarios {
@@ -54,19 +55,15 @@ TEST_F(Faults, NameOf255BytesIsStarted) {
     EXPECT_THAT(tree.Read("Config/Alpha/Kivu_tmp.bat"), HasSubstr(name));
 }
 
-TEST_F(Faults, EmulatorNameOfShellCharactersIsOnlyAName) {
-    const std::string name = "a'b;$(x) & `y`";
-    tree.AddEmulator(name, {{"EmulatorPath", "/Emu/alpha"},
-                            {"WinUAE_UseMasterConfig", "0"},
-                            {"EmulatorParameterAddDiskPath", "1"}});
-    tree.WriteCache(name, {{"/Roms/Alpha/Bee (1991)(Maker).adf", "Bee"}});
-    tree.WriteProgramProfile({{"LastEmulator", name}});
+TEST_F(AllSearchScenario, AnEmulatorWithAColonInItsNameCannotBeStarted) {
+    tree.AddEmulator("C: Sixty Four");
+    tree.WriteCache("C: Sixty Four", {{"/Roms/C/Ant (1984)(M).d64", "Ant (1984)(M)"}});
     Start();
-    Do("click", "Form1.Label3");
-    Do("dblclick", "Form1.UAE_Short", 0);
-    const Json runs = Do("runs")["value"];
-    ASSERT_EQ(runs.size(), 1U);
-    EXPECT_EQ(runs[0]["words"], Json::array({tree.Path("Config/" + name + "/Kivu_tmp.bat")}));
+    SearchAll("1984");
+    ASSERT_EQ(Get("GlobalSearchList.ListCount"), 1);
+    Do("key", "Form1.GlobalSearchList", "Enter");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
+    EXPECT_TRUE(Visible("GlobalSearchList"));
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "host_files.h"
 #include "testing/new_directory.h"
 
 namespace kivu::scenarios {
@@ -19,7 +20,7 @@ class ProgramDirectory {
 
     ProgramDirectory() {
         namespace fs = std::filesystem;
-        const fs::path memory = "/dev/shm";
+        const fs::path memory = testing::memoryDirectory;
         root = testing::NewDirectory(fs::is_directory(memory) ? memory : fs::temp_directory_path());
     }
     ~ProgramDirectory() {
@@ -33,21 +34,24 @@ class ProgramDirectory {
     std::string Path(const std::string& name) const { return testing::HostPath(root + "/" + name); }
 
     std::string Write(const std::string& name, const std::string& bytes = {}) const {
-        std::filesystem::create_directories(std::filesystem::path(Path(name)).parent_path());
-        std::ofstream(std::filesystem::path(Path(name)), std::ios::binary) << bytes;
+        std::filesystem::create_directories(testing::PathOf(Path(name)).parent_path());
+        std::ofstream(testing::PathOf(Path(name)), std::ios::binary) << bytes;
         return Path(name);
     }
     std::string Read(const std::string& name) const {
         std::ostringstream bytes;
-        bytes << std::ifstream(std::filesystem::path(Path(name)), std::ios::binary).rdbuf();
+        bytes << std::ifstream(testing::PathOf(Path(name)), std::ios::binary).rdbuf();
         return bytes.str();
     }
-    bool Exists(const std::string& name) const { return std::filesystem::exists(Path(name)); }
+    bool Exists(const std::string& name) const {
+        return std::filesystem::exists(testing::PathOf(Path(name)));
+    }
     void MakeDirectory(const std::string& name) const {
-        std::filesystem::create_directories(Path(name));
+        std::filesystem::create_directories(testing::PathOf(Path(name)));
     }
 
-    // "Config/<emulator>" with a profile of these settings.
+    // "Config/<emulator>" with a profile of these settings. Here and in a cache, a path that begins
+    // with "/" is one below the program directory, and is written in the host's form.
     void AddEmulator(const std::string& name, const Settings& settings = {}) const {
         MakeDirectory("Config/" + name);
         if (!settings.empty()) Write("Config/" + name + "/Kivu.ini", Profile(settings));
@@ -59,8 +63,8 @@ class ProgramDirectory {
     void WriteCache(const std::string& emulator, const Settings& images) const {
         std::string cache;
         for (const auto& [path, name] : images)
-            cache += path + "\r\n" + name + "\r\n";
-        Write("Config/" + emulator + "/Kivu_Cache.txt", cache);
+            cache += testing::HostPath(path) + "\r\n" + name + "\r\n";
+        Write("Config/" + emulator + "/Kivu_Cache.txt", Encoded(cache));
     }
     // A key's value in a profile as it stands on the disk; "(none)" if it is not there.
     std::string Stored(const std::string& profile, const std::string& key) const {
@@ -75,11 +79,19 @@ class ProgramDirectory {
     static std::string Profile(const Settings& settings) {
         std::string profile = "[Settings]\r\n";
         for (const auto& [key, value] : settings)
-            profile += key + "=" + value + "\r\n";
-        return profile;
+            profile += key + "=" + HostValue(value) + "\r\n";
+        return Encoded(profile);
+    }
+    // As the host keeps text in the launcher's files.
+    static std::string Encoded(const std::string& text) {
+        return testing::HostFileSystem().EncodeText(text);
     }
 
  private:
+    static std::string HostValue(const std::string& value) {
+        return value.starts_with('/') ? testing::HostPath(value) : value;
+    }
+
     std::string root;
 };
 

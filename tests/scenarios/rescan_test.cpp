@@ -24,7 +24,8 @@ TEST_F(Rescan, FindsWhatIsThereAndWritesTheCacheAndTheCount) {
     EXPECT_EQ(tree.Stored("Config/Alpha/Kivu.ini", "RomCount"), "4");
     EXPECT_EQ(tree.Stored("Config/Alpha/Kivu.ini", "Dir_Parameter"), "*.*");
     EXPECT_THAT(tree.Read("Config/Alpha/Kivu_Cache.txt"),
-                HasSubstr("/Roms/Alpha/Sub/Dog (1993)(Maker).adf\r\nDog (1993)(Maker)\r\n"));
+                HasSubstr(testing::HostPath("/Roms/Alpha/Sub/Dog (1993)(Maker).adf") +
+                          "\r\nDog (1993)(Maker)\r\n"));
     EXPECT_TRUE(Visible("EmuListbox"));
     EXPECT_EQ(Get("LoadBtn.Enabled"), true);
     EXPECT_FALSE(Visible("LoadingBtn"));
@@ -106,6 +107,7 @@ TEST_F(Rescan, CacheMovesWithTheProgram) {
     Start();
     Scan();
     const ProgramDirectory other;
+    std::filesystem::remove(other.Root());
     std::filesystem::copy(tree.Root(), other.Root(), std::filesystem::copy_options::recursive);
     driver::Options moved;
     moved.programDirectory = other.Root();

@@ -85,17 +85,6 @@ TEST_F(HitsOfAll, ASecondEmulatorOfTheSameNameRunsTheHitAgain) {
     EXPECT_EQ(Get("SuchErgList.ListCount"), 0);
 }
 
-TEST_F(HitsOfAll, AnEmulatorWithAColonInItsNameCannotBeStarted) {
-    tree.AddEmulator("C: Sixty Four");
-    tree.WriteCache("C: Sixty Four", {{"/Roms/C/Ant (1984)(M).d64", "Ant (1984)(M)"}});
-    Start();
-    SearchAll("1984");
-    ASSERT_EQ(Get("GlobalSearchList.ListCount"), 1);
-    Do("key", "Form1.GlobalSearchList", "Enter");
-    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
-    EXPECT_TRUE(Visible("GlobalSearchList"));
-}
-
 TEST_F(HitsOfAll, EnterWithoutAHitDoesNothing) {
     Start();
     SearchAll("nowhere");

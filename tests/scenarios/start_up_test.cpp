@@ -1,3 +1,4 @@
+#include "hidden_directory.h"
 #include "scenarios/scenario.h"
 
 namespace kivu::scenarios {
@@ -53,7 +54,7 @@ TEST_F(StartUp, EmulatorsAreTheSortedDirectoriesOfConfigAndFilesAreNot) {
     for (const char* name : {"beta", "Alpha", "Ärger", "zulu", "Config 10", "Config 9"})
         tree.AddEmulator(name);
     tree.Write("Config/File.txt", "x");
-    tree.MakeDirectory("Config/.hidden");
+    kivu::testing::MakeHiddenDirectory(tree.Path("Config"));
     Start();
     const Json rows{"Alpha", "Ärger", "beta", "Config 10", "Config 9", "zulu"};
     EXPECT_EQ(Get("EmuListbox.List"), rows);
@@ -219,10 +220,11 @@ TEST_F(StartUpLoaded, RenamedProgramStartsFreshWhileFavouritesAndSkinStay) {
 
 TEST_F(StartUpLoaded, SkinAndFavouritesAreFoundInAnySpelling) {
     tree.Write("Config/Alpha/SKIN/skin.INI", ProgramDirectory::Profile({{"TitleString", "Mine"}}));
-    tree.Write("Config/Alpha/FAVORITEN.INI", "");
+    tree.Write(
+        "Config/Alpha/FAVORITEN.INI",
+        "[Favoriten]\r\nFav0_Name=Bee\r\nFav0_FullPath=/Roms/Alpha/Bee (1991)(Maker).adf\r\n");
     Start();
-    EXPECT_EQ(Get("ColorsIniName"), tree.Path("Config/Alpha/SKIN/skin.INI"));
-    EXPECT_EQ(Get("FavoritenIni"), tree.Path("Config/Alpha/FAVORITEN.INI"));
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Bee"}));
     EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Mine");
     EXPECT_EQ(Get("Caption"), "Mine");
 }
@@ -270,12 +272,15 @@ TEST_F(StartUpLoaded, HandWrittenAbsolutePathsAreTakenAsTheyStand) {
     EXPECT_EQ(Get("txtWinUAEExe.Text"), tree.Path("Emu/alpha"));
 }
 
-TEST_F(StartUpLoaded, PathsWrittenOnWindowsAreTurned) {
-    tree.AddEmulator("Alpha", {{"RomPath", "\\Roms\\Alpha"}, {"EmulatorPath", "..\\Emu\\alpha"}});
-    Start();
-    EXPECT_EQ(Get("TxtRomPath.Text"), tree.Path("Roms/Alpha/"));
-    EXPECT_EQ(Get("txtWinUAEExe.Text"),
-              std::filesystem::path(tree.Root()).parent_path().string() + "/Emu/alpha");
+TEST_F(StartUpLoaded, PathsWrittenOnEitherHostAreTurned) {
+    const std::string beside = std::filesystem::path(tree.Root()).parent_path().string();
+    for (const std::string rest : {"\\Roms\\Alpha\r\nEmulatorPath=..\\Emu\\alpha",
+                                   "/Roms/Alpha\r\nEmulatorPath=../Emu/alpha"}) {
+        tree.Write("Config/Alpha/Kivu.ini", "[Settings]\r\nRomPath=" + rest + "\r\n");
+        Start();
+        EXPECT_EQ(Get("TxtRomPath.Text"), tree.Path("Roms/Alpha/"));
+        EXPECT_EQ(Get("txtWinUAEExe.Text"), testing::HostPath(beside + "/Emu/alpha"));
+    }
 }
 
 TEST_F(StartUpLoaded, NoKickstartStaysNoKickstart) {

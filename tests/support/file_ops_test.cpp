@@ -212,6 +212,36 @@ TEST(PosixPaths, ComeBackFromEveryRandomBase) {
     }
 }
 
+TEST(StoredPath, IsTheAbsolutePathOnTheHostThatWroteIt) {
+    EXPECT_EQ(StoredPath(kWindowsBase, "\\Roms\\x.adf"), "C:\\Kivu\\Roms\\x.adf");
+    EXPECT_EQ(StoredPath(kWindowsBase, "..\\Roms\\x.adf"), "C:\\Roms\\x.adf");
+    EXPECT_EQ(StoredPath(kWindowsBase, "D:\\Roms\\x.adf"), "D:\\Roms\\x.adf");
+    EXPECT_EQ(StoredPath(kWindowsBase, ""), "C:\\Kivu\\");
+    EXPECT_EQ(StoredPath(kPosixBase, "/roms/x\\y"), "/opt/kivu/roms/x\\y");
+    EXPECT_EQ(StoredPath(kPosixBase, "../roms/x"), "/opt/roms/x");
+    EXPECT_EQ(StoredPath(kPosixBase, ""), "/opt/kivu");
+}
+
+TEST(StoredPath, TurnsWhatTheOtherHostWrote) {
+    EXPECT_EQ(StoredPath(kWindowsBase, "/Roms/x.adf"), "C:\\Kivu\\Roms\\x.adf");
+    EXPECT_EQ(StoredPath(kWindowsBase, "../Roms/Sub/x.adf"), "C:\\Roms\\Sub\\x.adf");
+    EXPECT_EQ(StoredPath(kWindowsBase, "Roms/x.adf"), "C:\\Kivu\\Roms\\x.adf");
+    EXPECT_EQ(StoredPath(kWindowsBase, "/"), "C:\\Kivu\\");
+    EXPECT_EQ(StoredPath(kWindowsBase, "D:/Roms/x.adf"), "D:\\Roms\\x.adf");
+    EXPECT_EQ(StoredPath(kPosixBase, "\\roms\\x"), "/opt/kivu/roms/x");
+    EXPECT_EQ(StoredPath(kPosixBase, "..\\roms\\x"), "/opt/roms/x");
+}
+
+TEST(StoredPath, OnANetworkShareComesBack) {
+    const string share = "\\\\server\\roms\\x.adf";
+    EXPECT_EQ(MakeRelativePath(kWindowsBase, share), share);
+    EXPECT_EQ(StoredPath(kWindowsBase, share), share);
+    EXPECT_EQ(StoredPath(kWindowsBase, "//server/roms/x.adf"), share);
+    EXPECT_EQ(StoredPath(kWindowsBase, "\\\\\\x"), "C:\\Kivu\\\\\\x");
+    EXPECT_EQ(StoredPath("\\\\server\\kivu", "\\x"), "\\\\server\\kivu\\x");
+    EXPECT_EQ(StoredPath("\\\\server\\kivu", "..\\roms\\x.adf"), share);
+}
+
 TEST(ProfilePath, TakesAHandWrittenPathFromTheRoot) {
     const auto exists = [](string_view only) {
         return [only](const string& path) { return path == only; };
@@ -235,7 +265,7 @@ TEST(ProfilePath, AsksOnlyAboutPathsFromTheRoot) {
     };
     EXPECT_EQ(ProfilePath(kPosixBase, "../roms", fail), "/opt/roms");
     EXPECT_EQ(ProfilePath(kPosixBase, "", fail), "/opt/kivu");
-    EXPECT_EQ(ProfilePath(kWindowsBase, "/roms", fail), "C:\\Kivu/roms");
+    EXPECT_EQ(ProfilePath(kWindowsBase, "/roms", fail), "C:\\Kivu\\roms");
     EXPECT_EQ(ProfilePath(kWindowsBase, "", fail), "C:\\Kivu\\");
 }
 

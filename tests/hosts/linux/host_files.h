@@ -7,4 +7,7 @@ namespace kivu::testing {
 // The real files of the host that the tests run on.
 using HostFileSystem = platform::LinuxFileSystem;
 
+// A directory that lies in memory, where there is one.
+inline constexpr const char* memoryDirectory = "/dev/shm";
+
 }  // namespace kivu::testing

@@ -7,4 +7,7 @@ namespace kivu::testing {
 // The real files of the host that the tests run on.
 using HostFileSystem = platform::WindowsFileSystem;
 
+// A directory that lies in memory, where there is one: Wine shows that of its host.
+inline constexpr const char* memoryDirectory = "Z:\\dev\\shm";
+
 }  // namespace kivu::testing

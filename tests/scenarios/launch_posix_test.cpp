@@ -1,0 +1,34 @@
+// Starts with names and paths that only a POSIX host has.
+#include "scenarios/launches.h"
+
+namespace kivu::scenarios {
+namespace {
+
+using ::testing::HasSubstr;
+
+TEST_F(Launch, NoCharacterOfANameIsEverActedUpon) {
+    const std::string name = "It's; $(touch x) `id` \"q\" & | > < * ? \\ %PATH% !.adf";
+    tree.Write("Roms/Alpha/" + name, "x");
+    Start();
+    Call("StartGame", tree.Path("Roms/Alpha/" + name));
+    EXPECT_THAT(StartFile(),
+                HasSubstr("'" + tree.Path("Roms/Alpha/It") +
+                          "'\\''s; $(touch x) `id` \"q\" & | > < * ? \\ %PATH% !.adf' &\n"));
+    EXPECT_EQ(Do("boxes")["value"], Json::array());
+}
+
+TEST_F(Launch, WindowsProgramRunsThroughWineWithItsPaths) {
+    tree.Write("Emu/winuae.exe", "MZ");
+    tree.AddEmulator("Alpha", {{"EmulatorPath", "/Emu/winuae.exe"},
+                               {"WinUAE_UseMasterConfig", "0"},
+                               {"EmulatorParameterAddDiskPath", "1"}});
+    Start();
+    Call("StartGame", Bee());
+    std::string wine = "Z:" + Bee();
+    std::replace(wine.begin(), wine.end(), '/', '\\');
+    EXPECT_THAT(StartFile(), HasSubstr("'wine' '" + tree.Path("Emu/winuae.exe") + "' '" + wine));
+    EXPECT_EQ(Get("CurrentRunninApplication"), "winuae.exe");
+}
+
+}  // namespace
+}  // namespace kivu::scenarios
