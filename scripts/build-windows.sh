@@ -18,6 +18,6 @@ mkdir -p "$folder/Config" "$folder/docs"
 cp "$program" "$folder/"
 cp LICENSE "$folder/LICENSE.txt"
 cp README.md "$folder/README.md"
-cp docs/guide.md docs/profiles.md docs/screenshot.png "$folder/docs/"
+cp docs/*.md docs/screenshot.png "$folder/docs/"
 (cd build/windows/package && zip -qr "../$(basename "$package")" Kivu)
 echo "$package"
