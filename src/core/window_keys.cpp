@@ -18,8 +18,15 @@ void WindowKeys::Form_KeyDown(forms::Key& key) {
         return;
     }
     const bool sideways = key.code == keys::left || key.code == keys::right;
-    if (sideways && (form.Mode() != 7 || form.SearchDblsTxt.Text().empty()))
-        hooks.JoystickDirection(key.code);
+    if (sideways && !MovesInSearchText()) hooks.JoystickDirection(key.code);
+}
+
+// Over the hits of all emulators the mode is that of the results, and turning the tabs would lose
+// them all.
+bool WindowKeys::MovesInSearchText() const {
+    const bool searching =
+        form.Mode() == 7 || (form.GlobalSearchList.Visible() && form.SearchDblsTxt.HasFocus());
+    return searching && !form.SearchDblsTxt.Text().empty();
 }
 
 void WindowKeys::CloseKey() {

@@ -28,6 +28,7 @@ class WindowKeys {
  private:
     void CloseKey();
     void ResizeBy(int keyCode);
+    bool MovesInSearchText() const;
 
     Form1& form;
     platform::Dialogs& dialogs;

@@ -5,6 +5,7 @@
 
 #include "library/short_names.h"
 #include "support/string_ops.h"
+#include "support/text.h"
 #include "ui/layout_numbers.h"
 
 namespace kivu::ui {
@@ -275,9 +276,37 @@ void Layout::ArrangeTabs() {
     PlaceTabs();
 }
 
+// What a large font or a small window leaves no room for is cut, and told by a tool tip.
+void Layout::FitTabs(int left, bool choosing) {
+    std::vector<forms::Label*> tabs;
+    std::vector<int> widths;
+    std::size_t current = 0;
+    for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
+        if (!tab->Visible()) continue;
+        if (tab->IsOpaque()) current = tabs.size();
+        tabs.push_back(tab);
+        widths.push_back(tab->TextWidth() + 2 * forms::twipsPerPixel);
+    }
+    const int gaps = static_cast<int>(tabs.size()) * tabGap;
+    const std::vector<int> fitting = TabWidths(widths, current, form.Width() - left - gaps, 300);
+    // Over the hits of all emulators one caption covers the others, and the window's edge cuts it.
+    // Over the open choice there is but one tab.
+    const bool covered = form.GlobalSearchList.Visible() || choosing;
+    for (std::size_t i = 0; i < tabs.size(); ++i) {
+        const bool whole = covered || fitting[i] == widths[i];
+        tabs[i]->SetAutoSize(whole);
+        tabs[i]->SetToolTipText(whole ? "" : std::string(support::Trim(tabs[i]->Caption())));
+        if (!whole) tabs[i]->SetWidth(fitting[i]);
+    }
+}
+
 void Layout::PlaceTabs() {
+    // A width that is set comes back here.
+    if (placingTabs) return;
+    const core::Raised once(placingTabs);
     const bool choosing = form.Mode() == 5 || form.Mode() == 10;
     int left = form.EmuListbox.Right() + tabGap;
+    FitTabs(left, choosing);
     for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
         tab->SetTop(form.EmuListbox.Top() + (form.EmuListbox.Height() - tab->Height()) / 2);
         if (choosing && tab == &form.Label1) {

@@ -48,6 +48,7 @@ class Layout {
     void PlaceFavouriteButtons();
     void ShowListOfMode();
     void ArrangeTabs();
+    void FitTabs(int left, bool choosing);
 
     core::Form1& form;
     int drivesHomeLeft = -1, drivesHomeTop = -1;
@@ -55,6 +56,7 @@ class Layout {
     bool stacked = false;                   // the favourites' buttons, in a narrow window
     std::string fullName;                   // in Current_ProgramNameFull, unbroken
     bool wrapping = false;
+    bool placingTabs = false;
 };
 
 }  // namespace kivu::ui

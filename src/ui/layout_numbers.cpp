@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace kivu::ui {
 
@@ -29,6 +30,21 @@ LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int l
     numbers.QuarterWidth = innerWidth / 4 - 100;
     numbers.HalfWidth = innerWidth / 2 - 100;
     return numbers;
+}
+
+std::vector<int> TabWidths(std::vector<int> wanted, std::size_t current, int room, int least) {
+    const int sum = std::accumulate(wanted.begin(), wanted.end(), 0);
+    if (sum <= room || current >= wanted.size()) return wanted;
+    const int others = sum - wanted[current];
+    const auto count = static_cast<int>(wanted.size()) - 1;
+    const int front = std::clamp(room - count * least, least, std::max(least, wanted[current]));
+    wanted[current] = std::min(wanted[current], front);
+    const double share = others > 0 ? static_cast<double>(room - wanted[current]) / others : 0;
+    for (std::size_t i = 0; i < wanted.size(); ++i) {
+        if (i == current) continue;
+        wanted[i] = std::min(wanted[i], std::max(least, Floor(wanted[i] * share)));
+    }
+    return wanted;
 }
 
 }  // namespace kivu::ui

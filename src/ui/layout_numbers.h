@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstddef>
+#include <vector>
+
 namespace kivu::ui {
 
 // The columns of the main window, in twips: the lists in the left two thirds, two narrow columns
@@ -21,5 +24,9 @@ struct LayoutNumbers {
 // From the window's inner size, the left edge of the lists and their top. Measures of a tiny window
 // come out negative; a control takes none of those.
 LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int listTop);
+
+// The widths of tabs that stand side by side in `room`, from those that they would like to have. If
+// they do not fit, all but the current one give way, down to `least`; then that one too.
+std::vector<int> TabWidths(std::vector<int> wanted, std::size_t current, int room, int least);
 
 }  // namespace kivu::ui

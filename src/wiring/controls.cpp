@@ -89,6 +89,7 @@ void Launcher::Routines::JoinLists() {
 
     for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
         tab->onResize = [this] { layout.PlaceTabs(); };
+        tab->onChange = tab->onResize;
     }
     form.Label1.onClick = [this] { listEvents.Label1_Click(); };
     // While the search box has the focus, the tabs show over the open list of emulators.

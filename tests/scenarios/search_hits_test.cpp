@@ -159,6 +159,28 @@ TEST_F(HitsOfAll, ASearchFromTheOpenChoiceClosesIt) {
     EXPECT_EQ(Get("EmuListbox.ListIndex"), 0);
 }
 
+TEST_F(HitsOfAll, ArrowsMoveInTheTextOverTheHits) {
+    Start();
+    SearchAll("199");
+    Do("focus", "Form1.SearchDblsTxt");
+    Do("key", "Form1.SearchDblsTxt", "Left");
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
+    Do("set", "Form1.SearchDblsTxt.Text", "");
+    Do("key", "Form1.SearchDblsTxt", "Left");
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+}
+
+TEST_F(HitsOfAll, ALongEmulatorNameDoesNotHideTheTitle) {
+    const std::string emulator = "TheVeryLongNameOfAnEmulatorThatDoesNotFitIntoItsLabelAtAnySize";
+    tree.AddEmulator(emulator);
+    tree.WriteCache(emulator, {{"/Roms/Ant (1977)(M).adf", "Ant (1977)(M)"}});
+    Start();
+    SearchAll("1977");
+    EXPECT_TRUE(Visible("Current_ProgramNameFull"));
+    EXPECT_NE(Text("Current_ProgramNameFull.Caption").find("Ant"), std::string::npos);
+}
+
 TEST_F(HitsOfAll, AnEmptyBoxEmptiesTheHits) {
     Start();
     SearchAll("199");

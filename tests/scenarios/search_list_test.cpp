@@ -269,6 +269,38 @@ TEST_F(ListSearchScenario, TheTabComesUpWithTheFirstSearch) {
     EXPECT_GE(Get("Label4.Left"), Get("Label3.Left"));
 }
 
+TEST_F(ListSearchScenario, TheTabStaysInANarrowWindow) {
+    Start();
+    const auto inside = [this] {
+        int left = Form().EmuListbox.Right();
+        for (const forms::Label* tab :
+             {&Form().Label1, &Form().Label2, &Form().Label3, &Form().Label4}) {
+            if (tab->Left() != left + 200) return false;
+            left = tab->Right();
+        }
+        return left <= Form().Width();
+    };
+    Type("an");
+    const Json whole = Get("Label4.Width");
+    EXPECT_TRUE(inside());
+    EXPECT_EQ(Get("Label1.ToolTipText"), "");
+    const Json first = Get("Label1.Width");
+    Do("resize", "Form1", 10500, 9000);
+    EXPECT_TRUE(inside());
+    EXPECT_EQ(Get("Label4.Width"), whole);
+    EXPECT_LT(Get("Label1.Width"), first);
+    EXPECT_EQ(Get("Label1.ToolTipText"), "Favorites (0)");
+    Type("t g");
+    EXPECT_TRUE(inside());
+    Do("click", "Form1.Label3");
+    EXPECT_TRUE(inside());
+    EXPECT_LT(Get("Label4.Width"), whole);
+    Do("resize", "Form1", 20000, 9000);
+    EXPECT_TRUE(inside());
+    EXPECT_EQ(Get("Label1.Width"), first);
+    EXPECT_EQ(Get("Label1.ToolTipText"), "");
+}
+
 TEST_F(ListSearchScenario, ALetterInAGameListGoesToTheBox) {
     Start();
     for (const char* list : {"WIthoutDoubles", "UAE_Short", "SuchErgList"}) {

@@ -46,5 +46,26 @@ TEST(LayoutNumbers, LetsTheListShrinkInASmallWindow) {
     EXPECT_LT(ComputeLayout(3000, 1500, 300, 1300).ListHeight, 0);
 }
 
+using Widths = std::vector<int>;
+
+TEST(TabWidths, TabsThatFitHaveWhatTheyWant) {
+    EXPECT_EQ(TabWidths({100, 200, 300}, 1, 600, 50), (Widths{100, 200, 300}));
+    EXPECT_EQ(TabWidths({}, 0, 600, 50), Widths{});
+    EXPECT_EQ(TabWidths({700}, 3, 600, 50), Widths{700});
+}
+
+TEST(TabWidths, AllButTheCurrentOneGiveWay) {
+    EXPECT_EQ(TabWidths({100, 200, 300}, 2, 450, 20), (Widths{50, 100, 300}));
+    EXPECT_EQ(TabWidths({100, 200, 300}, 0, 350, 20), (Widths{100, 100, 150}));
+}
+
+TEST(TabWidths, NoneIsNarrowerThanTheLeast) {
+    EXPECT_EQ(TabWidths({100, 200, 300}, 2, 380, 40), (Widths{40, 53, 300}));
+    EXPECT_EQ(TabWidths({100, 200, 300}, 2, 200, 40), (Widths{40, 53, 120}));
+    EXPECT_EQ(TabWidths({100, 200, 300}, 2, -500, 40), (Widths{40, 40, 40}));
+    EXPECT_EQ(TabWidths({10, 200}, 1, 100, 40), (Widths{10, 60}));
+    EXPECT_EQ(TabWidths({300}, 0, 100, 40), Widths{100});
+}
+
 }  // namespace
 }  // namespace kivu::ui
