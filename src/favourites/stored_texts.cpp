@@ -2,6 +2,7 @@
 
 #include "core/ini_syntax.h"
 #include "support/file_ops.h"
+#include "support/path_forms.h"
 #include "support/text.h"
 
 namespace kivu::favourites {
@@ -25,7 +26,7 @@ std::string StoredTexts::Path(std::string_view section, std::string_view key,
                               std::string_view base) const {
     const std::string decoded = texts.Value(section, key);
     if (decoded.empty()) return decoded;
-    if (bytes) {
+    if (bytes && support::NamesAreBytes(*files)) {
         // The bytes are this host's own name for the file where a file of that name is there;
         // otherwise another host has written them in its code page.
         const std::string plain = bytes->Value(section, key);

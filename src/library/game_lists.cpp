@@ -10,6 +10,7 @@
 #include "library/short_names.h"
 #include "support/fast_list_fill.h"
 #include "support/file_ops.h"
+#include "support/path_forms.h"
 #include "support/text.h"
 
 namespace kivu::library {
@@ -92,6 +93,7 @@ void GameLists::FillFromCache(const std::string& bytes) {
 // their bytes, which must stay when a file of that name is there.
 std::string GameLists::PathOnDisk(std::string_view stored) const {
     if (support::IsUtf8(stored)) return std::string(stored);
+    if (!support::NamesAreBytes(files)) return files.DecodeText(stored);
     std::string plain(stored);
     if (files.FileExists(support::StoredPath(form.BaseDirectory(), plain))) return plain;
     return files.DecodeText(stored);

@@ -16,6 +16,10 @@ std::string LongFileName(const platform::FileSystem& files, const std::string& p
     return trimmed.empty() ? path : std::string(trimmed);
 }
 
+bool NamesAreBytes(const platform::FileSystem& files) {
+    return files.Separator() == '/';
+}
+
 std::string DirectoryOf(const platform::FileSystem& files, const std::string& path) {
     return GetFilePath(path,
                        [&](const std::string& candidate) { return files.IsDirectory(candidate); });

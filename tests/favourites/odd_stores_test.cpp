@@ -109,6 +109,19 @@ TEST_F(OddStoresTest, FileOfAWindowsHostIsReadInItsCodePage) {
     EXPECT_EQ(room.store.Entries()[0].FullPath, "/k/Games/Käfer.adf");
 }
 
+TEST(WindowsStores, StoreInTheCodePageGivesText) {
+    MemoryFileSystem disk('\\');
+    Room room(disk, "C:\\k");
+    disk.AddFile("C:\\k\\Games\\Käfer.adf", "");
+    disk.AddFile(room.form.FavoritenIni,
+                 "[Favoriten]\r\nFav0_Name=K\xe4"
+                 "fer\r\nFav0_FullPath=\\Games\\K\xe4"
+                 "fer.adf\r\n");
+    room.store.LoadFavoriten();
+    ASSERT_EQ(room.Names(), Texts{"Käfer"});
+    EXPECT_EQ(room.store.Entries()[0].FullPath, "C:\\k\\Games\\Käfer.adf");
+}
+
 TEST_F(OddStoresTest, PathFromTheRootWrittenByHandIsTakenAsItStandsWhereItExists) {
     disk.AddFile("/media/A.adf", "");
     Store(

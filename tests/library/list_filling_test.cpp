@@ -25,6 +25,8 @@ class TextOrder : public forms::Collation {
 };
 
 struct ListFilling : ::testing::Test {
+    explicit ListFilling(char separator = '/') : files(separator) {}
+
     kivu::testing::MemoryFileSystem files;
     kivu::testing::ScriptedHost host{files};
     TextOrder order;
@@ -37,8 +39,8 @@ struct ListFilling : ::testing::Test {
     GameLists lists{form, ini, files, busy, pacer, scanner};
 
     void LoadCache(const std::string& text) {
-        form.AppDir = "/kivu/";
-        form.CacheName = "/kivu/Kivu_Cache.txt";
+        form.AppDir = files.Separator() == '/' ? "/kivu/" : "C:\\kivu\\";
+        form.CacheName = form.AppDir + "Kivu_Cache.txt";
         files.AddFile(form.CacheName, text);
         lists.LoadCacheList();
     }
@@ -73,6 +75,25 @@ TEST_F(ListFilling, ACacheOfAnotherCodePageBecomesReadable) {
     LoadCache("/\xE4.adf\r\n\xE4\r\n/b.adf\r\n\xC3\xB6\r\n");
     EXPECT_THAT(form.UAE_FULL.Rows(), ElementsAre("/kivu/\xC3\xA4.adf", "/kivu/b.adf"));
     EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("\xC3\xA4", "\xC3\xB6"));
+}
+
+struct WindowsListFilling : ListFilling {
+    WindowsListFilling() : ListFilling('\\') {}
+};
+
+TEST_F(WindowsListFilling, ACacheInTheCodePageGivesTextWhetherTheGameIsThereOrNot) {
+    files.AddFile("C:\\kivu\\\xC3\xA4.adf", "");
+    LoadCache("\\\xE4.adf\r\n\xE4\r\n\\\xF6.adf\r\n\xF6\r\n");
+    EXPECT_THAT(form.UAE_FULL.Rows(),
+                ElementsAre("C:\\kivu\\\xC3\xA4.adf", "C:\\kivu\\\xC3\xB6.adf"));
+    EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("\xC3\xA4", "\xC3\xB6"));
+}
+
+TEST_F(WindowsListFilling, ACacheOfAPosixHostAndOneOfANetworkShareGivePathsThatExist) {
+    LoadCache("/Sub/a.adf\r\nA\r\n../b.adf\r\nB\r\n\\\\nas\\c.adf\r\nC\r\n");
+    EXPECT_THAT(form.UAE_FULL.Rows(),
+                ElementsAre("\\\\nas\\c.adf", "C:\\b.adf", "C:\\kivu\\Sub\\a.adf"));
+    EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("C", "B", "A"));
 }
 
 TEST_F(ListFilling, TheSimpleListHoldsARunOfEqualNamesOnce) {

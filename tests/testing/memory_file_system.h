@@ -19,7 +19,7 @@ namespace kivu::testing {
 // A disk in memory, for tests: it can be full, refuse a read or a write, and change under the
 // program's hands. With "/" as separator it behaves as the Linux host does (names exact, text UTF-8
 // with Windows-1252 for stray bytes); with "\\" as Windows does (drives, names without regard to
-// case, text Windows-1252).
+// case and in Windows-1252 where they are not UTF-8, text Windows-1252).
 class MemoryFileSystem : public platform::FileSystem, private MemoryTree {
  public:
     explicit MemoryFileSystem(char separator = '/') : MemoryTree(separator) {

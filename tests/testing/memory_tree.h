@@ -89,8 +89,8 @@ class MemoryTree {
         std::string key;
         for (const std::string& part : parts)
             key += "/" + part;
-        if (separator == '\\') return support::ToLower(key);
-        return key;
+        if (separator == '/') return key;
+        return support::ToLower(support::IsUtf8(key) ? key : support::FromWindows1252(key));
     }
 
     std::string TextOf(const PathParts& parts) const {
