@@ -113,7 +113,12 @@ void AllEmulatorsSearch::DressList() {
     form.SuchErgList.SetVisible(false);
 }
 
+// As wide with a counter as with the result, so that no tab looks out from under it.
 void AllEmulatorsSearch::PlaceLabel4() {
+    const std::string& caption = form.Label4.Caption();
+    const bool backed = caption.ends_with(Backing());
+    form.Label4.SetAutoSize(false);
+    form.Label4.SetWidth(form.Label4.WidthOf(backed ? caption : caption + Backing()));
     form.Label4.SetLeft(form.EmuListbox.Right() + tabGap);
 }
 

@@ -122,6 +122,8 @@ void ListSearch::NarrowGlobalList(const std::string& text) {
 void ListSearch::ShowCount() {
     form.Label4.SetCaption(form.Say(" Suchergebnisse (", " Search results (") +
                            std::to_string(form.SuchErgList.ListCount()) + ") ");
+    // Over the hits of all emulators it was as wide as all tabs.
+    form.Label4.SetAutoSize(true);
 }
 
 // The tab comes up with the first search, whatever list is in front.

@@ -293,6 +293,7 @@ void Layout::FitTabs(int left, bool choosing) {
     // Over the open choice there is but one tab.
     const bool covered = form.GlobalSearchList.Visible() || choosing;
     for (std::size_t i = 0; i < tabs.size(); ++i) {
+        if (covered && tabs[i] == &form.Label4) continue;
         const bool whole = covered || fitting[i] == widths[i];
         tabs[i]->SetAutoSize(whole);
         tabs[i]->SetToolTipText(whole ? "" : std::string(support::Trim(tabs[i]->Caption())));

@@ -122,7 +122,10 @@ TEST_F(AllSearchScenario, EachEmulatorBeginsWithTheCountersSoFar) {
     std::vector<std::string> captions;
     Host().clock.perLook = std::chrono::milliseconds(40);
     Host().events.onEvents = [&] {
-        if (!Form().SearchDblsTxt.Enabled()) captions.push_back(Form().Label4.Caption());
+        if (Form().SearchDblsTxt.Enabled()) return;
+        captions.push_back(Form().Label4.Caption());
+        EXPECT_EQ(Form().Label4.Left(), Form().EmuListbox.Right() + 200);
+        EXPECT_GE(Form().Label4.Right(), Form().Label3.Right());
     };
     SearchAll("ant");
     Host().events.onEvents = {};
