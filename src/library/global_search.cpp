@@ -118,7 +118,8 @@ void AllEmulatorsSearch::PlaceLabel4() {
     const std::string& caption = form.Label4.Caption();
     const bool backed = caption.ends_with(Backing());
     form.Label4.SetAutoSize(false);
-    form.Label4.SetWidth(form.Label4.WidthOf(backed ? caption : caption + Backing()));
+    form.Label4.SetWidth(form.Label4.WidthOf(backed ? caption : caption + Backing()) +
+                         2 * forms::twipsPerPixel);
     form.Label4.SetLeft(form.EmuListbox.Right() + tabGap);
 }
 
