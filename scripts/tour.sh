@@ -95,9 +95,9 @@ favourites_file=$program_dir/Config/DOSBox/Favoriten.ini
 Favourites() { grep -c '^Fav[0-9]*_Name=.' "$favourites_file" || true; }
 before=$(Favourites)
 Front
-# Type Storm
+# Type Storm; its buttons come up with it.
 Click 100 233
-sleep 0.5
+Shot title "a title chosen"
 Click 707 485
 More() { [ "$(Favourites)" -gt "$before" ]; }
 Until 10 More || Fail "the game did not become a favourite"

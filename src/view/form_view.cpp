@@ -49,6 +49,7 @@ FormView::FormView(forms::Form& form)
     for (forms::Control* control : form.Controls()) {
         Build(*control);
     }
+    Stack(form);
     drag.ArrangeEdges();
     keyboard.onCloseKey = [this] { surface->close(); };
     // The end of the desktop session is not ours to refuse.
@@ -72,6 +73,14 @@ void FormView::Build(forms::Control& control) {
     Mirror* parent = control.Parent() ? Find(*control.Parent()) : nullptr;
     QWidget* place = parent && parent->Widget() ? parent->Widget() : surface.get();
     mirrors.emplace(&control, MakeMirror(control, place, *this));
+}
+
+// Controls need not lie on one another in the order in which they were made.
+void FormView::Stack(const forms::Container& container) {
+    for (forms::Control* child : container.Children()) {
+        Find(*child)->Apply(forms::Aspect::zOrder);
+        if (const auto* inner = dynamic_cast<forms::Container*>(child)) Stack(*inner);
+    }
 }
 
 void FormView::Watch(QWidget* widget, Mirror& mirror) {

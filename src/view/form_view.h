@@ -52,6 +52,7 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     void FormChanged(forms::Aspect aspect);
     Mirror* Find(forms::Control& control) const;
     void Build(forms::Control& control);
+    void Stack(const forms::Container& container);
     void ShowFocus();
     void TakeFocus(Mirror& mirror, Qt::FocusReason reason);
     void FlushNow();

@@ -62,6 +62,18 @@ TEST_F(ControlsTest, FollowVisibleEnabledAndOrder) {
     EXPECT_TRUE(Find("List")->isAncestorOf(view.Window().childAt(100, 100)));
 }
 
+TEST_F(ControlsTest, LieOnOneAnotherAsTheyWereStackedBeforeTheWindowWasMade) {
+    SampleForm stacked;
+    stacked.list.Move(0, 0, 3000, 3000);
+    stacked.other.Move(0, 0, 3000, 3000);
+    stacked.list.BringToFront();
+    view::FormView early(stacked);
+    early.Show();
+    const auto* list = early.Window().findChild<QWidget*>(QStringLiteral("List"));
+    ASSERT_TRUE(list);
+    EXPECT_TRUE(list->isAncestorOf(early.Window().childAt(100, 100)));
+}
+
 TEST_F(ControlsTest, KeepTheirOwnFlagInAHiddenContainer) {
     Show();
     form.frame.SetVisible(false);

@@ -161,6 +161,19 @@ TEST_F(FavouritesKeys, ButtonsAddAndRemoveByTheKeyboardAlone) {
     EXPECT_EQ(Get("Focus"), "Form1.FavoritenListe");
 }
 
+TEST_F(FavouritesKeys, ButtonsTakeAClick) {
+    Show();
+    Key(Qt::Key_Right);
+    ClickRow("WIthoutDoubles", 1);
+    for (const char* name : {"AddToFavorit", "AddToFavorit_Global"}) {
+        QWidget* button = Widget(name);
+        const QPoint at = button->mapTo(&view->Window(), button->rect().center());
+        EXPECT_EQ(view->Window().childAt(at), button) << name;
+    }
+    Click("AddToFavorit_Global");
+    EXPECT_NE(tree.Read(global).find("Fav2_System=Alpha"), std::string::npos);
+}
+
 TEST_F(FavouritesKeys, RightButtonRenamesTheRowUnderTheMouse) {
     Show();
     Do("input", "Käfer = [Bee]");
