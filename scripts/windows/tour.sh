@@ -14,7 +14,8 @@ shots=${3:-$here/tour/windows}
 . "$here/scripts/screen.sh"
 
 export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" LANG=${LANG:-C.UTF-8}
-export WINEPREFIX="${WINEPREFIX:-$work/prefix}"
+# A Windows of its own, which nothing else keeps running.
+export WINEPREFIX="$work/prefix"
 unset QT_QPA_PLATFORM
 
 Finish() {
