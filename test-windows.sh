@@ -14,7 +14,7 @@ trap 'wineserver -k || true; pkill -P $$ tail || true; rm -rf "$WINEPREFIX"' EXI
 scripts/install-packages.sh screen
 xvfb-run -a wineboot -i >/dev/null 2>&1
 wineserver -w
-# Wine's services come up with the first program and would keep a test's output open beyond its end.
+# Wine's services stay up for as long as one program runs.
 tail -f /dev/null | wine cmd >/dev/null 2>&1 &
 
 status=0
