@@ -4,7 +4,7 @@ set -euo pipefail
 
 build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev)
 run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0)
-screen=(xvfb openbox xdotool imagemagick x11-utils procps)
+screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 wine=(wine wine64 googletest nlohmann-json3-dev fonts-dejavu-core)
