@@ -12,7 +12,7 @@ namespace kivu::platform {
 struct ProcessEntry {
     std::int32_t id = 0;
     std::vector<std::string> names;
-    bool ofLaunch = false;  // belongs to the launch of ProcessList::WatchLaunch
+    bool ofLaunch = false;  // belongs to the launch that was started as watched
     bool foreign = false;   // the launcher itself, its ancestors, other users' processes
 };
 

@@ -19,8 +19,8 @@ struct StartRequest {
     std::string directory;  // absolute; empty: the launcher's current one
     WindowStyle style = WindowStyle::Normal;
     bool wait = false;  // return only when the program has ended
-    bool startFile =
-        false;  // words[0] is a start file of the launcher, for the host's command processor
+    // words[0] is a start file of the launcher, for the host's command processor.
+    bool startFile = false;
     bool watched = false;  // the launch that ProcessList marks with ProcessEntry::ofLaunch
 };
 
