@@ -58,6 +58,8 @@ endfunction()
 # kivu_add_tests(name seconds [environment...]): the program's tests, each as a test of CTest. Where they run
 # in an emulator of Windows, whose start costs more than most tests, the program is one test.
 function(kivu_add_tests name seconds)
+  # They take long to build and not to run.
+  target_compile_options(${name} PRIVATE -O0)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:Z:${CMAKE_BINARY_DIR}/reports/${name}.xml)
     math(EXPR seconds "${seconds} * 5")
@@ -76,7 +78,6 @@ function(kivu_offscreen name)
     find_package(Qt6QOffscreenIntegrationPlugin REQUIRED PATHS ${Qt6Gui_DIR})
     target_sources(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests/hosts/windows/offscreen_plugin.cpp)
     target_link_libraries(${name} PRIVATE Qt6::QOffscreenIntegrationPlugin)
-    target_compile_options(${name} PRIVATE -O0)
   endif()
 endfunction()
 
@@ -89,10 +90,6 @@ function(kivu_test folder)
   string(REPLACE "/" "_" name kivu_test_${folder})
   add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${KIVU_TEST_INCLUDES})
-  if(CMAKE_CROSSCOMPILING)
-    # They take long to build and not to run.
-    target_compile_options(${name} PRIVATE -O0)
-  endif()
   target_link_libraries(${name} PRIVATE ${ARGN} GTest::gmock GTest::gtest_main)
   target_precompile_headers(${name} PRIVATE <string> <vector> <gtest/gtest.h>)
   kivu_add_tests(${name} 120)
