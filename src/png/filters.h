@@ -12,4 +12,8 @@ namespace kivu::png {
 void UndoFilter(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* above,
                 std::size_t bytes, std::size_t step);
 
+// The same by plain arithmetic: what UndoFilter is where the target has no SSE2.
+void UndoFilterScalar(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* above,
+                      std::size_t bytes, std::size_t step);
+
 }  // namespace kivu::png

@@ -203,6 +203,11 @@ bool IsHost(std::string_view path) {
                        [&](std::string_view host) { return IsBelow(path, host); });
 }
 
+// Headers of an instruction set, each for the one file that the target picks by that set.
+bool IsInstructionSetOf(std::string_view path, std::string_view header) {
+    return path == "src/png/filters_sse2.cpp" && header == "emmintrin.h";
+}
+
 bool MayLeaveTheLanguage(std::string_view path) {
     return IsBelow(path, "src/view") || IsBelow(path, "src/app") || IsHost(path);
 }
@@ -218,7 +223,8 @@ Findings ForeignIncludes(const SourceTree& tree) {
         const std::string name(include.name);
         if (name.empty()) {
             findings.push_back(include.At("includes what is not written out"));
-        } else if (include.angled && !IsStandardHeader(name)) {
+        } else if (include.angled && !IsStandardHeader(name) &&
+                   !IsInstructionSetOf(include.file->path, name)) {
             findings.push_back(include.At("<" + name + "> is not of the C++ standard library"));
         } else if (!include.angled && !IsBelow(include.target, "src")) {
             findings.push_back(include.At("\"" + name + "\" is not in src"));

@@ -6,6 +6,7 @@ namespace kivu::tree {
 
 // Logic includes the C++ standard library and the project's own files: no window toolkit, no
 // operating system, no library. Only src/view, src/app and the hosts below src/platform may.
+// src/png/filters_sse2.cpp may include the header of its instruction set.
 Findings ForeignIncludes(const SourceTree& tree);
 
 // What each folder may include of the project:

@@ -52,6 +52,14 @@ TEST(ForeignIncludesTest, ViewAppAndHostsMayAndTheInterfacesMayNot) {
                                                    HasSubstr("src/platform/clock.h:2: ")));
 }
 
+TEST(ForeignIncludesTest, OneFileMayNameItsInstructionSet) {
+    const SourceTree tree{
+        File("src/png/filters_sse2.cpp", "#include <emmintrin.h>\n#include <immintrin.h>\n"),
+        File("src/png/row_conversion.cpp", "#include <emmintrin.h>\n")};
+    EXPECT_THAT(ForeignIncludes(tree), ElementsAre(HasSubstr("src/png/filters_sse2.cpp:2: "),
+                                                   HasSubstr("src/png/row_conversion.cpp:1: ")));
+}
+
 TEST(ForeignIncludesTest, TestsMayIncludeWhatTheyNeed) {
     EXPECT_THAT(ForeignIncludes({File("tests/view/a_test.cpp", "#include <QTest>\n")}), IsEmpty());
 }

@@ -1,7 +1,7 @@
-#include "png/filters.h"
-
 #include <algorithm>
 #include <cstdlib>
+
+#include "png/filters.h"
 
 namespace kivu::png {
 namespace {
@@ -75,8 +75,8 @@ void UndoWithStep(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* ab
 
 }  // namespace
 
-void UndoFilter(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* above,
-                std::size_t bytes, std::size_t step) {
+void UndoFilterScalar(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* above,
+                      std::size_t bytes, std::size_t step) {
     switch (step) {
         case 1:
             return UndoWithStep<1>(filter, row, above, bytes);
@@ -94,5 +94,12 @@ void UndoFilter(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* abov
             return;
     }
 }
+
+#ifndef __SSE2__
+void UndoFilter(std::uint8_t filter, std::uint8_t* row, const std::uint8_t* above,
+                std::size_t bytes, std::size_t step) {
+    UndoFilterScalar(filter, row, above, bytes, step);
+}
+#endif
 
 }  // namespace kivu::png
