@@ -1,6 +1,7 @@
 #include "png/load_png.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <limits>
 #include <new>
 #include <utility>
@@ -33,9 +34,12 @@ std::error_code OpenRegularFile(std::ifstream& file, const std::filesystem::path
     size = std::filesystem::file_size(fileName, error);
     if (error) return error;
     if (size > longestFile) return std::make_error_code(std::errc::file_too_large);
+    errno = 0;
     file.open(fileName, std::ios::in | std::ios::binary);
-    if (!file.is_open()) return std::make_error_code(std::errc::permission_denied);
-    return {};
+    if (file.is_open()) return {};
+    // The stream itself knows no causes.
+    return errno != 0 ? std::error_code(errno, std::generic_category())
+                      : std::make_error_code(std::errc::io_error);
 }
 
 ByteBuffer ReadAll(std::ifstream& file, std::uintmax_t size) {

@@ -153,9 +153,9 @@ class LoadPNG {
     void KeepBackground(std::span<const std::uint8_t> payload);
     void KeepTime(std::span<const std::uint8_t> payload);
     void KeepCompressedText(std::span<const std::uint8_t> payload);
-    std::uint32_t WorkOutBackground() const;
-    std::uint32_t BackgroundChannel(std::size_t index) const;
-    std::uint32_t BackgroundGrey() const;
+    std::uint32_t WorkOutBackground(std::span<const std::uint8_t> background) const;
+    std::uint32_t BackgroundChannel(std::uint16_t sample) const;
+    std::uint32_t BackgroundGrey(std::uint32_t sample) const;
     void AppendText(std::string& to, std::span<const std::uint8_t> bytes) const;
 
     void Decode(std::span<std::uint8_t> imageData);
@@ -184,7 +184,6 @@ class LoadPNG {
     std::vector<std::uint8_t> transparency;
     bool haveTransparence = false;
     bool transparencyRequest = true;
-    std::vector<std::uint8_t> background;
     bool hasBackground = false;
     std::uint32_t backgroundColor = 0;
     std::string text;

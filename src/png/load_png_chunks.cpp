@@ -10,11 +10,21 @@ namespace {
 constexpr std::size_t headerLength = 13;
 constexpr std::size_t timeLength = 7;
 
+// What counts of a table; a file can claim any length.
+constexpr std::size_t longestPalette = 3 * 256;
+constexpr std::size_t longestTransparency = 256;
+
 // A file can claim any amount of text that nobody asked for.
 constexpr std::size_t longestText = std::size_t{16} << 20;
 
 std::uint32_t ColorNumber(std::uint32_t red, std::uint32_t green, std::uint32_t blue) {
     return red | green << 8 | blue << 16;
+}
+
+void KeepUpTo(std::size_t longest, std::span<const std::uint8_t> payload,
+              std::vector<std::uint8_t>& kept) {
+    const auto counting = payload.first(std::min(longest, payload.size()));
+    kept.assign(counting.begin(), counting.end());
 }
 
 // At least two digits.
@@ -30,7 +40,7 @@ void LoadPNG::KeepChunk(const Chunk& chunk) {
     if (chunk.name == "IHDR") {
         KeepHeader(payload);
     } else if (chunk.name == "PLTE") {
-        palette.assign(payload.begin(), payload.end());
+        KeepUpTo(longestPalette, payload, palette);
     } else if (chunk.name == "bKGD") {
         KeepBackground(payload);
     } else if (chunk.name == "gAMA") {
@@ -44,7 +54,7 @@ void LoadPNG::KeepChunk(const Chunk& chunk) {
         KeepTime(payload);
     } else if (chunk.name == "tRNS") {
         haveTransparence = true;
-        transparency.assign(payload.begin(), payload.end());
+        KeepUpTo(longestTransparency, payload, transparency);
     }
 }
 
@@ -61,12 +71,12 @@ void LoadPNG::KeepHeader(std::span<const std::uint8_t> payload) {
 }
 
 void LoadPNG::KeepBackground(std::span<const std::uint8_t> payload) {
-    background.assign(payload.begin(), payload.end());
-    backgroundColor = WorkOutBackground();
+    backgroundColor = WorkOutBackground(payload);
     hasBackground = true;
 }
 
-std::uint32_t LoadPNG::WorkOutBackground() const {
+// A payload of any other length than that of its kind gives black.
+std::uint32_t LoadPNG::WorkOutBackground(std::span<const std::uint8_t> background) const {
     switch (header.colorType) {
         case ColorTypes::Palette: {
             if (background.size() != 1 || background[0] >= palette.size() / 3) return 0;
@@ -76,26 +86,27 @@ std::uint32_t LoadPNG::WorkOutBackground() const {
         case ColorTypes::Rgb:
         case ColorTypes::Rgba:
             if (background.size() != 6) return 0;
-            return ColorNumber(BackgroundChannel(0), BackgroundChannel(1), BackgroundChannel(2));
+            return ColorNumber(BackgroundChannel(NetworkShort(&background[0])),
+                               BackgroundChannel(NetworkShort(&background[2])),
+                               BackgroundChannel(NetworkShort(&background[4])));
         case ColorTypes::Grey:
         case ColorTypes::GreyAlpha:
-            return background.size() == 2 ? BackgroundGrey() : 0;
+            return background.size() == 2 ? BackgroundGrey(NetworkShort(background.data())) : 0;
         default:
             return 0;
     }
 }
 
 // A 16-bit sample of the background as a channel from 0 to 255.
-std::uint32_t LoadPNG::BackgroundChannel(std::size_t index) const {
+std::uint32_t LoadPNG::BackgroundChannel(std::uint16_t sample) const {
     if (header.bitDepth == 0) return 0;
     const double last = std::ldexp(1.0, header.bitDepth) - 1;
-    const double channel = NetworkShort(&background[index * 2]) / last * 255;
+    const double channel = sample / last * 255;
     return static_cast<std::uint32_t>(std::lround(std::min(channel, 255.0)));
 }
 
 // The colour that the grey table of the depth has for the sample.
-std::uint32_t LoadPNG::BackgroundGrey() const {
-    const std::uint32_t sample = NetworkShort(background.data());
+std::uint32_t LoadPNG::BackgroundGrey(std::uint32_t sample) const {
     const unsigned depth = header.bitDepth;
     std::uint32_t grey = 0;
     if (depth == 16) {

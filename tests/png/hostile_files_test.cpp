@@ -285,6 +285,34 @@ TEST(HostileFiles, LackOfMemoryDrawsNothingAndIsTold) {
     EXPECT_TRUE(target.painted);
 }
 
+TEST(HostileFiles, HugeTablesTakeNoMemory) {
+    for (const std::uint8_t colorType : {2, 3}) {
+        Bytes file = testing::pngSignature;
+        Append(file, testing::MakeHeader(1, 1, 8, colorType, 0, 0));
+        Bytes table(8U << 20, 0x70);
+        table[0] = 0x10;
+        for (const char* name : {"PLTE", "tRNS", "bKGD"}) {
+            Append(file, MakeChunk(name, table));
+        }
+        Append(file, MakeChunk("IDAT", testing::ZlibCompress(Bytes(4, 0), 6, 0)));
+        Append(file, MakeChunk("IEND", {}));
+        ByteBuffer bytes = testing::BufferOf(file);
+        RecordingTarget target;
+        LoadPNG reader;
+        reader.PicBox(&target);
+        AllocationMeter::Restart();
+        EXPECT_FALSE(reader.OpenBytes(std::move(bytes)));
+        EXPECT_LT(AllocationMeter::Peak(), 1U << 20);
+        ASSERT_TRUE(target.painted);
+        // The entries that count do so, and a background of that length is none.
+        EXPECT_TRUE(reader.HaveTransparence());
+        EXPECT_TRUE(reader.HasBKGDChunk());
+        EXPECT_EQ(reader.BkgdColor(), 0U);
+        const unsigned blended = colorType == 3 ? 0xFF010707 : 0xFF000000;
+        EXPECT_EQ(target.painted->Row(0)[0], blended) << int{colorType};
+    }
+}
+
 TEST(HostileFiles, RepeatedTextEndsAtItsCap) {
     // Each empty text repeats sixteen mebibytes; the first of them is the last that costs any work.
     Bytes file = testing::pngSignature;

@@ -2,6 +2,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 
+#include "no_more_files.h"
 #include "open_files.h"
 #include "png/generator/opened.h"
 #include "png/generator/recording_target.h"
@@ -42,6 +43,21 @@ TEST(OpenPNG, WhatCantBeOpenedIsToldToTheCaller) {
     EXPECT_TRUE(reader.OpenPNG(std::filesystem::temp_directory_path()));
     EXPECT_EQ(reader.ErrorNumber(), 0);
     EXPECT_FALSE(target.WasTouched());
+}
+
+TEST(OpenPNG, CauseOfAFailedOpenIsTold) {
+    const testing::TemporaryFile file(WritePng(PngRecipe{}));
+    LoadPNG reader;
+    EXPECT_EQ(reader.OpenPNG("/no/such/file.png"), std::errc::no_such_file_or_directory);
+    std::error_code error;
+    {
+        const kivu::testing::NoMoreFiles none;
+        error = reader.OpenPNG(file.Path());
+    }
+    EXPECT_TRUE(error == std::errc::too_many_files_open ||
+                error == std::errc::too_many_files_open_in_system)
+        << error.message();
+    EXPECT_FALSE(reader.OpenPNG(file.Path()));
 }
 
 TEST(OpenPNG, EndlessDeviceIsNoFile) {
