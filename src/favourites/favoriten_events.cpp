@@ -26,7 +26,6 @@ void FavoritenEvents::FavoritenListe_Click() {
     } else if (!AskForRepair(favourite) || click != clicks) {
         return;
     }
-    SelectByFileName(support::GetFileNameOnly(favourite.FullPath));
     OfferButtons();
 }
 
@@ -65,16 +64,6 @@ void FavoritenEvents::ShowGame(int row) {
     if (form.SettingsSubPicture.Visible()) hooks.SelectSimilarDisks(row, 4, 14, 2);
     form.Check_Dfx[0].SetToolTipText(support::GetFileNameOnly(form.UAE_FULL.List(row)));
     form.Check_Dfx[0].SetValue(1);
-}
-
-void FavoritenEvents::SelectByFileName(const std::string& name) {
-    if (name.empty()) return;
-    const auto& paths = form.UAE_FULL.Rows();
-    for (std::size_t row = 0; row < paths.size(); ++row) {
-        if (paths[row].find(name) == std::string::npos) continue;
-        form.UAE_Short.SetListIndex(static_cast<int>(row));
-        return;
-    }
 }
 
 void FavoritenEvents::FavoritenListe_DblClick() {

@@ -54,7 +54,6 @@ class FavoritenEvents {
     // False: the repair has made the row that was clicked another one.
     bool AskForRepair(const FavoritEntry& favourite);
     void ShowGame(int row);
-    void SelectByFileName(const std::string& name);
 
     core::Form1& form;
     Favoriten& store;

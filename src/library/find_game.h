@@ -1,14 +1,21 @@
 #pragma once
 
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "core/busy_state.h"
 #include "core/form1.h"
 
 namespace kivu::library {
 
-// First row of UAE_FULL that contains the path, with regard to case; -1 for none. Events run while
-// it looks, so the lists may be others when it returns.
+// The first row that is the text or whose file name is the text; without one, the first that
+// contains it anywhere: the name of one game may be a part of another's. With regard to case; -1
+// for none.
+int RowOfGame(std::span<const std::string> paths, std::string_view text);
+
+// The same in UAE_FULL, under a caption that tells so. Events run while it looks, so the lists may
+// be others when it returns.
 int FindGameInFullList(core::Form1& form, core::BusyState& busy, core::EventPacer& pacer,
                        const std::string& path);
 

@@ -74,15 +74,37 @@ TEST_F(FavoritenEventsTest, GameThatMovedIsFoundByItsFileName) {
     EXPECT_TRUE(Boxes().empty());
 }
 
-TEST_F(FavoritenEventsTest, FirstRowThatHoldsTheFileNameIsSelectedInTheShortList) {
+TEST_F(FavoritenEventsTest, GameOfTheNameGoesBeforeOneThatOnlyContainsIt) {
     room.form.UAE_FULL.AddItem("/k/G/Atomic Zool.adf");
     room.form.UAE_Short.Clear();
     for (const char* name : {"Apidya", "Atomic Zool", "Turrican", "Zool"})
         room.form.UAE_Short.AddItem(name);
+    // By its path, and by its file name alone once it has moved.
+    for (const char* path : {"/k/G/Zool.adf", "/old/Zool.adf"}) {
+        room.store.ClearFavoriten();
+        room.store.AddFavoritEntry("Zool", path, 0, true);
+        room.form.UAE_Short.SetListIndex(0);
+        room.Select(0);
+        EXPECT_EQ(room.form.UAE_FULL.ListIndex(), 3) << path;
+        EXPECT_EQ(room.form.UAE_Short.ListIndex(), 3) << path;
+    }
+}
+
+TEST_F(FavoritenEventsTest, NameThatOnlyStandsWithinOthersTakesTheFirstOfThem) {
+    room.form.UAE_FULL.AddItem("/k/G/Atomic Zool.adf");
+    Add("Zoo", "/old/ool.adf");
+    room.Select(0);
+    EXPECT_EQ(room.form.UAE_FULL.ListIndex(), 1);
+    EXPECT_EQ(room.form.UAE_Short.ListIndex(), 1);
+}
+
+TEST_F(FavoritenEventsTest, OfTwoFilesOfOneNameTheFavouritesOwnIsSelected) {
+    room.form.UAE_FULL.AddItem("/k/A/Zool.adf");
+    room.form.UAE_Short.AddItem("Zool");
     Add("Zool", "/k/G/Zool.adf");
     room.Select(0);
-    EXPECT_EQ(room.form.UAE_FULL.ListIndex(), 3);
-    EXPECT_EQ(room.form.UAE_Short.ListIndex(), 1);
+    EXPECT_EQ(room.form.UAE_FULL.SelectedText(), "/k/G/Zool.adf");
+    EXPECT_EQ(room.form.UAE_Short.ListIndex(), room.form.UAE_FULL.ListIndex());
 }
 
 TEST_F(FavoritenEventsTest, MissingGameIsAskedAboutInEnglish) {

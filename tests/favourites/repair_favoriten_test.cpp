@@ -52,6 +52,23 @@ TEST_F(RepairTest, MovedGameIsFoundByItsFileName) {
               "[Favoriten]\r\nFav0_Name=Zool\r\nFav0_FullPath=/New/Zool.adf\r\n");
 }
 
+TEST_F(RepairTest, MovedGameIsNotTakenForOneWhoseNameContainsIts) {
+    room.Games({{"/k/G/A.zip", "A"}, {"/k/G/mspacman.zip", "Ms"}, {"/k/New/pacman.zip", "Pac"}});
+    Add({{"pacman", "/k/G/pacman.zip"}});
+    EXPECT_EQ(Report(), "Repaired:pacman\r");
+    EXPECT_EQ(PathOf(0), "/k/New/pacman.zip");
+    // With that one gone, the first that contains the name counts.
+    room.form.UAE_FULL.RemoveItem(2);
+    EXPECT_EQ(Report(), "Repaired:pacman\r");
+    EXPECT_EQ(PathOf(0), "/k/G/mspacman.zip");
+}
+
+TEST_F(RepairTest, GameOfTheNameInTheFirstRowCountsAsNone) {
+    room.Games({{"/k/G/Zool.adf", "Zool"}, {"/k/H/Atomic Zool.adf", "Atomic"}});
+    Add({{"Zool", "/k/G/Zool.adf"}});
+    EXPECT_EQ(Report(), "Deleted: Zool\r");
+}
+
 TEST_F(RepairTest, RenamedGameIsFoundByItsShownName) {
     room.form.CurrentLanguage = 1;
     room.Games({{"/k/G/A.adf", "A"}, {"/k/New/Zool (1992).adf", "Zool (1992)"}});
