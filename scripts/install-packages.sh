@@ -9,7 +9,7 @@ test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdefl
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 wine=(wine wine64 googletest nlohmann-json3-dev fonts-dejavu-core)
 fuzz=(clang libclang-rt-14-dev)
-bench=(libbenchmark-dev libxcb1-dev libpng-dev zlib1g-dev libdeflate-dev findutils grep)
+bench=(libbenchmark-dev libxcb1-dev libpng-dev zlib1g-dev libdeflate-dev dpkg-dev findutils grep)
 
 wanted=()
 for job in "$@"; do

@@ -1,33 +1,37 @@
 // The PNG reader against libpng, from a file to pixels on a control, and its inflate against zlib
 // and libdeflate, from the packed rows to the rows. The other side of a picture with alpha only
-// reads it, while the reader blends it with a background as well.
+// reads it, while the reader blends it with a background as well. Two builds of libpng are asked:
+// the one of the system, and, if KIVU_SSE2_LIBPNG names its library, one with SSE2 filters.
 
 #include <algorithm>
+#include <array>
 #include <cstdio>
+#include <cstdlib>
 #include <ctime>
 #include <filesystem>
 #include <fstream>
 #include <libdeflate.h>
-#include <memory>
 #include <optional>
-#include <png.h>
 #include <stdexcept>
 #include <zlib.h>
 
+#include "libpng.h"
+#include "pictures.h"
+#include "png/bytes.h"
 #include "png/drawing_target.h"
-#include "png/generator/png_recipe.h"
 #include "png/inflate.h"
 #include "png/load_png.h"
 #include "ratio/ratio.h"
 
 namespace {
 
+using kivu::bench::Bytes;
+using kivu::bench::Drawing;
+using kivu::bench::Libpng;
 using kivu::bench::Ratio;
-using kivu::png::testing::Bytes;
-using kivu::png::testing::Content;
-using kivu::png::testing::PngRecipe;
 
-constexpr double decodeGoal = 0.8;
+constexpr double libpngGoal = 0.55;
+constexpr double sse2LibpngGoal = 0.8;
 constexpr double zlibGoal = 0.7;
 constexpr double libdeflateGoal = 1.2;
 
@@ -63,42 +67,13 @@ struct Sample {
     int calls;
 };
 
-void DecodeOurs(const Sample& sample) {
+kivu::png::Picture DecodeOurs(const Sample& sample) {
     KeepingTarget target;
     kivu::png::LoadPNG reader;
     reader.PicBox(&target);
     reader.SetOwnBkgndColor(0xBC5200, true);
     if (reader.OpenPNG(sample.file) || !target.painted) throw std::runtime_error("not drawn");
-}
-
-void FailLibpng(png_structp, png_const_charp text) {
-    throw std::runtime_error(text);
-}
-
-void DecodeLibpng(const Sample& sample) {
-    const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(
-        std::fopen(sample.file.string().c_str(), "rb"), std::fclose);
-    if (!file) throw std::runtime_error("can't open the picture");
-    png_structp png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, FailLibpng, nullptr);
-    png_infop info = png_create_info_struct(png);
-    png_init_io(png, file.get());
-    png_read_info(png, info);
-    png_set_expand(png);
-    png_set_strip_16(png);
-    png_set_gray_to_rgb(png);
-    png_set_bgr(png);
-    png_set_add_alpha(png, 0xFF, PNG_FILLER_AFTER);
-    png_set_interlace_handling(png);
-    png_read_update_info(png, info);
-    kivu::png::Picture picture(static_cast<int>(png_get_image_width(png, info)),
-                               static_cast<int>(png_get_image_height(png, info)));
-    std::vector<png_bytep> rows;
-    for (int y = 0; y < picture.Height(); ++y) {
-        rows.push_back(reinterpret_cast<png_bytep>(picture.Row(y).data()));
-    }
-    png_read_image(png, rows.data());
-    png_read_end(png, nullptr);
-    png_destroy_read_struct(&png, &info, nullptr);
+    return std::move(*target.painted);
 }
 
 void InflateOurs(kivu::png::Inflater& inflater, const Sample& sample, Bytes& out) {
@@ -140,52 +115,82 @@ Ratio::Run Timed(const Sample& sample, const std::function<void()>& call) {
     };
 }
 
-Sample MakeSample(const std::filesystem::path& directory, const std::string& name, PngRecipe recipe,
-                  bool large) {
-    recipe.width = large ? 1920 : 320;
-    recipe.height = large ? 1080 : 256;
-    recipe.idatBytes = 8192;
+// The deflated data of all IDAT chunks, between zlib's header and check sum.
+Bytes PackedRows(const Bytes& file) {
+    Bytes packed;
+    for (std::size_t at = 8; at + 12 <= file.size();) {
+        const std::size_t length = kivu::png::NetworkLong(&file[at]);
+        const auto payload = file.begin() + static_cast<std::ptrdiff_t>(at) + 8;
+        if (std::equal(payload - 4, payload, "IDAT")) {
+            packed.insert(packed.end(), payload, payload + static_cast<std::ptrdiff_t>(length));
+        }
+        at += length + 12;
+    }
+    return {packed.begin() + 2, packed.end() - 4};
+}
+
+Sample MakeSample(const std::filesystem::path& directory, const std::string& name,
+                  const Drawing& drawing, bool interlaced) {
     Sample sample;
-    sample.name = name + (large ? ", 1920x1080" : ", 320x256");
-    sample.file = directory / (name + (large ? "_large.png" : "_small.png"));
-    sample.rows = MakeRows(recipe);
-    const Bytes packed =
-        kivu::png::testing::ZlibCompress(sample.rows, recipe.level, recipe.strategy);
-    // The deflated data between zlib's header and check sum.
-    sample.packed.assign(packed.begin() + 2, packed.end() - 4);
-    sample.calls = static_cast<int>(std::clamp<std::size_t>(600000 / packed.size(), 1, 64));
-    const Bytes file = WritePng(recipe);
+    sample.name =
+        name + ", " + std::to_string(drawing.width) + "x" + std::to_string(drawing.height);
+    sample.file = directory / (sample.name + ".png");
+    const Bytes file = kivu::bench::WriteByLibpng(drawing, interlaced);
     std::ofstream(sample.file, std::ios::binary)
         .write(reinterpret_cast<const char*>(file.data()),
                static_cast<std::streamsize>(file.size()));
+    sample.packed = PackedRows(file);
+    // A filter byte for each row; the passes of an interlaced picture have up to twice as many.
+    sample.rows.resize(drawing.samples.size() + 2 * std::size_t{drawing.height} + 7);
+    kivu::png::Inflater inflater;
+    sample.rows.resize(inflater.Inflate(sample.packed, sample.rows).written);
+    sample.calls = static_cast<int>(std::clamp<std::size_t>(600000 / sample.packed.size(), 1, 64));
     return sample;
 }
 
-std::vector<Sample> MakeSamples(const std::filesystem::path& directory) {
-    PngRecipe photo;
-    photo.colorType = 2;
-    photo.content = Content::Photo;
-    photo.filter = kivu::png::testing::adaptiveFilters;
-    PngRecipe screenshot = photo;
-    screenshot.content = Content::Screenshot;
-    PngRecipe palette = photo;
-    palette.colorType = 3;
-    palette.filter = 0;
-    palette.paletteEntries = 64;
-    PngRecipe alpha = photo;
-    alpha.colorType = 6;
-    PngRecipe interlaced = photo;
-    interlaced.interlaced = true;
+// How a picture is stored, which the time depends on.
+void PrintFilters(const Sample& sample, const Drawing& drawing) {
+    std::array<std::size_t, 5> rows{};
+    const std::size_t rowBytes = std::size_t{drawing.width} * drawing.channels + 1;
+    for (std::size_t at = 0; at < sample.rows.size(); at += rowBytes) {
+        ++rows[std::min<std::size_t>(sample.rows[at], 4)];
+    }
+    std::printf("%s: %zu bytes; rows with no filter %zu, sub %zu, up %zu, average %zu, Paeth %zu\n",
+                sample.name.c_str(), sample.packed.size(), rows[0], rows[1], rows[2], rows[3],
+                rows[4]);
+}
 
+std::vector<Sample> MakeSamples(const std::filesystem::path& directory) {
     std::vector<Sample> samples;
-    for (const bool large : {false, true}) {
-        samples.push_back(MakeSample(directory, "photo", photo, large));
-        samples.push_back(MakeSample(directory, "screenshot", screenshot, large));
-        samples.push_back(MakeSample(directory, "palette", palette, large));
-        samples.push_back(MakeSample(directory, "alpha", alpha, large));
-        samples.push_back(MakeSample(directory, "interlaced", interlaced, large));
+    for (const auto& [width, height] : {std::pair{320U, 256U}, {1920U, 1080U}}) {
+        const Drawing photo = kivu::bench::DrawPhoto(width, height);
+        const std::pair<const char*, Drawing> drawings[] = {
+            {"photo", photo},
+            {"screenshot", kivu::bench::DrawScreenshot(width, height)},
+            {"palette", kivu::bench::DrawIndexes(width, height)},
+            {"art with alpha", kivu::bench::DrawArt(width, height)}};
+        for (const auto& [name, drawing] : drawings) {
+            samples.push_back(MakeSample(directory, name, drawing, false));
+            PrintFilters(samples.back(), drawing);
+        }
+        samples.push_back(MakeSample(directory, "interlaced", photo, true));
     }
     return samples;
+}
+
+// What is measured must be right; pictures with alpha are blended on our side.
+void CheckPixels(const Sample& sample, const Libpng& libpng) {
+    const kivu::png::Picture ours = DecodeOurs(sample);
+    const kivu::png::Picture theirs = ReadByLibpng(libpng, sample.file);
+    for (int y = 0; y < ours.Height(); ++y) {
+        for (int x = 0; x < ours.Width(); ++x) {
+            const kivu::png::Pixel pixel = theirs.Row(y)[static_cast<std::size_t>(x)];
+            const bool opaque = pixel >> 24 == 0xFF;
+            if (opaque && ours.Row(y)[static_cast<std::size_t>(x)] != pixel) {
+                throw std::runtime_error(sample.name + " is decoded wrongly");
+            }
+        }
+    }
 }
 
 }  // namespace
@@ -205,11 +210,23 @@ int main(int argc, char** argv) {
     }
     out.resize(longest + 100);
 
+    const Libpng libpng = kivu::bench::LinkedLibpng();
+    std::optional<Libpng> sse2Libpng;
+    if (const char* library = std::getenv("KIVU_SSE2_LIBPNG"); library && *library) {
+        sse2Libpng = kivu::bench::LoadLibpng(library);
+    }
     std::vector<Ratio> ratios;
     for (const Sample& sample : samples) {
-        ratios.push_back({"PNG decode against libpng: " + sample.name, decodeGoal,
-                          Timed(sample, [&] { DecodeOurs(sample); }),
-                          Timed(sample, [&] { DecodeLibpng(sample); }), repetitions});
+        CheckPixels(sample, libpng);
+        const Ratio::Run decode = Timed(sample, [&] { DecodeOurs(sample); });
+        ratios.push_back({"PNG decode against libpng: " + sample.name, libpngGoal, decode,
+                          Timed(sample, [&] { ReadByLibpng(libpng, sample.file); }), repetitions});
+        if (sse2Libpng) {
+            CheckPixels(sample, *sse2Libpng);
+            ratios.push_back({"against libpng with SSE2: " + sample.name, sse2LibpngGoal, decode,
+                              Timed(sample, [&] { ReadByLibpng(*sse2Libpng, sample.file); }),
+                              repetitions});
+        }
         const Ratio::Run ours = Timed(sample, [&] { InflateOurs(inflater, sample, out); });
         ratios.push_back({"inflate against zlib: " + sample.name, zlibGoal, ours,
                           Timed(sample, [&] { InflateZlib(sample, out); }), repetitions});
