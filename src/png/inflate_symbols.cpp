@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <cstring>
 
 #include "png/inflate_stream.h"
@@ -7,9 +8,9 @@ namespace kivu::png {
 namespace {
 
 // One round of the wide loop loads two words, and writes up to four literals, or three and the
-// longest match, whose last store overshoots by less than 32 bytes.
+// longest match, whose last stores overshoot by less than 64 bytes.
 constexpr std::size_t inputMargin = 16;
-constexpr std::size_t outputMargin = 4 + 258 + 32;
+constexpr std::size_t outputMargin = 4 + 258 + 64;
 
 // For a distance below 8 the 8 bytes of a store repeat the pattern, and the step between stores is
 // the greatest multiple of the distance that fits into them.
@@ -18,6 +19,16 @@ constexpr std::uint8_t patternStep[8] = {8, 8, 8, 6, 8, 5, 6, 7};
 inline std::uint64_t LowBits(std::uint64_t bits, unsigned number) {
     return bits & ((std::uint64_t{1} << number) - 1);
 }
+
+// The lowest bits, for up to 31; a code and its extra bits are at most 28. To look a mask up takes
+// fewer instructions than to make it.
+constexpr auto lowMasks = [] {
+    std::array<std::uint32_t, 32> masks{};
+    for (unsigned number = 0; number < masks.size(); ++number) {
+        masks[number] = (1U << number) - 1;
+    }
+    return masks;
+}();
 
 // Repeats the distance (1 to 8) bytes at from.
 inline void CopyPattern(std::uint8_t* out, const std::uint8_t* end, const std::uint8_t* from,
@@ -28,11 +39,10 @@ inline void CopyPattern(std::uint8_t* out, const std::uint8_t* end, const std::u
         pattern |= pattern << filled;
     }
     if (64 % period == 0) {
+        const std::uint64_t patterns[2] = {pattern, pattern};
         do {
-            StoreWord(out, pattern);
-            StoreWord(out + 8, pattern);
-            StoreWord(out + 16, pattern);
-            StoreWord(out + 24, pattern);
+            std::memcpy(out, patterns, 16);
+            std::memcpy(out + 16, patterns, 16);
             out += 32;
         } while (out < end);
         return;
@@ -45,16 +55,18 @@ inline void CopyPattern(std::uint8_t* out, const std::uint8_t* end, const std::u
     } while (out < end);
 }
 
-// Copies the match to out up to end at least, and up to 31 bytes beyond.
+// Copies the match to out up to end at least, and up to 63 bytes beyond.
 inline void CopyMatch(std::uint8_t* out, const std::uint8_t* end, std::size_t distance) {
     const std::uint8_t* from = out - distance;
     if (distance >= 16) {
-        do {
+        std::memcpy(out, from, 16);
+        std::memcpy(out + 16, from + 16, 16);
+        for (out += 32, from += 32; out < end; out += 64, from += 64) {
             std::memcpy(out, from, 16);
             std::memcpy(out + 16, from + 16, 16);
-            out += 32;
-            from += 32;
-        } while (out < end);
+            std::memcpy(out + 32, from + 32, 16);
+            std::memcpy(out + 48, from + 48, 16);
+        }
     } else if (distance > 8) {
         do {
             StoreWord(out, LoadWord<std::uint64_t>(from));
@@ -106,8 +118,8 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
     }
     const DecodeEntry* const literalTable = literals.Entries();
     const DecodeEntry* const distanceTable = distances.Entries();
-    const unsigned literalBits = literals.RootBits();
-    const unsigned distanceBits = distances.RootBits();
+    const std::uint64_t literalMask = lowMasks[literals.RootBits()];
+    const std::uint64_t distanceMask = lowMasks[distances.RootBits()];
     const std::uint8_t* const inLast = stream.inEnd - inputMargin;
     std::uint8_t* const outLast = stream.outEnd - outputMargin;
     const std::uint8_t* in = stream.in;
@@ -127,16 +139,16 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
         count -= entry;
     };
     const auto inSubTable = [&](const DecodeEntry* table, DecodeEntry pointer) {
-        return table[EntryValue(pointer) + LowBits(bits, EntryCodeBits(pointer))];
+        return table[EntryValue(pointer) + (bits & lowMasks[EntryCodeBits(pointer)])];
     };
 
     refill();
-    DecodeEntry entry = literalTable[LowBits(bits, literalBits)];
+    DecodeEntry entry = literalTable[bits & literalMask];
     // Stores the literal of the entry and looks the next one up.
     const auto literal = [&] {
         take(entry);
         *out++ = static_cast<std::uint8_t>(EntryValue(entry));
-        entry = literalTable[LowBits(bits, literalBits)];
+        entry = literalTable[bits & literalMask];
     };
     while (in <= inLast && out <= outLast) {
         refill();
@@ -170,13 +182,13 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
             }
         }
         const std::size_t length =
-            EntryValue(entry) + (LowBits(bits, EntryBits(entry)) >> EntryCodeBits(entry));
+            EntryValue(entry) + ((bits & lowMasks[EntryBits(entry)]) >> EntryCodeBits(entry));
         take(entry);
         // A distance takes up to 28 bits. They are nearly always there, and not to wait for the
         // refill shortens the longest chain of the loop.
         if ((count & 63) < 28) [[unlikely]]
             refill();
-        entry = distanceTable[LowBits(bits, distanceBits)];
+        entry = distanceTable[bits & distanceMask];
         if (entry & specialFlag) {
             if (entry & pointerFlag) {
                 take(entry);
@@ -188,9 +200,9 @@ SymbolsEnd DecodeSymbolsWide(BitStream& stream, const DecodeTable& literals,
             }
         }
         const std::size_t distance =
-            EntryValue(entry) + (LowBits(bits, EntryBits(entry)) >> EntryCodeBits(entry));
+            EntryValue(entry) + ((bits & lowMasks[EntryBits(entry)]) >> EntryCodeBits(entry));
         take(entry);
-        entry = literalTable[LowBits(bits, literalBits)];
+        entry = literalTable[bits & literalMask];
         // A distance of 0 wraps round, so that one comparison finds it too.
         if (distance - 1 >= static_cast<std::size_t>(out - stream.outStart)) {
             stream.out = out;
