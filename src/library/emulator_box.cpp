@@ -1,5 +1,6 @@
 #include "library/emulator_box.h"
 
+#include "library/list_search.h"
 #include "support/run_file.h"
 #include "support/text.h"
 
@@ -123,9 +124,7 @@ void EmulatorBox::EmuListbox_KeyPress(forms::Character& character) {
         hooks.SelectEmulator(false);
         return;
     }
-    const bool letter = (character.code >= 'a' && character.code <= 'z') ||
-                        (character.code >= 'A' && character.code <= 'Z');
-    if (!letter) return;
+    if (!BeginsSearch(character)) return;
     StartSearchWith(character.code);
     character.code = 0;
 }

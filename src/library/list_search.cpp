@@ -30,7 +30,8 @@ bool IsLongEnough(std::string_view text) {
 
 bool BeginsSearch(const forms::Character& character) {
     return (character.code >= 'a' && character.code <= 'z') ||
-           (character.code >= 'A' && character.code <= 'Z');
+           (character.code >= 'A' && character.code <= 'Z') ||
+           (character.code >= '0' && character.code <= '9');
 }
 
 void ListSearch::SearchInList(const std::string& Text, int StartRow) {

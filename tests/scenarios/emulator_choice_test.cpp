@@ -152,7 +152,7 @@ TEST_F(EmulatorChoice, LetterStartsASearchWithThatLetter) {
 TEST_F(EmulatorChoice, OtherCharactersDoNothing) {
     Start();
     Open();
-    for (const char* key : {"1", "-", "ä"})
+    for (const char* key : {"-", "ä"})
         Do("type", "Form1.EmulatorLongListbox", key);
     EXPECT_EQ(Get("Focus"), "Form1.EmulatorLongListbox");
     EXPECT_TRUE(Visible("EmulatorLongListbox"));

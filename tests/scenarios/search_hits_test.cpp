@@ -108,7 +108,7 @@ TEST_F(HitsOfAll, LettersTypedInTheHitsNarrowThem) {
     Do("key", "Form1.SearchDblsTxt", "Down");
     EXPECT_EQ(Get("Focus"), "Form1.GlobalSearchList");
     EXPECT_EQ(Get("GlobalSearchList.ListIndex"), 0);
-    Do("key", "Form1.GlobalSearchList", "5");
+    Do("key", "Form1.GlobalSearchList", "-");
     EXPECT_EQ(Get("SearchDblsTxt.Text"), "ca");
 }
 

@@ -318,6 +318,22 @@ TEST_F(ListSearchScenario, ALetterInAGameListGoesToTheBox) {
     }
 }
 
+TEST_F(ListSearchScenario, ADigitInAListGoesToTheBoxToo) {
+    for (const char* list : {"WIthoutDoubles", "UAE_Short", "SuchErgList", "EmulatorLongListbox"}) {
+        Start();
+        const std::string name = list;
+        if (name == "UAE_Short") Do("click", "Form1.Label3");
+        if (name == "SuchErgList") {
+            Type("bee");
+            Do("key", "Form1.SearchDblsTxt", "Enter");
+        }
+        if (name == "EmulatorLongListbox") Do("focus", "Form1.EmuListbox");
+        Do("key", "Form1." + name, "1");
+        EXPECT_EQ(Get("SearchDblsTxt.Text"), "1") << list;
+        EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt") << list;
+    }
+}
+
 TEST_F(ListSearchScenario, ALetterOverTheEmulatorsSearchesThemAllAtEnter) {
     tree.WriteCache("Void", {{"/Roms/x.d64", "Antics (1985)(Maker)"}});
     Start();
