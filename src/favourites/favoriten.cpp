@@ -89,12 +89,14 @@ void Favoriten::ClearFavoriten() {
 void Favoriten::AddFavoritEntry(const std::string& Name, const std::string& FullPath, int Flag,
                                 bool SaveNow) {
     if (!IsStorable(Name) || !IsStorable(FullPath) || entries.size() >= mostEntries) return;
-    const bool known = std::any_of(entries.begin(), entries.end(), [&](const FavoritEntry& entry) {
-        return entry.FullPath == FullPath;
-    });
-    if (known) return;
+    if (Has(FullPath)) return;
     entries.push_back({FullPath, Name, Flag});
     if (SaveNow) FillFavoritenListe();
+}
+
+bool Favoriten::Has(const std::string& FullPath) const {
+    return std::any_of(entries.begin(), entries.end(),
+                       [&](const FavoritEntry& entry) { return entry.FullPath == FullPath; });
 }
 
 void Favoriten::RemoveFavoritAt(int Index) {

@@ -48,6 +48,8 @@ class Favoriten {
     void FillFavoritenListe();
 
     const std::vector<FavoritEntry>& Entries() const { return entries; }
+    // A favourite has this path.
+    bool Has(const std::string& FullPath) const;
     // The record that a row of FavoritenListe shows; -1 for none.
     int RecordOfRow(int row) const;
     // The first record whose path contains the text, with regard to case; -1 for none.

@@ -113,7 +113,6 @@ void FavoritenEvents::AddToFavorit_Click() {
     const std::string name = form.UAE_Short.List(row);
     const std::string path = form.UAE_FULL.List(row);
     store.AddFavoritEntry(name, path, 0, true);
-    form.MyCaptionLabel.SetCaption(form.Say("Neuer Favorit: ", "Favorite add: ") + name);
     store.SortFavoriten();
     store.FillFavoritenListe();
     store.SaveFavoriten();
@@ -139,6 +138,12 @@ void FavoritenEvents::DeLFav_Click() {
     // the choice of emulators.
     form.FavoritenListe.SetFocus();
     form.DeLFav.SetVisible(false);
+    // What the file could not take has gone with the load.
+    if (store.Has(path)) {
+        form.MyCaptionLabel.SetCaption(form.Say("Neuer Favorit: ", "Favorite add: ") + name);
+    } else {
+        services.beeper.Beep();
+    }
     form.EmuListbox.SetVisible(true);
 }
 

@@ -76,9 +76,12 @@ void GlobalEvents::AddToFavorit_Global_Click() {
     const int row = form.UAE_Short.ListIndex();
     const std::string name = form.UAE_Short.List(row);
     const std::string path = form.UAE_FULL.List(row);
-    if (!name.empty() && !path.empty())
-        store.AddGlobalFavorit(name, form.EmuListbox.SelectedText(), path);
-    form.MyCaptionLabel.SetCaption(form.Say("Globaler Favorit: ", "Add global Favorite: ") + name);
+    const bool added = !name.empty() && !path.empty() &&
+                       store.AddGlobalFavorit(name, form.EmuListbox.SelectedText(), path);
+    if (added) {
+        form.MyCaptionLabel.SetCaption(form.Say("Globaler Favorit: ", "Add global Favorite: ") +
+                                       name);
+    }
     services.beeper.Beep();
     FocusListInFront();
 }

@@ -25,14 +25,14 @@ std::string DisplayOf(const std::string& name, const std::string& system) {
 
 }  // namespace
 
-void GlobalFavoriten::AddGlobalFavorit(const std::string& Name, const std::string& System,
+bool GlobalFavoriten::AddGlobalFavorit(const std::string& Name, const std::string& System,
                                        const std::string& FullPath) {
     LoadGlobalFavoriten();
     // Hits on show keep the list as it is, but not the store from growing.
     if (!holdsStore) holdsStore = ReadRecords();
-    if (!holdsStore || records.size() >= mostRecords) return;
+    if (!holdsStore || records.size() >= mostRecords) return false;
     records.push_back({System, FullPath, DisplayOf(Name, System), Name});
-    SaveGlobalFavoriten();
+    return SaveGlobalFavoriten();
 }
 
 void GlobalFavoriten::LoadGlobalFavoriten() {
@@ -67,10 +67,10 @@ bool GlobalFavoriten::ReadRecords() {
     return true;
 }
 
-void GlobalFavoriten::SaveGlobalFavoriten() {
+bool GlobalFavoriten::SaveGlobalFavoriten() {
     const std::string& file = form.FavoritenGlobalIni;
     const bool isThere = files.IdentityOf(file).has_value();
-    if (isThere && (!holdsStore || !files.FileExists(file))) return;
+    if (isThere && (!holdsStore || !files.FileExists(file))) return false;
     core::IniDocument profile = ini.ParseProfile(header);
     int number = 0;
     for (const GlobalFavorit& record : records) {
@@ -80,7 +80,7 @@ void GlobalFavoriten::SaveGlobalFavoriten() {
         profile.Set(section, Key(number, "_System"), record.System);
         profile.Set(section, Key(number, "_FullPath"), record.FullPath);
     }
-    (void)files.WriteFile(file, profile.Bytes());
+    return !files.WriteFile(file, profile.Bytes());
 }
 
 void GlobalFavoriten::RemoveGlobalFavorit() {

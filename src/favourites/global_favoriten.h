@@ -27,11 +27,13 @@ class GlobalFavoriten {
     GlobalFavoriten(core::Form1& form, core::Ini& ini, platform::FileSystem& files)
         : form(form), ini(ini), files(files) {}
 
-    void AddGlobalFavorit(const std::string& Name, const std::string& System,
+    // False: it is not in the store, which is full or could not be read or written.
+    bool AddGlobalFavorit(const std::string& Name, const std::string& System,
                           const std::string& FullPath);
     // Does not touch the list, and leaves the array empty, while a global search shows its hits.
     void LoadGlobalFavoriten();
-    void SaveGlobalFavoriten();
+    // False: the file is as it was.
+    bool SaveGlobalFavoriten();
     // The record of the selected row, and the row.
     void RemoveGlobalFavorit();
 

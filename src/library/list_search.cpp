@@ -61,7 +61,10 @@ void ListSearch::SelectGame(int row) {
 void ListSearch::SearchDblsTxt_Change() {
     const std::string text = form.SearchDblsTxt.Text();
     if (IsIdleText(text)) return;
-    form.FavoritenListeGlobal.SetVisible(false);
+    if (form.FavoritenListeGlobal.Visible()) {
+        form.FavoritenListeGlobal.SetVisible(false);
+        form.DeLFav.SetVisible(form.FavoritenListe.Visible());
+    }
     const bool enough = IsLongEnough(text);
     if (!enough) form.SuchErgList.Clear();
     form.SearchAllBtn.SetEnabled(enough);

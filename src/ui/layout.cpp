@@ -236,6 +236,9 @@ void Layout::ArrangeLists() {
                                   form.ListHeight);
     ShowListOfMode();
     if (form.FavoritenListeGlobal.Visible()) form.FavoritenListeGlobal.BringToFront();
+    // There is nothing to remove where no favourite is on show.
+    if (!form.FavoritenListe.Visible() && !form.FavoritenListeGlobal.Visible())
+        form.DeLFav.SetVisible(false);
     ArrangeTabs();
 }
 

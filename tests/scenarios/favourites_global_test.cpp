@@ -191,6 +191,31 @@ TEST_F(FavouritesGlobal, ClickOnlySetsTheEmulatorsRow) {
     EXPECT_TRUE(Visible("FavoritenListeGlobal"));
 }
 
+TEST_F(FavouritesGlobal, NothingIsToRemoveOnceALetterHasPutThemAway) {
+    Store();
+    Start();
+    Show();
+    EXPECT_TRUE(Visible("DeLFav"));
+    Do("type", "Form1.SearchDblsTxt", "b");
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_FALSE(Visible("DeLFav"));
+}
+
+TEST_F(FavouritesGlobal, FullStoreTakesNoMoreAndSaysSoByABeep) {
+    std::string bytes = header;
+    for (int i = 1; i <= 1000; ++i)
+        bytes += Lines(i, "G" + std::to_string(i), "Alpha", "g");
+    tree.Write(file, bytes);
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    const std::string title = Text("MyCaptionLabel.Caption");
+    Do("beeps");
+    Do("click", "Form1.AddToFavorit_Global");
+    EXPECT_EQ(Do("beeps")["value"], 1);
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), title);
+    EXPECT_EQ(tree.Read(file), bytes);
+}
+
 TEST_F(FavouritesGlobal, ResizeKeepsTheListInFront) {
     Store();
     Start();

@@ -233,6 +233,64 @@ TEST_F(FavouritesOwn, GermanWords) {
     EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Neuer Favorit: Bee (1991)(Maker)");
 }
 
+TEST_F(FavouritesOwn, NothingIsToRemoveOnceTheSearchBoxIsInFront) {
+    Store({{"Ant", ant2}, {"Bee", bee}});
+    Start();
+    Do("select", "Form1.FavoritenListe", 1);
+    EXPECT_TRUE(Visible("DeLFav"));
+    Do("click", "Form1.SearchDblsTxt");
+    EXPECT_FALSE(Visible("DeLFav"));
+    EXPECT_TRUE(Visible("EmuListbox"));
+    Do("click", "Form1.Label1");
+    EXPECT_TRUE(Visible("DeLFav"));
+    // A key turns the tabs too.
+    Do("key", "Form1", "Right");
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    EXPECT_FALSE(Visible("DeLFav"));
+}
+
+TEST_F(FavouritesOwn, FullDiskIsNoAddition) {
+    Store({{"Ant", ant2}});
+    Start();
+    files.OnlyFor("Favoriten");
+    files.FillDisk();
+    Do("click", "Form1.Label2");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("beeps");
+    const std::string title = Text("MyCaptionLabel.Caption");
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), title);
+    EXPECT_EQ(Do("beeps")["value"], 1);
+    EXPECT_EQ(Get("FavoritenListe.List"), Json({"Ant"}));
+    Do("click", "Form1.AddToFavorit_Global");
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), title);
+    EXPECT_EQ(Do("beeps")["value"], 1);
+    files.Heal();
+    Do("click", "Form1.AddToFavorit_Global");
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Add global Favorite: Bee (1991)(Maker)");
+}
+
+TEST_F(FavouritesOwn, FullStoreTakesNoMoreAndSaysSoByABeep) {
+    std::vector<std::pair<std::string, std::string>> favourites;
+    for (int i = 0; i < 1000; ++i)
+        favourites.emplace_back("G" + std::to_string(i), "/G/" + std::to_string(i) + ".adf");
+    favourites.emplace_back("Ant", ant2);
+    Store(favourites);
+    Start();
+    Do("click", "Form1.Label3");
+    Do("select", "Form1.UAE_Short", 2);
+    Do("beeps");
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(Do("beeps")["value"], 1);
+    EXPECT_NE(Get("MyCaptionLabel.Caption"), "Favorite add: Bee (1991)(Maker)");
+    EXPECT_EQ(Get("FavoritenListe.ListCount"), 1001);
+    // What is there already is no failure.
+    Do("select", "Form1.UAE_Short", 1);
+    Do("click", "Form1.AddToFavorit");
+    EXPECT_EQ(Do("beeps")["value"], 0);
+    EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Favorite add: Ant (1990)(Maker)");
+}
+
 TEST_F(FavouritesOwn, FullDiskLosesNothing) {
     Store({{"Ant", ant2}});
     const std::string before = tree.Read(file);
