@@ -55,6 +55,8 @@ bool FavoritenEvents::AskForRepair(const FavoritEntry& favourite) {
         platform::Buttons::YesNo, platform::Icon::Question);
     if (answer != platform::Answer::Yes) return true;
     repair.RepairFavoriten();
+    // Rows that went have moved others to their places.
+    if (form.FavoritenListe.SelectedText() != favourite.Name) gameFound = false;
     return form.FavoritenListe.ListIndex() >= 0;
 }
 
@@ -67,8 +69,31 @@ void FavoritenEvents::ShowGame(int row) {
 }
 
 void FavoritenEvents::FavoritenListe_DblClick() {
-    // With no game of its own the click has left another one selected.
-    if (gameFound) hooks.LaunchBtn_Click();
+    // With no game of its own the click has left another one selected, and has asked already.
+    if (gameFound && SelectGame()) hooks.LaunchBtn_Click();
+}
+
+bool FavoritenEvents::SelectGame() {
+    if (form.FavoritenListe.ListIndex() < 0) return false;
+    if (IsInStep()) return true;
+    FavoritenListe_Click();
+    return gameFound;
+}
+
+bool FavoritenEvents::IsInStep() const {
+    const int row = RowOfGame();
+    return row >= 0 && form.UAE_Short.ListIndex() == row && form.UAE_FULL.ListIndex() == row;
+}
+
+int FavoritenEvents::RowOfGame() const {
+    const int record = store.RecordOfRow(form.FavoritenListe.ListIndex());
+    if (record < 0) return -1;
+    const std::string& path = store.Entries()[static_cast<std::size_t>(record)].FullPath;
+    if (path.empty()) return -1;
+    const std::vector<std::string>& paths = form.UAE_FULL.Rows();
+    const int row = library::RowOfGame(paths, path);
+    const std::string name = support::GetFileNameOnly(path);
+    return row >= 0 || name.empty() ? row : library::RowOfGame(paths, name);
 }
 
 void FavoritenEvents::FavoritenListe_MouseDown(const forms::Mouse& mouse) {
@@ -98,17 +123,14 @@ void FavoritenEvents::FavoritenListe_KeyDown(forms::Key& key) {
 
 void FavoritenEvents::FavoritenListe_KeyPress(forms::Character& character) {
     if (character.code == keys::enter) {
-        if (form.FavoritenListe.ListIndex() < 0) return;
-        // Another list may have selected another game since the row was clicked.
-        FavoritenListe_Click();
-        FavoritenListe_DblClick();
+        if (SelectGame()) hooks.LaunchBtn_Click();
     } else if (character.code != keys::space) {
         hooks.EmuListbox_KeyPress(character);
     }
 }
 
 void FavoritenEvents::AddToFavorit_Click() {
-    if (repair.IsRunning()) return;
+    if (repair.IsRunning() || hooks.MarkedGameHasGone()) return;
     const int row = form.UAE_Short.ListIndex();
     const std::string name = form.UAE_Short.List(row);
     const std::string path = form.UAE_FULL.List(row);
@@ -117,6 +139,12 @@ void FavoritenEvents::AddToFavorit_Click() {
     store.FillFavoritenListe();
     store.SaveFavoriten();
     store.LoadFavoriten();
+    // What the file could not take has gone with the load.
+    if (store.Has(path)) {
+        form.MyCaptionLabel.SetCaption(form.Say("Neuer Favorit: ", "Favorite add: ") + name);
+    } else {
+        services.beeper.Beep();
+    }
     hooks.RefreshList();
 }
 
@@ -138,12 +166,6 @@ void FavoritenEvents::DeLFav_Click() {
     // the choice of emulators.
     form.FavoritenListe.SetFocus();
     form.DeLFav.SetVisible(false);
-    // What the file could not take has gone with the load.
-    if (store.Has(path)) {
-        form.MyCaptionLabel.SetCaption(form.Say("Neuer Favorit: ", "Favorite add: ") + name);
-    } else {
-        services.beeper.Beep();
-    }
     form.EmuListbox.SetVisible(true);
 }
 

@@ -17,6 +17,9 @@ class FavoritenEvents {
  public:
     struct Hooks {
         core::Hook<void()> LaunchBtn_Click;
+        // The game of the row marked in the list in front becomes the selected one. True: that has
+        // gone.
+        core::Hook<bool()> MarkedGameHasGone;
         core::Hook<void(int, int, int, int)> SelectSimilarDisks;
         core::Hook<void()> RefreshList;  // the list in front, the tabs and their counts
         core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
@@ -39,6 +42,11 @@ class FavoritenEvents {
     // Selects the favourite's game in the game list, or asks whether to repair the favourites.
     void FavoritenListe_Click();
     void FavoritenListe_DblClick();
+    // Selects the game of the marked row, by its click unless it is selected already. False: there
+    // is none, and the user has been asked whether to repair the favourites.
+    bool SelectGame();
+    // The row of UAE_FULL of the marked row's game, -1 for none; found without a turn for events.
+    int RowOfGame() const;
     // The buttons that make sense for a chosen favourite.
     void OfferButtons();
     void FavoritenListe_MouseDown(const forms::Mouse& mouse);
@@ -51,6 +59,7 @@ class FavoritenEvents {
 
  private:
     int FindGame(const FavoritEntry& favourite);
+    bool IsInStep() const;
     // False: the repair has made the row that was clicked another one.
     bool AskForRepair(const FavoritEntry& favourite);
     void ShowGame(int row);

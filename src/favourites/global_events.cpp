@@ -73,6 +73,10 @@ void GlobalEvents::FavoritenListeGlobal_KeyPress(forms::Character& character) {
 
 void GlobalEvents::AddToFavorit_Global_Click() {
     services.events.DoEvents();
+    if (hooks.MarkedGameHasGone()) {
+        FocusListInFront();
+        return;
+    }
     const int row = form.UAE_Short.ListIndex();
     const std::string name = form.UAE_Short.List(row);
     const std::string path = form.UAE_FULL.List(row);

@@ -17,6 +17,9 @@ class GlobalEvents {
     struct Hooks {
         core::Hook<void(bool)> SelectEmulator;
         core::Hook<void(const std::string&)> StartGame;
+        // The game of the row marked in the list in front becomes the selected one. True: that has
+        // gone.
+        core::Hook<bool()> MarkedGameHasGone;
         core::Hook<void()> SetToNormal;   // the window is no longer kept on top
         core::Hook<void()> ArrangeLists;  // the list in front, and the tabs
         core::Hook<void()> LeaveEmulatorBox;

@@ -20,6 +20,11 @@ void ListEvents::UAE_Short_Click() {
 }
 
 void ListEvents::UAE_Short_DblClick() {
+    Launch(form.UAE_Short);
+}
+
+void ListEvents::Launch(forms::ListBox& list) {
+    if (!marked.Select(list)) return;
     hooks.LaunchBtn_Click();
     form.SetCaption(core::defaultTitle);
     form.MyCaptionLabel.SetCaption(core::defaultTitle);
@@ -67,6 +72,10 @@ void ListEvents::WIthoutDoubles_Click() {
     hooks.FillDrivesFromGame(row);
 }
 
+void ListEvents::WIthoutDoubles_DblClick() {
+    Launch(form.WIthoutDoubles);
+}
+
 void ListEvents::WIthoutDoubles_GotFocus() {
     form.ListMode = "2";
     if (form.DoublesListBusy) return;
@@ -93,7 +102,7 @@ void ListEvents::WIthoutDoubles_LostFocus() {
 
 void ListEvents::WIthoutDoubles_KeyPress(forms::Character& character) {
     if (character.code == forms::keys::enter) {
-        UAE_Short_DblClick();
+        WIthoutDoubles_DblClick();
     } else {
         hooks.EmuListbox_KeyPress(character);
     }

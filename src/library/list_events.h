@@ -4,6 +4,7 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
+#include "library/marked_game.h"
 #include "platform/file_system.h"
 
 namespace kivu::library {
@@ -28,7 +29,7 @@ class ListEvents {
         core::Hook<bool()> SelectsByHand;  // the user chooses disks row by row
     };
 
-    explicit ListEvents(core::Form1& form) : form(form) {}
+    ListEvents(core::Form1& form, MarkedGame& marked) : form(form), marked(marked) {}
 
     void UAE_FULL_Click();
     void UAE_Short_Click();
@@ -37,6 +38,7 @@ class ListEvents {
     void UAE_Short_LostFocus();
     void UAE_Short_KeyPress(forms::Character& character);
     void WIthoutDoubles_Click();
+    void WIthoutDoubles_DblClick();
     void WIthoutDoubles_GotFocus();
     void WIthoutDoubles_LostFocus();
     void WIthoutDoubles_KeyPress(forms::Character& character);
@@ -52,9 +54,11 @@ class ListEvents {
     Hooks hooks;
 
  private:
+    void Launch(forms::ListBox& list);
     void PutInFront(forms::ListBox& list, const char* mode);
 
     core::Form1& form;
+    MarkedGame& marked;
 };
 
 }  // namespace kivu::library

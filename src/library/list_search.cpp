@@ -230,15 +230,11 @@ void ListSearch::SuchErgList_Click() {
 }
 
 void ListSearch::SuchErgList_DblClick() {
-    // Below the last result there is no game, and the one selected elsewhere is not meant.
-    if (form.SuchErgList.ListIndex() >= 0) hooks.LaunchBtn_Click();
+    if (marked.Select(form.SuchErgList)) hooks.LaunchBtn_Click();
 }
 
 void ListSearch::SuchErgList_KeyPress(forms::Character& character) {
     if (character.code == keys::enter) {
-        if (form.SuchErgList.ListIndex() < 0) return;
-        // Another list may have selected another game since the row was clicked.
-        SuchErgList_Click();
         SuchErgList_DblClick();
     } else if (BeginsSearch(character)) {
         hooks.EmuListbox_KeyPress(character);

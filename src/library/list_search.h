@@ -5,6 +5,7 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
+#include "library/marked_game.h"
 #include "library/title_search.h"
 
 namespace kivu::library {
@@ -28,8 +29,8 @@ class ListSearch {
         core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
     };
 
-    explicit ListSearch(core::Form1& form)
-        : form(form), titles(form.WIthoutDoubles, form.SuchErgList) {}
+    ListSearch(core::Form1& form, MarkedGame& marked)
+        : form(form), marked(marked), titles(form.WIthoutDoubles, form.SuchErgList) {}
 
     // Fills SuchErgList with the rows of WIthoutDoubles, from `StartRow` on, that contain every
     // word of `Text`, and selects the first of them there.
@@ -60,6 +61,7 @@ class ListSearch {
     void ShowTab();
 
     core::Form1& form;
+    MarkedGame& marked;
     TitleSearch titles;
 };
 

@@ -42,8 +42,19 @@ void Launcher::Routines::JoinWindow() {
     form.LoadingBtn.onChange = [this] { watch.LoadingBtn_Change(); };
     form.AppRunningPicture.onClick = [this] { watch.AppRunningPicture_Click(); };
     form.Current_ProgramNameFull.onChange = [this] { layout.Current_ProgramNameFull_Change(); };
-    form.Current_ProgramNameFull.onDblClick = [this] { gameLaunch.LaunchBtn_Click(); };
+    form.Current_ProgramNameFull.onDblClick = [this] { LaunchInFront(); };
     form.FileScanRecursive1.frame.onResize = [this] { scanner.UserControl_Resize(); };
+}
+
+// The name belongs to the marked row, whatever list that stands in.
+void Launcher::Routines::LaunchInFront() {
+    for (forms::ListBox* list :
+         {&form.FavoritenListeGlobal, &form.GlobalSearchList, &form.EmulatorLongListbox}) {
+        if (!list->Visible()) continue;
+        list->DoubleClick();
+        return;
+    }
+    if (markedGame.SelectInFront()) gameLaunch.LaunchBtn_Click();
 }
 
 void Launcher::Routines::JoinLists() {
@@ -68,7 +79,10 @@ void Launcher::Routines::JoinLists() {
     };
 
     form.UAE_FULL.onClick = [this] { listEvents.UAE_FULL_Click(); };
-    form.UAE_Short.onClick = [this] { listEvents.UAE_Short_Click(); };
+    form.UAE_Short.onClick = [this] {
+        listEvents.UAE_Short_Click();
+        markedGame.ShowName();
+    };
     form.UAE_Short.onDblClick = [this] { listEvents.UAE_Short_DblClick(); };
     form.UAE_Short.onGotFocus = [this] { listEvents.UAE_Short_GotFocus(); };
     form.UAE_Short.onLostFocus = [this] { listEvents.UAE_Short_LostFocus(); };
@@ -76,8 +90,11 @@ void Launcher::Routines::JoinLists() {
         listEvents.UAE_Short_KeyPress(key);
     };
 
-    form.WIthoutDoubles.onClick = [this] { listEvents.WIthoutDoubles_Click(); };
-    form.WIthoutDoubles.onDblClick = [this] { listEvents.UAE_Short_DblClick(); };
+    form.WIthoutDoubles.onClick = [this] {
+        listEvents.WIthoutDoubles_Click();
+        markedGame.ShowName();
+    };
+    form.WIthoutDoubles.onDblClick = [this] { listEvents.WIthoutDoubles_DblClick(); };
     form.WIthoutDoubles.onGotFocus = [this] { listEvents.WIthoutDoubles_GotFocus(); };
     form.WIthoutDoubles.onLostFocus = [this] { listEvents.WIthoutDoubles_LostFocus(); };
     form.WIthoutDoubles.onKeyPress = [this](forms::Character& key) {

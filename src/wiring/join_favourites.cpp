@@ -10,6 +10,7 @@ void Launcher::Routines::JoinFavourites() {
 
     auto& own = favoritenEvents.hooks;
     own.LaunchBtn_Click = [this] { gameLaunch.LaunchBtn_Click(); };
+    own.MarkedGameHasGone = [this] { return !markedGame.SelectToStore(); };
     own.RefreshList = [this] { RefreshList(); };
     // Letters typed in a game list go where those typed in the emulator list go.
     own.EmuListbox_KeyPress = [this](forms::Character& key) {
@@ -19,6 +20,7 @@ void Launcher::Routines::JoinFavourites() {
     auto& global = globalEvents.hooks;
     global.SelectEmulator = [this](bool add) { emulatorSwitch.SelectEmulator(add); };
     global.StartGame = [this](const std::string& path) { gameLaunch.StartGame(path); };
+    global.MarkedGameHasGone = own.MarkedGameHasGone;
     global.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
     global.ArrangeLists = [this] { layout.ArrangeLists(); };
     global.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
@@ -38,8 +40,14 @@ void Launcher::Routines::JoinFavourites() {
         form.AddToFavorit_Global.SetVisible(true);
     };
 
+    markedGame.hooks.SelectFavourite = [this] { return favoritenEvents.SelectGame(); };
+    markedGame.hooks.RowOfFavourite = [this] { return favoritenEvents.RowOfGame(); };
+
     forms::ListBox& list = form.FavoritenListe;
-    list.onClick = [this] { favoritenEvents.FavoritenListe_Click(); };
+    list.onClick = [this] {
+        favoritenEvents.FavoritenListe_Click();
+        markedGame.ShowName();
+    };
     list.onDblClick = [this] { favoritenEvents.FavoritenListe_DblClick(); };
     list.onMouseDown = [this](const forms::Mouse& mouse) {
         favoritenEvents.FavoritenListe_MouseDown(mouse);

@@ -42,7 +42,10 @@ void Launcher::Routines::JoinSearch() {
     form.SuchErg.onClick = [this] { listSearch.SuchErg_Click(); };
     form.SearchAllBtn.onClick = [this] { globalSearch.SearchAllBtn_Click(); };
 
-    form.SuchErgList.onClick = [this] { listSearch.SuchErgList_Click(); };
+    form.SuchErgList.onClick = [this] {
+        listSearch.SuchErgList_Click();
+        markedGame.ShowName();
+    };
     form.SuchErgList.onDblClick = [this] { listSearch.SuchErgList_DblClick(); };
     form.SuchErgList.onGotFocus = [this] { listEvents.SuchErgList_GotFocus(); };
     form.SuchErgList.onKeyPress = [this](forms::Character& key) {

@@ -45,8 +45,9 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       scanner(form, scanSource, host.beeper, pacer),
       gameLists(form, ini, host.files, busy, pacer, scanner),
       emulatorBox(form, ini, host.files, busy),
-      listEvents(form),
-      listSearch(form),
+      markedGame(form, host.dialogs),
+      listEvents(form, markedGame),
+      listSearch(form, markedGame),
       globalSearch(form, host.files, busy, pacer),
       favoriten(form, ini, host.files),
       globalFavoriten(form, ini, host.files),
@@ -81,6 +82,7 @@ void Launcher::Routines::RefreshList() {
     globalSearch.LeaveResults();
     layout.ArrangeLists();
     gameLists.UpdateListCaptions();
+    markedGame.ShowName();
 }
 
 }  // namespace kivu::wiring

@@ -28,6 +28,7 @@
 #include "library/global_search.h"
 #include "library/list_events.h"
 #include "library/list_search.h"
+#include "library/marked_game.h"
 #include "library/scan_source.h"
 #include "platform/host.h"
 #include "support/always_on_top.h"
@@ -70,6 +71,7 @@ struct Launcher::Routines {
     library::FileScanRecursive scanner;
     library::GameLists gameLists;
     library::EmulatorBox emulatorBox;
+    library::MarkedGame markedGame;
     library::ListEvents listEvents;
     library::ListSearch listSearch;
     library::AllEmulatorsSearch globalSearch;
@@ -111,6 +113,7 @@ struct Launcher::Routines {
     void JoinUi();
     void JoinWindow();
     void JoinLists();
+    void LaunchInFront();
     void JoinButtons();
 };
 

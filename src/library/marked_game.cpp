@@ -1,0 +1,91 @@
+#include "library/marked_game.h"
+
+#include <algorithm>
+#include <array>
+
+#include "library/find_list_item.h"
+#include "support/run_file.h"
+
+namespace kivu::library {
+
+forms::ListBox* MarkedGame::ListInFront() const {
+    if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible() ||
+        form.GlobalSearchList.Visible())
+        return nullptr;
+    const std::array<forms::ListBox*, 4> lists{&form.FavoritenListe, &form.WIthoutDoubles,
+                                               &form.UAE_Short, &form.SuchErgList};
+    // The search box counts as its results.
+    const int mode = form.Mode() == 7 ? 4 : form.Mode();
+    if (mode >= 1 && mode <= 4 && lists[static_cast<std::size_t>(mode - 1)]->Visible())
+        return lists[static_cast<std::size_t>(mode - 1)];
+    const auto shown = std::find_if(lists.begin(), lists.end(),
+                                    [](const forms::ListBox* list) { return list->Visible(); });
+    return shown == lists.end() ? nullptr : *shown;
+}
+
+bool MarkedGame::Select(forms::ListBox& list) {
+    if (list.ListIndex() < 0) return false;
+    if (IsInStep(list)) return true;
+    if (&list == &form.FavoritenListe) return hooks.SelectFavourite();
+    if (RowOf(list) >= 0) {
+        ClickMarkedRow(list);
+        if (IsInStep(list)) return true;
+    }
+    // The simple list and its hits keep their rows over a rescan.
+    dialogs.MessageBox("File not found:\r" + list.SelectedText(), "Game - File not found!",
+                       platform::Buttons::Ok, platform::Icon::Information);
+    return false;
+}
+
+bool MarkedGame::SelectInFront() {
+    forms::ListBox* list = ListInFront();
+    if (!list) return false;
+    return list->ListIndex() >= 0 ? Select(*list) : form.UAE_Short.ListIndex() >= 0;
+}
+
+bool MarkedGame::SelectToStore() {
+    forms::ListBox* list = ListInFront();
+    return !list || list->ListIndex() < 0 || Select(*list);
+}
+
+void MarkedGame::ShowName() {
+    // In the busy state the label is empty on purpose.
+    if (!form.ListsVisible || !form.Current_ProgramNameFull.Caption().empty()) return;
+    const forms::ListBox* list = ListInFront();
+    if (!list || list->ListIndex() < 0) return;
+    const int row = IsInStep(*list) ? form.UAE_Short.ListIndex() : RowOf(*list);
+    const std::string& path = form.UAE_FULL.List(row);
+    if (path.empty()) return;
+    form.Current_ProgramNameFull.SetCaption(support::GetFileNameOnly(path));
+    form.Current_ProgramNameFull.SetVisible(true);
+}
+
+int MarkedGame::RowOf(const forms::ListBox& list) const {
+    if (&list == &form.FavoritenListe) return hooks.RowOfFavourite();
+    if (&list == &form.UAE_Short) return list.ListIndex();
+    int start = 0;
+    return FindListItem(list.SelectedText(), form.UAE_Short.Rows(), false, start);
+}
+
+// Of a game with several files any may be selected.
+bool MarkedGame::IsInStep(const forms::ListBox& list) const {
+    const int row = form.UAE_Short.ListIndex();
+    if (row < 0 || form.UAE_FULL.ListIndex() != row) return false;
+    const bool favourite = &list == &form.FavoritenListe;
+    return (!favourite && form.UAE_Short.List(row) == list.SelectedText()) || row == RowOf(list);
+}
+
+void MarkedGame::ClickMarkedRow(forms::ListBox& list) {
+    if (&list == &form.UAE_Short) {
+        // Clicked anew, the row would take the marks of the others away.
+        list.Click();
+        form.UAE_FULL.SetListIndex(list.ListIndex());
+        return;
+    }
+    forms::ListBox& games = form.WIthoutDoubles;
+    const std::vector<std::string>& rows = games.Rows();
+    const auto found = std::find(rows.begin(), rows.end(), list.SelectedText());
+    if (found != rows.end()) games.ClickRow(static_cast<int>(found - rows.begin()));
+}
+
+}  // namespace kivu::library

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <string>
+
+#include "core/form1.h"
+#include "core/hook.h"
+#include "platform/desktop.h"
+
+namespace kivu::library {
+
+// The game of the row that is marked in the list in front. A launch and the favourites go by
+// UAE_Short and UAE_FULL, where another list may have selected another game since; whoever acts on
+// the marked row brings them into step first.
+class MarkedGame {
+ public:
+    struct Hooks {
+        // Selects the game of FavoritenListe's row. False: there is none, and the user knows.
+        core::Hook<bool()> SelectFavourite;
+        // The row of UAE_FULL of that game; -1 for none.
+        core::Hook<int()> RowOfFavourite;
+    };
+
+    MarkedGame(core::Form1& form, platform::Dialogs& dialogs) : form(form), dialogs(dialogs) {}
+
+    // The list of games that the user works in; null over the emulators, over the lists that go
+    // through them all, and while no list is on show.
+    forms::ListBox* ListInFront() const;
+
+    // Selects the game of the list's marked row by that row's click, unless it is selected already:
+    // then nothing is touched, nor the drives. False: no row is marked, or its game has gone, which
+    // the user is told.
+    bool Select(forms::ListBox& list);
+
+    // The same for the list in front. With no row marked there, the selected game counts, whose
+    // name is on show. False: there is nothing to start.
+    bool SelectInFront();
+    // The same for a button that stores the selected game. False: the marked row's game has gone.
+    bool SelectToStore();
+
+    // Writes the name of the marked row's game where none is on show, as the row's click would, and
+    // does nothing else that the click does.
+    void ShowName();
+
+    Hooks hooks;
+
+ private:
+    // The row of UAE_Short that a game's shown name stands for; -1 for none.
+    int RowOf(const forms::ListBox& list) const;
+    bool IsInStep(const forms::ListBox& list) const;
+    void ClickMarkedRow(forms::ListBox& list);
+
+    core::Form1& form;
+    platform::Dialogs& dialogs;
+};
+
+}  // namespace kivu::library
