@@ -20,7 +20,7 @@ class Prozess {
     explicit Prozess(platform::ProcessList& list) : list(list) {}
 
     // Id of the process of exactly this name, without regard to case; failing that, of the last one
-    // whose name contains it. 0 for none.
+    // whose name contains it. 0 for none. With the launch in reach its processes come first.
     std::int32_t FindProcessId(const std::string& name, Reach reach) const;
     // A process of exactly this name, without regard to case.
     bool IsProcessRunning(const std::string& name, Reach reach) const;

@@ -67,6 +67,21 @@ TEST_F(ProzessTest, KnowsALaunchThatHasChangedItsName) {
     EXPECT_FALSE(prozess.IsProcessRunning("dosbox", Reach::nameOnly));
 }
 
+// A copy that was running before is not the one to end.
+TEST_F(ProzessTest, FindsTheLaunchBeforeAnotherCopyOfItsName) {
+    platform::ProcessEntry launched{9, {"dosbox"}};
+    launched.ofLaunch = true;
+    platform::ProcessEntry wrapper{8, {"bwrap"}};
+    wrapper.ofLaunch = true;
+    list.entries = {{{7, {"dosbox"}}, wrapper, launched}};
+    EXPECT_EQ(prozess.FindProcessId("dosbox", Reach::andLaunch), 9);
+    EXPECT_EQ(prozess.FindProcessId("dosbox", Reach::nameOnly), 7);
+    EXPECT_EQ(prozess.FindProcessId("other", Reach::andLaunch), 8);
+    list.entries = {{{7, {"dosbox"}}}};
+    EXPECT_EQ(prozess.FindProcessId("dosbox", Reach::andLaunch), 7);
+    EXPECT_TRUE(prozess.IsProcessRunning("dosbox", Reach::andLaunch));
+}
+
 TEST_F(ProzessTest, CountsAFailedSnapshotAsNotRunning) {
     list.entries.reset();
     EXPECT_EQ(prozess.FindProcessId("emu", Reach::andLaunch), 0);
