@@ -154,8 +154,11 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
     const std::vector<std::string> words = HostWords(run, safe);
     if (!safe) {
         services.dialogs.MessageBox(
-            "This file name cannot be given to a batch file safely:\r" + run.path,
-            "Game - File not found!", platform::Buttons::Ok, platform::Icon::Warning);
+            form.Say("Dieser Name kann einer Batch-Datei nicht sicher übergeben werden:\r",
+                     "This name cannot be given to a batch file safely:\r") +
+                run.path,
+            form.Say("Start nicht möglich", "Start not possible"), platform::Buttons::Ok,
+            platform::Icon::Warning);
         return false;
     }
     const auto failed = services.files.WriteFile(form.TmpBatName, ShellStartFile(directory, words));
@@ -176,9 +179,12 @@ std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
         words.insert(words.begin(), {"wine", run.emulator});
         return words;
     }
-    safe = run.parameters.IsBatchSafe();
     platform::FileSystem& files = services.files;
     const std::string directory = support::ToWinePath(support::DirectoryOf(files, run.emulator));
+    // What is doubled or quoted here is read again by the batch file that it is handed to, and Wine
+    // replaces a "%NAME%" in it once more.
+    safe = run.parameters.IsBatchSafe() && run.parameters.HasPlainPaths() &&
+           support::IsPlainForCmd(run.emulator);
     const std::string cd = BatchWord(support::QuoteIfNeeded(directory), safe);
     const std::string program =
         BatchWord(support::QuoteIfNeeded(support::ToWinePath(run.emulator)), safe);

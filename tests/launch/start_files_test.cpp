@@ -198,10 +198,10 @@ TEST_F(WineStart, BatchEmulatorRunsFromABatchFileOfItsOwn) {
         Profile(
             "WinUAE_ConfigParameter=-f\r\nEmulatorParameter=-x & y\r\n"
             "EmulatorParameterAddDiskPath=1\r\n");
-        Launch("/roms/A&B 100%.zip");
+        Launch("/roms/A, B (100).zip");
         EXPECT_EQ(Companion(), std::string("cd \"Z:\\my emus\\\"\r\n\"Z:\\my emus\\run.") + ending +
                                    "\" -f Z:\\k\\Config\\Alpha\\Kivu_StartScript.uaecfg -x & y "
-                                   "\"Z:\\roms\\A&B 100%%.zip\"\r\n");
+                                   "\"Z:\\roms\\A, B (100).zip\"\r\n");
         EXPECT_EQ(StartFile(),
                   "cd '/my emus/'\n'wine' 'cmd' '/c' 'Z:\\k\\Config\\Alpha\\Kivu_tmp_wine.bat' "
                   "&\n");
@@ -217,6 +217,7 @@ TEST_F(WineStart, NativeEmulatorGetsPlainPathsAndNoCompanion) {
 }
 
 TEST_F(WineStart, NameThatNothingMakesSafeIsRefused) {
+    form.CurrentLanguage = 2;
     Emulator("/e/run.bat");
     Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
     files.AddFile(form.TmpBatName, "old");
@@ -235,12 +236,42 @@ TEST_F(WineStart, NameThatNothingMakesSafeIsRefused) {
     EXPECT_FALSE(form.GameIsRunning);
 }
 
+// The batch file reads its arguments again, and Wine fills in variables once more.
+TEST_F(WineStart, NameThatIsReadAgainIsRefusedForABatchFile) {
+    form.CurrentLanguage = 2;
+    Emulator("/e/run.bat");
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    for (const char* name : {"100%PATH% ^x.txt", "A&B.zip", "a<b.zip", "a>b.zip", "a|b.zip"}) {
+        host.dialogs.shown.clear();
+        Launch(std::string("/roms/") + name);
+        ASSERT_EQ(host.dialogs.shown.size(), 1U) << name;
+        EXPECT_EQ(host.dialogs.shown[0].title, "Start not possible");
+        EXPECT_THAT(host.starter.runs, IsEmpty()) << name;
+        EXPECT_EQ(Companion(), "(no file)");
+    }
+}
+
+TEST_F(WineStart, RefusalSpeaksGermanOnGerman) {
+    form.CurrentLanguage = 1;
+    Emulator("/e/run.bat");
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    Launch("/roms/100%PATH%.txt");
+    ASSERT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_EQ(host.dialogs.shown[0].title, "Start nicht möglich");
+    EXPECT_EQ(host.dialogs.shown[0].text,
+              "Dieser Name kann einer Batch-Datei nicht sicher übergeben werden:\r"
+              "/roms/100%PATH%.txt");
+}
+
 TEST_F(WineStart, EmulatorThatNothingMakesSafeIsRefusedToo) {
-    Emulator("/a \"b\" & c/run.bat");
-    Profile("WinUAE_UseMasterConfig=0\r\n");
-    Launch("/roms/a.zip");
-    EXPECT_EQ(host.dialogs.shown.size(), 1U);
-    EXPECT_THAT(host.starter.runs, IsEmpty());
+    for (const char* emulator : {"/a \"b\" & c/run.bat", "/a%b%/run.bat", "/a & c/run.cmd"}) {
+        Emulator(emulator);
+        Profile("WinUAE_UseMasterConfig=0\r\n");
+        host.dialogs.shown.clear();
+        Launch("/roms/a.zip");
+        EXPECT_EQ(host.dialogs.shown.size(), 1U);
+        EXPECT_THAT(host.starter.runs, IsEmpty());
+    }
 }
 
 TEST_F(WineStart, CompanionThatCannotBeWrittenStartsNothing) {
