@@ -37,6 +37,9 @@ bool Files::FileMove(const std::string& Source, const std::string& Destination, 
                                     "FileMove", platform::Buttons::Ok, platform::Icon::None);
     }
     platform::FileSystem& files = services.files;
+    // A file onto itself, under whatever name: nothing to do, and above all nothing to delete.
+    const auto source = files.IdentityOf(Source);
+    if (source && source == files.IdentityOf(Destination)) return false;
     if (Overwrite && files.FileExists(Source) && files.FileExists(Destination)) {
         (void)files.DeleteFile(Destination);
     }

@@ -2,6 +2,7 @@
 
 #include "core/language.h"
 #include "driver/routines.h"
+#include "support/files.h"
 #include "support/path_forms.h"
 #include "wiring/routines.h"
 
@@ -24,11 +25,40 @@ void AddProfileRoutines(RoutineTable& table, Session& session) {
     }));
 }
 
+// Services of the file dialogs' window.
+void AddDialogRoutines(RoutineTable& table, Session& session) {
+    const auto files = [&session] {
+        auto& host = session.Host();
+        return support::Files({host.files, host.userStore, host.starter, host.dialogs});
+    };
+    // The date in seconds since 1970; nothing where there is no such file.
+    table.push_back(Bind("getFileDate", [files](string path) {
+        const auto date = files().getFileDate(path);
+        return date ? Json(*date) : Json();
+    }));
+    table.push_back(Bind("FileMove", [files](string source, string destination, bool overwrite) {
+        return files().FileMove(source, destination, overwrite);
+    }));
+    table.push_back(Bind("RegistryGetAbsolutValue",
+                         [files](string path) { return files().RegistryGetAbsolutValue(path); }));
+    table.push_back(Bind("GetWindowsPath", [files] { return files().GetWindowsPath(); }));
+    table.push_back(Bind("GetProgramfilesPath", [files] { return files().GetProgramfilesPath(); }));
+    table.push_back(Bind("GetDesktopPath", [files] { return files().GetDesktopPath(); }));
+    table.push_back(Bind("GetAutostartPath", [files] { return files().GetAutostartPath(); }));
+    table.push_back(Bind("GetStartMenuPath", [files] { return files().GetStartMenuPath(); }));
+    table.push_back(Bind("FileGetShortFileName",
+                         [files](string path) { return files().FileGetShortFileName(path); }));
+    table.push_back(Bind("FileGetLongFileName",
+                         [files](string path) { return files().FileGetLongFileName(path); }));
+    table.push_back(Bind("FileRun", [files](string path) { return files().FileRun(path); }));
+}
+
 }  // namespace
 
 void AddFileRoutines(RoutineTable& table, Session& session) {
     platform::FileSystem& files = session.Host().files;
     AddProfileRoutines(table, session);
+    AddDialogRoutines(table, session);
     table.push_back(
         Bind("GetFilePath", [&files](string path) { return support::DirectoryOf(files, path); }));
     table.push_back(Bind("ShortFileName",

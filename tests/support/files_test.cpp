@@ -71,6 +71,16 @@ TEST_F(FilesTest, ReplacesADestinationOnlyWhenTold) {
     EXPECT_EQ(disk.ReadFile("/b.txt"), "/a.txt");
 }
 
+TEST_F(FilesTest, AFileOntoItselfLosesNothing) {
+    Put("/a.txt");
+    for (const char* same : {"/a.txt", "/./a.txt"}) {
+        for (const bool overwrite : {false, true}) {
+            EXPECT_FALSE(files.FileMove("/a.txt", same, overwrite));
+            EXPECT_EQ(disk.ReadFile("/a.txt"), "/a.txt");
+        }
+    }
+}
+
 TEST_F(FilesTest, KeepsTheDestinationWhenTheSourceIsMissing) {
     Put("/b.txt");
     EXPECT_FALSE(files.FileMove("/a.txt", "/b.txt", true) && !disk.FileExists("/b.txt"));
