@@ -80,8 +80,8 @@ class EmptyStore : public platform::UserStore {
 
 class OnlyInstance : public platform::Instance {
  public:
-    bool HandOver(const std::string&) override { return false; }
-    void OnSummoned(std::function<void()>) override {}
+    bool HandOver(const std::string&, const std::string&) override { return false; }
+    void OnSummoned(std::function<void(const std::string&)>) override {}
 };
 
 }  // namespace

@@ -17,8 +17,9 @@ class DesktopHost {
     ~DesktopHost();
 
     platform::Host Services();
-    // Listens for later instances from now on; `summon` is called when one asks this to come up.
-    void ListenForInstances(std::function<void()> summon);
+    // Listens for later instances from now on; `summon` is called when one asks this to come up,
+    // with the file that it was given to start, if any.
+    void ListenForInstances(std::function<void(const std::string& file)> summon);
 
  private:
     struct Parts;

@@ -60,7 +60,7 @@ platform::Host DesktopHost::Services() {
             parts->commandLine};
 }
 
-void DesktopHost::ListenForInstances(std::function<void()> summon) {
+void DesktopHost::ListenForInstances(std::function<void(const std::string&)> summon) {
     parts->instance.OnSummoned(std::move(summon));
     const int fd = parts->instance.ListenFd();
     if (fd < 0) return;

@@ -70,7 +70,7 @@ platform::Host DesktopHost::Services() {
 }
 
 // The toolkit's own event loop serves the messages of later instances.
-void DesktopHost::ListenForInstances(std::function<void()> summon) {
+void DesktopHost::ListenForInstances(std::function<void(const std::string&)> summon) {
     parts->instance.OnSummoned(std::move(summon));
 }
 

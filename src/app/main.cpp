@@ -41,8 +41,11 @@ int main(int argc, char** argv) {
 
     kivu::view::FormView view(launcher.MainWindow());
     view.onClosed = EndAtOnce;
-    host.ListenForInstances([&view] { view.Summon(); });
     view.Show();
+    host.ListenForInstances([&](const std::string& file) {
+        view.Summon();
+        if (!file.empty()) launcher.StartHandedFile(file);
+    });
     // Behind the first frame.
     QTimer::singleShot(0, &view.Window(),
                        [&view] { view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon"))); });

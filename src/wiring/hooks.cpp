@@ -20,7 +20,8 @@ void Launcher::Routines::JoinCore() {
     startUp.hooks.HexToLong = [](const std::string& text) { return ui::HexToLong(text); };
     // A second start hands over to the first, which comes to the front.
     startUp.hooks.PreviousInstance = [this] {
-        if (!host.instance.HandOver(form.Caption())) return false;
+        const std::string file = launch::FileToHandOver(host.commandLine, host.files);
+        if (!host.instance.HandOver(form.Caption(), file)) return false;
         EndProgram();
         return true;
     };
@@ -95,6 +96,11 @@ void Launcher::Routines::JoinLaunch() {
     // An emulator's window must not come up behind the launcher's.
     gameLaunch.hooks.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
     gameLaunch.hooks.SetWindowBackToNormal = [this] { alwaysOnTop.SetWindowBackToNormal(); };
+
+    handedFile.hooks.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
+    handedFile.hooks.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
+    handedFile.hooks.StartGame = [this](const std::string& path) { gameLaunch.StartGame(path); };
+    handedFile.hooks.BoxIsOpen = [this] { return dialogs.IsOpen(); };
 
     emulatorSetup.hooks.SetCurrentRunninApplication = [this](const std::string& name) {
         gameLaunch.SetCurrentRunninApplication(name);

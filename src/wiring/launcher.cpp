@@ -27,10 +27,15 @@ void Launcher::Start() {
     routines->startUp.Form_Load();
 }
 
+void Launcher::StartHandedFile(const std::string& path) {
+    routines->handedFile.StartHandedFile(path);
+}
+
 Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
                              std::function<void()> end)
     : host(std::move(hostServices)),
       endProgram(std::move(end)),
+      dialogs(host.dialogs),
       scanSource(host.files),
       form(forms::Toolkit{measure, &order, &scanSource}),
       ini(host.files),
@@ -38,10 +43,10 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       busy(form, host.events),
       alwaysOnTop(form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore),
       startUp(form, ini, host.files, host.locale, host.clock),
-      emulatorSwitch(form, ini, host.files, host.events, host.dialogs, busy, host.commandLine),
-      settingsLoader(form, ini, host.files, host.dialogs),
+      emulatorSwitch(form, ini, host.files, host.events, dialogs, busy, host.commandLine),
+      settingsLoader(form, ini, host.files, dialogs),
       shutDown(form, ini),
-      windowKeys(form, host.dialogs, host.beeper),
+      windowKeys(form, dialogs, host.beeper),
       scanner(form, scanSource, host.beeper, pacer),
       gameLists(form, ini, host.files, busy, pacer, scanner),
       emulatorBox(form, ini, host.files, busy),
@@ -51,20 +56,21 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       globalSearch(form, host.files, busy, pacer),
       favoriten(form, ini, host.files),
       globalFavoriten(form, ini, host.files),
-      repair(form, favoriten, busy, pacer, host.dialogs),
+      repair(form, favoriten, busy, pacer, dialogs),
       favoritenEvents(form, favoriten, globalFavoriten, repair, busy, pacer,
-                      {host.dialogs, host.beeper}),
+                      {dialogs, host.beeper}),
       globalEvents(form, globalFavoriten, busy, {host.beeper, host.events}),
       prozess(host.processes),
-      watch(form, ini, prozess, busy, host.events, host.dialogs),
+      watch(form, ini, prozess, busy, host.events, dialogs),
       gameLaunch(form, ini, busy, pacer,
-                 {host.files, host.starter, host.clock, host.dialogs, host.beeper}),
-      emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, host.dialogs}),
+                 {host.files, host.starter, host.clock, dialogs, host.beeper}),
+      handedFile(form, host.beeper),
+      emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, dialogs}),
       uaeFiles(form, host.files),
       driveSlots(form, ini, host.beeper),
       layout(form),
       fontSize(form),
-      surface(form, ini, host.dialogs),
+      surface(form, ini, dialogs),
       panelDrag(form),
       navigation(form) {
     const char separator = host.files.Separator();

@@ -26,6 +26,8 @@ class Launcher {
     // The main window's Load event. The window may be shown afterwards, unless the program has
     // ended.
     void Start();
+    // A later instance was given this file to start and hands it over.
+    void StartHandedFile(const std::string& path);
 
     // The routines by subsystem, for who wants to call one by its name.
     struct Routines;

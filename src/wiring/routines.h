@@ -19,6 +19,7 @@
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
+#include "launch/handed_file.h"
 #include "launch/prozess.h"
 #include "launch/running_watch.h"
 #include "launch/uae_files.h"
@@ -36,6 +37,7 @@
 #include "ui/layout.h"
 #include "ui/panel_drag.h"
 #include "ui/window_surface.h"
+#include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 
 namespace kivu::wiring {
@@ -53,6 +55,7 @@ struct Launcher::Routines {
 
     platform::Host host;
     std::function<void()> endProgram;
+    CountedDialogs dialogs;
     TextOrder order;
     library::ScanSource scanSource;
     core::Form1 form;
@@ -85,6 +88,7 @@ struct Launcher::Routines {
     launch::Prozess prozess;
     launch::RunningWatch watch;
     launch::GameLaunch gameLaunch;
+    launch::HandedFile handedFile;
     launch::EmulatorSetup emulatorSetup;
     launch::UaeFiles uaeFiles;
     launch::DriveSlots driveSlots;

@@ -255,6 +255,13 @@ Json Display(Session& session, const Json&) {
     return Told("display", std::move(display));
 }
 
+// A later instance calls, as the program's main joins it.
+Json Summon(Session& session, const Json& command) {
+    const std::string file = command.size() > 1 ? TextFrom(command[1], "the file") : "";
+    if (!file.empty()) session.Program().StartHandedFile(file);
+    return Json::object();
+}
+
 }  // namespace
 
 const std::vector<Command>& HostCommands() {
@@ -269,6 +276,7 @@ const std::vector<Command>& HostCommands() {
         {"device", 1, 3, false, Device},
         {"time", 1, 1, false, Time},
         {"display", 0, 0, false, Display},
+        {"summon", 0, 1, true, Summon},
     };
     return commands;
 }

@@ -171,14 +171,18 @@ class ScriptedUserStore : public platform::UserStore {
 
 class ScriptedInstance : public platform::Instance {
  public:
-    bool HandOver(const std::string& title) override {
+    bool HandOver(const std::string& title, const std::string& file) override {
         askedFor = title;
+        handedOver = file;
         return earlierRuns;
     }
-    void OnSummoned(std::function<void()> value) override { summon = std::move(value); }
+    void OnSummoned(std::function<void(const std::string&)> value) override {
+        summon = std::move(value);
+    }
     bool earlierRuns = false;
     std::string askedFor;
-    std::function<void()> summon;
+    std::string handedOver;
+    std::function<void(const std::string&)> summon;
 };
 
 // The process list as the test wants it. A kill takes its entry away, and with one of the watched

@@ -7,6 +7,7 @@
 #include <cstring>
 #include <fcntl.h>
 #include <poll.h>
+#include <sys/epoll.h>
 #include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/un.h>
@@ -50,20 +51,29 @@ bool IsOwnUsers(int connection) {
            peer.uid == ::getuid();
 }
 
-// A full queue means somebody who is only busy.
-bool Call(const Address& address) {
+enum class Call { answered, busy, nobody };
+
+// The path is small enough for the socket's own memory, so nothing here waits for the other side.
+Call TryCall(const Address& address, const std::string& file) {
     const FileDescriptor connection = NewSocket();
-    if (!connection) return false;
-    if (::connect(connection.Get(), address.Get(), address.length) != 0) return errno == EAGAIN;
-    return IsOwnUsers(connection.Get());
+    if (!connection) return Call::nobody;
+    if (::connect(connection.Get(), address.Get(), address.length) != 0)
+        return errno == EAGAIN ? Call::busy : Call::nobody;
+    if (!IsOwnUsers(connection.Get())) return Call::nobody;
+    (void)::send(connection.Get(), file.data(), file.size(), MSG_NOSIGNAL);
+    return Call::answered;
 }
 
-// The holder of the lock may be on its way from locking to listening.
-void CallPatiently(const Address& address) {
+// The holder of the lock may be on its way from locking to listening, or have more calls waiting
+// than it has room for. Whoever has nothing to tell need not wait for that.
+void CallPatiently(const Address& address, const std::string& file) {
     constexpr int trials = 40;
     constexpr int pause = 25;  // milliseconds
-    for (int trial = 0; trial < trials && !Call(address); ++trial)
+    for (int trial = 0; trial < trials; ++trial) {
+        const Call call = TryCall(address, file);
+        if (call == Call::answered || (call == Call::busy && file.empty())) return;
         ::poll(nullptr, 0, pause);
+    }
 }
 
 // Program names are file names: any bytes, up to 255 of them. FNV-1a keeps them apart where they do
@@ -91,17 +101,18 @@ LinuxInstance::~LinuxInstance() {
     if (!socketPath.empty()) ::unlink(socketPath.c_str());
 }
 
-bool LinuxInstance::HandOver(const std::string&) {
+bool LinuxInstance::HandOver(const std::string&, const std::string& file) {
     if (listener) return false;
+    const std::string told = file.size() <= maxFile ? file : "";
     const std::string name = SocketName(programName);
     const std::string directory = UserRuntimeDirectory();
     Address address;
     const std::string path = directory + "/" + name + ".socket";
-    if (!directory.empty() && MakeAddress(path, false, address)) return !ListenAtPath(path);
-    return !ListenAbstract(name + "-" + std::to_string(::getuid()));
+    if (!directory.empty() && MakeAddress(path, false, address)) return !ListenAtPath(path, told);
+    return !ListenAbstract(name + "-" + std::to_string(::getuid()), told);
 }
 
-bool LinuxInstance::ListenAtPath(const std::string& path) {
+bool LinuxInstance::ListenAtPath(const std::string& path, const std::string& file) {
     Address address;
     MakeAddress(path, false, address);
     const std::string lockPath = path + ".lock";
@@ -110,56 +121,96 @@ bool LinuxInstance::ListenAtPath(const std::string& path) {
     if (!opened) return true;
     if (::flock(opened.Get(), LOCK_EX | LOCK_NB) != 0) {
         if (errno != EWOULDBLOCK) return true;
-        CallPatiently(address);
+        CallPatiently(address, file);
         return false;
     }
     lock = std::move(opened);
 
     ::unlink(path.c_str());
     FileDescriptor made = NewSocket();
-    if (made && ::bind(made.Get(), address.Get(), address.length) == 0 &&
-        ::listen(made.Get(), waitingCalls) == 0) {
-        listener = std::move(made);
+    if (made && ::bind(made.Get(), address.Get(), address.length) == 0 && Listen(std::move(made)))
         socketPath = path;
-    }
     return true;
 }
 
-bool LinuxInstance::ListenAbstract(const std::string& name) {
+bool LinuxInstance::ListenAbstract(const std::string& name, const std::string& file) {
     Address address;
     if (!MakeAddress(name, true, address)) return true;
     FileDescriptor made = NewSocket();
     if (!made) return true;
-    if (::bind(made.Get(), address.Get(), address.length) == 0 &&
-        ::listen(made.Get(), waitingCalls) == 0) {
-        listener = std::move(made);
+    if (::bind(made.Get(), address.Get(), address.length) == 0 && Listen(std::move(made)))
         return true;
-    }
     // Anybody may have taken such a name; only a call to the same user's process is one.
-    return !Call(address);
+    const Call call = TryCall(address, file);
+    if (call == Call::nobody) return true;
+    if (call == Call::busy) CallPatiently(address, file);
+    return false;
 }
 
-void LinuxInstance::OnSummoned(std::function<void()> handler) {
+bool LinuxInstance::Listen(FileDescriptor made) {
+    if (::listen(made.Get(), waitingCalls) != 0) return false;
+    FileDescriptor set(::epoll_create1(EPOLL_CLOEXEC));
+    epoll_event event{};
+    event.events = EPOLLIN;
+    if (!set || ::epoll_ctl(set.Get(), EPOLL_CTL_ADD, made.Get(), &event) != 0) return false;
+    listener = std::move(made);
+    waiting = std::move(set);
+    return true;
+}
+
+void LinuxInstance::OnSummoned(std::function<void(const std::string&)> handler) {
     summon = std::move(handler);
-    if (summon && std::exchange(missedSummons, false)) summon();
+    if (summon && missed) summon(*std::exchange(missed, std::nullopt));
 }
 
-void LinuxInstance::Serve() {
-    bool called = false;
+void LinuxInstance::AcceptCallers() {
     while (listener) {
-        const FileDescriptor caller(
+        FileDescriptor caller(
             ::accept4(listener.Get(), nullptr, nullptr, SOCK_CLOEXEC | SOCK_NONBLOCK));
         if (!caller) {
             if (errno == ECONNABORTED || errno == EINTR) continue;
-            break;
+            return;
         }
-        called |= IsOwnUsers(caller.Get());
+        if (!IsOwnUsers(caller.Get())) continue;
+        epoll_event event{};
+        event.events = EPOLLIN | EPOLLRDHUP;
+        (void)::epoll_ctl(waiting.Get(), EPOLL_CTL_ADD, caller.Get(), &event);
+        callers.push_back({std::move(caller), {}});
     }
+}
+
+// What it has to say is there. One that says more than a path can have is heard no further.
+bool LinuxInstance::HasFinished(Caller& caller) const {
+    char bytes[1024];
+    for (;;) {
+        const ssize_t count = ::recv(caller.connection.Get(), bytes, sizeof bytes, 0);
+        if (count < 0 && errno == EINTR) continue;
+        if (count < 0 && (errno == EAGAIN || errno == EWOULDBLOCK)) return false;
+        if (count <= 0) return true;
+        caller.said.append(bytes, static_cast<std::size_t>(count));
+        if (caller.said.size() <= maxFile) continue;
+        caller.said.clear();
+        return true;
+    }
+}
+
+void LinuxInstance::Serve() {
+    AcceptCallers();
+    bool called = false;
+    std::string file;
+    std::erase_if(callers, [&](Caller& caller) {
+        if (!HasFinished(caller)) return false;
+        called = true;
+        if (file.empty() && caller.said.find('\0') == std::string::npos) file = caller.said;
+        return true;
+    });
+    // Those that connect and then keep silent make room for the next ones.
+    if (callers.size() > static_cast<std::size_t>(waitingCalls)) callers.erase(callers.begin());
     if (!called) return;
     if (summon) {
-        summon();
-    } else {
-        missedSummons = true;
+        summon(file);
+    } else if (!missed || missed->empty()) {
+        missed = file;
     }
 }
 

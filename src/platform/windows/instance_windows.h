@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 
 #include "platform/desktop.h"
@@ -24,20 +25,22 @@ class WindowsInstance : public Instance {
     // False: this is the first one, and it hears calls from now on while the thread that asked
     // serves its messages. The title plays no part. Where the system refuses a mutex, every
     // instance is a first one.
-    bool HandOver(const std::string& title) override;
-    void OnSummoned(std::function<void()> summon) override;
+    bool HandOver(const std::string& title, const std::string& file) override;
+    void OnSummoned(std::function<void(const std::string&)> summon) override;
 
  private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM first, LPARAM second);
     bool BecomeFirst();
-    bool Call() const;
-    void Summoned();
+    bool Call(const std::string& file) const;
+    void Summoned(const std::string& file);
+    std::string TakeFile();
 
     std::wstring name;  // of the mutex, and title of the window
     Handle mutex;
     HWND window = nullptr;
-    std::function<void()> summon;
-    bool missedSummons = false;  // a call came before there was somebody to tell
+    std::string told;  // the file of a call that has still to be served
+    std::function<void(const std::string&)> summon;
+    std::optional<std::string> missed;  // a call that came before there was somebody to tell
 };
 
 }  // namespace kivu::platform

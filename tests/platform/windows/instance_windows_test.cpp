@@ -1,6 +1,8 @@
 #include "platform/windows/instance_windows.h"
 
 #include <gtest/gtest.h>
+#include <string>
+#include <vector>
 
 #include "platform/eventually.h"
 #include "platform/windows/started_program.h"
@@ -48,13 +50,13 @@ class InstanceWindows : public ::testing::Test {
 
 TEST_F(InstanceWindows, TheSecondAsksTheFirstToComeUp) {
     WindowsInstance first(program);
-    EXPECT_FALSE(first.HandOver("Kivu"));
+    EXPECT_FALSE(first.HandOver("Kivu", ""));
     int summons = 0;
-    first.OnSummoned([&] { ++summons; });
+    first.OnSummoned([&](const std::string&) { ++summons; });
     Pump();
     EXPECT_EQ(summons, 0);
     WindowsInstance second(program);
-    EXPECT_TRUE(second.HandOver("Kivu"));
+    EXPECT_TRUE(second.HandOver("Kivu", ""));
     EXPECT_EQ(summons, 0);
     Pump();
     EXPECT_EQ(summons, 1);
@@ -64,62 +66,77 @@ TEST_F(InstanceWindows, TheSecondAsksTheFirstToComeUp) {
 
 TEST_F(InstanceWindows, AnotherProcessAsksTheFirstToComeUp) {
     WindowsInstance first(program);
-    ASSERT_FALSE(first.HandOver("Kivu"));
+    ASSERT_FALSE(first.HandOver("Kivu", ""));
     int summons = 0;
-    first.OnSummoned([&] { ++summons; });
+    first.OnSummoned([&](const std::string&) { ++summons; });
     EXPECT_EQ(ExitCode(StartOther()), 1u);
     Pump();
     EXPECT_EQ(summons, 1);
 }
 
+TEST_F(InstanceWindows, TheFileOfALaterOneIsHandedOver) {
+    WindowsInstance first(program);
+    ASSERT_FALSE(first.HandOver("Kivu", ""));
+    std::vector<std::string> files;
+    first.OnSummoned([&](const std::string& file) { files.push_back(file); });
+    for (const char* file : {"", "C:\\Roms\\B\xc3\xa4r (1).adf"}) {
+        EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", file));
+        Pump();
+    }
+    EXPECT_EQ(files, (std::vector<std::string>{"", "C:\\Roms\\B\xc3\xa4r (1).adf"}));
+    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", std::string(Instance::maxFile + 1, 'n')));
+    Pump();
+    EXPECT_EQ(files.back(), "") << "longer than any path";
+}
+
 TEST_F(InstanceWindows, ACallBeforeAnybodyListensIsNotLost) {
     WindowsInstance first(program);
-    ASSERT_FALSE(first.HandOver("Kivu"));
-    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu"));
-    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu"));
+    ASSERT_FALSE(first.HandOver("Kivu", ""));
+    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
+    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
     Pump();
     int summons = 0;
-    first.OnSummoned([&] { ++summons; });
+    first.OnSummoned([&](const std::string&) { ++summons; });
     EXPECT_EQ(summons, 1);
 }
 
 TEST_F(InstanceWindows, AskingTwiceDoesNotFindItself) {
     WindowsInstance first(program);
-    EXPECT_FALSE(first.HandOver("Kivu"));
-    EXPECT_FALSE(first.HandOver("Kivu"));
+    EXPECT_FALSE(first.HandOver("Kivu", ""));
+    EXPECT_FALSE(first.HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, AnotherProgramNameIsAnotherInstance) {
     WindowsInstance first(program);
-    EXPECT_FALSE(first.HandOver("Kivu"));
-    EXPECT_FALSE(WindowsInstance(program + "-1.4").HandOver("Kivu"));
+    EXPECT_FALSE(first.HandOver("Kivu", ""));
+    EXPECT_FALSE(WindowsInstance(program + "-1.4").HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, TheProgramNameIsThatOfAFileInAnyCase) {
     WindowsInstance first(program + "-ä");
-    EXPECT_FALSE(first.HandOver("Kivu"));
+    EXPECT_FALSE(first.HandOver("Kivu", ""));
     EXPECT_TRUE(WindowsInstance("KIVU-TEST-" + std::to_string(::GetCurrentProcessId()) + "-Ä")
-                    .HandOver("Kivu"));
+                    .HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, AfterTheFirstHasEndedTheNextIsFirst) {
     {
         WindowsInstance first(program);
-        EXPECT_FALSE(first.HandOver("Kivu"));
+        EXPECT_FALSE(first.HandOver("Kivu", ""));
     }
     WindowsInstance next(program);
-    EXPECT_FALSE(next.HandOver("Kivu"));
+    EXPECT_FALSE(next.HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, WhatAKilledOneLeavesBehindHindersNobody) {
     const Handle earlier = StartOther();
     ASSERT_EQ(::WaitForSingleObject(ready.Get(), 30 * 1000), WAIT_OBJECT_0);
-    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu"));
+    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
     ::TerminateProcess(earlier.Get(), 1);
     EXPECT_EQ(ExitCode(earlier), 1u);
     WindowsInstance next(program);
-    EXPECT_FALSE(next.HandOver("Kivu"));
-    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu"));
+    EXPECT_FALSE(next.HandOver("Kivu", ""));
+    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, ANameOfAnyCharactersAndLengthWorks) {
@@ -127,8 +144,8 @@ TEST_F(InstanceWindows, ANameOfAnyCharactersAndLengthWorks) {
          {program + std::string(255 - program.size(), 'n'), program + "\\..\\x", program + "\xff\n",
           "Local\\" + program, std::string()}) {
         WindowsInstance first(name);
-        EXPECT_FALSE(first.HandOver("Kivu"));
-        EXPECT_TRUE(WindowsInstance(name).HandOver("Kivu"));
+        EXPECT_FALSE(first.HandOver("Kivu", ""));
+        EXPECT_TRUE(WindowsInstance(name).HandOver("Kivu", ""));
     }
 }
 
@@ -136,14 +153,14 @@ TEST_F(InstanceWindows, AnEarlierOneThatDoesNotServeItsMessagesHoldsUpNobody) {
     const Handle earlier = StartOther();
     ASSERT_EQ(::WaitForSingleObject(ready.Get(), 30 * 1000), WAIT_OBJECT_0);
     for (int i = 0; i < 30; ++i)
-        EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu"));
+        EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, OtherMessagesSummonNobody) {
     WindowsInstance first(program);
-    ASSERT_FALSE(first.HandOver("Kivu"));
+    ASSERT_FALSE(first.HandOver("Kivu", ""));
     int summons = 0;
-    first.OnSummoned([&] { ++summons; });
+    first.OnSummoned([&](const std::string&) { ++summons; });
     const HWND window = ::FindWindowExW(HWND_MESSAGE, nullptr, L"KivuInstance", nullptr);
     ASSERT_NE(window, nullptr);
     for (const UINT message : {UINT{WM_NULL}, UINT{WM_TIMER}, UINT{WM_USER}})

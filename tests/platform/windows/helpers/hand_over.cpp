@@ -11,7 +11,7 @@ int main() {
     wchar_t** words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
     if (count < 3) return 2;
     kivu::platform::WindowsInstance instance(kivu::platform::Narrow(words[1]));
-    if (instance.HandOver("Kivu")) return 1;
+    if (instance.HandOver("Kivu", "")) return 1;
     const HANDLE ready = ::OpenEventW(EVENT_MODIFY_STATE, FALSE, words[2]);
     if (ready == nullptr) return 3;
     ::SetEvent(ready);

@@ -1,0 +1,46 @@
+#include "launch/handed_file.h"
+
+#include "support/run_file.h"
+
+namespace kivu::launch {
+
+namespace {
+
+bool IsAbsolute(const std::string& path) {
+    const bool drive = path.size() > 2 && path[1] == ':' && (path[2] == '\\' || path[2] == '/');
+    return drive || path.starts_with('/') || path.starts_with("\\\\");
+}
+
+}  // namespace
+
+std::string FileToHandOver(const std::string& commandLine, const platform::FileSystem& files) {
+    if (commandLine.find('?') != std::string::npos) return {};
+    const std::string path = support::RemoveQuotes(commandLine);
+    if (path.empty() || IsAbsolute(path)) return path;
+    std::string directory = files.CurrentDirectory();
+    if (directory.empty()) return {};
+    if (directory.back() != files.Separator()) directory += files.Separator();
+    return directory + path;
+}
+
+void HandedFile::StartHandedFile(const std::string& path) {
+    if (!IsAbsolute(path) || path.find('?') != std::string::npos) return;
+    if (!IsFree()) {
+        beeper.Beep();
+        return;
+    }
+    if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible())
+        hooks.LeaveEmulatorBox();
+    hooks.SetToNormal();
+    form.EmuListbox.SetVisible(false);
+    hooks.StartGame(path);
+    form.EmuListbox.SetVisible(true);
+}
+
+bool HandedFile::IsFree() const {
+    const bool running = form.GameIsRunning || form.AppRunningPicture.Visible();
+    return form.WindowReady && form.CurrentEmuIndex >= 0 && !running && !form.Busy &&
+           !hooks.BoxIsOpen();
+}
+
+}  // namespace kivu::launch
