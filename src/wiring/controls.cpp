@@ -46,14 +46,8 @@ void Launcher::Routines::JoinWindow() {
     form.FileScanRecursive1.frame.onResize = [this] { scanner.UserControl_Resize(); };
 }
 
-// The name belongs to the marked row, whatever list that stands in.
+// By the name at the right, which is that of the marked row's game.
 void Launcher::Routines::LaunchInFront() {
-    for (forms::ListBox* list :
-         {&form.FavoritenListeGlobal, &form.GlobalSearchList, &form.EmulatorLongListbox}) {
-        if (!list->Visible()) continue;
-        list->DoubleClick();
-        return;
-    }
     if (markedGame.SelectInFront()) gameLaunch.LaunchBtn_Click();
 }
 
