@@ -36,7 +36,11 @@ void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     hooks.RebuildLayout();
     form.Current_LoadingSmallBtn.SetVisible(false);
     form.EmuListbox.SetVisible(true);
-    if (form.EmulatorLongListbox.Visible()) return;
+    if (!form.EmulatorLongListbox.Visible()) PutLoadedListInFront();
+    hooks.HideListsOfRunning();
+}
+
+void EmulatorSwitch::PutLoadedListInFront() {
     if (form.FavoritenListe.ListCount() > 0) {
         hooks.Label1_Click();
     } else {
@@ -106,6 +110,7 @@ void EmulatorSwitch::InitEmulatorView() {
     form.GamePicture.SetPicture({});
     hooks.SetVorschau();
     form.CurrentEmuIndex = form.EmuListbox.ListIndex();
+    form.LoadBtn.SetEnabled(form.CurrentEmuIndex >= 0);
     ShowDefaultTitle();
     form.WIthoutDoubles.Clear();
     form.UAE_FULL.Clear();
@@ -190,6 +195,7 @@ void EmulatorSwitch::FinishView() {
     hooks.WatchOnce();
     busy.HideAll(false);
     form.SettingsBtn.SetVisible(true);
+    form.SettingsShortBtn.SetVisible(false);
 }
 
 }  // namespace kivu::core

@@ -17,6 +17,7 @@ class EmulatorSwitch {
     struct Hooks {
         Hook<void(bool)> ShowEmulatorBox;
         Hook<void()> LeaveEmulatorBox;
+        Hook<void()> HideListsOfRunning;
         Hook<void()> RebuildLayout;  // the list in front, the tabs and their counts
         Hook<void()> ArrangeWindow;  // what a resize does
         Hook<void()> SetVorschau;
@@ -55,6 +56,7 @@ class EmulatorSwitch {
     void ReturnToLoadedEmulator();
     bool ClearForSwitch();
     void ShowLoadedLists();
+    void PutLoadedListInFront();
     void AppendToGlobalList();
     void ShowDefaultTitle();
     void PrepareMasterConfig();

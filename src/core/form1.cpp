@@ -1,5 +1,7 @@
 #include "core/form1.h"
 
+#include <utility>
+
 #include "support/text.h"
 
 namespace kivu::core {
@@ -19,6 +21,11 @@ FileScanControls::FileScanControls(forms::Container* parent)
     MyTmpDir.SetVisible(false);
 }
 
+void TitleLine::SetCaption(std::string value) {
+    Label::SetCaption(std::move(value));
+    SetVisible(true);
+}
+
 Form1::Form1(forms::Toolkit toolkit) : forms::Form("Form1", toolkit) {
     DesignWindow();
     DesignLists();
@@ -29,6 +36,11 @@ Form1::Form1(forms::Toolkit toolkit) : forms::Form("Form1", toolkit) {
 
 int Form1::Mode() const {
     return support::ToNumber(ListMode).value_or(0);
+}
+
+bool Form1::ChoiceInFront() const {
+    const bool choosing = Mode() == 5 || Mode() == 10;
+    return choosing && EmulatorLongListbox.Visible() && !FavoritenListeGlobal.Visible();
 }
 
 std::string Form1::BaseDirectory() const {
@@ -76,7 +88,6 @@ void Form1::DesignLists() {
         list->SetVisible(false);
     }
     UAE_Short.SetMultiSelect(true);
-    EmulatorLongListbox.SetFontSize(14);
     Label1.SetCaption("Favoriten");
     Label2.SetCaption("Ohne Dubletten");
     Label3.SetCaption("Komplette Liste");
@@ -87,6 +98,7 @@ void Form1::DesignLists() {
         tab->SetAutoSize(true);
     }
     Label4.SetVisible(false);
+    EmulatorLongListbox.SetFont(Label4.GetFont());
     AddToFavorit.SetCaption("Add Favorite");
     AddToFavorit_Global.SetCaption("Add to global Favorites");
     DeLFav.SetCaption("Remove Favorite");
@@ -116,13 +128,16 @@ void Form1::DesignFrame() {
     SearchAllBtn.SetBackColor(Rgb(255, 255, 255));
     SearchAllBtn.Move(0, 0, 660, 420);
     LoadBtn.SetCaption("Liste Neu einlesen");
+    // Until an emulator is loaded, whose games it could look for.
+    LoadBtn.SetEnabled(false);
     LoadBtn.Move(0, 0, 2100, 420);
     SettingsBtn.SetCaption("Optionen..");
     SettingsBtn.SetToolTipText("Optionen..");
     SettingsShortBtn.SetCaption("Optionen..");
     for (forms::CommandButton* button : {&SettingsBtn, &SettingsShortBtn, &DonateBtn}) {
         button->Move(0, 0, 1200, 420);
-        button->SetVisible(false);
+        // One of the first two always shows.
+        button->SetVisible(button == &SettingsBtn);
     }
     DonateBtn.SetCaption("Spenden");
     ExitBtn.SetCaption("&Exit");

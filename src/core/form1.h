@@ -22,6 +22,13 @@ struct FileScanControls {
     forms::DirListBox MyTmpDir;
 };
 
+// The window's title, and what is said to the user in its place. It goes at the end of a game;
+// whatever is written into it next brings it back, the same text too.
+struct TitleLine final : forms::Label {
+    using Label::Label;
+    void SetCaption(std::string value) override;
+};
+
 // The main window: its controls and the fields that its routines share. Design values are set here;
 // what happens on an event is joined in wiring/.
 struct Form1 : forms::Form {
@@ -31,7 +38,7 @@ struct Form1 : forms::Form {
     forms::Label LoadingBtn{this, "LoadingBtn"};
     forms::Label Current_LoadingSmallBtn{this, "Current_LoadingSmallBtn"};
     forms::Image AppRunningPicture{this, "AppRunningPicture"};
-    forms::Label MyCaptionLabel{this, "MyCaptionLabel"};
+    TitleLine MyCaptionLabel{this, "MyCaptionLabel"};
 
     // The emulator choice: the same rows in a drop-down and in a long list.
     forms::ComboBox EmuListbox{this, "EmuListbox", forms::ListControl::Order::sorted};
@@ -174,6 +181,10 @@ struct Form1 : forms::Form {
 
     // ListMode as the number that it spells.
     int Mode() const;
+    // A game has been started, or an emulator alone is seen running.
+    bool EmulatorRuns() const { return GameIsRunning || AppRunningPicture.Visible(); }
+    // The choice of emulators is in front, with no search and no favourites over it.
+    bool ChoiceInFront() const;
     // One of the two wordings of a message.
     const char* Say(const char* german, const char* english) const {
         return CurrentLanguage == 1 ? german : english;

@@ -33,6 +33,8 @@ class StartUp {
     void Form_Load();
     // Writes the clock's hours and minutes into TimeString.
     void Uhrzeit_Timer();
+    // Into the drop-down, which shows no emulator.
+    void WritePrompt();
 
     Hooks hooks;
 
@@ -40,7 +42,6 @@ class StartUp {
     void MakeConfigDirectory();
     void RestoreWindow();
     void SelectLastEmulator();
-    void WritePrompt();
 
     Form1& form;
     Ini& ini;

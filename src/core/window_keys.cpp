@@ -18,7 +18,8 @@ void WindowKeys::Form_KeyDown(forms::Key& key) {
         return;
     }
     const bool sideways = key.code == keys::left || key.code == keys::right;
-    if (sideways && !MovesInSearchText()) hooks.JoystickDirection(key.code);
+    // While an emulator runs the arrows would bring its games' lists up.
+    if (sideways && !form.EmulatorRuns() && !MovesInSearchText()) hooks.JoystickDirection(key.code);
 }
 
 // Over the hits of all emulators the mode is that of the results, and turning the tabs would lose

@@ -11,7 +11,10 @@ void GlobalEvents::FavoritenListeGlobal_Click() {
         services.beeper.Beep();
         return;
     }
+    // The drop-down's click means the list of emulators; it stays behind this one.
+    const std::string mode = form.ListMode;
     form.EmuListbox.SetListIndex(row);
+    form.ListMode = mode;
 }
 
 void GlobalEvents::FavoritenListeGlobal_DblClick() {

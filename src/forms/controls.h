@@ -46,7 +46,7 @@ class Label : public Control {
 
     const std::string& Caption() const { return caption; }
     // A different caption runs the change handler.
-    void SetCaption(std::string value);
+    virtual void SetCaption(std::string value);
     bool AutoSize() const { return autoSize; }
     void SetAutoSize(bool value);
     Alignment GetAlignment() const { return alignment; }

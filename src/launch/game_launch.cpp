@@ -30,6 +30,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     const core::Raised once(launching);
     const core::Raised working(form.Busy);
     const std::string notedTitle = form.Caption();
+    forms::Control* const focus = form.Focus();
     Run run;
     run.path = support::RemoveQuotes(GamePath);
     // A name may end in a blank; trimmed, it would be another one.
@@ -37,9 +38,9 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     Prepare(run);
     BuildParameters(run);
     library::FindGameInFullList(form, busy, pacer, run.path);
-    if (!GameExists(run)) return;
+    if (!GameExists(run)) return ReturnToLists(focus);
     if (run.useMasterConfig) hooks.WriteStartConfiguration(run.windowsPaths);
-    if (!WriteStartFile(run)) return;
+    if (!WriteStartFile(run)) return ReturnToLists(focus);
     busy.MeCaption("Spiel Läuft");
     pacer.DoEvents();
     const std::string found = run.direct ? "" : FindStartFile(form.TmpBatName);
@@ -52,6 +53,21 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     StartEmulatorProgram(run);
     (void)services.files.ChangeDirectory(form.AppDir);
     FinishStart(notedTitle);
+}
+
+// Nothing has been started: the window is as it was, with the focus where it was.
+void GameLaunch::ReturnToLists(forms::Control* focus) {
+    // Of another game that runs the window goes on telling.
+    if (form.EmulatorRuns()) return;
+    hooks.LeaveChoice();
+    busy.HideAll(true);
+    hooks.RefreshList();
+    if (focus) focus->SetFocus();
+    if (form.Focus()) return;
+    for (forms::ListBox* list :
+         {&form.FavoritenListe, &form.WIthoutDoubles, &form.UAE_Short, &form.SuchErgList}) {
+        if (list->Visible()) return list->SetFocus();
+    }
 }
 
 int GameLaunch::Number(const char* key, const char* missing) const {
@@ -72,6 +88,8 @@ void GameLaunch::Prepare(Run& run) {
     form.TmpBatName = support::RemoveQuotes(form.TmpBatName);
     hooks.SetToNormal();
     busy.HideAll(false);
+    // The one tab that the busy state leaves; it would stand there alone.
+    form.Label4.SetVisible(false);
     // Relative paths in the profile are meant from here.
     (void)services.files.ChangeDirectory(form.AppDir);
     std::string entry = run.argument;

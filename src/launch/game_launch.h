@@ -28,6 +28,8 @@ class GameLaunch {
         core::Hook<void(const std::string&)> MountGameImage;
         core::Hook<void()> RunStartScript;
         core::Hook<void(bool)> JoystickEnable;
+        core::Hook<void()> LeaveChoice;  // of an emulator, whose row has not been loaded
+        core::Hook<void()> RefreshList;  // the list in front, the tabs and their counts
     };
 
     struct Services {
@@ -83,6 +85,7 @@ class GameLaunch {
     void ShowLoadingAndMount(const Run& run);
     void StartEmulatorProgram(const Run& run);
     void FinishStart(const std::string& notedTitle);
+    void ReturnToLists(forms::Control* focus);
 
     core::Form1& form;
     core::Ini& ini;

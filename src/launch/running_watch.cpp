@@ -24,11 +24,18 @@ void RunningWatch::WatchOnce() {
     if (!form.CurrentRunninApplication.empty()) EmuActiveTimer_Timer();
 }
 
-void RunningWatch::ShowRunning() {
-    form.AppRunningPicture.SetVisible(true);
+void RunningWatch::HideListsOfRunning() {
+    if (!form.EmulatorRuns()) return;
     busy.HideAll(false);
     // The one tab that the busy state leaves; it would stand there alone.
     form.Label4.SetVisible(false);
+}
+
+void RunningWatch::ShowRunning() {
+    form.AppRunningPicture.SetVisible(true);
+    // A change of emulator looks once, long after the last game: what it shows must go again.
+    form.EmuActiveTimer.SetEnabled(true);
+    HideListsOfRunning();
     form.MyCaptionLabel.SetVisible(true);
     form.MyCaptionLabel.SetCaption(form.Say("Gestartet: ", "Running: ") +
                                    form.CurrentRunninApplication);
@@ -39,7 +46,7 @@ void RunningWatch::EndOfGame() {
     form.EmuListbox.SetVisible(false);
     events.DoEvents();
     form.EmuListbox.SetVisible(visible);
-    hooks.ShowEmulatorBox(false);
+    hooks.CloseChoice();
     hooks.WIthoutDoubles_GotFocus();
     form.EmuActiveTimer.SetEnabled(false);
     form.EmuListbox.SetVisible(true);
@@ -50,6 +57,8 @@ void RunningWatch::EndOfGame() {
     hooks.RefreshList();
     if (ini.ReadIniNumber(settings, "UseJoystick", form.BaseIniName, "1", true) >= 1)
         hooks.JoystickEnable(true);
+    // In place of what ran, and of the count of joysticks.
+    form.MyCaptionLabel.SetCaption(form.Caption());
     hooks.SetToTop();
 }
 

@@ -14,7 +14,7 @@ namespace kivu::launch {
 class RunningWatch {
  public:
     struct Hooks {
-        core::Hook<void(bool)> ShowEmulatorBox;
+        core::Hook<void()> CloseChoice;
         core::Hook<void()> WIthoutDoubles_GotFocus;
         core::Hook<void()> RefreshList;
         core::Hook<void()> Label1_Click;
@@ -38,6 +38,8 @@ class RunningWatch {
     void AppRunningPicture_Click();
     void LoadingBtn_Click();
     void LoadingBtn_Change();
+    // A list that another routine has brought up meanwhile goes again, while an emulator runs.
+    void HideListsOfRunning();
     // The one look that a change of emulator takes; nothing to do until something has been started.
     void WatchOnce();
 

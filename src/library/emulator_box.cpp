@@ -36,49 +36,65 @@ void EmulatorBox::Close() {
     if (form.EmuListbox.ListIndex() != form.EmuBoxIndexSaved)
         form.EmuListbox.SetListIndex(form.EmuBoxIndexSaved);
     form.EmuListLocked = false;
-    if (coloursKept) {
+    if (choiceOpen) {
         form.EmuListbox.SetBackColor(form.EmuListboxBackColor);
         form.EmuListbox.SetForeColor(form.EmuListboxForeColor);
-        coloursKept = false;
+        choiceOpen = false;
     }
-    if (form.EmuListbox.ListIndex() >= 0) form.EmuListbox.SetText(form.EmuListbox.SelectedText());
+    if (form.EmuListbox.ListIndex() >= 0) {
+        form.EmuListbox.SetText(form.EmuListbox.SelectedText());
+    } else {
+        hooks.WritePrompt();
+    }
     busy.HideAll(false);
     form.EmulatorLongListbox.SetVisible(false);
 }
 
 void EmulatorBox::Open() {
-    form.EmuListbox.SetWidth(form.EmulatorLongListbox.Width());
     form.SettingsBtn.SetVisible(false);
     form.SettingsShortBtn.SetVisible(true);
     busy.HideAll(false);
-    form.Label1.SetVisible(true);
-    form.Label1.SetLeft(form.Width() - form.Label1.Width() - 400);
-    // The tab stands on the corner's picture now.
-    form.Label1.BringToFront();
+    form.EmulatorLongListbox.SetFont(form.Label4.GetFont());
     form.EmulatorLongListbox.SetVisible(true);
-    form.EmuBoxIndexSaved = form.EmuListbox.ListIndex();
+    // Opened once more, the drop-down stands on whatever row has been looked at meanwhile.
+    if (!choiceOpen) form.EmuBoxIndexSaved = form.EmuListbox.ListIndex();
     form.EmuListLocked = false;
     form.ListMode = "5";
+    PutChoiceInFront();
     hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
     hooks.ApplyListColors();
-    if (!coloursKept) {
+    if (!choiceOpen) {
         form.EmuListboxBackColor = form.EmuListbox.BackColor();
         form.EmuListboxForeColor = form.EmuListbox.ForeColor();
-        coloursKept = true;
+        choiceOpen = true;
     }
     form.EmuListbox.SetBackColor(forms::Rgb(0, 0, 0));
     form.EmuListbox.SetForeColor(forms::Rgb(255, 255, 255));
     form.EmulatorLongListbox.SetForeColor(forms::Rgb(0, 0, 0));
     form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
     // A letter typed here starts a search, so the box is there.
-    form.SearchDblsTxt.SetVisible(true);
+    if (!form.EmulatorRuns()) form.SearchDblsTxt.SetVisible(true);
+}
+
+// Only the favourites' tab goes with it, at the right edge.
+void EmulatorBox::PutChoiceInFront() {
+    form.EmuListbox.SetWidth(form.EmulatorLongListbox.Width());
+    hooks.ArrangeTabs();
+    form.Label1.SetVisible(true);
+    form.Label1.SetLeft(form.Width() - form.Label1.Width() - 400);
+    // The tab stands on the corner's picture now.
+    form.Label1.BringToFront();
+}
+
+void EmulatorBox::CloseChoice() {
+    ShowEmulatorBox(false);
+    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
 }
 
 void EmulatorBox::LeaveEmulatorBox() {
     busy.HideAll(false);
-    ShowEmulatorBox(false);
-    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
+    CloseChoice();
     const bool favourites = form.FavoritenListe.ListCount() > 0;
     form.ListMode = favourites ? "1" : "2";
     busy.HideAll(true);
@@ -89,6 +105,7 @@ void EmulatorBox::LeaveEmulatorBox() {
     } else {
         hooks.Label2_Click();
     }
+    hooks.HideListsOfRunning();
 }
 
 void EmulatorBox::EmuListbox_Click() {
@@ -130,6 +147,7 @@ void EmulatorBox::EmuListbox_KeyPress(forms::Character& character) {
 }
 
 void EmulatorBox::StartSearchWith(char32_t letter) {
+    if (form.EmulatorRuns()) return;
     form.SearchDblsTxt.SetVisible(true);
     form.SearchDblsTxt.SetText(std::string(1, static_cast<char>(letter)));
     form.SearchDblsTxt.SetFocus();
@@ -161,6 +179,12 @@ void EmulatorBox::EmulatorLongListbox_Click() {
 
 void EmulatorBox::EmulatorLongListbox_GotFocus() {
     form.ListMode = "10";
+    if (!choiceOpen) return;
+    // A search or the favourites of all emulators may have been over it.
+    form.FavoritenListeGlobal.SetVisible(false);
+    form.DeLFav.SetVisible(false);
+    hooks.RebuildLayout();
+    PutChoiceInFront();
 }
 
 void EmulatorBox::EmulatorLongListbox_KeyPress(forms::Character& character) {

@@ -17,6 +17,9 @@ class EmulatorBox {
     struct Hooks {
         core::Hook<void(bool)> SelectEmulator;
         core::Hook<void()> RebuildLayout;
+        core::Hook<void()> ArrangeTabs;
+        core::Hook<void()> HideListsOfRunning;  // an emulator that runs keeps all lists away
+        core::Hook<void()> WritePrompt;         // no emulator is loaded
         core::Hook<void()> Label1_Click;
         core::Hook<void()> Label2_Click;
         core::Hook<void()> SetVorschau;
@@ -32,8 +35,12 @@ class EmulatorBox {
     void FillEmulatorLists();
     // Opens or closes the long list.
     void ShowEmulatorBox(bool Show);
-    // Closes the choice and leaves the emulator as it was.
+    // Closes the choice, and the drop-down goes back to the emulator that is loaded.
+    void CloseChoice();
+    // The same, with the emulator's games in front.
     void LeaveEmulatorBox();
+    // From its opening until it is closed, also while something hides the long list.
+    bool ChoiceIsOpen() const { return choiceOpen; }
 
     void EmuListbox_Click();
     void EmuListbox_DblClick();
@@ -51,6 +58,7 @@ class EmulatorBox {
  private:
     void Open();
     void Close();
+    void PutChoiceInFront();
     void StartSearchWith(char32_t letter);
 
     core::Form1& form;
@@ -59,7 +67,7 @@ class EmulatorBox {
     core::BusyState& busy;
     bool showing = false;
     bool takingFocus = false;
-    bool coloursKept = false;  // the drop-down wears those of the open choice
+    bool choiceOpen = false;
 };
 
 }  // namespace kivu::library

@@ -100,9 +100,12 @@ std::string GameLists::PathOnDisk(std::string_view stored) const {
 }
 
 void GameLists::LoadBtn_Click() {
-    if (form.Busy) return;
+    // With no emulator loaded there is no directory to look into but the program's own.
+    if (form.Busy || form.CurrentEmuIndex < 0) return;
     const core::Raised working(form.Busy);
+    hooks.LeaveChoice();
     const std::string noted = form.Caption();
+    const std::string sign = form.LoadingBtn.Caption(), titleLine = form.MyCaptionLabel.Caption();
     form.LoadBtn.SetEnabled(false);
     busy.HideAll(false);
     form.UAE_Short.Clear();
@@ -124,10 +127,21 @@ void GameLists::LoadBtn_Click() {
         ApplyAliasList(aliases, ";");
     }
     SaveCache();
+    ShowRescannedList();
+    form.SetCaption(noted);
+    form.MyCaptionLabel.SetCaption(noted);
+    if (!form.EmulatorRuns()) return;
+    // The window goes on telling about the emulator that runs.
+    form.LoadingBtn.SetCaption(sign);
+    form.MyCaptionLabel.SetCaption(titleLine);
+    hooks.HideListsOfRunning();
+}
+
+void GameLists::ShowRescannedList() {
     form.UAE_Short.SetVisible(true);
     form.LoadingBtn.SetCaption("Loading...");
     hooks.EmuListbox_Click();
-    hooks.ArrangeLists();
+    hooks.RefreshList();
     UpdateListCaptions();
     ini.WriteIniValue(settings, "RomCount", std::to_string(form.UAE_FULL.ListCount()), form.IniPath,
                       true);
@@ -135,11 +149,9 @@ void GameLists::LoadBtn_Click() {
     // The list in front is the complete one: in the mode of an open emulator list, Escape would not
     // ask to quit and the next resize would open that list.
     form.ListMode = "3";
-    hooks.ArrangeLists();
+    hooks.RefreshList();
     form.EmuListbox.SetVisible(true);
     form.LoadBtn.SetEnabled(true);
-    form.SetCaption(noted);
-    form.MyCaptionLabel.SetCaption(noted);
 }
 
 // The comma list, walked by characters: a comma at the very end belongs to the last pattern.
@@ -267,13 +279,19 @@ void GameLists::AddToALL_LIST() {
 void GameLists::ReloadEmulatorsAll() {
     const std::string noted = form.Caption();
     for (int row = 0; row < form.EmuListbox.ListCount(); ++row) {
+        const std::string mode = form.ListMode;
         form.EmuListbox.SetListIndex(row);
-        if (form.EmuListbox.SelectedText() == "-ALL-") continue;
+        if (form.EmuListbox.SelectedText() == "-ALL-") {
+            form.ListMode = mode;
+            continue;
+        }
         hooks.SelectEmulator(true);
         if (form.Ended) return;
         LoadBtn_Click();
         pacer.DoEvents();
     }
+    // The reserved name may have been the last row.
+    hooks.LeaveChoice();
     form.SetCaption(noted);
 }
 

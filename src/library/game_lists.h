@@ -17,7 +17,9 @@ class GameLists {
  public:
     struct Hooks {
         core::Hook<void()> EmuListbox_Click;
-        core::Hook<void()> ArrangeLists;
+        core::Hook<void()> RefreshList;  // the list in front, the tabs and their counts
+        core::Hook<void()> LeaveChoice;  // of an emulator, whose row has not been loaded
+        core::Hook<void()> HideListsOfRunning;
         core::Hook<void(bool)> SelectEmulator;
     };
 
@@ -49,6 +51,7 @@ class GameLists {
     void ScanPattern(const std::string& pattern);
     void CutNames();
     void SaveCache();
+    void ShowRescannedList();
     // The display names, a run of equal ones once, empty ones left out.
     std::vector<const std::string*> NamesWithoutDoubles() const;
 

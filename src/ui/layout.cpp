@@ -50,7 +50,9 @@ void Layout::Form_Resize() {
         ResizeSettingsWindow();
         form.TopRightPic.SetLeft(form.Width() - form.TopRightPic.Width() - 230);
         SetVorschau();
-        form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+        // The open choice keeps it as wide as its list.
+        form.EmuListbox.SetWidth(form.ChoiceInFront() ? form.EmulatorLongListbox.Width()
+                                                      : WidthOfEmuListbox());
         const int top = form.EmuListbox.Bottom() + 150;
         if (top == form.FavoritenListe.Top()) break;
         form.FavoritenListe.SetTop(top);
@@ -83,6 +85,10 @@ void Layout::PlaceLists() {
     }
 }
 
+int Layout::WidthOfEmuListbox() const {
+    return static_cast<int>(220 * form.EmuListbox.FontSize());
+}
+
 void Layout::PlaceBusySigns() {
     const forms::ListBox& lists = form.FavoritenListe;
     form.LoadingBtn.Move(lists.Left(), lists.Top(), lists.Width(), lists.Height());
@@ -90,9 +96,10 @@ void Layout::PlaceBusySigns() {
     running.SetLeft(lists.Left() + (lists.Width() - running.Width()) / 2);
     running.SetTop(lists.Top() + lists.Height() / 2 + 900);
     const forms::ComboBox& box = form.EmuListbox;
+    // It shows beside a closed choice alone.
+    const int left = box.Left() + WidthOfEmuListbox() + tabGap;
     form.Current_LoadingSmallBtn.Move(
-        box.Right() + tabGap, box.Top(),
-        std::max(0, form.TopRightPic.Left() - box.Right() - 2 * tabGap), box.Height());
+        left, box.Top(), std::max(0, form.TopRightPic.Left() - left - tabGap), box.Height());
 }
 
 void Layout::SetVorschau() {

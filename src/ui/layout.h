@@ -21,6 +21,8 @@ class Layout {
     void ResizeSettingsWindow();
     // The list of the mode in front, and the tabs.
     void ArrangeLists();
+    // The tabs alone, as the mode has them.
+    void ArrangeTabs();
     // The tabs in their row; a new count makes one wider.
     void PlaceTabs();
     // The place of the preview picture.
@@ -47,7 +49,7 @@ class Layout {
     void PlaceDrivesHome();
     void PlaceFavouriteButtons();
     void ShowListOfMode();
-    void ArrangeTabs();
+    int WidthOfEmuListbox() const;
     void FitTabs(int left, bool choosing);
 
     core::Form1& form;

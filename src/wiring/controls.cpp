@@ -105,7 +105,7 @@ void Launcher::Routines::JoinLists() {
     form.Label1.onClick = [this] { listEvents.Label1_Click(); };
     // While the search box has the focus, the tabs show over the open list of emulators.
     const auto closeChoice = [this] {
-        if (form.EmulatorLongListbox.Visible()) emulatorBox.LeaveEmulatorBox();
+        if (emulatorBox.ChoiceIsOpen()) emulatorBox.LeaveEmulatorBox();
     };
     form.Label2.onClick = [this, closeChoice] { closeChoice(), listEvents.Label2_Click(); };
     form.Label3.onClick = [this, closeChoice] { closeChoice(), listEvents.Label3_Click(); };

@@ -34,6 +34,7 @@ void Launcher::Routines::JoinCore() {
     auto& change = emulatorSwitch.hooks;
     change.ShowEmulatorBox = [this](bool show) { emulatorBox.ShowEmulatorBox(show); };
     change.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
+    change.HideListsOfRunning = [this] { watch.HideListsOfRunning(); };
     change.RebuildLayout = [this] { RefreshList(); };
     change.ArrangeWindow = [this] { layout.Form_Resize(); };
     change.SetVorschau = [this] { layout.SetVorschau(); };
@@ -56,12 +57,17 @@ void Launcher::Routines::JoinCore() {
 
 void Launcher::Routines::JoinLibrary() {
     gameLists.hooks.EmuListbox_Click = [this] { emulatorBox.EmuListbox_Click(); };
-    gameLists.hooks.ArrangeLists = [this] { layout.ArrangeLists(); };
+    gameLists.hooks.RefreshList = [this] { RefreshList(); };
+    gameLists.hooks.LeaveChoice = [this] { LeaveChoice(); };
+    gameLists.hooks.HideListsOfRunning = [this] { watch.HideListsOfRunning(); };
     gameLists.hooks.SelectEmulator = [this](bool global) { emulatorSwitch.SelectEmulator(global); };
 
     auto& box = emulatorBox.hooks;
     box.SelectEmulator = [this](bool global) { emulatorSwitch.SelectEmulator(global); };
     box.RebuildLayout = [this] { RefreshList(); };
+    box.ArrangeTabs = [this] { layout.ArrangeTabs(); };
+    box.HideListsOfRunning = [this] { watch.HideListsOfRunning(); };
+    box.WritePrompt = [this] { startUp.WritePrompt(); };
     box.Label1_Click = [this] { listEvents.Label1_Click(); };
     box.Label2_Click = [this] { listEvents.Label2_Click(); };
     box.SetVorschau = [this] { layout.SetVorschau(); };
@@ -86,7 +92,7 @@ void Launcher::Routines::JoinLibrary() {
 }
 
 void Launcher::Routines::JoinLaunch() {
-    watch.hooks.ShowEmulatorBox = [this](bool show) { emulatorBox.ShowEmulatorBox(show); };
+    watch.hooks.CloseChoice = [this] { emulatorBox.CloseChoice(); };
     watch.hooks.WIthoutDoubles_GotFocus = [this] { listEvents.WIthoutDoubles_GotFocus(); };
     watch.hooks.RefreshList = [this] { RefreshList(); };
     watch.hooks.Label1_Click = [this] { listEvents.Label1_Click(); };
@@ -96,6 +102,8 @@ void Launcher::Routines::JoinLaunch() {
     // An emulator's window must not come up behind the launcher's.
     gameLaunch.hooks.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
     gameLaunch.hooks.SetWindowBackToNormal = [this] { alwaysOnTop.SetWindowBackToNormal(); };
+    gameLaunch.hooks.LeaveChoice = [this] { LeaveChoice(); };
+    gameLaunch.hooks.RefreshList = [this] { RefreshList(); };
 
     handedFile.hooks.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
     handedFile.hooks.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };

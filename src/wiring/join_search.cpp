@@ -18,10 +18,7 @@ void Launcher::Routines::JoinSearch() {
 
     auto& all = globalSearch.hooks;
     all.RebuildLayout = [this] { RefreshList(); };
-    all.CloseEmulatorChoice = [this] {
-        emulatorBox.ShowEmulatorBox(false);
-        form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
-    };
+    all.CloseEmulatorChoice = [this] { emulatorBox.CloseChoice(); };
     all.ShowEmulatorPreview = [this](int row) { emulatorBox.hooks.ShowEmulatorPreview(row); };
     // A hit is started as the user would do it: choose the emulator, search there.
     all.EmuListbox_GotFocus = [this] { emulatorBox.EmuListbox_GotFocus(); };

@@ -84,6 +84,17 @@ void Launcher::Routines::EndProgram() {
     if (endProgram) endProgram();
 }
 
+void Launcher::Routines::LeaveChoice() {
+    if (emulatorBox.ChoiceIsOpen()) {
+        emulatorBox.LeaveEmulatorBox();
+        return;
+    }
+    // A row that is chosen there counts as a click, which opens the choice.
+    const std::string mode = form.ListMode;
+    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
+    form.ListMode = mode;
+}
+
 void Launcher::Routines::RefreshList() {
     globalSearch.LeaveResults();
     layout.ArrangeLists();

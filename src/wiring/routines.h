@@ -105,6 +105,8 @@ struct Launcher::Routines {
     void EndProgram();
     // The list in front, the tabs and their counts.
     void RefreshList();
+    // No choice of an emulator is open, and the drop-down stands on the one that is loaded.
+    void LeaveChoice();
 
  private:
     void JoinCore();

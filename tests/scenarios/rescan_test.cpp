@@ -155,6 +155,31 @@ TEST_F(Rescan, ScanOfAllEmulatorsCollectsTheFormerCaches) {
     EXPECT_THAT(global, ::testing::Not(HasSubstr("Dog (1993)(Maker)")));
     EXPECT_EQ(CacheLines("Beta"), 4);
     EXPECT_FALSE(tree.Exists("Config/-ALL-/Kivu_Cache.txt"));
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), Get("CurrentEmuIndex"));
+}
+
+TEST_F(Rescan, ReservedNameInTheLastRowIsNotLeftInTheDropDown) {
+    std::filesystem::remove_all(tree.Path("Config/Beta"));
+    std::filesystem::rename(tree.Path("Config/Alpha"), tree.Path("Config/!Alpha"));
+    tree.AddEmulator("-ALL-");
+    tree.WriteProgramProfile({{"LastEmulator", "!Alpha"}});
+    Start();
+    const int reserved = Get("EmuListbox.List")[1] == "-ALL-" ? 1 : 0;
+    Call("ReloadEmulatorsAll");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 1 - reserved);
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 1 - reserved);
+    EXPECT_EQ(Get("ListMode"), "3");
+}
+
+TEST_F(Rescan, RescanOverTheHitsOfAllEmulatorsTakesTheirCaptionAway) {
+    Start();
+    Do("set", "Form1.SearchDblsTxt.Text", "maker");
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    ASSERT_TRUE(Visible("GlobalSearchList"));
+    Scan();
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+    EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_EQ(Get("Label4.Caption"), " Search results (0) ");
 }
 
 TEST_F(Rescan, SwitchThatCollectsAppendsTheNewCacheUnderACaptionOfItsOwn) {

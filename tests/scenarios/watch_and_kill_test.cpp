@@ -8,7 +8,8 @@ class Watch : public LoadedScenario {
     void Tick() { Do("tick", "Form1.EmuActiveTimer"); }
     void ExpectListView() {
         EXPECT_FALSE(Visible("AppRunningPicture"));
-        EXPECT_FALSE(Visible("MyCaptionLabel"));
+        EXPECT_EQ(Get("MyCaptionLabel.Caption"), Get("Caption"));
+        EXPECT_TRUE(Visible("MyCaptionLabel"));
         EXPECT_FALSE(Visible("LoadingBtn"));
         EXPECT_TRUE(Visible("EmuListbox"));
         EXPECT_TRUE(Visible("WIthoutDoubles"));
