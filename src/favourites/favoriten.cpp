@@ -63,7 +63,7 @@ void Favoriten::SaveFavoriten() {
             ++skipped;
             continue;
         }
-        Write(*profile, written++, entry.Name, support::MakeRelativePath(base, entry.FullPath));
+        Write(*profile, written++, entry.Name, support::PathToStore(base, entry.FullPath));
     }
     if (count > 0 && written == 0) return;
     if (count == 0) Write(*profile, 0, "", "");

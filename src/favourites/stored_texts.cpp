@@ -26,16 +26,13 @@ std::string StoredTexts::Path(std::string_view section, std::string_view key,
                               std::string_view base) const {
     const std::string decoded = texts.Value(section, key);
     if (decoded.empty()) return decoded;
+    const auto absolute = [&](const std::string& path) { return Absolute(path, base); };
     if (bytes && support::NamesAreBytes(*files)) {
-        // The bytes are this host's own name for the file where a file of that name is there;
-        // otherwise another host has written them in its code page.
         const std::string plain = bytes->Value(section, key);
-        if (!support::IsUtf8(plain)) {
-            const std::string path = Absolute(plain, base);
-            if (files->FileExists(path)) return path;
-        }
+        if (!support::IsUtf8(plain))
+            return absolute(support::NameOfStoredBytes(*files, plain, absolute));
     }
-    return Absolute(decoded, base);
+    return absolute(decoded);
 }
 
 std::string StoredTexts::Absolute(const std::string& stored, std::string_view base) const {

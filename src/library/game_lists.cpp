@@ -89,14 +89,11 @@ void GameLists::FillFromCache(const std::string& bytes) {
     form.UAE_Short.AddItems(std::move(names));
 }
 
-// A cache that a Windows host wrote holds its code page; one that this host wrote holds names as
-// their bytes, which must stay when a file of that name is there.
 std::string GameLists::PathOnDisk(std::string_view stored) const {
     if (support::IsUtf8(stored)) return std::string(stored);
-    if (!support::NamesAreBytes(files)) return files.DecodeText(stored);
-    std::string plain(stored);
-    if (files.FileExists(support::StoredPath(form.BaseDirectory(), plain))) return plain;
-    return files.DecodeText(stored);
+    return support::NameOfStoredBytes(files, std::string(stored), [this](const std::string& path) {
+        return support::StoredPath(form.BaseDirectory(), path);
+    });
 }
 
 void GameLists::LoadBtn_Click() {
@@ -197,7 +194,7 @@ void GameLists::SaveCache() {
     const std::string base = form.BaseDirectory();
     std::string cache;
     for (int row = 0; row < form.UAE_FULL.ListCount(); ++row) {
-        AppendCacheEntry(cache, support::MakeRelativePath(base, form.UAE_FULL.List(row)),
+        AppendCacheEntry(cache, support::PathToStore(base, form.UAE_FULL.List(row)),
                          form.UAE_Short.List(row));
     }
     // A disk that is full or read-only keeps the former cache; the lists in memory are the new

@@ -154,6 +154,11 @@ std::string MakeAbsolutePosix(std::string_view base, std::string_view path) {
     return JoinPosix(base, path);
 }
 
+// The same file to Windows, which takes either separator and any case.
+bool IsSameWindowsPath(std::string_view a, std::string_view b) {
+    return a == b || EqualsNoCase(Turned(a, '/', '\\'), Turned(b, '/', '\\'));
+}
+
 }  // namespace
 
 std::string QuoteIfNeeded(std::string_view text) {
@@ -179,6 +184,12 @@ std::string StoredPath(std::string_view base, std::string_view text) {
     if (IsPosix(base)) return MakeAbsolutePosix(base, text);
     if (text.find('/') != kNone) return StoredPath(base, Turned(text, '/', '\\'));
     return IsNetworkShare(text) ? std::string(text) : MakeAbsoluteWindows(base, text);
+}
+
+std::string PathToStore(std::string_view base, std::string_view fullPath) {
+    std::string relative = MakeRelativePath(base, fullPath);
+    if (IsPosix(base) || IsSameWindowsPath(StoredPath(base, relative), fullPath)) return relative;
+    return std::string(fullPath);
 }
 
 std::string ProfilePath(std::string_view base, std::string_view text, const PathTest& exists) {

@@ -36,6 +36,10 @@ std::string MakeAbsolutePath(std::string_view base, std::string_view path);
 // ("\\server\share\...") comes back as it is: it is how MakeRelativePath leaves one.
 std::string StoredPath(std::string_view base, std::string_view text);
 
+// What a cache or a list of favourites keeps of an absolute path: MakeRelativePath, or the path as
+// it stands where the Windows rule has cut it so that StoredPath would not lead back to the file.
+std::string PathToStore(std::string_view base, std::string_view fullPath);
+
 // StoredPath for a profile field that the user may have written by hand: a path from the root that
 // exists as it stands, and does not below the base, is taken as it stands. `exists` is asked for
 // files and directories, and only about a text that begins with "/" under the POSIX rule.

@@ -20,6 +20,16 @@ bool NamesAreBytes(const platform::FileSystem& files) {
     return files.Separator() == '/';
 }
 
+std::string NameOfStoredBytes(const platform::FileSystem& files, const std::string& stored,
+                              const std::function<std::string(const std::string&)>& absolute) {
+    std::string decoded = files.DecodeText(stored);
+    const bool fromWindows = stored.starts_with('\\') || stored.starts_with("..\\");
+    if (!NamesAreBytes(files) || fromWindows) return decoded;
+    const bool onlyDecoded =
+        !files.FileExists(absolute(stored)) && files.FileExists(absolute(decoded));
+    return onlyDecoded ? decoded : stored;
+}
+
 std::string DirectoryOf(const platform::FileSystem& files, const std::string& path) {
     return GetFilePath(path,
                        [&](const std::string& candidate) { return files.IsDirectory(candidate); });

@@ -151,6 +151,19 @@ TEST_F(FavoritenTest, OnWindowsPathsAreCutAndGivenBack) {
     EXPECT_EQ(there.Names(), (Texts{"Übung", "B"}));
 }
 
+TEST_F(FavoritenTest, OnWindowsAPathThatOnlyBeginsLikeTheProgramsComesBack) {
+    testing::MemoryFileSystem windows('\\');
+    windows.AddDirectory("C:\\Kivu\\Config\\Amiga");
+    Room there(windows, "C:\\Kivu");
+    there.store.AddFavoritEntry("A", "C:\\Kivu2\\Roms\\A.adf", 0, false);
+    there.store.SaveFavoriten();
+    EXPECT_EQ(windows.BytesOf(there.form.FavoritenIni),
+              "[Favoriten]\r\nFav0_Name=A\r\nFav0_FullPath=C:\\Kivu2\\Roms\\A.adf\r\n");
+    there.store.LoadFavoriten();
+    ASSERT_EQ(there.store.Entries().size(), 1U);
+    EXPECT_EQ(there.store.Entries()[0].FullPath, "C:\\Kivu2\\Roms\\A.adf");
+}
+
 TEST_F(FavoritenTest, SaveThatChangesNothingDoesNotWrite) {
     Add("ABC");
     disk.changes.clear();

@@ -99,6 +99,26 @@ TEST_F(OddStoresTest, PathWithForeignBytesKeepsThemWhereTheFileIsThere) {
     EXPECT_EQ(room.store.FindByPathPart("Käfer"), 0);
 }
 
+TEST_F(OddStoresTest, PathWithForeignBytesKeepsThemWhileItsDriveIsAway) {
+    const std::string stored = "[Favoriten]\r\nFav0_Name=A\r\nFav0_FullPath=../media/\xe4.adf\r\n";
+    Store(stored);
+    room.store.LoadFavoriten();
+    ASSERT_EQ(room.store.Entries().size(), 1U);
+    EXPECT_EQ(room.store.Entries()[0].FullPath, "/media/\xe4.adf");
+    room.store.SaveFavoriten();
+    EXPECT_EQ(disk.BytesOf(room.form.FavoritenIni), stored);
+}
+
+TEST_F(OddStoresTest, PathOfAnotherCodePageIsDecodedWhereOnlyThatNameIsThere) {
+    disk.AddFile("/k/Games/Käfer.adf", "");
+    Store(
+        "[Favoriten]\r\nFav0_Name=A\r\nFav0_FullPath=/Games/K\xe4"
+        "fer.adf\r\n");
+    room.store.LoadFavoriten();
+    ASSERT_EQ(room.store.Entries().size(), 1U);
+    EXPECT_EQ(room.store.Entries()[0].FullPath, "/k/Games/Käfer.adf");
+}
+
 TEST_F(OddStoresTest, FileOfAWindowsHostIsReadInItsCodePage) {
     Store(
         "[Favoriten]\r\nFav0_Name=K\xe4"

@@ -71,10 +71,29 @@ TEST_F(ListFilling, ACacheInAnotherOrderIsSortedWithItsNames) {
     EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("name of a", "name of \xC3\xA4", "name of b"));
 }
 
-TEST_F(ListFilling, ACacheOfAnotherCodePageBecomesReadable) {
+TEST_F(ListFilling, ACacheOfAnotherCodePageBecomesReadableWhereTheGameIsThere) {
+    files.AddFile("/kivu/\xC3\xA4.adf", "");
     LoadCache("/\xE4.adf\r\n\xE4\r\n/b.adf\r\n\xC3\xB6\r\n");
     EXPECT_THAT(form.UAE_FULL.Rows(), ElementsAre("/kivu/\xC3\xA4.adf", "/kivu/b.adf"));
     EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("\xC3\xA4", "\xC3\xB6"));
+}
+
+TEST_F(ListFilling, BytesThatAreNoTextStayForADriveThatIsMountedLater) {
+    LoadCache("/media/\xE4.adf\r\n\xE4\r\n");
+    EXPECT_THAT(form.UAE_FULL.Rows(), ElementsAre("/kivu/media/\xE4.adf"));
+    EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("\xC3\xA4"));
+}
+
+TEST_F(ListFilling, BytesThatAreNoTextStayWhereBothNamesAreThere) {
+    files.AddFile("/kivu/\xE4.adf", "");
+    files.AddFile("/kivu/\xC3\xA4.adf", "");
+    LoadCache("/\xE4.adf\r\n\xE4\r\n");
+    EXPECT_THAT(form.UAE_FULL.Rows(), ElementsAre("/kivu/\xE4.adf"));
+}
+
+TEST_F(ListFilling, APathOfAWindowsHostIsInItsCodePage) {
+    LoadCache("\\\xE4.adf\r\n\xE4\r\n..\\\xE4.adf\r\n\xE4\r\n");
+    EXPECT_THAT(form.UAE_FULL.Rows(), ElementsAre("/\xC3\xA4.adf", "/kivu/\xC3\xA4.adf"));
 }
 
 struct WindowsListFilling : ListFilling {
@@ -87,6 +106,21 @@ TEST_F(WindowsListFilling, ACacheInTheCodePageGivesTextWhetherTheGameIsThereOrNo
     EXPECT_THAT(form.UAE_FULL.Rows(),
                 ElementsAre("C:\\kivu\\\xC3\xA4.adf", "C:\\kivu\\\xC3\xB6.adf"));
     EXPECT_THAT(form.UAE_Short.Rows(), ElementsAre("\xC3\xA4", "\xC3\xB6"));
+}
+
+TEST_F(WindowsListFilling, AGameBesidesADirectoryThatBeginsLikeTheProgramsComesBack) {
+    form.AppDir = "C:\\kivu\\";
+    form.StartPfad = "C:\\kivu\\Config\\A\\";
+    form.CacheName = form.StartPfad + "Kivu_Cache.txt";
+    files.AddDirectory(form.StartPfad);
+    files.AddFile("C:\\kivu2\\Roms\\a.adf", "");
+    files.AddFile("C:\\kivu2\\Wait..\\b.adf", "");
+    form.TxtRomPath.SetText("C:\\kivu2\\");
+    lists.LoadBtn_Click();
+    const std::vector<std::string> scanned = form.UAE_FULL.Rows();
+    EXPECT_THAT(scanned, ElementsAre("C:\\kivu2\\Roms\\a.adf", "C:\\kivu2\\Wait..\\b.adf"));
+    lists.LoadCacheList();
+    EXPECT_EQ(form.UAE_FULL.Rows(), scanned);
 }
 
 TEST_F(WindowsListFilling, ACacheOfAPosixHostAndOneOfANetworkShareGivePathsThatExist) {

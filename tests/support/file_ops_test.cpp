@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "support/text.h"
+
 namespace kivu::support {
 namespace {
 
@@ -240,6 +242,48 @@ TEST(StoredPath, OnANetworkShareComesBack) {
     EXPECT_EQ(StoredPath(kWindowsBase, "\\\\\\x"), "C:\\Kivu\\\\\\x");
     EXPECT_EQ(StoredPath("\\\\server\\kivu", "\\x"), "\\\\server\\kivu\\x");
     EXPECT_EQ(StoredPath("\\\\server\\kivu", "..\\roms\\x.adf"), share);
+}
+
+TEST(PathToStore, IsTheRelativeFormWhereThatLeadsBack) {
+    EXPECT_EQ(PathToStore(kWindowsBase, "C:\\Kivu\\Roms\\x.adf"), "\\Roms\\x.adf");
+    EXPECT_EQ(PathToStore(kWindowsBase, "c:\\KIVU\\Roms\\x.adf"), "\\Roms\\x.adf");
+    EXPECT_EQ(PathToStore(kWindowsBase, "C:\\Kivu/Roms/x.adf"), "/Roms/x.adf");
+    EXPECT_EQ(PathToStore(kWindowsBase, "C:\\Roms\\x.adf"), "..\\Roms\\x.adf");
+    EXPECT_EQ(PathToStore(kWindowsBase, "D:\\Roms\\x.adf"), "D:\\Roms\\x.adf");
+    EXPECT_EQ(PathToStore(kPosixBase, "/opt/kivu/roms/x"), "/roms/x");
+    EXPECT_EQ(PathToStore(kPosixBase, "/opt/kivu2/roms/x"), "../kivu2/roms/x");
+}
+
+TEST(PathToStore, IsThePathAsItStandsWhereTheRelativeFormLeadsElsewhere) {
+    const string besides = "C:\\Kivu2\\Roms\\a.adf";
+    EXPECT_NE(StoredPath(kWindowsBase, MakeRelativePath(kWindowsBase, besides)), besides);
+    for (const string& path : {besides, string("C:\\Ki\\a.adf"), string("C:\\Kivu\\Wait..\\a.adf"),
+                               string("C:\\KI\xC3\x84\\a.adf")}) {
+        EXPECT_EQ(StoredPath(kWindowsBase, PathToStore(kWindowsBase, path)), path);
+    }
+    const string share = "\\\\server\\kivu2\\x.adf";
+    EXPECT_EQ(PathToStore("\\\\server\\kivu", share), share);
+    EXPECT_EQ(StoredPath("\\\\server\\kivu", share), share);
+}
+
+TEST(PathToStore, ComesBackFromEveryRandomWindowsBase) {
+    std::mt19937 random(9);
+    const auto randomPath = [&](int most) {
+        string path = "C:";
+        for (int elements = 1 + static_cast<int>(random() % most); elements > 0; --elements) {
+            path += '\\';
+            for (int letters = 1 + static_cast<int>(random() % 3); letters > 0; --letters)
+                path += "aB."[random() % 3];
+        }
+        return path;
+    };
+    for (int i = 0; i < 50000; ++i) {
+        const string base = randomPath(4);
+        const string path =
+            (random() % 2 == 0 ? base + randomPath(2).substr(2) : randomPath(5)) + "\\x";
+        const string stored = PathToStore(base, path);
+        ASSERT_TRUE(EqualsNoCase(StoredPath(base, stored), path)) << base << " / " << stored;
+    }
 }
 
 TEST(ProfilePath, TakesAHandWrittenPathFromTheRoot) {
