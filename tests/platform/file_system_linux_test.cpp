@@ -1,5 +1,6 @@
 #include "platform/linux/file_system_linux.h"
 
+#include <chrono>
 #include <csignal>
 #include <ctime>
 #include <fcntl.h>
@@ -201,6 +202,28 @@ TEST_F(FileSystemLinux, WritesAndReplaces) {
     EXPECT_FALSE(files.WriteFile(directory.Path("file"), std::string("n\0w", 3)));
     EXPECT_EQ(directory.Read("file"), std::string("n\0w", 3));
     EXPECT_EQ(directory.Count(), 1u);
+}
+
+TEST_F(FileSystemLinux, AWriteTakesAwayWhatKilledOnesHaveLeftBehindLongAgo) {
+    const auto age = [&](const std::string& name, std::chrono::hours hours) {
+        fs::last_write_time(directory.Path(name), fs::file_time_type::clock::now() - hours);
+    };
+    for (const char* name : {".kivu-1f-2a-0.tmp", ".kivu-1f-2a-1.tmp", ".kivu-", ".other-1-2-3.tmp",
+                             "x.kivu-1-2-3.tmp", ".kivu-1-2-3.tmp.adf"}) {
+        directory.Write(name, "half");
+        age(name, std::chrono::hours(25));
+    }
+    directory.Write(".kivu-3f-2a-0.tmp", "still being written");
+    age(".kivu-3f-2a-0.tmp", std::chrono::hours(23));
+    fs::create_directory(directory.Path(".kivu-d-0-0.tmp"));
+    age(".kivu-d-0-0.tmp", std::chrono::hours(25));
+    ASSERT_FALSE(files.WriteFile(directory.Path("file"), "x"));
+    std::vector<std::string> names;
+    for (const auto& entry : fs::directory_iterator(directory.Root()))
+        names.push_back(entry.path().filename());
+    EXPECT_THAT(
+        names, UnorderedElementsAre("file", ".kivu-3f-2a-0.tmp", ".kivu-d-0-0.tmp", ".kivu-",
+                                    ".other-1-2-3.tmp", "x.kivu-1-2-3.tmp", ".kivu-1-2-3.tmp.adf"));
 }
 
 TEST_F(FileSystemLinux, WritesARelativePathAndANameOf255Bytes) {

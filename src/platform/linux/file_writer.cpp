@@ -5,6 +5,8 @@
 #include <climits>
 #include <cstdint>
 #include <cstdio>
+#include <ctime>
+#include <dirent.h>
 #include <fcntl.h>
 #include <optional>
 #include <sys/stat.h>
@@ -17,6 +19,9 @@ namespace {
 
 constexpr int maxLinks = 40;        // what the kernel follows as well
 constexpr int maxNameTrials = 100;  // names of temporary files, each of them new
+constexpr std::string_view temporaryBegin = ".kivu-";
+constexpr std::string_view temporaryEnd = ".tmp";
+constexpr time_t leftOverAge = 24 * 60 * 60;  // seconds
 
 std::error_code LastError() {
     return {errno, std::generic_category()};
@@ -118,6 +123,27 @@ class TemporaryFile {
     FileDescriptor file;
 };
 
+// What a write that was killed in its middle has left behind. A day is longer than any write takes,
+// also one by another computer with its clock astray.
+bool IsLeftOver(int directory, const char* name, time_t now) {
+    const std::string_view text(name);
+    if (!text.starts_with(temporaryBegin) || !text.ends_with(temporaryEnd)) return false;
+    struct stat status {};
+    return ::fstatat(directory, name, &status, AT_SYMLINK_NOFOLLOW) == 0 &&
+           S_ISREG(status.st_mode) && status.st_mtime < now - leftOverAge;
+}
+
+void RemoveLeftOvers(const std::string& directory) {
+    DIR* const entries = ::opendir(directory.empty() ? "." : directory.c_str());
+    if (entries == nullptr) return;
+    const time_t now = ::time(nullptr);
+    while (const dirent* entry = ::readdir(entries)) {
+        if (IsLeftOver(::dirfd(entries), entry->d_name, now))
+            ::unlinkat(::dirfd(entries), entry->d_name, 0);
+    }
+    ::closedir(entries);
+}
+
 // What lies at `path` and may be replaced: empty optional for nothing at all.
 std::error_code LookAtOld(const std::string& path, std::optional<struct stat>& old) {
     struct stat status {};
@@ -150,6 +176,7 @@ std::error_code ReplaceFile(const std::string& path, std::string_view bytes) {
     if (target.ends_with('/')) return std::make_error_code(std::errc::is_a_directory);
 
     const std::string directory = DirectoryPart(target);
+    RemoveLeftOvers(directory);
     TemporaryFile temporary(directory);
     if (const auto failure = temporary.Create(old ? 0600 : 0666)) return failure;
     if (old) temporary.TakeOver(*old);

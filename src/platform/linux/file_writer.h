@@ -6,8 +6,9 @@
 
 namespace kivu::platform {
 
-// Replaces the file in one step; see LinuxFileSystem::WriteFile. On any failure no temporary file
-// stays behind and the old file is as it was.
+// Replaces the file in one step; see LinuxFileSystem::WriteFile. Temporary files beside it that are
+// older than a day are what killed writes have left behind, and go. On any failure no temporary
+// file stays behind and the old file is as it was.
 std::error_code ReplaceFile(const std::string& path, std::string_view bytes);
 
 // Writes behind the file's end; see LinuxFileSystem::AppendFile.

@@ -143,6 +143,34 @@ class TemporaryFile {
     Handle file;
 };
 
+// What a write that was killed in its middle has left behind. A day is longer than any write takes,
+// also one by another computer with its clock astray.
+bool IsLeftOver(const WIN32_FIND_DATAW& entry, const FILETIME& now) {
+    constexpr ULONGLONG day = 24ULL * 60 * 60 * 10'000'000;  // in units of 100 ns
+    const auto ticks = [](const FILETIME& time) {
+        return static_cast<ULONGLONG>(time.dwHighDateTime) << 32 | time.dwLowDateTime;
+    };
+    constexpr DWORD noFile = FILE_ATTRIBUTE_DIRECTORY | FILE_ATTRIBUTE_REPARSE_POINT;
+    return (entry.dwFileAttributes & noFile) == 0 &&
+           ticks(entry.ftLastWriteTime) + day < ticks(now);
+}
+
+// `directory` ends in a separator.
+void RemoveLeftOvers(const std::wstring& directory) {
+    FILETIME now{};
+    ::GetSystemTimeAsFileTime(&now);
+    WIN32_FIND_DATAW entry{};
+    const HANDLE search = ::FindFirstFileW((directory + L".kivu-*.tmp").c_str(), &entry);
+    if (search == INVALID_HANDLE_VALUE) return;
+    do {
+        // A pattern finds short names too, which say nothing about the long one.
+        const std::wstring_view name = entry.cFileName;
+        if (name.starts_with(L".kivu-") && name.ends_with(L".tmp") && IsLeftOver(entry, now))
+            ::DeleteFileW((directory + entry.cFileName).c_str());
+    } while (::FindNextFileW(search, &entry));
+    ::FindClose(search);
+}
+
 // A rename asks only the directory, but a user who protects a file means its content: whatever is
 // replaced or written behind must be a file that can be opened for writing.
 std::error_code CheckOpened(const Opened& opened, const std::wstring& systemPath) {
@@ -198,7 +226,9 @@ std::error_code WriteWhole(const std::wstring& systemPath, std::string_view byte
     std::wstring target = systemPath;
     Heritage heritage;
     if (const auto failure = FindTarget(target, heritage)) return failure;
-    TemporaryFile temporary(target.substr(0, target.rfind(L'\\') + 1));
+    const std::wstring directory = target.substr(0, target.rfind(L'\\') + 1);
+    RemoveLeftOvers(directory);
+    TemporaryFile temporary(directory);
     if (const auto failure = temporary.Create()) return failure;
     if (const auto failure = temporary.Fill(bytes, heritage)) return failure;
     return temporary.RenameTo(target);

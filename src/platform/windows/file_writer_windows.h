@@ -7,8 +7,9 @@
 // By SystemPath; see WindowsFileSystem::WriteFile and AppendFile.
 namespace kivu::platform {
 
-// Replaces the file in one step. On any failure no temporary file stays behind and the old file is
-// as it was.
+// Replaces the file in one step. Temporary files beside it that are older than a day are what
+// killed writes have left behind, and go. On any failure no temporary file stays behind and the old
+// file is as it was.
 std::error_code WriteWhole(const std::wstring& systemPath, std::string_view bytes);
 
 // Writes behind the file's end.

@@ -27,6 +27,19 @@ class FileWriterWindows : public ::testing::Test {
         return ::SetFileTime(file.Get(), &time, nullptr, nullptr) != 0;
     }
 
+    // A file that was written so long ago.
+    void WriteLongAgo(const std::string& name, int hours) const {
+        directory.Write(name, "half");
+        const Handle file(::CreateFileW(directory.WidePath(name).c_str(), FILE_WRITE_ATTRIBUTES, 0,
+                                        nullptr, OPEN_EXISTING, 0, nullptr));
+        FILETIME now{};
+        ::GetSystemTimeAsFileTime(&now);
+        const std::int64_t ticks = (std::int64_t{now.dwHighDateTime} << 32 | now.dwLowDateTime) -
+                                   std::int64_t{hours} * 60 * 60 * 10'000'000;
+        const FILETIME time{static_cast<DWORD>(ticks), static_cast<DWORD>(ticks >> 32)};
+        ASSERT_NE(::SetFileTime(file.Get(), nullptr, nullptr, &time), 0);
+    }
+
     testing::ScratchDirectory directory;
     WindowsFileSystem files;
 };
@@ -39,6 +52,17 @@ TEST_F(FileWriterWindows, WritesAndReplaces) {
     EXPECT_FALSE(files.WriteFile(directory.Path("FILE"), ""));
     EXPECT_EQ(directory.Read("file"), "");
     EXPECT_EQ(directory.Count(), 1u);
+}
+
+TEST_F(FileWriterWindows, AWriteTakesAwayWhatKilledOnesHaveLeftBehindLongAgo) {
+    WriteLongAgo(".kivu-1f-2a-0.tmp", 25);
+    WriteLongAgo(".kivu-1f-2a-1.tmp", 25);
+    WriteLongAgo(".kivu-3f-2a-0.tmp", 23);
+    WriteLongAgo(".other-1-2-3.tmp", 25);
+    EXPECT_FALSE(files.WriteFile(directory.Path("file"), "x"));
+    EXPECT_EQ(directory.Read(".kivu-3f-2a-0.tmp"), "half");
+    EXPECT_EQ(directory.Read(".other-1-2-3.tmp"), "half");
+    EXPECT_EQ(directory.Count(), 3u);
 }
 
 TEST_F(FileWriterWindows, ANewFileIsAnOrdinaryOne) {
