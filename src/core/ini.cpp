@@ -25,6 +25,12 @@ std::string Ini::ReadIniValue(std::string_view section, std::string_view key,
     return std::string(defaultText);
 }
 
+std::string Ini::ReadIniBytes(std::string_view section, std::string_view key,
+                              const std::string& iniFile) const {
+    const auto bytes = files.ReadFile(QualifyIniPath(iniFile));
+    return bytes ? FindIniValue(*bytes, section, key, {}) : std::string();
+}
+
 int Ini::ReadIniNumber(std::string_view section, std::string_view key, const std::string& iniFile,
                        std::string_view defaultText, bool writeBack) {
     return support::ToNumber(ReadIniValue(section, key, iniFile, defaultText, writeBack))

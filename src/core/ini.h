@@ -26,6 +26,11 @@ class Ini {
                              const std::string& iniFile, std::string_view defaultText,
                              bool writeBack);
 
+    // The key's value undecoded, for what may be a file's name: on a host whose names are bytes it
+    // need not be text. Empty where ReadIniValue would give its default.
+    std::string ReadIniBytes(std::string_view section, std::string_view key,
+                             const std::string& iniFile) const;
+
     // ReadIniValue as a 16-bit number: rounded, 0 when it is no number or does not fit.
     int ReadIniNumber(std::string_view section, std::string_view key, const std::string& iniFile,
                       std::string_view defaultText, bool writeBack);

@@ -68,15 +68,29 @@ void IniDocument::Parse() {
 std::string IniDocument::Value(std::string_view section, std::string_view key) const {
     const LineIndex line = FindEntry(IniName::Section(section, coding), IniName::Key(key, coding));
     if (line == kNone) return {};
-    return DecodeIni(coding, ReadableValue(EntryOf(WithoutLineEnd(TextOf(line)))->rawValue));
+    return TextOfRaw(EntryOf(WithoutLineEnd(TextOf(line)))->rawValue);
+}
+
+std::optional<std::string> IniDocument::RawValue(std::string_view section,
+                                                 std::string_view key) const {
+    const LineIndex line = FindEntry(IniName::Section(section, coding), IniName::Key(key, coding));
+    if (line == kNone) return std::nullopt;
+    return std::string(EntryOf(WithoutLineEnd(TextOf(line)))->rawValue);
+}
+
+std::string IniDocument::TextOfRaw(std::string_view rawValue) const {
+    return DecodeIni(coding, ReadableValue(rawValue));
+}
+
+std::string IniDocument::RawOfText(std::string_view value) const {
+    return std::string(WithinLine(EncodeIni(coding, value)));
 }
 
 bool IniDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
     const IniName sectionName = IniName::Section(section, coding);
     const IniName keyName = IniName::Key(key, coding);
     if (!sectionName.IsValid() || !keyName.IsValid()) return false;
-    const std::string encoded = EncodeIni(coding, value);
-    const std::string_view writable = WithinLine(encoded);
+    const std::string writable = RawOfText(value);
     const LineIndex line = FindEntry(sectionName, keyName);
     if (line != kNone && !ReplaceValue(line, writable)) return false;
     if (line == kNone) AddEntry(sectionName, keyName, writable);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -22,6 +23,13 @@ class IniDocument {
     // The value without blanks and one pair of quotes around it. Empty: the key is missing or has
     // no value, which a profile does not tell apart.
     std::string Value(std::string_view section, std::string_view key) const;
+
+    // All that stands behind the "=", blanks and quotes too, undecoded; a UTF-16 file's in UTF-8.
+    // Empty optional: there is no such key.
+    std::optional<std::string> RawValue(std::string_view section, std::string_view key) const;
+    // What Value gives for such bytes, and the bytes that Set writes for a value.
+    std::string TextOfRaw(std::string_view rawValue) const;
+    std::string RawOfText(std::string_view value) const;
 
     // Gives the key this value; a new key goes behind the last line of its section that is not
     // blank, a new section to the end. A written line ends in CR LF. Names and value are cut at the

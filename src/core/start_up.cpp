@@ -1,9 +1,12 @@
 #include "core/start_up.h"
 
 #include <cstdio>
+#include <vector>
 
 #include "core/emulator_paths.h"
 #include "core/language.h"
+#include "core/stored_names.h"
+#include "support/path_forms.h"
 
 namespace kivu::core {
 
@@ -73,14 +76,21 @@ void StartUp::SelectLastEmulator() {
         hooks.InitEmulatorView();
         return;
     }
-    for (int row = 0; row < form.EmuListbox.ListCount(); ++row) {
-        if (form.EmuListbox.List(row) != last) continue;
+    if (const int row = RowOfEmulator(last); row >= 0) {
         form.EmuListbox.SetListIndex(row);
         hooks.SelectEmulator(false);
         return;
     }
     // The emulator has gone. Nothing is loaded, and nothing else would lay the window out.
     hooks.ArrangeWindow();
+}
+
+int StartUp::RowOfEmulator(const std::string& stored) const {
+    std::vector<std::string> names{stored};
+    // A directory named in bytes that are no text stands so in the profile.
+    if (support::NamesAreBytes(files))
+        names.insert(names.begin(), ini.ReadIniBytes(settings, "LastEmulator", form.BaseIniName));
+    return FindStoredName(files, form.EmuListbox.Rows(), names);
 }
 
 void StartUp::WritePrompt() {

@@ -42,6 +42,8 @@ class StartUp {
     void MakeConfigDirectory();
     void RestoreWindow();
     void SelectLastEmulator();
+    // The row that "LastEmulator" means, -1 for none.
+    int RowOfEmulator(const std::string& stored) const;
 
     Form1& form;
     Ini& ini;

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "favourites/stored_texts.h"
+#include "core/stored_names.h"
 
 namespace kivu::favourites {
 
@@ -55,7 +55,7 @@ bool GlobalFavoriten::ReadRecords() {
     for (int i = 0; i <= lastNumber; ++i) {
         GlobalFavorit record;
         record.Name = stored->Text(section, Key(i, "_Name"));
-        record.System = stored->Text(section, Key(i, "_System"));
+        record.System = StoredSystem(*stored, Key(i, "_System"));
         record.FullPath = stored->Path(section, Key(i, "_FullPath"), "");
         if (record.Name.empty() || record.System.empty() || record.FullPath.empty()) {
             if (++misses > mostMisses) break;
@@ -65,6 +65,13 @@ bool GlobalFavoriten::ReadRecords() {
         records.push_back(std::move(record));
     }
     return true;
+}
+
+std::string GlobalFavoriten::StoredSystem(const StoredTexts& stored, const std::string& key) const {
+    std::string text = stored.Text(section, key);
+    const int row =
+        core::FindStoredName(files, form.EmuListbox.Rows(), {stored.Name(section, key), text});
+    return row < 0 ? text : form.EmuListbox.List(row);
 }
 
 bool GlobalFavoriten::SaveGlobalFavoriten() {

@@ -6,6 +6,7 @@
 
 #include "core/form1.h"
 #include "core/ini.h"
+#include "favourites/stored_texts.h"
 #include "platform/file_system.h"
 
 namespace kivu::favourites {
@@ -48,6 +49,8 @@ class GlobalFavoriten {
  private:
     // False: the store is there and cannot be read.
     bool ReadRecords();
+    // The emulator's row in EmuListbox; of an emulator that is not there, the name as it is read.
+    std::string StoredSystem(const StoredTexts& stored, const std::string& key) const;
 
     core::Form1& form;
     core::Ini& ini;

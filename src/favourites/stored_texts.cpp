@@ -12,27 +12,30 @@ std::optional<StoredTexts> StoredTexts::Read(const core::Ini& ini,
                                              const std::string& iniFile) {
     auto profile = ini.LoadProfile(iniFile);
     if (!profile) return std::nullopt;
-    StoredTexts stored(files, *std::move(profile));
-    if (auto plain = files.ReadFile(iniFile); plain && !support::IsUtf8(*plain))
-        stored.bytes.emplace(*std::move(plain));
-    return stored;
+    return StoredTexts(files, *std::move(profile));
 }
 
 std::string StoredTexts::Text(std::string_view section, std::string_view key) const {
     return texts.Value(section, key);
 }
 
+std::string StoredTexts::Name(std::string_view section, std::string_view key) const {
+    std::string raw = texts.RawValue(section, key).value_or("");
+    return support::NamesAreBytes(*files) ? raw : files->DecodeText(raw);
+}
+
 std::string StoredTexts::Path(std::string_view section, std::string_view key,
                               std::string_view base) const {
-    const std::string decoded = texts.Value(section, key);
+    return PathOfRaw(texts.RawValue(section, key).value_or(""), base);
+}
+
+std::string StoredTexts::PathOfRaw(std::string_view raw, std::string_view base) const {
+    const std::string decoded = texts.TextOfRaw(raw);
     if (decoded.empty()) return decoded;
     const auto absolute = [&](const std::string& path) { return Absolute(path, base); };
-    if (bytes && support::NamesAreBytes(*files)) {
-        const std::string plain = bytes->Value(section, key);
-        if (!support::IsUtf8(plain))
-            return absolute(support::NameOfStoredBytes(*files, plain, absolute));
-    }
-    return absolute(decoded);
+    const std::string plain(core::ReadableValue(raw));
+    if (!support::NamesAreBytes(*files) || support::IsUtf8(plain)) return absolute(decoded);
+    return absolute(support::NameOfStoredBytes(*files, plain, absolute));
 }
 
 std::string StoredTexts::Absolute(const std::string& stored, std::string_view base) const {

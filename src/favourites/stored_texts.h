@@ -20,9 +20,21 @@ class StoredTexts {
                                            const std::string& iniFile);
 
     std::string Text(std::string_view section, std::string_view key) const;
+    // The value as a file's name in one directory: with the blanks and quotes that stand around it,
+    // and on a host whose names are bytes undecoded.
+    std::string Name(std::string_view section, std::string_view key) const;
     // The path made absolute against `base`, a directory without a closing separator; with an empty
     // base as it stands. An empty value stays empty.
     std::string Path(std::string_view section, std::string_view key, std::string_view base) const;
+
+    // All that stands behind the "="; empty optional where there is no such key.
+    std::optional<std::string> Raw(std::string_view section, std::string_view key) const {
+        return texts.RawValue(section, key);
+    }
+    // What Text and Path give for such bytes, and the bytes that a save writes for a text.
+    std::string TextOfRaw(std::string_view raw) const { return texts.TextOfRaw(raw); }
+    std::string PathOfRaw(std::string_view raw, std::string_view base) const;
+    std::string RawOfText(std::string_view text) const { return texts.RawOfText(text); }
 
  private:
     StoredTexts(const platform::FileSystem& files, core::IniDocument texts)
@@ -31,7 +43,6 @@ class StoredTexts {
 
     const platform::FileSystem* files;
     core::IniDocument texts;
-    std::optional<core::IniDocument> bytes;  // the same undecoded, where that makes a difference
 };
 
 // Whether a profile gives anything back for this text once it is stored as a value: blanks alone

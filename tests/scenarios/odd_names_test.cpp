@@ -1,4 +1,5 @@
 // Names and entries that only a POSIX file system holds.
+#include <algorithm>
 #include <sys/stat.h>
 
 #include "scenarios/all_search.h"
@@ -42,6 +43,54 @@ TEST_F(Faults, NameThatIsNoUtf8ComesThroughTheCacheAndIsStarted) {
     EXPECT_EQ(Form().UAE_Short.List(2), "Bär [long]");
     LaunchBee();
     EXPECT_THAT(tree.Read("Config/Alpha/Kivu_tmp.bat"), HasSubstr(name));
+}
+
+TEST_F(LoadedScenario, EmulatorWhoseNameIsNoUtf8IsTheLastOneAgain) {
+    tree.AddEmulator("Gr\xfcn", {{"RomPath", "/Roms/Beta"}});
+    tree.WriteCache("Gr\xfcn", {{"/Roms/Beta/Cat (1992)(Maker).adf", "Cat (1992)(Maker)"}});
+    tree.AddEmulator("Grün", {{"RomPath", "/Roms/Alpha"}});
+    tree.AddEmulator("Wei\xdf");
+    Start();
+    for (const std::string name : {"Gr\xfcn", "Grün", "Wei\xdf"}) {
+        const auto& rows = Form().EmuListbox.Rows();
+        const auto row = static_cast<int>(std::find(rows.begin(), rows.end(), name) - rows.begin());
+        Form().EmuListbox.SetListIndex(row);
+        Call("SelectEmulator", false);
+        ASSERT_EQ(Form().CurrentEmuIndex, row);
+        Start();
+        EXPECT_EQ(Form().EmuListbox.SelectedText(), name);
+        EXPECT_EQ(Form().CurrentEmuIndex, row);
+    }
+}
+
+TEST_F(LoadedScenario, EmulatorWithBlanksAroundItsNameIsStartedFromTheGlobalFavourites) {
+    for (const std::string name : {" Beta", "Gamma ", "'Delta'", "Gr\xfcn"}) {
+        tree.AddEmulator(name, {{"RomPath", "/Roms/Beta"}, {"EmulatorPath", "/Emu/beta"}});
+        tree.WriteCache(name, {{"/Roms/Beta/Cat (1992)(Maker).adf", "Cat (1992)(Maker)"}});
+    }
+    for (const std::string name : {" Beta", "Gamma ", "'Delta'", "Gr\xfcn", "Beta"}) {
+        Start();
+        const auto& rows = Form().EmuListbox.Rows();
+        const auto row = static_cast<int>(std::find(rows.begin(), rows.end(), name) - rows.begin());
+        Form().EmuListbox.SetListIndex(row);
+        Call("SelectEmulator", false);
+        Do("select", "Form1.WIthoutDoubles", 0);
+        Do("click", "Form1.AddToFavorit_Global");
+        // Read back by another start, under another emulator, and written once more.
+        tree.WriteProgramProfile({{"LastEmulator", "Alpha"}});
+        Start();
+        Do("select", "Form1.WIthoutDoubles", 0);
+        Do("click", "Form1.AddToFavorit_Global");
+        Start();
+        Do("focus", "Form1.EmuListbox");
+        Do("click", "Form1.Label1");
+        Do("dblclick", "Form1.FavoritenListeGlobal", 0);
+        EXPECT_EQ(Form().EmuListbox.SelectedText(), name);
+        EXPECT_EQ(Form().CurrentEmuIndex, row);
+        EXPECT_EQ(Do("runs")["value"].size(), 1U) << name;
+        std::filesystem::remove(tree.Path("Config/Favoriten_Global.ini"));
+        tree.WriteProgramProfile({{"LastEmulator", "Alpha"}});
+    }
 }
 
 TEST_F(Faults, NameOf255BytesIsStarted) {
