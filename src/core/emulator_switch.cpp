@@ -13,6 +13,7 @@ constexpr const char* settings = "Settings";
 void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     if (form.Busy) return;
     const Raised working(form.Busy);
+    const Ini::GatheredWriteBacks gathered(ini);
     form.Label4.SetCaption(" Suchergebnisse (0) ");
     form.Label4.SetVisible(false);
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
@@ -162,13 +163,13 @@ void EmulatorSwitch::ReadTitle() {
 }
 
 bool EmulatorSwitch::ServeCommandLine() {
+    if (support::Trim(commandLine).empty()) return false;
+    ini.StoreWriteBacks();
     if (commandLine.find('?') != std::string::npos) {
         dialogs.MessageBox("Command Parameter: Not full supported yet!  *.adf Files should work!",
                            defaultTitle, platform::Buttons::Ok, platform::Icon::None);
-    } else if (!support::Trim(commandLine).empty()) {
-        hooks.StartGame(support::QuoteIfNeeded(support::Trim(commandLine)));
     } else {
-        return false;
+        hooks.StartGame(support::QuoteIfNeeded(support::Trim(commandLine)));
     }
     form.Ended = true;
     hooks.EndProgram();

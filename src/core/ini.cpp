@@ -10,6 +10,9 @@ namespace kivu::core {
 std::string Ini::ReadIniValue(std::string_view section, std::string_view key,
                               const std::string& iniFile, std::string_view defaultText,
                               bool writeBack) {
+    if (writeBacks.IsGathering()) {
+        return writeBacks.Read(section, key, QualifyIniPath(iniFile), defaultText, writeBack);
+    }
     if (!files.FileExists(iniFile)) {
         if (writeBack) CreateEmptyFile(iniFile);
         return std::string(defaultText);
@@ -27,7 +30,7 @@ std::string Ini::ReadIniValue(std::string_view section, std::string_view key,
 
 std::string Ini::ReadIniBytes(std::string_view section, std::string_view key,
                               const std::string& iniFile) const {
-    const auto bytes = files.ReadFile(QualifyIniPath(iniFile));
+    const auto bytes = BytesOf(QualifyIniPath(iniFile));
     return bytes ? FindIniValue(*bytes, section, key, {}) : std::string();
 }
 
@@ -45,6 +48,7 @@ std::optional<int> Ini::ReadIniWide(std::string_view section, std::string_view k
 
 void Ini::WriteIniValue(std::string_view section, std::string_view key, std::string_view value,
                         const std::string& iniFile, bool createFile) {
+    if (writeBacks.Write(section, key, value, QualifyIniPath(iniFile))) return;
     if (!files.FileExists(iniFile)) {
         if (!createFile) return;
         CreateEmptyFile(iniFile);
@@ -57,16 +61,17 @@ void Ini::WriteIniValue(std::string_view section, std::string_view key, std::str
 }
 
 std::optional<IniDocument> Ini::LoadProfile(const std::string& iniFile) const {
-    auto bytes = files.ReadFile(QualifyIniPath(iniFile));
+    auto bytes = BytesOf(QualifyIniPath(iniFile));
     if (bytes) return ParseProfile(*std::move(bytes));
     if (files.IdentityOf(iniFile)) return std::nullopt;
     return ParseProfile({});
 }
 
-void Ini::StoreProfile(const IniDocument& profile, const std::string& iniFile, bool createFile) {
+bool Ini::StoreProfile(const IniDocument& profile, const std::string& iniFile, bool createFile) {
     const bool isThere = files.FileExists(iniFile);
-    if (isThere ? !profile.IsChanged() : !createFile || files.IdentityOf(iniFile)) return;
-    files.WriteFile(QualifyIniPath(iniFile), profile.Bytes());
+    if (isThere && !profile.IsChanged()) return true;
+    if (!isThere && (!createFile || files.IdentityOf(iniFile))) return false;
+    return !files.WriteFile(QualifyIniPath(iniFile), profile.Bytes());
 }
 
 IniDocument Ini::ParseProfile(std::string bytes) const {
@@ -84,6 +89,11 @@ std::string Ini::QualifyIniPath(const std::string& path) const {
     if (!joined.ends_with(files.Separator())) joined += files.Separator();
     joined += path;
     return files.FileExists(joined) ? joined : path;
+}
+
+std::optional<std::string> Ini::BytesOf(const std::string& path) const {
+    auto gathered = writeBacks.BytesOf(path);
+    return gathered ? gathered : files.ReadFile(path);
 }
 
 IniCoding Ini::Coding() const {

@@ -5,19 +5,36 @@
 #include <string_view>
 
 #include "core/ini_document.h"
+#include "core/ini_write_backs.h"
 #include "platform/file_system.h"
 
 namespace kivu::core {
 
-// The profile store: every setting goes through it. Nothing is kept in memory between two calls, so
-// a user may edit a profile while the program runs. A profile is replaced in one step, and left
-// alone when a write would change nothing. All text is UTF-8; the file holds the system code page.
+// The profile store: every setting goes through it. No value is kept in memory between two calls,
+// so a user may edit a profile while the program runs; what is held back at most are defaults. A
+// profile is replaced in one step, and left alone when a write would change nothing. All text is
+// UTF-8; the file holds the system code page.
 //
 // A missing or unreadable profile gives the default, and a write that cannot be done has no effect:
 // the launcher stays usable from a read-only directory.
 class Ini {
  public:
-    explicit Ini(platform::FileSystem& files) : files(files) {}
+    explicit Ini(platform::FileSystem& files) : files(files), writeBacks(files, Coding()) {}
+
+    // While one lives, defaults that are written back go to the disk together: with the next
+    // WriteIniValue to their file, with StoreWriteBacks, or when the outermost one ends.
+    class GatheredWriteBacks {
+     public:
+        explicit GatheredWriteBacks(Ini& ini) : writeBacks(ini.writeBacks) { writeBacks.Begin(); }
+        ~GatheredWriteBacks() { writeBacks.End(); }
+        GatheredWriteBacks(const GatheredWriteBacks&) = delete;
+        GatheredWriteBacks& operator=(const GatheredWriteBacks&) = delete;
+
+     private:
+        IniWriteBacks& writeBacks;
+    };
+    // For who waits for the user, hands over to another program or ends this one.
+    void StoreWriteBacks() { writeBacks.Store(); }
 
     // The value, or the default if the key is missing or its value is empty. With `writeBack` a
     // default that is not empty is stored as the key's value, and a missing file is made, at first
@@ -50,7 +67,8 @@ class Ini {
     // many WriteIniValue would leave. A missing file is an empty document; the optional is empty
     // when something stands there that cannot be read, and that must not be overwritten.
     std::optional<IniDocument> LoadProfile(const std::string& iniFile) const;
-    void StoreProfile(const IniDocument& profile, const std::string& iniFile, bool createFile);
+    // StoreProfile gives false where that cannot be written.
+    bool StoreProfile(const IniDocument& profile, const std::string& iniFile, bool createFile);
 
     // A document of these bytes in the host's code page, for a profile that is built anew.
     IniDocument ParseProfile(std::string bytes) const;
@@ -61,7 +79,11 @@ class Ini {
     std::string QualifyIniPath(const std::string& path) const;
     IniCoding Coding() const;
 
+    // The file as the next read finds it.
+    std::optional<std::string> BytesOf(const std::string& path) const;
+
     platform::FileSystem& files;
+    IniWriteBacks writeBacks;
 };
 
 }  // namespace kivu::core

@@ -75,6 +75,8 @@ void SettingsLoader::LoadJoystick() {
     hooks.JoystickEnable(wanted() > 0);
     // Until there is a device layer, nobody can say that no device was found.
     if (!hooks.JoystickCount || wanted() != 1 || hooks.JoystickCount() > 0) return;
+    // The box may stand for long.
+    ini.StoreWriteBacks();
     const std::string question = form.Say(
         "Es wurden keine Joysticks oder Gampads gefunden!\r\r"
         "Soll die Joystick-Bedienung den Optionen ausgeschaltet werden?",

@@ -25,6 +25,8 @@ void StartUp::Form_Load() {
     ApplyEnglishCaptions(form);
     form.GlobalSearchList.Clear();
     if (hooks.PreviousInstance()) return;
+    // A first start fills some thirty keys.
+    const Ini::GatheredWriteBacks gathered(ini);
     MakeConfigDirectory();
     AssignProgramPaths(form, files);
     hooks.ChangeBorderstyle();

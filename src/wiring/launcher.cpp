@@ -81,6 +81,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
 
 void Launcher::Routines::EndProgram() {
     form.Ended = true;
+    ini.StoreWriteBacks();
     if (endProgram) endProgram();
 }
 

@@ -29,6 +29,26 @@ TEST_F(StartUp, FirstReadMakesTheProfileAndTheSecondStartStoresWhatItAskedFirst)
     EXPECT_EQ(tree.Stored("Config/Kivu.ini", "LastEmulator"), "(none)");
 }
 
+TEST_F(StartUp, FirstStartsWriteEachProfileOnce) {
+    Start();
+    // The program's and the skin's.
+    EXPECT_EQ(files.Writes(), 2);
+    const std::string first = tree.Read("Config/Kivu.ini");
+    Start();
+    EXPECT_EQ(files.Writes(), 3);
+    EXPECT_EQ(tree.Read("Config/Kivu.ini"), first + "WindowState=0\r\n");
+}
+
+TEST_F(StartUp, FirstChoiceOfAnEmulatorWritesEachProfileOnce) {
+    tree.MakeDirectory("Config/Alpha/Skin");
+    Start();
+    Start();
+    const int before = files.Writes();
+    Form().EmuListbox.SetListIndex(0);
+    Call("SelectEmulator", false);
+    EXPECT_EQ(files.Writes() - before, 3);
+}
+
 TEST_F(StartUp, NoEmulatorSelectedLeavesAllPathsInConfig) {
     Start();
     const std::string config = tree.Path("Config/");
