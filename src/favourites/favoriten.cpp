@@ -11,15 +11,7 @@ namespace kivu::favourites {
 
 namespace {
 
-constexpr const char* section = "Favoriten";
-
-std::string NameKey(int number) {
-    return "Fav" + std::to_string(number) + "_Name";
-}
-
-std::string PathKey(int number) {
-    return "Fav" + std::to_string(number) + "_FullPath";
-}
+constexpr const char* section = favoritenSection;
 
 char32_t FirstCharacter(const std::string& text) {
     return support::DecodeAt(text, 0).codePoint;
@@ -37,7 +29,7 @@ void Favoriten::LoadFavoriten() {
     unread = !stored;
     if (stored) {
         const std::string base = form.BaseDirectory();
-        for (int i = 0; i < static_cast<int>(mostEntries); ++i) {
+        for (std::size_t i = 0; i < mostEntries; ++i) {
             const std::string name = stored->Text(section, NameKey(i));
             if (!name.empty()) {
                 AddFavoritEntry(name, stored->Path(section, PathKey(i), base), 0, false);
@@ -56,7 +48,7 @@ void Favoriten::SaveFavoriten() {
     if (!profile) return;
     const std::string base = form.BaseDirectory();
     const int count = static_cast<int>(entries.size());
-    int written = 0;
+    std::size_t written = 0;
     int skipped = 0;
     for (const FavoritEntry& entry : entries) {
         if (entry.Name.empty() || entry.FullPath.empty()) {
@@ -71,11 +63,11 @@ void Favoriten::SaveFavoriten() {
     // leaves its keys behind, and comes back with the next load.
     const int last = count - 1 - skipped;
     for (int j = 1; j <= last; ++j)
-        Write(*profile, last + j, "", "");
+        Write(*profile, static_cast<std::size_t>(last + j), "", "");
     ini.StoreProfile(*profile, form.FavoritenIni, true);
 }
 
-void Favoriten::Write(core::IniDocument& profile, int number, std::string_view name,
+void Favoriten::Write(core::IniDocument& profile, std::size_t number, std::string_view name,
                       std::string_view path) const {
     profile.Set(section, NameKey(number), name);
     profile.Set(section, PathKey(number), path);
@@ -148,26 +140,28 @@ int Favoriten::RecordOfRow(int row) const {
     return -1;
 }
 
-int Favoriten::FindByPathPart(const std::string& text) const {
-    for (std::size_t i = 0; i < entries.size(); ++i) {
-        const std::string& path = entries[i].FullPath;
-        const bool found =
-            path.find(text) != std::string::npos ||
-            // A name is text even where the path's bytes are none.
-            (!support::IsUtf8(path) && files.DecodeText(path).find(text) != std::string::npos);
-        if (found) return static_cast<int>(i);
-    }
-    return -1;
+std::optional<StoreInMemory> Favoriten::InMemory() const {
+    auto stored = StoredTexts::Read(ini, files, form.FavoritenIni);
+    if (unread || !stored) return std::nullopt;
+    return StoreInMemory(files, *std::move(stored), form.BaseDirectory(), entries,
+                         form.FavoritenListe.Rows());
 }
 
-void Favoriten::SetPath(int record, const std::string& FullPath) {
-    if (IsRecord(record)) entries[static_cast<std::size_t>(record)].FullPath = FullPath;
+void Favoriten::TakeOver(const StoreInMemory& memory) {
+    entries = memory.Entries();
+    if (!memory.HasLoaded()) return;
+    const core::Raised once(filling);
+    form.FavoritenListe.Clear();
+    form.FavoritenListe.AddItems(memory.Rows());
+    hooks.UpdateListCaptions();
 }
 
-void Favoriten::Blank(int record) {
-    if (!IsRecord(record)) return;
-    entries[static_cast<std::size_t>(record)].FullPath.clear();
-    entries[static_cast<std::size_t>(record)].Name.clear();
+void Favoriten::Write(const StoreInMemory& memory) {
+    auto profile = ini.LoadProfile(form.FavoritenIni);
+    if (profile) memory.WriteTo(*profile);
+    const bool done =
+        profile && (!profile->IsChanged() || ini.StoreProfile(*profile, form.FavoritenIni, true));
+    if (!done) LoadFavoriten();
 }
 
 void Favoriten::Rename(int row, const std::string& Name) {
@@ -179,10 +173,11 @@ void Favoriten::Rename(int row, const std::string& Name) {
     if (!stored) return;
     // After a gap or a double entry in the file its numbers are not those of the rows until the
     // next save.
+    const auto number = static_cast<std::size_t>(row);
     const bool numbered =
-        stored->Path(section, PathKey(row), form.BaseDirectory()) == entry.FullPath;
+        stored->Path(section, PathKey(number), form.BaseDirectory()) == entry.FullPath;
     if (numbered) {
-        ini.WriteIniValue(section, NameKey(row), Name, form.FavoritenIni, true);
+        ini.WriteIniValue(section, NameKey(number), Name, form.FavoritenIni, true);
     } else {
         SaveFavoriten();
     }

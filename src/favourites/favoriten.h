@@ -1,23 +1,20 @@
 #pragma once
 
-#include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "core/form1.h"
 #include "core/hook.h"
 #include "core/ini.h"
 #include "core/ini_document.h"
+#include "favourites/favorit_entry.h"
+#include "favourites/store_in_memory.h"
 #include "platform/file_system.h"
 
 namespace kivu::favourites {
-
-struct FavoritEntry {
-    std::string FullPath;  // absolute
-    std::string Name;      // as FavoritenListe shows it
-    int Flag = 0;          // the caller's own, not stored
-};
 
 // The favourites of the emulator of the moment: the array, its file and its list. The file is read
 // with one parse and replaced in one step; a store that could not be read is not written either.
@@ -26,9 +23,6 @@ class Favoriten {
     struct Hooks {
         core::Hook<void()> UpdateListCaptions;
     };
-
-    // So many are read back from the file; one more would push another out.
-    static constexpr std::size_t mostEntries = 1001;
 
     Favoriten(core::Form1& form, core::Ini& ini, const platform::FileSystem& files)
         : form(form), ini(ini), files(files) {}
@@ -52,12 +46,20 @@ class Favoriten {
     bool Has(const std::string& FullPath) const;
     // The record that a row of FavoritenListe shows; -1 for none.
     int RecordOfRow(int row) const;
-    // The first record whose path contains the text, with regard to case; -1 for none.
-    int FindByPathPart(const std::string& text) const;
-    void SetPath(int record, const std::string& FullPath);
-    void Blank(int record);
+    // Other records in place of the array; the list and the file stay.
+    void TakeEntries(std::vector<FavoritEntry> taken) { entries = std::move(taken); }
     // Gives the record of this row another name, in the file at once.
     void Rename(int row, const std::string& Name);
+
+    // The array, the list and the file, for many changes at once. Empty: the file is there, but
+    // cannot be read.
+    std::optional<StoreInMemory> InMemory() const;
+    // Makes the array and the list what they have become in memory.
+    void TakeOver(const StoreInMemory& memory);
+    // Writes what has been saved in memory. A file that refuses it is loaded again: the list shows
+    // what is stored.
+    void Write(const StoreInMemory& memory);
+
     // The list is being filled and takes its selection back.
     bool IsFilling() const { return filling; }
 
@@ -65,7 +67,7 @@ class Favoriten {
 
  private:
     bool IsRecord(int record) const;
-    void Write(core::IniDocument& profile, int number, std::string_view name,
+    void Write(core::IniDocument& profile, std::size_t number, std::string_view name,
                std::string_view path) const;
 
     core::Form1& form;

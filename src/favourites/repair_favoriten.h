@@ -5,6 +5,8 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "favourites/favoriten.h"
+#include "favourites/store_in_memory.h"
+#include "library/game_index.h"
 #include "platform/desktop.h"
 
 namespace kivu::favourites {
@@ -22,10 +24,8 @@ class Repair {
     bool IsRunning() const { return running; }
 
  private:
-    void RepairRow(int row, std::string& report);
-    // The row of UAE_FULL, 0 or less when it is not found: the first row counts as none.
-    int FindAgain(const std::string& path, const std::string& recordPath,
-                  const std::string& rowText);
+    std::string Walk(StoreInMemory& memory);
+    void RepairRow(StoreInMemory& memory, library::GameIndex& games, int row, std::string& report);
 
     core::Form1& form;
     Favoriten& store;

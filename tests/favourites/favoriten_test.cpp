@@ -252,7 +252,7 @@ TEST_F(FavoritenTest, RemoveOutOfRangeHasNoEffect) {
 
 TEST_F(FavoritenTest, BlankRecordsAreNotWrittenAndTheRestMovesUp) {
     Add("ABCD");
-    room.store.Blank(1);
+    room.Blank(1);
     room.store.SaveFavoriten();
     EXPECT_EQ(Stored(), header + Lines(0, "A", "/G/A.adf") + Lines(1, "C", "/G/C.adf") +
                             Lines(2, "D", "/G/D.adf") + Lines(3, "", "") + Lines(4, "", "") +
@@ -262,15 +262,15 @@ TEST_F(FavoritenTest, BlankRecordsAreNotWrittenAndTheRestMovesUp) {
 TEST_F(FavoritenTest, NothingIsWrittenWhenAllRecordsAreBlank) {
     Add("AB");
     const std::string before = Stored();
-    room.store.Blank(0);
-    room.store.Blank(1);
+    room.Blank(0);
+    room.Blank(1);
     room.store.SaveFavoriten();
     EXPECT_EQ(Stored(), before);
 }
 
 TEST_F(FavoritenTest, BlankRecordsAloneMakeNoFile) {
     room.store.AddFavoritEntry("A", "/k/A", 0, false);
-    room.store.Blank(0);
+    room.Blank(0);
     room.store.SaveFavoriten();
     EXPECT_TRUE(disk.changes.empty());
     EXPECT_EQ(Stored(), "(no file)");
@@ -286,7 +286,7 @@ TEST_F(FavoritenTest, SortLooksAtTheFirstCharacterAloneAndKeepsTies) {
 
 TEST_F(FavoritenTest, SortDoesNotCarryANameAcrossABlankRecord) {
     Add("CXA");
-    room.store.Blank(1);
+    room.Blank(1);
     room.store.SortFavoriten();
     EXPECT_EQ(room.Names(), (Texts{"C", "", "A"}));
 }
@@ -308,18 +308,18 @@ TEST_F(FavoritenTest, FillLeavesBlankNamesOutAndSelectsTheRowAgain) {
     room.store.FillFavoritenListe();
     room.form.FavoritenListe.onClick = nullptr;
     room.form.FavoritenListe.SetListIndex(2);
-    room.store.Blank(0);
+    room.Blank(0);
     room.store.FillFavoritenListe();
     EXPECT_EQ(room.form.FavoritenListe.Rows(), (Texts{"B", "C", "D"}));
     EXPECT_EQ(room.form.FavoritenListe.ListIndex(), 2);
-    room.store.Blank(1);
+    room.Blank(1);
     room.store.FillFavoritenListe();
     EXPECT_EQ(room.form.FavoritenListe.ListIndex(), -1);
 }
 
 TEST_F(FavoritenTest, RowsAreCountedWithoutBlankRecords) {
     Add("ABC");
-    room.store.Blank(1);
+    room.Blank(1);
     EXPECT_EQ(room.store.RecordOfRow(0), 0);
     EXPECT_EQ(room.store.RecordOfRow(1), 2);
     EXPECT_EQ(room.store.RecordOfRow(2), -1);

@@ -57,6 +57,12 @@ struct Room {
             form.UAE_Short.AddItem(name);
         }
     }
+    // As a repair leaves a record that it could not tell anything about.
+    void Blank(std::size_t record) {
+        auto entries = store.Entries();
+        if (record < entries.size()) entries[record] = {};
+        store.TakeEntries(std::move(entries));
+    }
     void Select(int row) { form.FavoritenListe.ClickRow(row); }
 
     std::vector<std::string> Names() const {

@@ -96,7 +96,7 @@ TEST_F(OddStoresTest, PathWithForeignBytesKeepsThemWhereTheFileIsThere) {
     room.store.LoadFavoriten();
     ASSERT_EQ(room.store.Entries().size(), 1U);
     EXPECT_EQ(room.store.Entries()[0].FullPath, bytes);
-    EXPECT_EQ(room.store.FindByPathPart("Käfer"), 0);
+    EXPECT_EQ(room.store.InMemory()->FindByPathPart("Käfer"), 0);
 }
 
 TEST_F(OddStoresTest, PathWithForeignBytesKeepsThemWhileItsDriveIsAway) {
