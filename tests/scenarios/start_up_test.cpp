@@ -31,11 +31,11 @@ TEST_F(StartUp, FirstReadMakesTheProfileAndTheSecondStartStoresWhatItAskedFirst)
 
 TEST_F(StartUp, FirstStartsWriteEachProfileOnce) {
     Start();
-    // The program's and the skin's.
-    EXPECT_EQ(files.Writes(), 2);
+    // The program's, the skin's and the master configuration.
+    EXPECT_EQ(files.Writes(), 3);
     const std::string first = tree.Read("Config/Kivu.ini");
     Start();
-    EXPECT_EQ(files.Writes(), 3);
+    EXPECT_EQ(files.Writes(), 4);
     EXPECT_EQ(tree.Read("Config/Kivu.ini"), first + "WindowState=0\r\n");
 }
 
