@@ -11,7 +11,8 @@ namespace kivu::driver {
 namespace {
 
 const Command* FindCommand(const std::string& name) {
-    for (const auto* table : {&HandCommands(), &StateCommands(), &HostCommands()}) {
+    for (const auto* table :
+         {&HandCommands(), &StateCommands(), &HostCommands(), &FileCommands()}) {
         for (const Command& command : *table) {
             if (name == command.name) return &command;
         }

@@ -17,7 +17,8 @@ testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& optio
 }  // namespace
 
 Session::Session(platform::FileSystem& files, const Options& options)
-    : host(MakeHost(files, options)),
+    : programDirectory(options.programDirectory),
+      host(MakeHost(files, options)),
       launcher(host.Services(options.programDirectory, options.program, options.commandLine),
                nullptr, [this] {
                    ended = true;

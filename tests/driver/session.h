@@ -33,6 +33,7 @@ class Session {
     core::Form1& MainWindow() { return launcher.MainWindow(); }
     Windows& OpenWindows() { return windows; }
 
+    const std::string programDirectory;
     std::vector<ScriptedDevice> devices;
     ScriptedDisplay display;
     bool started = false;

@@ -1,0 +1,58 @@
+// What others do on the disk while the launcher runs.
+
+#include <algorithm>
+#include <system_error>
+
+#include "driver/commands.h"
+
+namespace kivu::driver {
+
+namespace {
+
+bool IsAbsolute(const std::string& path) {
+    const bool drive = path.size() >= 2 && path[1] == ':';
+    return drive || path.starts_with('/') || path.starts_with('\\');
+}
+
+std::string PathFrom(Session& session, const Json& value) {
+    std::string path = TextFrom(value, "the path");
+    if (path.empty()) throw CommandError("the path must not be empty");
+    const char separator = session.Host().files.Separator();
+    std::replace(path.begin(), path.end(), '/', separator);
+    return IsAbsolute(path) ? path : session.programDirectory + separator + path;
+}
+
+void Check(const std::error_code& error, const std::string& path) {
+    if (error) throw CommandError(path + ": " + error.message());
+}
+
+void MakeDirectoriesAbove(platform::FileSystem& files, const std::string& path) {
+    for (std::size_t i = 1; i < path.size(); ++i) {
+        if (path[i] == files.Separator()) (void)files.MakeDirectory(path.substr(0, i));
+    }
+}
+
+Json File(Session& session, const Json& command) {
+    const std::string& action = TextFrom(command[1], "the action");
+    const std::string path = PathFrom(session, command[2]);
+    platform::FileSystem& files = session.Host().files;
+    if (action == "write" && command.size() == 4) {
+        const std::string& text = TextFrom(command[3], "the text");
+        MakeDirectoriesAbove(files, path);
+        Check(files.WriteFile(path, files.EncodeText(text)), path);
+    } else if (action == "remove" && command.size() == 3) {
+        Check(files.DeleteFile(path), path);
+    } else {
+        throw CommandError("file takes \"write\", path, text or \"remove\", path");
+    }
+    return Json::object();
+}
+
+}  // namespace
+
+const std::vector<Command>& FileCommands() {
+    static const std::vector<Command> commands{{"file", 2, 3, false, File}};
+    return commands;
+}
+
+}  // namespace kivu::driver

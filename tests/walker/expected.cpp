@@ -1,0 +1,98 @@
+// What the hands' commands are to do.
+
+#include "support/text.h"
+#include "walker/meaning.h"
+
+namespace kivu::walker {
+
+namespace {
+
+using Act = Expected::Act;
+
+std::string EmulatorOfHit(const Look& look, int row) {
+    const std::string text = look.At(List::globalHits).Text(row);
+    const std::size_t colon = text.find(':');
+    if (colon == std::string::npos) return {};
+    const std::string name(support::Trim(text.substr(0, colon)));
+    for (const std::string& emulator : look.dropDown.rows) {
+        if (emulator == name) return name;
+    }
+    return {};
+}
+
+// A double click on the row, or Enter.
+Expected TakeRow(const Look& look, const Stores& stores, List list, int row) {
+    Expected expected;
+    if (list == List::emulators) {
+        expected.loads = look.At(list).Text(row);
+    } else if (list == List::globalHits) {
+        expected.loads = EmulatorOfHit(look, row);
+    } else {
+        expected.act = Act::start;
+        expected.meant = MeaningOf(look, stores, list, row);
+        if (list == List::globalFavourites && expected.meant.kind == Meaning::Kind::game)
+            expected.loads = expected.meant.emulator;
+    }
+    return expected;
+}
+
+// A button, whether it is clicked or pressed with a key.
+Expected Press(const Look& look, const Stores& stores, const std::string& button) {
+    Expected expected;
+    if (button == "AddToFavorit") expected.act = Act::storeOwn;
+    if (button == "AddToFavorit_Global") expected.act = Act::storeGlobal;
+    if (button == "Current_ProgramNameFull") expected.act = Act::start;
+    if (expected.act != Act::nothing) expected.meant = MeaningInFront(look, stores);
+    return expected;
+}
+
+Expected PressKey(const Look& look, const Stores& stores, const std::string& key) {
+    const bool enter = key == "Enter", blank = key == "Space";
+    if (!enter && !blank) return {};
+    const List* list = ListOf(look.focus);
+    if (look.focus == "EmuListbox" || (list && *list == List::emulators)) {
+        Expected expected;
+        expected.loads = look.dropDown.Marked();
+        return expected;
+    }
+    if (list) return enter ? TakeRow(look, stores, *list, look.At(*list).row) : Expected{};
+    return Press(look, stores, look.focus);
+}
+
+}  // namespace
+
+Hand HandOf(const Json& command) {
+    Hand hand;
+    hand.gesture = command[0].get<std::string>();
+    if (command.size() < 2 || !command[1].is_string()) return hand;
+    hand.control = command[1].get<std::string>();
+    if (hand.control.starts_with("Form1.")) hand.control.erase(0, 6);
+    if (command.size() < 3) return hand;
+    if (command[2].is_number_integer()) hand.row = command[2].get<int>();
+    if (command[2].is_string()) hand.key = command[2].get<std::string>();
+    return hand;
+}
+
+Expected Expect(const Look& look, const Stores& stores, const Json& command) {
+    const Hand hand = HandOf(command);
+    if (hand.gesture == "key") return PressKey(look, stores, hand.key);
+    const List* list = ListOf(hand.control);
+    if (hand.gesture == "dblclick" && list) return TakeRow(look, stores, *list, hand.row);
+    if (hand.gesture == "dblclick" && hand.control == "EmuListbox") {
+        Expected expected;
+        expected.loads = look.dropDown.Text(hand.row);
+        return expected;
+    }
+    if (hand.gesture == "rightclick" && list && *list == List::emulators) {
+        Expected expected;
+        expected.act = Act::setUp;
+        expected.setUp = look.At(*list).Text(hand.row);
+        return expected;
+    }
+    const bool named = hand.gesture == "dblclick" && hand.control == "Current_ProgramNameFull";
+    if (named || (hand.gesture == "click" && hand.control != "Current_ProgramNameFull"))
+        return Press(look, stores, hand.control);
+    return {};
+}
+
+}  // namespace kivu::walker

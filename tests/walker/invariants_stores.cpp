@@ -1,0 +1,88 @@
+// The files on the disk.
+
+#include "walker/invariants.h"
+
+namespace kivu::walker {
+
+namespace {
+
+const Exemption nothingLoaded{"without an emulator there are no files of one",
+                              [](const Moment& m) { return m.after.loaded < 0; }};
+
+std::string OwnFavourites(const Moment& m) {
+    std::vector<std::string> names;
+    for (const Favourite& favourite : m.stores.own)
+        names.push_back(favourite.name);
+    if (names == m.after.At(List::favourites).rows) return {};
+    return Number(names.size()) + " in the file, " +
+           Number(m.after.At(List::favourites).rows.size()) + " in the list";
+}
+
+std::string GlobalFavourites(const Moment& m) {
+    if (!m.after.At(List::globalFavourites).visible) return {};
+    std::vector<std::string> rows;
+    for (const GlobalFavourite& favourite : m.stores.global)
+        rows.push_back(favourite.Display());
+    if (rows == m.after.At(List::globalFavourites).rows) return {};
+    return Number(rows.size()) + " in the file, " +
+           Number(m.after.At(List::globalFavourites).rows.size()) + " in the list";
+}
+
+std::string Cache(const Moment& m) {
+    if (!m.stores.cacheThere) {
+        const std::size_t rows = m.after.paths.rows.size();
+        return rows == 0 ? "" : Number(rows) + " rows without a cache";
+    }
+    const auto& paths = m.after.paths.rows;
+    if (m.stores.cache.size() != paths.size())
+        return Number(m.stores.cache.size()) + " in the cache, " + Number(paths.size()) + " rows";
+    for (std::size_t i = 0; i < paths.size(); ++i) {
+        const Favourite& entry = m.stores.cache[i];
+        if (entry.path != paths[i] || entry.name != m.after.At(List::complete).rows[i])
+            return "row " + Number(i) + " is " + paths[i] + ", in the cache " + entry.path;
+    }
+    return {};
+}
+
+std::string LastEmulator(const Moment& m) {
+    if (m.stores.lastEmulator == m.after.Loaded()) return {};
+    return Quoted(m.stores.lastEmulator) + " is stored, " + Quoted(m.after.Loaded()) + " loaded";
+}
+
+std::string RomCount(const Moment& m) {
+    if (!m.memory.rescanned || m.stores.romCount == Number(m.stores.cache.size())) return {};
+    return m.stores.romCount + " is stored for " + Number(m.stores.cache.size()) + " games";
+}
+
+}  // namespace
+
+const std::vector<Invariant>& StoreInvariants() {
+    static const std::vector<Invariant> invariants{
+        {"own favourites are stored",
+         "the list is made anew from the file at the next start",
+         OwnFavourites,
+         {nothingLoaded,
+          {"a repair writes the file without reading it again",
+           [](const Moment& m) { return m.memory.repaired; }}}},
+        {"global favourites are stored",
+         "the list is made anew from the file when it is shown",
+         GlobalFavourites,
+         {{"with the hits of all emulators on show the list is left alone",
+           [](const Moment& m) { return m.after.At(List::globalHits).rows.size() >= 3; }}}},
+        {"the cache holds the lists",
+         "the next start takes them from there",
+         Cache,
+         {nothingLoaded}},
+        {"the loaded emulator is the last one",
+         "the next start loads it",
+         LastEmulator,
+         {nothingLoaded}},
+        {"the count of games is stored",
+         "the choice of emulators shows it",
+         RomCount,
+         {nothingLoaded}},
+    };
+    return invariants;
+}
+
+}  // namespace kivu::walker

@@ -1,0 +1,148 @@
+#include "walker/walk.h"
+
+namespace kivu::walker {
+
+namespace {
+
+class Player {
+ public:
+    explicit Player(const Session& session) : world(session.collection) {}
+
+    World& TheWorld() { return world; }
+    bool Ended() const { return world.Ended(); }
+
+    std::optional<Failure> Play(const Step& step) {
+        for (const Json& command : step.commands) {
+            if (auto failure = Play(command)) return failure;
+            if (world.Ended()) break;
+        }
+        return {};
+    }
+    // Answers that no box has taken must not wait for a later one.
+    bool DropAnswers() {
+        auto& dialogs = world.Host().dialogs;
+        const bool left = !dialogs.answers.empty() || !dialogs.inputs.empty();
+        dialogs.answers.clear();
+        dialogs.inputs.clear();
+        return left;
+    }
+
+    // Games end, the watch sees it, Escape is pressed: whatever is left now stays.
+    std::optional<Failure> Settle() {
+        Step end{"the end", {}};
+        for (const auto& entry : world.Host().processes.entries)
+            end.commands.push_back(Command({"process", "remove", entry.id}));
+        if (world.Now().watching)
+            end.commands.push_back(Command({"tick", "Form1.EmuActiveTimer", 5}));
+        for (int i = 0; i < 2; ++i) {
+            end.commands.push_back(Command({"answer", "Cancel"}));
+            end.commands.push_back(Command({"key", "Form1", "Escape"}));
+        }
+        if (auto failure = Play(end)) return failure;
+        DropAnswers();
+        return {};
+    }
+
+ private:
+    static bool IsForHost(const Json& command) {
+        return command[0] == "answer" || command[0] == "input";
+    }
+
+    std::optional<Failure> Play(const Json& command) {
+        if (IsForHost(command)) {
+            world.Execute(command);
+            return {};
+        }
+        const Look before = world.Now();
+        const Stores stored = ReadStores(world, before);
+        Hand hand = HandOf(command);
+        Expected expected = Expect(before, stored, command);
+        const Json answer = world.Execute(command);
+        const Look after = world.Now();
+        const Stores stores = ReadStores(world, after);
+        const std::string error =
+            answer.value("ok", false) ? "" : answer.value("error", std::string());
+        Moment moment{world,
+                      command,
+                      std::move(hand),
+                      before,
+                      after,
+                      stored,
+                      stores,
+                      std::move(expected),
+                      world.TakeStarts(),
+                      world.TakeBoxes(),
+                      error,
+                      memory};
+        Remember(moment);
+        const auto fault = Check(moment);
+        if (!fault) return {};
+        return Failure{0, fault->invariant->name, fault->invariant->why, fault->what, command};
+    }
+
+    void Remember(const Moment& moment) {
+        if (moment.before.loaded != moment.after.loaded) memory = {};
+        if (moment.hand.control == "LoadBtn" && moment.Taken()) memory.rescanned = true;
+        if (moment.Answered("epar", platform::Answer::Yes)) memory.repaired = true;
+        const bool loadsAgain =
+            moment.hand.control == "AddToFavorit" ||
+            (moment.hand.control == "DeLFav" && moment.before.At(List::favourites).visible);
+        if (loadsAgain && moment.Taken()) memory.repaired = false;
+    }
+
+    World world;
+    Memory memory;
+};
+
+std::optional<Failure> At(std::optional<Failure> failure, std::size_t step) {
+    if (failure) failure->step = step;
+    return failure;
+}
+
+}  // namespace
+
+Session NewSession(std::uint64_t seed) {
+    Session session;
+    session.seed = seed;
+    Random random(seed);
+    session.collection = MakeCollection(random);
+    session.steps.push_back({"start", {Command({"start"})}});
+    return session;
+}
+
+std::optional<Failure> Walk(Session& session, int steps) {
+    Player player(session);
+    // Its own numbers: another collection for the same steps.
+    Random random(session.seed ^ 0x5bd1e995U);
+    if (auto failure = player.Play(session.steps[0])) return At(failure, 0);
+    for (int i = 0; i < steps && !player.Ended(); ++i) {
+        session.steps.push_back(NextStep(player.TheWorld(), random));
+        auto failure = player.Play(session.steps.back());
+        if (failure) return At(failure, session.steps.size() - 1);
+        player.DropAnswers();
+    }
+    if (player.Ended()) return {};
+    return At(player.Settle(), session.steps.size());
+}
+
+std::optional<Failure> Replay(const Session& session, std::vector<Step>* taken) {
+    Player player(session);
+    for (std::size_t i = 0; i < session.steps.size() && !player.Ended(); ++i) {
+        auto failure = player.Play(session.steps[i]);
+        const bool left = player.DropAnswers();
+        if (taken) {
+            Step step = session.steps[i];
+            if (left) {
+                std::erase_if(step.commands, [](const Json& command) {
+                    return command[0] == "answer" || command[0] == "input";
+                });
+            }
+            taken->push_back(std::move(step));
+        }
+        if (failure) return At(failure, i);
+    }
+    if (player.Ended()) return {};
+    return At(player.Settle(), session.steps.size());
+}
+
+}  // namespace kivu::walker

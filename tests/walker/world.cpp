@@ -1,0 +1,54 @@
+#include "walker/world.h"
+
+#include <algorithm>
+
+namespace kivu::walker {
+
+World::World(const Collection& collection) : options(collection.options) {
+    disk.AddDirectory(programDirectory);
+    session = std::make_unique<driver::Session>(disk, options);
+    interpreter = std::make_unique<driver::Interpreter>(*session);
+    for (const Json& command : collection.layout)
+        Execute(command);
+    Watch();
+}
+
+void World::StartAnew() {
+    interpreter.reset();
+    session = std::make_unique<driver::Session>(disk, options);
+    interpreter = std::make_unique<driver::Interpreter>(*session);
+    Watch();
+    Execute(Json::array({"start"}));
+}
+
+void World::Watch() {
+    Host().starter.onRun = [this](const platform::StartRequest& request) { NoteStart(request); };
+    Host().dialogs.onShow = [this] {
+        boxes.push_back({Host().dialogs.shown.back(), TakeLook(Form())});
+    };
+}
+
+std::string World::Read(const std::string& path) const {
+    return disk.ReadFile(std::string(programDirectory) + "/" + path).value_or("");
+}
+
+void World::NoteStart(const platform::StartRequest& request) {
+    Started started;
+    const std::string& first = request.words.empty() ? request.command : request.words.front();
+    started.game = request.words.size() != 1 || request.startFile;
+    if (request.startFile) {
+        started.text = disk.ReadFile(first).value_or("");
+        const std::string directory = first.substr(0, first.rfind('/'));
+        started.emulator = directory.substr(directory.rfind('/') + 1);
+        // What a batch emulator's own start file hands on.
+        started.text += disk.ReadFile(directory + "/Kivu_tmp_wine.bat").value_or("");
+    } else {
+        for (const std::string& word : request.words)
+            started.text += word + "\n";
+    }
+    if (!started.game) started.program = first;
+    std::replace(started.text.begin(), started.text.end(), '\\', '/');
+    starts.push_back(std::move(started));
+}
+
+}  // namespace kivu::walker

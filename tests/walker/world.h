@@ -1,0 +1,65 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "driver/interpreter.h"
+#include "testing/memory_file_system.h"
+#include "walker/collection.h"
+#include "walker/look.h"
+
+namespace kivu::walker {
+
+// Something that the launcher has started.
+struct Started {
+    bool game = false;     // through a start file or in its place; else an emulator for setting up
+    std::string emulator;  // whose directory the start file lies in; empty without one
+    std::string text;      // all that the command processors get to read, with "/" in paths
+    std::string program;   // of an emulator for setting up
+};
+
+struct BoxLook {
+    testing::ShownBox box;
+    Look look;  // while it is on the screen
+};
+
+// One launcher over one collection, on a disk in memory.
+class World {
+ public:
+    explicit World(const Collection& collection);
+    World(const World&) = delete;
+    World& operator=(const World&) = delete;
+
+    // A driver's command, and what it answers.
+    Json Execute(const Json& command) { return interpreter->Execute(command); }
+    // Another run of the program on the same disk.
+    void StartAnew();
+
+    core::Form1& Form() { return session->MainWindow(); }
+    testing::ScriptedHost& Host() { return session->Host(); }
+    Look Now() { return TakeLook(Form()); }
+    bool Ended() const { return session->ended; }
+
+    // By its path below the program directory; empty where there is none.
+    std::string Read(const std::string& path) const;
+    bool Exists(const std::string& absolute) const { return disk.FileExists(absolute); }
+
+    // Since the last look at them.
+    std::vector<Started> TakeStarts() { return std::exchange(starts, {}); }
+    std::vector<BoxLook> TakeBoxes() { return std::exchange(boxes, {}); }
+
+ private:
+    void Watch();
+    void NoteStart(const platform::StartRequest& request);
+
+    driver::Options options;
+    testing::MemoryFileSystem disk;
+    std::unique_ptr<driver::Session> session;
+    std::unique_ptr<driver::Interpreter> interpreter;
+    std::vector<Started> starts;
+    std::vector<BoxLook> boxes;
+};
+
+}  // namespace kivu::walker
