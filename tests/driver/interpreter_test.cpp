@@ -212,6 +212,18 @@ TEST_F(InterpreterTest, ProcessesComeGoAndAreKilled) {
     EXPECT_EQ(Do("[\"call\",\"IsProcessRunning\",\"winuae.exe\"]")["value"], false);
 }
 
+TEST_F(InterpreterTest, FilesComeAndGoBelowTheProgram) {
+    EXPECT_EQ(Do("[\"file\",\"write\",\"Config/Alpha/a b.txt\",\"x\"]")["ok"], true);
+    const auto place = std::filesystem::path(directory.Root()) / "Config" / "Alpha" / "a b.txt";
+    EXPECT_TRUE(std::filesystem::exists(place));
+    EXPECT_EQ(Do("[\"file\",\"remove\",\"Config/Alpha/a b.txt\"]")["ok"], true);
+    EXPECT_FALSE(std::filesystem::exists(place));
+    Refused("[\"file\",\"remove\",\"Config/Alpha/a b.txt\"]");
+    Refused("[\"file\",\"write\",\"Config\",\"x\"]");
+    Refused("[\"file\",\"write\",\"a\"]", "file takes");
+    Refused("[\"file\",\"remove\",\"\"]", "empty");
+}
+
 TEST_F(InterpreterTest, DevicesKeepTheirState) {
     Do("[\"device\",\"add\",\"Pad\",4]");
     Refused("[\"device\",\"set\",0,{\"x\":65536}]");

@@ -21,7 +21,7 @@ std::string EmulatorOfHit(const Look& look, int row) {
 }
 
 // A double click on the row, or Enter.
-Expected TakeRow(const Look& look, const Stores& stores, List list, int row) {
+Expected TakeRow(const Look& look, const Stores& stores, List list, int row, bool byKey) {
     Expected expected;
     if (list == List::emulators) {
         expected.loads = look.At(list).Text(row);
@@ -29,7 +29,11 @@ Expected TakeRow(const Look& look, const Stores& stores, List list, int row) {
         expected.loads = EmulatorOfHit(look, row);
     } else {
         expected.act = Act::start;
-        expected.meant = MeaningOf(look, stores, list, row);
+        // A click on a hit whose title is selected in the simple list changes nothing there.
+        const bool selected = byKey || (list == List::hits &&
+                                        look.At(List::simple).Marked() == look.At(list).Text(row));
+        expected.meant = selected ? MeaningAsSelected(look, stores, list, row)
+                                  : MeaningOf(look, stores, list, row);
         if (list == List::globalFavourites && expected.meant.kind == Meaning::Kind::game)
             expected.loads = expected.meant.emulator;
     }
@@ -55,7 +59,7 @@ Expected PressKey(const Look& look, const Stores& stores, const std::string& key
         expected.loads = look.dropDown.Marked();
         return expected;
     }
-    if (list) return enter ? TakeRow(look, stores, *list, look.At(*list).row) : Expected{};
+    if (list) return enter ? TakeRow(look, stores, *list, look.At(*list).row, true) : Expected{};
     return Press(look, stores, look.focus);
 }
 
@@ -77,7 +81,7 @@ Expected Expect(const Look& look, const Stores& stores, const Json& command) {
     const Hand hand = HandOf(command);
     if (hand.gesture == "key") return PressKey(look, stores, hand.key);
     const List* list = ListOf(hand.control);
-    if (hand.gesture == "dblclick" && list) return TakeRow(look, stores, *list, hand.row);
+    if (hand.gesture == "dblclick" && list) return TakeRow(look, stores, *list, hand.row, false);
     if (hand.gesture == "dblclick" && hand.control == "EmuListbox") {
         Expected expected;
         expected.loads = look.dropDown.Text(hand.row);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -62,8 +63,8 @@ struct Fault {
     std::string what;
 };
 
-// The first invariant that does not hold.
-std::optional<Fault> Check(const Moment& moment);
+// The first invariant that does not hold, but for those left out by name.
+std::optional<Fault> Check(const Moment& moment, const std::set<std::string>& leftOut);
 
 std::string Quoted(const std::string& text);
 std::string Number(std::size_t number);

@@ -49,6 +49,19 @@ std::string LastEmulator(const Moment& m) {
     return Quoted(m.stores.lastEmulator) + " is stored, " + Quoted(m.after.Loaded()) + " loaded";
 }
 
+// Another run of the program shows what the last one showed.
+std::string NewStart(const Moment& m) {
+    if (m.hand.gesture != "start" || m.before.loaded < 0) return {};
+    if (m.before.Loaded() != m.after.Loaded())
+        return Quoted(m.after.Loaded()) + " is loaded instead of " + Quoted(m.before.Loaded());
+    for (const List list : {List::favourites, List::complete}) {
+        if (m.before.At(list).rows == m.after.At(list).rows) continue;
+        return NameOf(list) + " had " + Number(m.before.At(list).rows.size()) + " rows and has " +
+               Number(m.after.At(list).rows.size());
+    }
+    return m.before.paths.rows == m.after.paths.rows ? "" : "the paths are others";
+}
+
 std::string RomCount(const Moment& m) {
     if (!m.memory.rescanned || m.stores.romCount == Number(m.stores.cache.size())) return {};
     return m.stores.romCount + " is stored for " + Number(m.stores.cache.size()) + " games";
@@ -77,6 +90,12 @@ const std::vector<Invariant>& StoreInvariants() {
          "the next start loads it",
          LastEmulator,
          {nothingLoaded}},
+        {"a new start finds the same",
+         "what was added must not be gone the next day",
+         NewStart,
+         {nothingLoaded,
+          {"a repair leaves keys behind the favourites that it has kept",
+           [](const Moment& m) { return m.memory.repaired; }}}},
         {"the count of games is stored",
          "the choice of emulators shows it",
          RomCount,

@@ -66,16 +66,6 @@ Meaning OfGlobalFavourite(const Look& look, const Stores& stores, int row) {
     return {};
 }
 
-// While nothing is marked, the first hit counts, which the search has selected in the simple list.
-Meaning OfHit(const Look& look, int row) {
-    const ListLook& hits = look.At(List::hits);
-    const ListLook& simple = look.At(List::simple);
-    const std::string text = hits.Has(row) ? hits.Text(row) : simple.Marked();
-    if (text.empty()) return {};
-    if (std::find(hits.rows.begin(), hits.rows.end(), text) == hits.rows.end()) return {};
-    return GameOfTitle(look, text);
-}
-
 }  // namespace
 
 std::string FileName(const std::string& path) {
@@ -87,12 +77,12 @@ std::string LowerCase(const std::string& text) {
 }
 
 Meaning MeaningOf(const Look& look, const Stores& stores, List list, int row) {
-    if (list == List::hits) return OfHit(look, row);
     if (!look.At(list).Has(row)) return {};
     switch (list) {
         case List::complete:
             return GameAt(look, row);
         case List::simple:
+        case List::hits:
             return GameOfTitle(look, look.At(list).Text(row));
         case List::favourites:
             return OfFavourite(look, stores, row);
@@ -103,10 +93,24 @@ Meaning MeaningOf(const Look& look, const Stores& stores, List list, int row) {
     }
 }
 
+Meaning MeaningAsSelected(const Look& look, const Stores& stores, List list, int row) {
+    const ListLook& shown = look.At(list);
+    const bool title = list == List::simple || list == List::hits;
+    const int selected = look.At(List::complete).row;
+    const bool inStep = title && shown.Has(row) && selected == look.paths.row &&
+                        look.At(List::complete).Marked() == shown.Text(row);
+    return inStep ? GameAt(look, selected) : MeaningOf(look, stores, list, row);
+}
+
 Meaning MeaningInFront(const Look& look, const Stores& stores) {
-    const std::vector<List> front = look.InFront();
-    if (front.size() != 1) return {};
-    return MeaningOf(look, stores, front[0], look.At(front[0]).row);
+    const int selected = look.At(List::complete).row;
+    for (const List list : look.InFront()) {
+        const bool games = list == List::favourites || list == List::simple ||
+                           list == List::complete || list == List::hits;
+        if (!games) return {};
+        if (look.At(list).row >= 0) return MeaningAsSelected(look, stores, list, look.At(list).row);
+    }
+    return selected >= 0 ? GameAt(look, selected) : Meaning{};
 }
 
 }  // namespace kivu::walker

@@ -21,7 +21,11 @@ struct Meaning {
 };
 
 Meaning MeaningOf(const Look& look, const Stores& stores, List list, int row);
-// Of the marked row of the list in front.
+// Of a row that is marked already. Of a game with several files the one that is selected counts:
+// drives that were filled for it stay.
+Meaning MeaningAsSelected(const Look& look, const Stores& stores, List list, int row);
+// Of the marked row of the list in front. With no row marked there the selected game counts, whose
+// name is to be seen.
 Meaning MeaningInFront(const Look& look, const Stores& stores);
 
 // What a command is to do, worked out in front of it.

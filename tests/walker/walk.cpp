@@ -6,7 +6,7 @@ namespace {
 
 class Player {
  public:
-    explicit Player(const Session& session) : world(session.collection) {}
+    explicit Player(const Session& session) : world(session.collection), leftOut(session.leftOut) {}
 
     World& TheWorld() { return world; }
     bool Ended() const { return world.Ended(); }
@@ -39,8 +39,7 @@ class Player {
             end.commands.push_back(Command({"key", "Form1", "Escape"}));
         }
         if (auto failure = Play(end)) return failure;
-        DropAnswers();
-        return {};
+        return StartAnew();
     }
 
  private:
@@ -55,27 +54,39 @@ class Player {
         }
         const Look before = world.Now();
         const Stores stored = ReadStores(world, before);
-        Hand hand = HandOf(command);
-        Expected expected = Expect(before, stored, command);
+        const Expected expected = Expect(before, stored, command);
         const Json answer = world.Execute(command);
+        const bool taken = answer.value("ok", false);
+        return CheckAfter(command, before, stored, expected,
+                          taken ? "" : answer.value("error", std::string()));
+    }
+
+    // Another run of the program on the same disk.
+    std::optional<Failure> StartAnew() {
+        const Look before = world.Now();
+        const Stores stored = ReadStores(world, before);
+        world.StartAnew();
+        return CheckAfter(Command({"start"}), before, stored, {}, {});
+    }
+
+    std::optional<Failure> CheckAfter(const Json& command, const Look& before, const Stores& stored,
+                                      const Expected& expected, const std::string& error) {
         const Look after = world.Now();
         const Stores stores = ReadStores(world, after);
-        const std::string error =
-            answer.value("ok", false) ? "" : answer.value("error", std::string());
-        Moment moment{world,
-                      command,
-                      std::move(hand),
-                      before,
-                      after,
-                      stored,
-                      stores,
-                      std::move(expected),
-                      world.TakeStarts(),
-                      world.TakeBoxes(),
-                      error,
-                      memory};
+        const Moment moment{world,
+                            command,
+                            HandOf(command),
+                            before,
+                            after,
+                            stored,
+                            stores,
+                            expected,
+                            world.TakeStarts(),
+                            world.TakeBoxes(),
+                            error,
+                            memory};
         Remember(moment);
-        const auto fault = Check(moment);
+        const auto fault = Check(moment, leftOut);
         if (!fault) return {};
         return Failure{0, fault->invariant->name, fault->invariant->why, fault->what, command};
     }
@@ -83,6 +94,7 @@ class Player {
     void Remember(const Moment& moment) {
         if (moment.before.loaded != moment.after.loaded) memory = {};
         if (moment.hand.control == "LoadBtn" && moment.Taken()) memory.rescanned = true;
+        if (moment.hand.gesture == "start") memory.rescanned = false;
         if (moment.Answered("epar", platform::Answer::Yes)) memory.repaired = true;
         const bool loadsAgain =
             moment.hand.control == "AddToFavorit" ||
@@ -91,6 +103,7 @@ class Player {
     }
 
     World world;
+    const std::set<std::string>& leftOut;
     Memory memory;
 };
 

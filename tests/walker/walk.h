@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -14,6 +15,7 @@ struct Session {
     std::uint64_t seed = 0;
     Collection collection;
     std::vector<Step> steps;
+    std::set<std::string> leftOut{};  // invariants by name
 };
 
 struct Failure {
