@@ -38,19 +38,23 @@ Commands Bystander(World& world, const Look&, Random& random) {
     return {Command({"process", "add", random.Pick(names), bystander})};
 }
 
-std::string Gone(World& world, Random& random) {
-    std::vector<std::string> paths = world.Now().paths.rows;
-    return paths.empty() ? "" : paths[static_cast<std::size_t>(random.Below(paths.size()))];
+// A game's file, not one of the launcher's own, which an emulator without a directory of games
+// finds.
+std::string SomeGame(World& world, Random& random) {
+    const std::vector<std::string> paths = world.Now().paths.rows;
+    if (paths.empty()) return {};
+    const std::string path = random.Pick(paths);
+    return path.starts_with(std::string(programDirectory) + "/Roms/") ? path : "";
 }
 
 Commands FileVanishes(World& world, const Look&, Random& random) {
-    const std::string path = Gone(world, random);
+    const std::string path = SomeGame(world, random);
     if (path.empty() || !world.Exists(path)) return {};
     return {Command({"file", "remove", path})};
 }
 
 Commands FileComesBack(World& world, const Look&, Random& random) {
-    const std::string path = Gone(world, random);
+    const std::string path = SomeGame(world, random);
     if (path.empty() || world.Exists(path)) return {};
     return {Command({"file", "write", path, "x"})};
 }

@@ -110,7 +110,13 @@ const std::vector<Invariant>& FrontInvariants() {
         {"the tab of the list in front is marked",
          "keys, sizes and Escape act by the mode, and the user reads it off the tabs",
          MarkedTab,
-         {ended, running, nothingLoaded}},
+         {ended,
+          running,
+          nothingLoaded,
+          {"a double click on a global favourite loads its emulator and shows the list again",
+           [](const Moment& m) {
+               return m.after.At(List::globalFavourites).visible && m.after.mode == "2";
+           }}}},
         {"tabs to be seen",
          "without them nobody gets to another list",
          TabsToBeSeen,

@@ -93,13 +93,21 @@ class Player {
 
     void Remember(const Moment& moment) {
         if (moment.before.loaded != moment.after.loaded) memory = {};
-        if (moment.hand.control == "LoadBtn" && moment.Taken()) memory.rescanned = true;
         if (moment.hand.gesture == "start") memory.rescanned = false;
+        if (Pressed(moment, "LoadBtn")) memory.rescanned = true;
         if (moment.Answered("epar", platform::Answer::Yes)) memory.repaired = true;
-        const bool loadsAgain =
-            moment.hand.control == "AddToFavorit" ||
-            (moment.hand.control == "DeLFav" && moment.before.At(List::favourites).visible);
-        if (loadsAgain && moment.Taken()) memory.repaired = false;
+        // Both load the favourites again.
+        const bool removed =
+            Pressed(moment, "DeLFav") && moment.before.At(List::favourites).visible;
+        if (removed || Pressed(moment, "AddToFavorit")) memory.repaired = false;
+    }
+
+    // With the mouse or with a key.
+    static bool Pressed(const Moment& moment, const std::string& button) {
+        if (!moment.Taken()) return false;
+        const Hand& hand = moment.hand;
+        const bool byKey = hand.gesture == "key" && (hand.key == "Enter" || hand.key == "Space");
+        return hand.control == button || (byKey && moment.before.focus == button);
     }
 
     World world;
