@@ -1,13 +1,12 @@
 #include "library/global_search.h"
 
 #include <algorithm>
+#include <atomic>
+#include <future>
 #include <utility>
 
-#include "library/line_blocks.h"
 #include "library/list_search.h"
 #include "library/search_colors.h"
-#include "library/short_names.h"
-#include "support/run_file.h"
 #include "support/string_ops.h"
 #include "support/text.h"
 
@@ -199,50 +198,77 @@ bool AllEmulatorsSearch::MayGoOn() const {
     return !form.Ended && (!watchingList || form.GlobalSearchList.Visible());
 }
 
+// Two caches at a time: while this core looks through one, another looks through the next. What
+// that has found comes behind the first one's hits, so that all stand as if one by one.
 void AllEmulatorsSearch::ScanCaches(const SearchWords& words) {
-    for (int row = 0; row < form.EmuListbox.ListCount() && MayGoOn(); ++row) {
-        const std::string emulator = form.EmuListbox.List(row);
-        if (!emulator.empty() && !ScanCache(emulator, words)) return;
+    bool goesOn = true;
+    for (int row = 0; goesOn && MayGoOn();) {
+        const std::optional<Cache> first = OpenNext(row, words);
+        if (!first) return;
+        const std::optional<Cache> second = OpenNext(row, words);
+        std::atomic<bool> stop = false;
+        std::future<std::vector<CacheSearch::Part>> ahead;
+        if (second) {
+            // Without a thread to be had it is done when it is asked for.
+            ahead = std::async(std::launch::async | std::launch::deferred,
+                               [&second, &stop] { return second->search->Rest(limit + 1, stop); });
+        }
+        goesOn = Scan(*first);
+        stop = !goesOn;
+        if (second) goesOn = TakeParts(*second, ahead.get()) && goesOn;
     }
 }
 
+// The next emulator with a cache from `row` on, which moves behind it.
+std::optional<AllEmulatorsSearch::Cache> AllEmulatorsSearch::OpenNext(int& row,
+                                                                      const SearchWords& words) {
+    while (row < form.EmuListbox.ListCount()) {
+        const std::string emulator = form.EmuListbox.List(row++);
+        if (emulator.empty()) continue;
+        auto cache = files.OpenFile(form.ConfigPath + emulator + files.Separator() + form.EXE +
+                                    "_Cache.txt");
+        if (!cache) continue;
+        const auto decode = [this](std::string_view bytes) { return files.DecodeText(bytes); };
+        return Cache{emulator, std::make_unique<CacheSearch>(std::move(cache), words, decode)};
+    }
+    return {};
+}
+
 // False: the search ends.
-bool AllEmulatorsSearch::ScanCache(const std::string& emulator, const SearchWords& words) {
-    const auto cache =
-        files.OpenFile(form.ConfigPath + emulator + files.Separator() + form.EXE + "_Cache.txt");
-    if (!cache) return true;
-    ShowProgress(emulator, lines);
-    LineBlocks blocks(*cache);
-    while (MayGoOn() && blocks.Next()) {
-        const bool goesOn = ScanBlock(emulator, words, blocks.Block());
-        form.GlobalSearchList.AddItems(std::exchange(newRows, {}));
-        if (!goesOn) return false;
-        const std::int32_t before = lines;
-        lines += static_cast<std::int32_t>(blocks.LineCount());
-        if (lines / linesPerTurn == before / linesPerTurn) continue;
-        form.Label4.SetVisible(true);
-        ShowProgress(emulator, lines - lines % linesPerTurn);
+bool AllEmulatorsSearch::Scan(const Cache& cache) {
+    ShowProgress(cache.emulator, lines);
+    for (CacheSearch::Part part; MayGoOn() && cache.search->Next(part);) {
+        if (!TakePart(cache.emulator, part)) return false;
     }
     return MayGoOn();
 }
 
-bool AllEmulatorsSearch::ScanBlock(const std::string& emulator, const SearchWords& words,
-                                   std::string_view block) {
-    const auto decode = [this](std::string_view bytes) { return files.DecodeText(bytes); };
-    return words.ForEachLine(block, decode,
-                             [&](std::string_view line) { return TakeHit(emulator, line); });
+bool AllEmulatorsSearch::TakeParts(const Cache& cache,
+                                   const std::vector<CacheSearch::Part>& parts) {
+    if (!MayGoOn() || hits > limit) return false;
+    ShowProgress(cache.emulator, lines);
+    for (const CacheSearch::Part& part : parts) {
+        if (!MayGoOn() || !TakePart(cache.emulator, part)) return false;
+    }
+    return MayGoOn();
 }
 
-// The path of a game and its title mostly hit both, and so do the disks that lie beside it: one row
-// for them all.
-bool AllEmulatorsSearch::TakeHit(const std::string& emulator, std::string_view line) {
-    const std::string text = support::IsUtf8(line) ? std::string(line) : files.DecodeText(line);
-    const std::string name = CutShortName(support::FileNameView(text), ")", false);
-    std::string lowerName = support::ToLower(name);
-    if (lowerName == GlobalLastName) return true;
-    GlobalLastName = std::move(lowerName);
-    newRows.push_back(GlobalSearchRow(emulator, name));
-    return ++hits <= limit;
+bool AllEmulatorsSearch::TakePart(const std::string& emulator, const CacheSearch::Part& part) {
+    std::vector<std::string> rows;
+    for (const CacheSearch::Hit& hit : part.hits) {
+        if (hit.lowerName == GlobalLastName) continue;
+        GlobalLastName = hit.lowerName;
+        rows.push_back(GlobalSearchRow(emulator, hit.name));
+        if (++hits > limit) break;
+    }
+    form.GlobalSearchList.AddItems(std::move(rows));
+    if (hits > limit) return false;
+    const std::int32_t before = lines;
+    lines += static_cast<std::int32_t>(part.lineCount);
+    if (lines / linesPerTurn == before / linesPerTurn) return true;
+    form.Label4.SetVisible(true);
+    ShowProgress(emulator, lines - lines % linesPerTurn);
+    return true;
 }
 
 void AllEmulatorsSearch::ShowProgress(const std::string& emulator, std::int32_t linesShown) {

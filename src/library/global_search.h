@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,6 +10,7 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
+#include "library/cache_search.h"
 #include "library/search_words.h"
 #include "platform/file_system.h"
 
@@ -66,10 +69,17 @@ class AllEmulatorsSearch {
     void LeaveForOtherList();
     void PlaceLabel4();
     void CoverTabs();
+    // A cache that is being looked through.
+    struct Cache {
+        std::string emulator;
+        std::unique_ptr<CacheSearch> search;
+    };
+
     void ScanCaches(const SearchWords& words);
-    bool ScanCache(const std::string& emulator, const SearchWords& words);
-    bool ScanBlock(const std::string& emulator, const SearchWords& words, std::string_view block);
-    bool TakeHit(const std::string& emulator, std::string_view line);
+    std::optional<Cache> OpenNext(int& row, const SearchWords& words);
+    bool Scan(const Cache& cache);
+    bool TakeParts(const Cache& cache, const std::vector<CacheSearch::Part>& parts);
+    bool TakePart(const std::string& emulator, const CacheSearch::Part& part);
     void ShowProgress(const std::string& emulator, std::int32_t linesShown);
     bool MayGoOn() const;
     int EmulatorRow(std::string_view name) const;
@@ -84,10 +94,9 @@ class AllEmulatorsSearch {
     std::string GlobalLastName;  // lower-case title of the last hit, held from search to search
     std::int32_t hits = 0;
     std::int32_t lines = 0;
-    std::vector<std::string> newRows;  // of the block being read
-    int shownEmulator = -1;            // row whose preview was shown last
-    bool watchingList = false;         // the search ends when GlobalSearchList goes out of sight
-    bool restoring = false;            // the box gets its text back without a search
+    int shownEmulator = -1;     // row whose preview was shown last
+    bool watchingList = false;  // the search ends when GlobalSearchList goes out of sight
+    bool restoring = false;     // the box gets its text back without a search
 };
 
 }  // namespace kivu::library
