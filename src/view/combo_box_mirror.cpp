@@ -32,6 +32,7 @@ class Combo : public QComboBox {
         // The popup is made when it is first wanted.
         if (!dressed) {
             dressed = true;
+            view()->window()->setFont(font());
             view()->setItemDelegate(new RowDelegate(source, true, view()));
             view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
             if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
@@ -49,15 +50,24 @@ class Combo : public QComboBox {
         FitText();
     }
 
+    void showEvent(QShowEvent* event) override {
+        QComboBox::showEvent(event);
+        FitText();
+    }
+
     void changeEvent(QEvent* event) override {
-        QComboBox::changeEvent(event);
-        if (event->type() == QEvent::FontChange) FitText();
+        const bool font = event->type() == QEvent::FontChange;
+        // The toolkit would make the popup for its font, and lay out all rows in it.
+        font && !dressed ? QWidget::changeEvent(event) : QComboBox::changeEvent(event);
+        if (font) FitText();
     }
 
  private:
     // The field's width follows the font by a fixed rule, so a long text is set narrower before it
     // is cut; beyond a quarter it would be hard to read.
     void FitText() {
+        // Until then the field has no width of its own, and each narrower font costs an engine.
+        if (!isVisible()) return;
         QFont fitted = font();
         const int room = lineEdit()->width() - 8;
         const int wanted = QFontMetrics(fitted).horizontalAdvance(lineEdit()->text());

@@ -29,6 +29,28 @@ class WindowMirror : public Mirror {
     void Apply(forms::Aspect) override {}
 };
 
+// Lists cost much, and most of them are never shown: their widgets are made when they are.
+bool HasRows(const forms::Control& control) {
+    switch (control.GetKind()) {
+        case forms::Kind::listBox:
+        case forms::Kind::comboBox:
+        case forms::Kind::driveListBox:
+        case forms::Kind::dirListBox:
+        case forms::Kind::fileListBox:
+            return true;
+        default:
+            return false;
+    }
+}
+
+bool IsShown(const forms::Control& control) {
+    for (const forms::Control* at = &control; at; at = at->Parent()) {
+        if (at->GetKind() == forms::Kind::form) break;
+        if (!at->Visible()) return false;
+    }
+    return true;
+}
+
 }  // namespace
 
 FormView::FormView(forms::Form& form)
@@ -47,7 +69,7 @@ FormView::FormView(forms::Form& form)
     Watch(surface.get(), *window);
     mirrors.emplace(&form, std::move(window));
     for (forms::Control* control : form.Controls()) {
-        Build(*control);
+        if (IsWanted(*control)) Build(*control);
     }
     Stack(form);
     drag.ArrangeEdges();
@@ -75,10 +97,42 @@ void FormView::Build(forms::Control& control) {
     mirrors.emplace(&control, MakeMirror(control, place, *this));
 }
 
+bool FormView::IsWanted(const forms::Control& control) const {
+    return !HasRows(control) || IsShown(control);
+}
+
+// What has been shown, with all that lies on it.
+void FormView::BuildShown(forms::Control& control) {
+    if (!Find(control)) {
+        if (!IsWanted(control)) return;
+        Build(control);
+        StackAmongOthers(control);
+        if (form.Focus() == &control) ShowFocus();
+    }
+    if (const auto* container = dynamic_cast<forms::Container*>(&control)) {
+        for (forms::Control* child : container->Children())
+            BuildShown(*child);
+    }
+}
+
+// Below the next one in front of it.
+void FormView::StackAmongOthers(forms::Control& control) {
+    const auto& children = control.Parent()->Children();
+    const auto widgetOf = [this](forms::Control* child) {
+        const Mirror* mirror = Find(*child);
+        return mirror ? mirror->Widget() : nullptr;
+    };
+    const auto inFront = std::find_if(
+        std::next(std::find(children.begin(), children.end(), &control)), children.end(), widgetOf);
+    QWidget* widget = widgetOf(&control);
+    if (widget && inFront != children.end()) widget->stackUnder(widgetOf(*inFront));
+    drag.ArrangeEdges();
+}
+
 // Controls need not lie on one another in the order in which they were made.
 void FormView::Stack(const forms::Container& container) {
     for (forms::Control* child : container.Children()) {
-        Find(*child)->Apply(forms::Aspect::zOrder);
+        if (Mirror* mirror = Find(*child)) mirror->Apply(forms::Aspect::zOrder);
         if (const auto* inner = dynamic_cast<forms::Container*>(child)) Stack(*inner);
     }
 }
@@ -94,8 +148,11 @@ void FormView::Changed(forms::Control& control, forms::Aspect aspect) {
         FormChanged(aspect);
         return;
     }
-    if (!Find(control)) Build(control);
-    Find(control)->Apply(aspect);
+    // A control may have joined the form since.
+    if (aspect == forms::Aspect::visible || !Find(control)) BuildShown(control);
+    Mirror* mirror = Find(control);
+    if (!mirror) return;
+    mirror->Apply(aspect);
     if (aspect == forms::Aspect::zOrder) drag.ArrangeEdges();
 }
 
@@ -128,7 +185,7 @@ void FormView::FormChanged(forms::Aspect aspect) {
 void FormView::Show() {
     // What a handler makes clickable shows it; handlers are joined after the controls were made.
     for (forms::Control* control : form.Controls()) {
-        Find(*control)->Apply(forms::Aspect::geometry);
+        if (Mirror* mirror = Find(*control)) mirror->Apply(forms::Aspect::geometry);
     }
     FlushNow();
     ShowFocus();

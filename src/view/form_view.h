@@ -20,7 +20,8 @@ namespace kivu::view {
 // Shows a form as a window and turns the user's hands into what its handlers expect. Create it when
 // the form's controls and handlers are there; the form must outlive it.
 //
-// Each widget's object name and accessible name is its control's full name.
+// Each widget's object name and accessible name is its control's full name. A list or drop-down has
+// a widget once it has been shown for the first time.
 class FormView : public QObject, private forms::Observer, private MirrorHost {
  public:
     explicit FormView(forms::Form& form);
@@ -52,6 +53,9 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     void FormChanged(forms::Aspect aspect);
     Mirror* Find(forms::Control& control) const;
     void Build(forms::Control& control);
+    bool IsWanted(const forms::Control& control) const;
+    void BuildShown(forms::Control& control);
+    void StackAmongOthers(forms::Control& control);
     void Stack(const forms::Container& container);
     void ShowFocus();
     void TakeFocus(Mirror& mirror, Qt::FocusReason reason);

@@ -74,6 +74,50 @@ TEST_F(ControlsTest, LieOnOneAnotherAsTheyWereStackedBeforeTheWindowWasMade) {
     EXPECT_TRUE(list->isAncestorOf(early.Window().childAt(100, 100)));
 }
 
+TEST_F(ControlsTest, AListThatIsShownLateLiesWhereItWasStacked) {
+    SampleForm hidden;
+    hidden.Fill(20);
+    hidden.list.SetVisible(false);
+    hidden.combo.SetVisible(false);
+    hidden.list.Move(0, 0, 3000, 3000);
+    hidden.other.Move(0, 0, 1500, 1500);
+    view::FormView late(hidden);
+    late.Show();
+    // Nobody pays for what nobody sees.
+    EXPECT_FALSE(late.Window().findChild<QWidget*>(QStringLiteral("List")));
+    EXPECT_FALSE(late.Window().findChild<QWidget*>(QStringLiteral("Combo")));
+    hidden.list.SetBackColor(forms::Rgb(1, 2, 3));
+    hidden.list.SetListIndex(3);
+    hidden.list.SetVisible(true);
+    hidden.list.SetFocus();
+    auto* list = late.Window().findChild<QAbstractItemView*>(QStringLiteral("List"));
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->accessibleName(), "List");
+    EXPECT_EQ(list->geometry(), QRect(0, 0, 200, 200));
+    EXPECT_EQ(list->palette().color(QPalette::Base), QColor(1, 2, 3));
+    EXPECT_EQ(list->currentIndex().row(), 3);
+    EXPECT_EQ(late.Window().focusWidget(), list);
+    EXPECT_FALSE(list->isAncestorOf(late.Window().childAt(50, 50)));
+    EXPECT_TRUE(list->isAncestorOf(late.Window().childAt(150, 150)));
+    hidden.combo.SetVisible(true);
+    EXPECT_TRUE(late.Window().findChild<QComboBox*>(QStringLiteral("Combo"))->isVisible());
+}
+
+TEST_F(ControlsTest, AListInAContainerIsMadeWithIt) {
+    struct WithInnerList : SampleForm {
+        forms::ListBox within{&frame, "Within", forms::ListControl::Order::asAdded};
+    } hidden;
+    hidden.within.Move(0, 0, 1500, 1500);
+    hidden.frame.SetVisible(false);
+    view::FormView late(hidden);
+    late.Show();
+    EXPECT_FALSE(late.Window().findChild<QWidget*>(QStringLiteral("Within")));
+    hidden.frame.SetVisible(true);
+    auto* within = late.Window().findChild<QWidget*>(QStringLiteral("Within"));
+    ASSERT_TRUE(within);
+    EXPECT_TRUE(within->isVisible());
+}
+
 TEST_F(ControlsTest, KeepTheirOwnFlagInAHiddenContainer) {
     Show();
     form.frame.SetVisible(false);
