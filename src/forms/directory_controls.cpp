@@ -11,9 +11,7 @@ namespace kivu::forms {
 namespace {
 
 void Sort(const Toolkit& toolkit, std::vector<std::string>& rows) {
-    SortRows(rows.begin(), rows.end(), [&](const std::string& a, const std::string& b) {
-        return toolkit.collation ? toolkit.collation->Compare(a, b) < 0 : a < b;
-    });
+    SortRowsBy(toolkit.collation, rows.begin(), rows.end());
 }
 
 // A path that begins with "/" has no other separator, and "\" may end a name in it.

@@ -17,8 +17,12 @@ ListControl::ListControl(Container* parent, std::string name, Order order, int i
     : Control(parent, std::move(name), index), order(order) {
 }
 
+const Collation* ListControl::GetCollation() const {
+    return GetToolkit().collation;
+}
+
 bool ListControl::Precedes(std::string_view a, std::string_view b) const {
-    const Collation* collation = GetToolkit().collation;
+    const Collation* collation = GetCollation();
     return collation ? collation->Compare(a, b) < 0 : a < b;
 }
 
@@ -32,7 +36,7 @@ void ListControl::Settle() const {
         return Precedes(a, b);
     };
     const auto middle = rows.begin() + static_cast<std::ptrdiff_t>(settled);
-    SortRows(middle, rows.end(), before);
+    SortRowsBy(GetCollation(), middle, rows.end());
     if (settled > 0 && before(*middle, *(middle - 1))) PlaceNewRows();
     settled = rows.size();
 }
@@ -66,15 +70,27 @@ void ListControl::PlaceNewRows() const {
 const std::string& ListControl::List(int row) const {
     if (row < 0 || row >= ListCount()) return noText;
     Settle();
-    return rows[static_cast<std::size_t>(row)];
+    std::string& text = rows[static_cast<std::size_t>(row)];
+    if (maker && text.empty()) text = maker(row);
+    return text;
 }
 
 const std::vector<std::string>& ListControl::Rows() const {
+    MakeRows();
     Settle();
     return rows;
 }
 
+void ListControl::MakeRows() const {
+    if (!maker) return;
+    const RowMaker make = std::exchange(maker, {});
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        if (rows[row].empty()) rows[row] = make(static_cast<int>(row));
+    }
+}
+
 void ListControl::AddItem(std::string text) {
+    MakeRows();
     rows.push_back(std::move(text));
     ++changes;
     Notify(Aspect::rows);
@@ -82,6 +98,7 @@ void ListControl::AddItem(std::string text) {
 
 void ListControl::AddItems(std::vector<std::string> texts) {
     if (texts.empty()) return;
+    MakeRows();
     if (rows.empty()) {
         rows = std::move(texts);
     } else {
@@ -103,8 +120,25 @@ void ListControl::AddSorted(std::vector<std::string> texts) {
     Notify(Aspect::rows);
 }
 
+void ListControl::AddOnDemand(int count, RowMaker make) {
+    if (count <= 0) return;
+    if (!rows.empty()) {
+        std::vector<std::string> texts;
+        for (int row = 0; row < count; ++row)
+            texts.push_back(make(row));
+        AddItems(std::move(texts));
+        return;
+    }
+    rows.resize(static_cast<std::size_t>(count));
+    settled = rows.size();
+    maker = std::move(make);
+    ++changes;
+    Notify(Aspect::rows);
+}
+
 void ListControl::SetList(int row, std::string text) {
     if (row < 0 || row >= ListCount()) return;
+    MakeRows();
     Settle();
     rows[static_cast<std::size_t>(row)] = std::move(text);
     ++changes;
@@ -113,6 +147,7 @@ void ListControl::SetList(int row, std::string text) {
 
 void ListControl::RemoveItem(int row) {
     if (row < 0 || row >= ListCount()) return;
+    MakeRows();
     Settle();
     rows.erase(rows.begin() + row);
     settled = rows.size();
@@ -130,6 +165,7 @@ void ListControl::Clear() {
 
 std::vector<std::string> ListControl::TakeRows() {
     if (rows.empty()) return {};
+    MakeRows();
     Settle();
     std::vector<std::string> taken = std::exchange(rows, {});
     NoteCleared();
@@ -138,6 +174,7 @@ std::vector<std::string> ListControl::TakeRows() {
 
 void ListControl::NoteCleared() {
     settled = 0;
+    maker = {};
     const bool deselected = selection.Clear();
     ++changes;
     Notify(Aspect::rows);

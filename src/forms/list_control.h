@@ -38,8 +38,13 @@ class ListControl : public Control {
     // The same for rows that the caller has put in order by Precedes, equal ones in their order of
     // arrival; a list that was empty takes them as they are.
     void AddSorted(std::vector<std::string> texts);
+    // So many rows, in their order, behind which no others are: each is made when somebody first
+    // looks at it, and what is made of a row is always the same text.
+    using RowMaker = std::function<std::string(int row)>;
+    void AddOnDemand(int count, RowMaker make);
     // The order of a sorted list.
     bool Precedes(std::string_view a, std::string_view b) const;
+    const Collation* GetCollation() const;
     // Changes the text in its place, in a sorted list too.
     void SetList(int row, std::string text);
     void RemoveItem(int row);
@@ -71,10 +76,13 @@ class ListControl : public Control {
  private:
     void Settle() const;
     void PlaceNewRows() const;
+    // Those that nobody has looked at yet.
+    void MakeRows() const;
     void NoteCleared();
 
     Order order;
     mutable std::vector<std::string> rows;
+    mutable RowMaker maker;  // of the rows that are empty; null: all are made
     std::uint64_t changes = 0;
     mutable std::size_t settled = 0;  // so many rows at the front are in order
 };

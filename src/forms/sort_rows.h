@@ -6,6 +6,8 @@
 #include <utility>
 #include <vector>
 
+#include "forms/types.h"
+
 namespace kivu::forms {
 
 // Puts rows in order; equal ones keep theirs. Rows mostly arrive as a few lists that are in order
@@ -24,9 +26,19 @@ class RowSort {
         if (!FindOrder().empty()) MoveRows();
     }
 
+    // Whether the rows are in no order, by a look at the first ones: those that follow one another
+    // in order mostly do so from the beginning.
+    bool AreInNoOrder() {
+        constexpr Place some = 512, shortRun = 16;
+        FindRuns(std::min(static_cast<Place>(last - first), some));
+        return !runEnds.empty() && (runEnds.size() + 1) * shortRun > looked;
+    }
+
     // The rows' places in their order; empty for rows that are in order as they are.
     const std::vector<Place>& FindOrder() {
-        FindRuns();
+        const auto count = static_cast<Place>(last - first);
+        FindRuns(count);
+        if (count > 0) runEnds.push_back(count);
         if (runEnds.size() > 1) Number();
         while (runEnds.size() > 1)
             MergeNeighbours();
@@ -37,12 +49,11 @@ class RowSort {
     const std::string& Row(Place place) const { return first[static_cast<std::ptrdiff_t>(place)]; }
     bool RowBefore(Place a, Place b) const { return before(Row(a), Row(b)); }
 
-    void FindRuns() {
-        const auto count = static_cast<Place>(last - first);
-        for (Place place = 1; place < count; ++place) {
-            if (RowBefore(place, place - 1)) runEnds.push_back(place);
+    // Goes on up to row `end`.
+    void FindRuns(Place end) {
+        for (; looked < end; ++looked) {
+            if (RowBefore(looked, looked - 1)) runEnds.push_back(looked);
         }
-        if (count > 0) runEnds.push_back(count);
     }
 
     void Number() {
@@ -91,6 +102,7 @@ class RowSort {
 
     Iterator first, last;
     Before before;
+    Place looked = 1;
     std::vector<Place> runEnds;
     std::vector<Place> places, merged;
 };
@@ -101,12 +113,13 @@ void SortRows(std::vector<std::string>::iterator first, std::vector<std::string>
     RowSort<Before>(first, last, std::move(before)).Run();
 }
 
+// By a collation; null: by their bytes.
+void SortRowsBy(const Collation* collation, std::vector<std::string>::iterator first,
+                std::vector<std::string>::iterator last);
+
 // The places that the rows have in their order, equal ones as they come; empty for rows that are in
 // order as they are.
-template <typename Before>
-std::vector<std::uint32_t> OrderOfRows(const std::vector<std::string>& rows, Before before) {
-    using Iterator = std::vector<std::string>::const_iterator;
-    return RowSort<Before, Iterator>(rows.begin(), rows.end(), std::move(before)).FindOrder();
-}
+std::vector<std::uint32_t> OrderOfRows(const Collation* collation,
+                                       const std::vector<std::string>& rows);
 
 }  // namespace kivu::forms

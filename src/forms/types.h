@@ -114,11 +114,13 @@ class TextMeasure {
 };
 
 // The order of sorted lists: without regard to case, in the user's language. Compare gives a value
-// below, at or above 0.
+// below, at or above 0. Texts that begin with the same ASCII compare as what follows it.
 class Collation {
  public:
     virtual ~Collation() = default;
     virtual int Compare(std::string_view a, std::string_view b) const = 0;
+    // Of two texts the one with the lower number stands first; equal numbers tell nothing.
+    virtual std::uint64_t Rank(std::string_view) const { return 0; }
 };
 
 // What directory and file list controls show.

@@ -192,46 +192,36 @@ std::size_t FirstDifference(std::uint64_t a, std::uint64_t b) {
     return static_cast<std::size_t>(bits) / 8;
 }
 
-// What two texts come to as far as they are ASCII.
-struct AsciiStart {
-    int order = 0;              // not 0: it is decided
-    std::size_t undecided = 0;  // up to here they are equal on every level
-};
-
-// Eight bytes at a step: paths begin alike.
-AsciiStart CompareAsciiWords(std::string_view a, std::string_view b) {
+// Place of the first byte in which two texts differ, eight bytes at a step: paths begin alike.
+std::size_t FirstDifference(std::string_view a, std::string_view b) {
     const std::size_t shorter = std::min(a.size(), b.size());
     std::size_t at = 0;
-    while (shorter - at >= 8) {
+    for (; shorter - at >= 8; at += 8) {
         std::uint64_t wordA = 0;
         std::uint64_t wordB = 0;
         std::memcpy(&wordA, a.data() + at, 8);
         std::memcpy(&wordB, b.data() + at, 8);
-        if (((wordA | wordB) & 0x8080808080808080U) != 0) break;
-        if (wordA == wordB) {
-            at += 8;
-            continue;
-        }
-        at += FirstDifference(wordA, wordB);
-        const int order = int{AsciiWeight(a[at])} - int{AsciiWeight(b[at])};
-        if (order != 0) return {order, at};
-        ++at;
+        if (wordA != wordB) return at + FirstDifference(wordA, wordB);
     }
-    return {0, at};
+    while (at < shorter && a[at] == b[at])
+        ++at;
+    return at;
 }
 
 }  // namespace
 
 int CompareText(std::string_view a, std::string_view b) {
-    const AsciiStart start = CompareAsciiWords(a, b);
-    // A combining mark may follow, but it never outweighs a difference on the first level.
-    if (start.order != 0) return start.order;
     const std::size_t shorter = std::min(a.size(), b.size());
-    for (std::size_t at = start.undecided; at < shorter; ++at) {
+    std::size_t at = FirstDifference(a, b);
+    // Behind an ASCII character another one begins.
+    while (at > 0 && AsciiWeight(a[at - 1]) == 0)
+        --at;
+    for (; at < shorter; ++at) {
         const std::uint8_t weightA = AsciiWeight(a[at]);
         const std::uint8_t weightB = AsciiWeight(b[at]);
         // What is behind here decides alone: all before it is equal on every level.
         if (weightA == 0 || weightB == 0) return CompareBeyondAscii(a.substr(at), b.substr(at));
+        // A combining mark may follow, but it never outweighs a difference on the first level.
         if (weightA != weightB) return weightA < weightB ? -1 : 1;
     }
     return static_cast<int>(a.size() > shorter) - static_cast<int>(b.size() > shorter);
@@ -271,6 +261,22 @@ std::string SortKey(std::string_view text) {
     for (std::size_t at = 0; at < text.size();)
         AppendUtf8(key, FoldCase(NextCodePoint(text, at)));
     return key;
+}
+
+std::uint64_t SortRank(std::string_view text) {
+    constexpr std::size_t count = sizeof(std::uint64_t);
+    std::uint64_t rank = 0;
+    for (std::size_t at = 0; at < count; ++at) {
+        const std::uint8_t weight = at < text.size() ? AsciiWeight(text[at]) : std::uint8_t{0};
+        rank = rank << 8 | weight;
+        if (weight != 0 || at >= text.size()) continue;
+        const std::string key = SortKey(text);
+        rank = 0;
+        for (std::size_t i = 0; i < count; ++i)
+            rank = rank << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+        break;
+    }
+    return rank;
 }
 
 }  // namespace kivu::support

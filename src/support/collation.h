@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -15,6 +16,9 @@ int CompareText(std::string_view a, std::string_view b);
 
 // Bytes whose plain order is that of CompareText.
 std::string SortKey(std::string_view text);
+
+// The first eight bytes of the sort key as a number.
+std::uint64_t SortRank(std::string_view text);
 
 struct TextLess {
     using is_transparent = void;

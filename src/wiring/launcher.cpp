@@ -9,6 +9,10 @@ int TextOrder::Compare(std::string_view a, std::string_view b) const {
     return support::CompareText(a, b);
 }
 
+std::uint64_t TextOrder::Rank(std::string_view text) const {
+    return support::SortRank(text);
+}
+
 Launcher::Launcher(platform::Host host, const forms::TextMeasure* measure,
                    std::function<void()> endProgram)
     : routines(std::make_unique<Routines>(std::move(host), measure, std::move(endProgram))) {

@@ -46,6 +46,7 @@ namespace kivu::wiring {
 class TextOrder : public forms::Collation {
  public:
     int Compare(std::string_view a, std::string_view b) const override;
+    std::uint64_t Rank(std::string_view text) const override;
 };
 
 // Every routine of the launcher, in the order in which they need one another.
