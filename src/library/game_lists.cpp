@@ -11,6 +11,7 @@
 #include "support/fast_list_fill.h"
 #include "support/file_ops.h"
 #include "support/path_forms.h"
+#include "support/stored_paths.h"
 #include "support/text.h"
 
 namespace kivu::library {
@@ -56,7 +57,7 @@ void GameLists::LoadCacheList() {
         form.SuchErgList.SetVisible(false);
         busy.MeCaption("Loading: ");
         busy.MeCaption("Loading: " + std::to_string(form.UAE_FULL.ListCount()));
-        if (const auto bytes = files.ReadFile(form.CacheName)) FillFromCache(*bytes);
+        if (auto bytes = files.ReadFile(form.CacheName)) FillFromCache(*std::move(bytes));
         form.EmulatorLongListbox.SetVisible(false);
     }
     busy.MeCaption(noted);
@@ -65,28 +66,63 @@ void GameLists::LoadCacheList() {
     busy.HideAll(false);
 }
 
-void GameLists::FillFromCache(const std::string& bytes) {
-    const std::vector<CacheEntry> entries = ParseCache(bytes);
-    std::vector<std::string> paths, names;
-    paths.reserve(entries.size());
-    names.reserve(entries.size());
-    const std::string base = form.BaseDirectory();
+void GameLists::FillFromCache(std::string bytes) {
+    const auto cache = std::make_shared<const LoadedCache>(std::move(bytes));
     // One look at the whole file is cheaper than one at each line.
-    const bool utf8 = support::IsUtf8(bytes);
-    for (const CacheEntry& entry : entries) {
-        paths.push_back(utf8 ? support::StoredPath(base, entry.path)
-                             : support::StoredPath(base, PathOnDisk(entry.path)));
-        names.push_back(utf8 || support::IsUtf8(entry.name) ? std::string(entry.name)
-                                                            : files.DecodeText(entry.name));
-        if (paths.size() % 500 != 0) continue;
-        busy.MeCaption("Loading: " + std::to_string(paths.size()));
+    const bool utf8 = support::IsUtf8(cache->bytes);
+    const bool asStored = utf8 && IsInOrder(cache->entries);
+    std::vector<std::string> paths, names;
+    const std::string base = form.BaseDirectory();
+    int count = 0;
+    for (const CacheEntry& entry : cache->entries) {
+        if (!asStored) {
+            paths.push_back(utf8 ? support::StoredPath(base, entry.path)
+                                 : support::StoredPath(base, PathOnDisk(entry.path)));
+            names.push_back(utf8 || support::IsUtf8(entry.name) ? std::string(entry.name)
+                                                                : files.DecodeText(entry.name));
+        }
+        if (++count % 500 != 0) continue;
+        busy.MeCaption("Loading: " + std::to_string(count));
         pacer.DoEventsWhenDue();
+    }
+    if (asStored) {
+        FillOnDemand(cache);
+        return;
     }
     SortPairs(form.UAE_FULL, paths, names);
     // A path in an odd last line has no row for its name, if it is the last one in order too.
-    if (!entries.empty() && !entries.back().hasName && names.back().empty()) names.pop_back();
+    if (!cache->entries.back().hasName && names.back().empty()) names.pop_back();
     form.UAE_FULL.AddSorted(std::move(paths));
     form.UAE_Short.AddItems(std::move(names));
+}
+
+// The paths as they are stored tell the order of the absolute ones if they all begin alike, as
+// those of one directory do.
+bool GameLists::IsInOrder(const std::vector<CacheEntry>& entries) const {
+    if (entries.empty()) return true;
+    const support::StoredPaths stored(form.BaseDirectory(), entries.front().path);
+    std::string_view before;
+    for (const CacheEntry& entry : entries) {
+        const auto rest = stored.Rest(entry.path);
+        if (!rest || form.UAE_FULL.Precedes(*rest, before)) return false;
+        before = *rest;
+    }
+    return true;
+}
+
+// Few of many thousand rows are ever looked at.
+void GameLists::FillOnDemand(const std::shared_ptr<const LoadedCache>& cache) {
+    const auto& entries = cache->entries;
+    const auto count = static_cast<int>(entries.size());
+    const bool nameless = count > 0 && !entries.back().hasName;
+    form.UAE_FULL.AddOnDemand(count, [cache, base = form.BaseDirectory()](int row) {
+        return support::StoredPath(base, cache->entries[static_cast<std::size_t>(row)].path);
+    });
+    form.UAE_Short.AddOnDemand(count - (nameless ? 1 : 0), [cache](int row) {
+        return std::string(cache->entries[static_cast<std::size_t>(row)].name);
+    });
+    loaded = cache;
+    loadedNames = form.UAE_Short.Changes();
 }
 
 std::string GameLists::PathOnDisk(std::string_view stored) const {
@@ -212,31 +248,58 @@ void GameLists::UpdateListCaptions() {
 }
 
 void GameLists::BuildDoublesList() {
-    const std::vector<const std::string*> rows = NamesWithoutDoubles();
+    const std::shared_ptr<const LoadedCache> cache =
+        form.UAE_Short.Changes() == loadedNames ? loaded.lock() : nullptr;
     // A switch builds the list twice; what stands there already is not built anew.
-    const std::vector<std::string>& present = form.WIthoutDoubles.Rows();
-    const bool same =
-        form.WIthoutDoubles.ListIndex() == -1 &&
-        std::equal(rows.begin(), rows.end(), present.begin(), present.end(),
-                   [](const std::string* a, const std::string& b) { return *a == b; });
-    if (!same) {
-        form.WIthoutDoubles.Clear();
-        support::FastListFill fill(form.WIthoutDoubles);
-        fill.Reserve(rows.size());
-        for (const std::string* row : rows)
-            fill.Add(*row);
+    const bool unselected = form.WIthoutDoubles.ListIndex() == -1;
+    if (!unselected || doubles != DoublesVersions()) {
+        const std::vector<int> rows = RowsWithoutDoubles(cache.get());
+        if (!unselected || !DoublesListHolds(rows)) FillDoublesList(rows, cache);
+        doubles = DoublesVersions();
     }
     UpdateListCaptions();
 }
 
-std::vector<const std::string*> GameLists::NamesWithoutDoubles() const {
-    const std::vector<std::string>& names = form.UAE_Short.Rows();
-    const std::size_t games = std::min(form.UAE_FULL.Rows().size(), names.size());
-    std::vector<const std::string*> rows;
-    rows.reserve(games);
-    for (std::size_t i = 0; i < games; ++i) {
-        if (names[i].empty() || (!rows.empty() && names[i] == *rows.back())) continue;
-        rows.push_back(&names[i]);
+std::array<std::uint64_t, 3> GameLists::DoublesVersions() const {
+    return {form.UAE_FULL.Changes(), form.UAE_Short.Changes(), form.WIthoutDoubles.Changes()};
+}
+
+bool GameLists::DoublesListHolds(const std::vector<int>& rows) const {
+    const forms::ListBox& list = form.WIthoutDoubles;
+    if (list.ListCount() != static_cast<int>(rows.size())) return false;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (list.List(static_cast<int>(i)) != form.UAE_Short.List(rows[i])) return false;
+    }
+    return true;
+}
+
+void GameLists::FillDoublesList(const std::vector<int>& rows,
+                                const std::shared_ptr<const LoadedCache>& cache) {
+    form.WIthoutDoubles.Clear();
+    if (cache) {
+        form.WIthoutDoubles.AddOnDemand(static_cast<int>(rows.size()), [cache, rows](int row) {
+            const auto entry = static_cast<std::size_t>(rows[static_cast<std::size_t>(row)]);
+            return std::string(cache->entries[entry].name);
+        });
+        return;
+    }
+    support::FastListFill fill(form.WIthoutDoubles);
+    fill.Reserve(rows.size());
+    for (const int row : rows)
+        fill.Add(form.UAE_Short.List(row));
+}
+
+std::vector<int> GameLists::RowsWithoutDoubles(const LoadedCache* cache) const {
+    const int games = std::min(form.UAE_FULL.ListCount(), form.UAE_Short.ListCount());
+    std::vector<int> rows;
+    rows.reserve(static_cast<std::size_t>(games));
+    std::string_view last;
+    for (int row = 0; row < games; ++row) {
+        const std::string_view name = cache ? cache->entries[static_cast<std::size_t>(row)].name
+                                            : std::string_view(form.UAE_Short.List(row));
+        if (name.empty() || name == last) continue;
+        rows.push_back(row);
+        last = name;
     }
     return rows;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -8,6 +11,7 @@
 #include "core/hook.h"
 #include "core/ini.h"
 #include "library/file_scan_recursive.h"
+#include "library/list_cache.h"
 #include "platform/file_system.h"
 
 namespace kivu::library {
@@ -45,15 +49,21 @@ class GameLists {
     Hooks hooks;
 
  private:
-    void FillFromCache(const std::string& bytes);
+    void FillFromCache(std::string bytes);
+    void FillOnDemand(const std::shared_ptr<const LoadedCache>& cache);
+    bool IsInOrder(const std::vector<CacheEntry>& entries) const;
     std::string PathOnDisk(std::string_view stored) const;
     void ScanPatterns(const std::string& patterns);
     void ScanPattern(const std::string& pattern);
     void CutNames();
     void SaveCache();
     void ShowRescannedList();
-    // The display names, a run of equal ones once, empty ones left out.
-    std::vector<const std::string*> NamesWithoutDoubles() const;
+    // The rows of display names, of a run of equal ones the first, empty ones left out.
+    std::vector<int> RowsWithoutDoubles(const LoadedCache* cache) const;
+    bool DoublesListHolds(const std::vector<int>& rows) const;
+    void FillDoublesList(const std::vector<int>& rows,
+                         const std::shared_ptr<const LoadedCache>& cache);
+    std::array<std::uint64_t, 3> DoublesVersions() const;
 
     core::Form1& form;
     core::Ini& ini;
@@ -61,6 +71,12 @@ class GameLists {
     core::BusyState& busy;
     core::EventPacer& pacer;
     FileScanRecursive& scanner;
+
+    // What the rows of UAE_Short are made of, while they are those of the cache.
+    std::weak_ptr<const LoadedCache> loaded;
+    std::uint64_t loadedNames = 0;  // version of UAE_Short then
+    // Versions of UAE_FULL, UAE_Short and WIthoutDoubles when this was filled from those.
+    std::array<std::uint64_t, 3> doubles{};
 };
 
 }  // namespace kivu::library

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace kivu::library {
@@ -16,6 +17,16 @@ struct CacheEntry {
 // The pairs of lines of a list cache: a path, then its display name. Lines end in CR LF; LF alone
 // is taken as well. No line is refused: what a name or a path is worth shows when it is used.
 std::vector<CacheEntry> ParseCache(std::string_view bytes);
+
+// A cache in memory with its pairs.
+struct LoadedCache {
+    explicit LoadedCache(std::string read) : bytes(std::move(read)), entries(ParseCache(bytes)) {}
+    LoadedCache(const LoadedCache&) = delete;
+    LoadedCache& operator=(const LoadedCache&) = delete;
+
+    const std::string bytes;
+    const std::vector<CacheEntry> entries;
+};
 
 // Two lines ended by CR LF for each image.
 void AppendCacheEntry(std::string& cache, std::string_view path, std::string_view name);

@@ -61,7 +61,9 @@ void ListEvents::WIthoutDoubles_Click() {
     form.Current_ProgramNameFull.SetVisible(true);
     int start = 0;
     const std::string name = form.WIthoutDoubles.SelectedText();
-    const int row = FindListItem(name, form.UAE_Short.Rows(), false, start);
+    const int row = FindListItem(
+        name, form.UAE_Short.ListCount(),
+        [this](int at) -> std::string_view { return form.UAE_Short.List(at); }, false, start);
     if (row >= 0) {
         hooks.ShowOneDisk();
         form.UAE_Short.SetListIndex(row);
