@@ -39,7 +39,7 @@ void ListSearch::SearchInList(const std::string& Text, int StartRow) {
         form.SuchErgList.Clear();
         return;
     }
-    titles.ClearResults();
+    form.SuchErgList.Clear();
     const RowNumbers& found = titles.Find(Text, static_cast<std::size_t>(std::max(StartRow, 0)));
     // Its picture shows while the user types.
     if (!found.empty()) SelectGame(static_cast<int>(found.front()));

@@ -18,13 +18,17 @@ constexpr std::size_t few = 256;
 void JoinedRows::Take(const std::vector<std::string>& rows) {
     text.clear();
     begins.clear();
+    exact = true;
     begins.reserve(rows.size() + 1);
     for (const std::string& row : rows) {
         begins.push_back(text.size());
         text += row;
         // A line end within a row would make two of it. Nobody can search for one.
         const auto from = text.begin() + static_cast<std::ptrdiff_t>(begins.back());
-        if (row.find('\n') != std::string::npos) std::replace(from, text.end(), '\n', '\0');
+        if (row.find('\n') != std::string::npos) {
+            std::replace(from, text.end(), '\n', '\0');
+            exact = false;
+        }
         text += '\n';
     }
     begins.push_back(text.size());
@@ -64,23 +68,14 @@ RowNumbers JoinedRows::Find(const SearchWords& words, std::size_t start) const {
     return found;
 }
 
-void TitleSearch::ClearResults() {
-    former.clear();
-    if (filled == results.Changes()) {
-        former = results.TakeRows();
-    } else {
-        results.Clear();
-    }
-    filled.reset();
-}
-
 void TitleSearch::TakeTitles() {
     if (version == titles.Changes()) return;
     version = titles.Changes();
-    joined.Take(titles.Rows());
+    auto rows = std::make_shared<JoinedRows>();
+    rows->Take(titles.Rows());
+    joined = std::move(rows);
     order.reset();
     lastWords.reset();
-    former.clear();
 }
 
 const RowNumbers& TitleSearch::Find(std::string_view text, std::size_t start) {
@@ -91,7 +86,7 @@ const RowNumbers& TitleSearch::Find(std::string_view text, std::size_t start) {
     if (left) {
         Narrow(*left, start);
     } else {
-        found = joined.Find(words, start);
+        found = joined->Find(words, start);
     }
     lastWords = std::move(words);
     lastStart = start;
@@ -101,11 +96,11 @@ const RowNumbers& TitleSearch::Find(std::string_view text, std::size_t start) {
 void TitleSearch::Narrow(const SearchWords& left, std::size_t start) {
     found.erase(found.begin(), std::lower_bound(found.begin(), found.end(), start));
     if (left.IsEmpty()) return;
-    if (found.size() < joined.Count() / 8) {
-        std::erase_if(found, [&](std::uint32_t row) { return !left.AreIn(joined.Row(row)); });
+    if (found.size() < joined->Count() / 8) {
+        std::erase_if(found, [&](std::uint32_t row) { return !left.AreIn(joined->Row(row)); });
         return;
     }
-    const RowNumbers hits = joined.Find(left, start);
+    const RowNumbers hits = joined->Find(left, start);
     RowNumbers both;
     both.reserve(std::min(hits.size(), found.size()));
     std::set_intersection(found.begin(), found.end(), hits.begin(), hits.end(),
@@ -115,51 +110,31 @@ void TitleSearch::Narrow(const SearchWords& left, std::size_t start) {
 
 void TitleSearch::FillResults() {
     results.Clear();
-    if (found.size() < few) {
+    if (found.size() < few || !joined->AreExact()) {
         std::vector<std::string> texts;
         for (const std::uint32_t row : found)
             texts.push_back(titles.List(static_cast<int>(row)));
         results.AddItems(std::move(texts));
-    } else {
-        results.AddSorted(Texts());
-        filled = results.Changes();
+        return;
     }
-    former.clear();
+    const auto count = static_cast<int>(found.size());
+    results.AddOnDemand(count, [rows = joined, places = FoundInOrder()](int row) {
+        return std::string(rows->Row(places[static_cast<std::size_t>(row)]));
+    });
 }
 
-std::vector<std::string> TitleSearch::Texts() {
-    std::vector<char> isFound(joined.Count());
+RowNumbers TitleSearch::FoundInOrder() {
+    if (!order) order = forms::OrderOfRows(results.GetCollation(), titles.Rows());
+    if (order->empty()) return found;
+    std::vector<char> isFound(joined->Count());
     for (const std::uint32_t row : found)
         isFound[row] = 1;
-    const bool same = former.size() == found.size() &&
-                      std::all_of(shown.begin(), shown.end(),
-                                  [&](std::uint32_t row) { return isFound[row] != 0; });
-    return same ? std::move(former) : TextsInOrder(isFound);
-}
-
-std::vector<std::string> TitleSearch::TextsInOrder(const std::vector<char>& isFound) {
-    const std::vector<std::string>& rows = titles.Rows();
-    if (!order) {
-        order = forms::OrderOfRows(rows, [this](const std::string& a, const std::string& b) {
-            return results.Precedes(a, b);
-        });
+    RowNumbers inOrder;
+    inOrder.reserve(found.size());
+    for (const std::uint32_t row : *order) {
+        if (isFound[row] != 0) inOrder.push_back(row);
     }
-    const RowNumbers before = former.empty() ? RowNumbers() : std::exchange(shown, {});
-    std::vector<std::string> texts;
-    texts.reserve(found.size());
-    shown.clear();
-    shown.reserve(found.size());
-    std::size_t next = 0;
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const std::uint32_t row = order->empty() ? static_cast<std::uint32_t>(i) : (*order)[i];
-        const bool wasShown = next < before.size() && before[next] == row;
-        if (isFound[row] != 0) {
-            texts.push_back(wasShown ? std::move(former[next]) : rows[row]);
-            shown.push_back(row);
-        }
-        if (wasShown) ++next;
-    }
-    return texts;
+    return inOrder;
 }
 
 }  // namespace kivu::library

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -20,6 +21,8 @@ class JoinedRows {
     void Take(const std::vector<std::string>& rows);
     std::size_t Count() const { return begins.empty() ? 0 : begins.size() - 1; }
     std::string_view Row(std::size_t row) const;
+    // Whether Row gives each row as it is: none holds a line end.
+    bool AreExact() const { return exact; }
     // The rows from `start` on that contain all words, in rising order.
     RowNumbers Find(const SearchWords& words, std::size_t start) const;
 
@@ -28,43 +31,38 @@ class JoinedRows {
 
     std::string text;                 // each row ended by LF
     std::vector<std::size_t> begins;  // of each row in the text, and the text's end
+    bool exact = true;
 };
 
 // The search in a list of titles that fills another, sorted one, key by key. What one key has found
-// makes the next one cheap: a longer text is looked for in what the shorter one has left, and rows
-// that stay among the results are neither copied nor sorted again.
+// makes the next one cheap: a longer text is looked for in what the shorter one has left, and many
+// results are copied when somebody looks at them.
 class TitleSearch {
  public:
     TitleSearch(const forms::ListBox& titles, forms::ListBox& results)
         : titles(titles), results(results) {}
 
-    void ClearResults();
     // The titles from row `start` on that contain every word of `text`: their rows in rising order,
     // valid until the next search.
     const RowNumbers& Find(std::string_view text, std::size_t start);
-    // Puts what has been found into the cleared results.
+    // Puts what has been found into the results, in the place of those that are there.
     void FillResults();
 
  private:
     void TakeTitles();
     void Narrow(const SearchWords& left, std::size_t start);
-    std::vector<std::string> Texts();
-    std::vector<std::string> TextsInOrder(const std::vector<char>& isFound);
+    RowNumbers FoundInOrder();
 
     const forms::ListBox& titles;
     forms::ListBox& results;
 
     std::optional<std::uint64_t> version;  // of the titles that all below is about
-    JoinedRows joined;
+    std::shared_ptr<const JoinedRows> joined = std::make_shared<JoinedRows>();
     std::optional<RowNumbers> order;  // the titles sorted; empty if they are in order themselves
 
     std::optional<SearchWords> lastWords;
     std::size_t lastStart = 0;
     RowNumbers found;
-
-    std::optional<std::uint64_t> filled;  // version of the results as they were filled
-    RowNumbers shown;                     // rows of the results, in their order
-    std::vector<std::string> former;      // the results that were cleared
 };
 
 }  // namespace kivu::library
