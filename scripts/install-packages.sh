@@ -2,7 +2,7 @@
 # Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench ...
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev)
+build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev)
 run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0)
 screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)

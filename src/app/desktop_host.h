@@ -8,6 +8,9 @@
 
 namespace kivu::app {
 
+// Begins on another core what the toolkit would wait for. To be called before anything else.
+void PrepareToolkit();
+
 // Everything the launcher asks of the machine it runs on. One file for each host implements it.
 // Needs a QApplication.
 class DesktopHost {

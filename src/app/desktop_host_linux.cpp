@@ -1,4 +1,6 @@
 #include <QSocketNotifier>
+#include <fontconfig/fontconfig.h>
+#include <thread>
 
 #include "app/command_line.h"
 #include "app/desktop_host.h"
@@ -17,6 +19,12 @@
 #include "platform/qt/event_pump_qt.h"
 
 namespace kivu::app {
+
+// The toolkit reads the machine's fonts when it first wants one: some milliseconds, in which it has
+// enough else to do.
+void PrepareToolkit() {
+    std::thread([] { FcInit(); }).detach();
+}
 
 struct DesktopHost::Parts {
     std::string programFile = platform::ProgramFile();

@@ -30,6 +30,9 @@ std::vector<std::string> WideArguments() {
 
 }  // namespace
 
+void PrepareToolkit() {
+}
+
 struct DesktopHost::Parts {
     std::string programFile = platform::ProgramFile();
     platform::WindowsFileSystem files;

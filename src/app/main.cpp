@@ -1,6 +1,8 @@
 #include <QApplication>
 #include <QIcon>
+#include <QLoggingCategory>
 #include <QTimer>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
@@ -25,23 +27,38 @@ void EndAtOnce() {
     std::_Exit(EXIT_SUCCESS);
 }
 
+Q_LOGGING_CATEGORY(startStages, "kivu.start", QtWarningMsg)
+
+// How far the start has come, by the steady clock in nanoseconds, for who has asked for these
+// messages.
+void Reached(const char* stage) {
+    qCDebug(startStages, "%s\t%lld", stage,
+            static_cast<long long>(std::chrono::steady_clock::now().time_since_epoch().count()));
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
+    Reached("main");
+    kivu::app::PrepareToolkit();
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
     // Ready when the launcher is.
     kivu::view::PreloadPicture(":/background");
     kivu::view::ApplyStyle();
+    Reached("application");
 
     kivu::app::DesktopHost host(argc, argv);
     const kivu::view::TextMeasure measure;
     kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce);
     launcher.Start();
+    Reached("launcher");
 
     kivu::view::FormView view(launcher.MainWindow());
     view.onClosed = EndAtOnce;
+    Reached("view");
     view.Show();
+    Reached("shown");
     host.ListenForInstances([&](const std::string& file) {
         view.Summon();
         if (!file.empty()) launcher.StartHandedFile(file);
