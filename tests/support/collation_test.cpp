@@ -146,6 +146,7 @@ TEST(CompareText, IsATotalOrderThatSortKeysShare) {
                 << sorted[i] << '/' << sorted[j];
             ASSERT_EQ(Sign(SortKey(sorted[i]).compare(SortKey(sorted[j]))), Sign(order))
                 << sorted[i] << '/' << sorted[j];
+            ASSERT_LE(SortRank(sorted[i]), SortRank(sorted[j])) << sorted[i] << '/' << sorted[j];
         }
     }
 }
