@@ -22,15 +22,16 @@ std::vector<char*> Pointers(std::vector<std::string>& words) {
 }  // namespace
 
 ChildProcess::ChildProcess(const std::vector<std::string>& words,
-                           const std::vector<std::string>& environment) {
+                           const std::vector<std::string>& environment, const std::string& errors) {
     std::vector<std::string> arguments = words;
     std::vector<std::string> variables = environment;
     for (char** variable = environ; *variable; ++variable)
         variables.emplace_back(*variable);
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
-    for (const int stream : {STDOUT_FILENO, STDERR_FILENO})
-        posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, "/dev/null", O_WRONLY, 0);
+    posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(),
+                                     O_WRONLY | O_CREAT | O_TRUNC, 0600);
     const int failure = posix_spawnp(&id, arguments[0].c_str(), &actions, nullptr,
                                      Pointers(arguments).data(), Pointers(variables).data());
     posix_spawn_file_actions_destroy(&actions);

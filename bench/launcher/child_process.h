@@ -12,13 +12,15 @@ class ChildProcess {
     // `words` are the program and its arguments; "NAME=VALUE" in `environment` goes in front of the
     // present one. What it writes is thrown away. Throws std::runtime_error if it cannot be
     // started.
-    ChildProcess(const std::vector<std::string>& words,
-                 const std::vector<std::string>& environment);
+    // What it writes as errors goes into a file of that name.
+    ChildProcess(const std::vector<std::string>& words, const std::vector<std::string>& environment,
+                 const std::string& errors = "/dev/null");
     ~ChildProcess();
     ChildProcess(const ChildProcess&) = delete;
     ChildProcess& operator=(const ChildProcess&) = delete;
 
     bool Runs();
+    pid_t Id() const { return id; }
 
  private:
     pid_t id = 0;

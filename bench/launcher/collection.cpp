@@ -136,11 +136,17 @@ fs::path CachePath(const fs::path& programDirectory, int emulator) {
 
 void MakeProgramDirectory(const fs::path& directory, int emulators, int games) {
     const std::string cache = CacheText(games);
+    for (int i = 0; i < emulators; ++i)
+        fs::create_directories(directory / "Config" / EmulatorName(i));
+    for (int i = 0; i < std::min(emulators, 2); ++i)
+        WriteFile(CachePath(directory, i), cache);
+    WriteProfiles(directory, emulators);
+}
+
+void WriteProfiles(const fs::path& directory, int emulators) {
     for (int i = 0; i < emulators; ++i) {
-        const fs::path home = directory / "Config" / EmulatorName(i);
-        fs::create_directories(home);
-        WriteFile(home / "Kivu.ini", "[Settings]\r\nRomPath=../Roms\r\nEmulatorPath=/bin/true\r\n");
-        if (i < 2) WriteFile(CachePath(directory, i), cache);
+        WriteFile(directory / "Config" / EmulatorName(i) / "Kivu.ini",
+                  "[Settings]\r\nRomPath=../Roms\r\nEmulatorPath=/bin/true\r\n");
     }
     WriteFile(directory / "Config" / "Kivu.ini",
               "[Settings]\r\nLastEmulator=" + EmulatorName(0) + "\r\n");

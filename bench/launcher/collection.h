@@ -31,6 +31,8 @@ void MakeFiles(const std::filesystem::path& directory, const std::vector<std::st
 // A data directory as the launcher finds it: Config with so many emulators, of which the first two
 // have a list cache of `games` images each.
 void MakeProgramDirectory(const std::filesystem::path& directory, int emulators, int games);
+// The profiles of such a directory, as before a first start.
+void WriteProfiles(const std::filesystem::path& directory, int emulators);
 std::string EmulatorName(int number);
 // The list cache of an emulator of `MakeProgramDirectory`.
 std::filesystem::path CachePath(const std::filesystem::path& programDirectory, int emulator);

@@ -85,8 +85,8 @@ int RunRatios(int argc, char** argv, const std::vector<Ratio>& ratios) {
         const auto ours = times.least.find(OurSide(ratio));
         const auto yardstick = times.least.find(Yardstick(ratio));
         if (ours == times.least.end() || yardstick == times.least.end()) continue;
-        std::printf("%s\t%.6f\t%.6f\t%g\n", ratio.name.c_str(), ours->second, yardstick->second,
-                    ratio.goal);
+        std::printf("%s\t%.6f\t%.6f\t%g\t%s\n", ratio.name.c_str(), ours->second, yardstick->second,
+                    ratio.goal, ratio.unit.c_str());
     }
     return times.failed ? 1 : 0;
 }

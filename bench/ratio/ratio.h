@@ -17,11 +17,13 @@ struct Ratio {
     Run ours;
     Run yardstick;
     int repetitions = 50;
+    // What is measured: "ms" for seconds, which are shown as milliseconds; "MB" for megabytes.
+    std::string unit = "ms";
 };
 
 // Runs the repetitions of all sides in a random order, so that a slow minute of the machine meets
 // everybody, and writes a line for each ratio to standard output, its fields parted by tabs: name,
-// the least seconds of ours, the least of the yardstick, goal. Gives the exit code of the program:
+// the least of ours, the least of the yardstick, goal, unit. Gives the exit code of the program:
 // not 0 when a run failed or an option is unknown. Takes the options of Google Benchmark.
 int RunRatios(int argc, char** argv, const std::vector<Ratio>& ratios);
 

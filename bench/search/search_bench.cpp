@@ -113,7 +113,7 @@ bench::Ratio KeyRatio(Fixture& fixture, const std::string& name, const std::stri
 bench::Ratio AllRatio(Fixture& fixture, const std::string& name, const std::string& text) {
     bench::Ratio ratio;
     ratio.name = name;
-    ratio.goal = 1.0;
+    ratio.goal = 0.5;
     ratio.repetitions = 15;
     ratio.ours = [&fixture, text] {
         core::Form1& form = fixture.Window();
