@@ -237,6 +237,12 @@ void ListBox::MoveCurrentRow(int row) {
     Run(onClick);
 }
 
+void ListBox::SetMeantRow(int row) {
+    if (meantRow == row) return;
+    meantRow = row;
+    Notify(Aspect::selection);
+}
+
 ComboBox::ComboBox(Container* parent, std::string name, Order order, int index)
     : ListControl(parent, std::move(name), order, index) {
     ComboBox::Remeasure();

@@ -108,6 +108,14 @@ class ListBox : public ListControl {
     // The user moves the selected row and leaves the choice as it is. A different row in range runs
     // the click handler.
     void MoveCurrentRow(int row);
+
+    // The row that a key pressed elsewhere would select, as Enter in a search box does; -1 for
+    // none. It is only shown, by a line around it.
+    int MeantRow() const { return meantRow; }
+    void SetMeantRow(int row);
+
+ private:
+    int meantRow = -1;
 };
 
 // A drop-down list with a text field. Selecting a row writes its text into the field and runs the

@@ -130,6 +130,7 @@ void ListEvents::FavoritenListe_LostFocus() {
 void ListEvents::SuchErgList_GotFocus() {
     form.ListMode = "4";
     form.JoystickFocus = 4;
+    form.SuchErgList.SetMeantRow(-1);
     form.SuchErgList.SetVisible(true);
     hooks.RefreshList();
     form.SuchErgList.SetFocus();

@@ -76,6 +76,7 @@ void ListSearch::SearchDblsTxt_Change() {
         FilterCurrentList(text);
         ShowTab();
     }
+    ShowMeantRow(form.SearchDblsTxt.HasFocus());
     ShowCount();
 }
 
@@ -155,6 +156,7 @@ void ListSearch::SearchDblsTxt_GotFocus() {
     hooks.RebuildLayout();
     if (choosing) form.EmulatorLongListbox.BringToFront();
     form.ListMode = "7";
+    ShowMeantRow(true);
     if (IsIdleText(form.SearchDblsTxt.Text())) form.SearchDblsTxt.SetText("");
 }
 
@@ -163,6 +165,12 @@ void ListSearch::SearchDblsTxt_LostFocus() {
         form.SearchDblsTxt.SetText(form.Say(idleGerman, idleEnglish));
     form.SearchDblsTxt.SetBackColor(form.SuchErgList.BackColor());
     form.SearchDblsTxt.SetForeColor(form.SuchErgList.ForeColor());
+    ShowMeantRow(false);
+}
+
+// Enter in the box goes to the first result, whatever the arrows have chosen.
+void ListSearch::ShowMeantRow(bool inBox) {
+    form.SuchErgList.SetMeantRow(inBox && form.SuchErgList.ListCount() > 0 ? 0 : -1);
 }
 
 bool ListSearch::EnterSearchesAll() const {

@@ -58,6 +58,7 @@ class ListSearch {
     void FindNext();
     bool MoveIntoResults(int keyCode);
     bool EnterSearchesAll() const;
+    void ShowMeantRow(bool inBox);
     void ShowTab();
 
     core::Form1& form;

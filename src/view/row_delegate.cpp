@@ -53,7 +53,8 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     } else if (hover) {
         FillRounded(*painter, pill, cornerRadius, Mix(base, text, 0.09));
     }
-    if (!followsCurrent && source.ShowsCurrent() && source.Selected() == index.row()) {
+    const bool standsOut = source.ShowsCurrent() && source.Selected() == index.row();
+    if (!followsCurrent && (standsOut || source.Meant() == index.row())) {
         FillRounded(*painter, pill.adjusted(2, 2, -2, -2), cornerRadius - 1, Qt::transparent,
                     marked ? writing : accent, 1.5);
     }

@@ -15,6 +15,11 @@ bool ListRowSource::ShowsCurrent() const {
     return box && box->MultiSelect() && (box->SelCount() != 1 || !box->Selected(box->ListIndex()));
 }
 
+int ListRowSource::Meant() const {
+    const auto* box = dynamic_cast<const forms::ListBox*>(&list);
+    return box ? box->MeantRow() : -1;
+}
+
 void ListRowSource::Click(int row, int shift) {
     using forms::Choice;
     const bool range = (shift & forms::shifts::shift) != 0;

@@ -18,6 +18,8 @@ class RowSource {
     virtual bool IsMarked(int row) const { return Selected() == row; }
     // The selected row is to stand out among those chosen.
     virtual bool ShowsCurrent() const { return false; }
+    // The row that a key pressed elsewhere would select; -1 for none.
+    virtual int Meant() const { return -1; }
     // With the shift state of the mouse.
     virtual void Click(int row, int shift) = 0;
     virtual void Select(int row) = 0;
@@ -31,6 +33,7 @@ class ListRowSource : public RowSource {
     int Selected() const override { return list.ListIndex(); }
     bool IsMarked(int row) const override;
     bool ShowsCurrent() const override;
+    int Meant() const override;
     void Click(int row, int shift) override;
     void Select(int row) override { list.SetListIndex(row); }
 

@@ -176,6 +176,7 @@ std::vector<Property> ListProperties() {
              })(control);
          }},
         {"MultiSelect", Reads<ListBox>([](auto& c) { return c.MultiSelect(); })},
+        {"MeantRow", Reads<ListBox>([](auto& c) { return c.MeantRow(); })},
         {"Path", Reads<DirListBox, FileListBox>([](auto& c) { return c.Path(); }),
          Writes<DirListBox, FileListBox>(
              [](auto& c, const Json& v) { c.SetPath(TextFrom(v, "Path")); })},

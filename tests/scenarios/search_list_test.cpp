@@ -158,6 +158,22 @@ TEST_F(ListSearchScenario, EnterGoesToTheFirstResultAndEnterThereStartsIt) {
     EXPECT_EQ(Do("runs")["value"].size(), 1U);
 }
 
+TEST_F(ListSearchScenario, TheFirstResultIsMeantWhileTheBoxIsInFront) {
+    Start();
+    Type("ant");
+    EXPECT_EQ(Get("SuchErgList.ListIndex"), -1);
+    EXPECT_EQ(Get("SuchErgList.MeantRow"), 0);
+    Do("key", "Form1.SearchDblsTxt", "Down");
+    EXPECT_EQ(Get("SuchErgList.ListIndex"), 0);
+    EXPECT_EQ(Get("SuchErgList.MeantRow"), -1);
+    Do("click", "Form1.SearchDblsTxt");
+    EXPECT_EQ(Get("SuchErgList.MeantRow"), 0);
+    Do("click", "Form1.Label2");
+    EXPECT_EQ(Get("SuchErgList.MeantRow"), -1);
+    Type("nothing of this name");
+    EXPECT_EQ(Get("SuchErgList.MeantRow"), -1);
+}
+
 TEST_F(ListSearchScenario, TheSearchTakesThePlaceOfTheFavourites) {
     Start();
     Do("set", "Form1.FavoritenListe.Left", 777);

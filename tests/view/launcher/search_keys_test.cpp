@@ -93,6 +93,54 @@ TEST_F(SearchKeys, EnterInTheBoxGoesToTheFirstResult) {
     EXPECT_EQ(Shown("SuchErgList"), Rows{"Zool (1992)(Gremlin)"});
 }
 
+TEST_F(SearchKeys, TheResultThatEnterMeansHasALineAroundIt) {
+    Show();
+    Type("ant");
+    auto* list = Find<QAbstractItemView>("SuchErgList");
+    // Right of the text, from the row's top down to its middle.
+    const auto hasLine = [&](int row) {
+        const QImage picture = list->viewport()->grab().toImage();
+        const QRect place = list->visualRect(list->model()->index(row, 0));
+        const int x = place.right() - 30;
+        const QRgb ground = picture.pixel(x, place.center().y());
+        for (int y = place.top(); y < place.center().y(); ++y) {
+            if (picture.pixel(x, y) != ground) return true;
+        }
+        return false;
+    };
+    EXPECT_TRUE(hasLine(0));
+    EXPECT_FALSE(hasLine(1));
+    Key(Qt::Key_Return);
+    EXPECT_EQ(Form().SuchErgList.ListIndex(), 0);
+    EXPECT_FALSE(hasLine(1));
+    // Back in the box with the second row selected, Enter means the first.
+    Key(Qt::Key_Down);
+    Click("SearchDblsTxt");
+    EXPECT_EQ(Form().SuchErgList.ListIndex(), 1);
+    EXPECT_TRUE(hasLine(0));
+}
+
+TEST_F(SearchKeys, ADigitTypedInAListStartsASearch) {
+    Show();
+    ASSERT_TRUE(HasFocus("WIthoutDoubles"));
+    Type("1990");
+    EXPECT_EQ(Box(), "1990");
+    EXPECT_EQ(Shown("SuchErgList"), (Rows{"Ant (1990)(Maker)", "Der Jäger (1990)(Maker)"}));
+}
+
+TEST_F(SearchKeys, EnterStartsTheRowMarkedInTheListInFront) {
+    Show();
+    Key(Qt::Key_Down);
+    EXPECT_EQ(Form().WIthoutDoubles.ListIndex(), 1);
+    Click("Label3");
+    for (int i = 0; i < 2; ++i)
+        Key(Qt::Key_Down);
+    EXPECT_EQ(Form().UAE_Short.ListIndex(), 3);
+    Click("Label2");
+    Key(Qt::Key_Return);
+    EXPECT_NE(tree.Read("Config/Alpha/Kivu_tmp.bat").find("2 Ant.adf"), std::string::npos);
+}
+
 TEST_F(SearchKeys, F3GoesOnFromTheSelectedGame) {
     Show();
     Type("ant");
