@@ -1,6 +1,7 @@
 #include <QApplication>
 #include <QIcon>
 #include <QLoggingCategory>
+#include <QScreen>
 #include <QTimer>
 #include <chrono>
 #include <cstdio>
@@ -8,6 +9,7 @@
 #include <string>
 
 #include "app/desktop_host.h"
+#include "view/fit_into.h"
 #include "view/form_view.h"
 #include "view/pictures.h"
 #include "view/style.h"
@@ -51,6 +53,9 @@ int main(int argc, char** argv) {
     kivu::app::DesktopHost host(argc, argv);
     const kivu::view::TextMeasure measure;
     kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce);
+    // A size that the user has left it in comes after this, whatever it is.
+    if (const QScreen* screen = QApplication::primaryScreen())
+        kivu::view::FitInto(launcher.MainWindow(), screen->availableGeometry());
     launcher.Start();
     Reached("launcher");
 
