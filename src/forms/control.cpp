@@ -60,6 +60,7 @@ void Control::SetFont(Font value) {
     font = std::move(value);
     Notify(Aspect::font);
     Remeasure();
+    Run(onFontChange);
 }
 
 void Control::SetFontSize(double points) {

@@ -113,6 +113,7 @@ class Control {
     std::function<void(const Mouse&)> onMouseMove;
     std::function<void(const Mouse&)> onMouseUp;
     std::function<void()> onResize;
+    std::function<void()> onFontChange;
     // A control is dragged over this one, or dropped on it. Twips from this control's edges.
     std::function<void(Control& source, int x, int y)> onDragOver;
     std::function<void(Control& source, int x, int y)> onDragDrop;

@@ -26,6 +26,26 @@ int LineHeight(const Toolkit& toolkit, const Font& font) {
     return toolkit.measure ? toolkit.measure->LineHeight(font) : static_cast<int>(font.size * 24);
 }
 
+// Broken between words, and wherever it must within one.
+int LinesWithin(const Toolkit& toolkit, const Font& font, std::string_view line, int width) {
+    width = std::max(1, width);
+    const auto wide = [&](std::size_t from, std::size_t to) {
+        return LineWidth(toolkit, font, line.substr(from, to - from));
+    };
+    int lines = 1;
+    std::size_t begin = 0, word = 0;
+    while (word < line.size()) {
+        const std::size_t end = std::min(line.find(' ', word), line.size());
+        if (wide(begin, end) > width) {
+            lines += word > begin;
+            begin = word;
+            lines += std::max(0, wide(begin, end) - 1) / width;
+        }
+        word = end + 1;
+    }
+    return lines;
+}
+
 }  // namespace
 
 std::vector<std::string_view> CaptionLines(std::string_view caption) {
@@ -78,6 +98,8 @@ Label::Label(Container* parent, std::string name, int index)
 void Label::SetCaption(std::string value) {
     if (caption == value) return;
     caption = std::move(value);
+    shownText.clear();
+    hint.clear();
     Notify(Aspect::text);
     Remeasure();
     Run(onChange);
@@ -99,6 +121,45 @@ void Label::SetOpaque(bool value) {
     if (opaque == value) return;
     opaque = value;
     Notify(Aspect::colors);
+}
+
+void Label::SetShownText(std::string value) {
+    if (shownText == value) return;
+    shownText = std::move(value);
+    Notify(Aspect::text);
+}
+
+void Label::SetHint(std::string value) {
+    if (hint == value) return;
+    hint = std::move(value);
+    Notify(Aspect::text);
+}
+
+void Label::SetShownFontSize(double points) {
+    const bool fits = points >= 0 && points <= largestFont;
+    if (!fits || shownFontSize == points) return;
+    shownFontSize = points;
+    Notify(Aspect::font);
+}
+
+Font Label::ShownFont() const {
+    Font shown = GetFont();
+    if (shownFontSize > 0) shown.size = shownFontSize;
+    return shown;
+}
+
+int Label::ShownLines(int width) const {
+    int lines = 0;
+    const forms::TextMeasure* measure = GetToolkit().measure;
+    for (const std::string_view line : CaptionLines(shownText.empty() ? caption : shownText)) {
+        lines += measure ? measure->LinesWithin(ShownFont(), line, width)
+                         : LinesWithin(GetToolkit(), ShownFont(), line, width);
+    }
+    return lines;
+}
+
+int Label::ShownLineHeight() const {
+    return LineHeight(GetToolkit(), ShownFont());
 }
 
 int Label::TextWidth() const {

@@ -59,6 +59,21 @@ class Label : public Control {
     // The same width for another text.
     int WidthOf(std::string_view text) const;
 
+    // What a view shows in the caption's place, where that is broken for other readers or is too
+    // long; empty: the caption. A new caption takes it away.
+    const std::string& ShownText() const { return shownText; }
+    void SetShownText(std::string value);
+    // Points that a view shows the text in, whatever the font says; 0: the font's.
+    double ShownFontSize() const { return shownFontSize; }
+    void SetShownFontSize(double points);
+    Font ShownFont() const;
+    // What to do next, in quiet letters below the caption. A new caption takes it away.
+    const std::string& Hint() const { return hint; }
+    void SetHint(std::string value);
+    // Lines that a view makes of what it shows in so many twips, and the height of one.
+    int ShownLines(int width) const;
+    int ShownLineHeight() const;
+
     std::function<void()> onChange;
 
  protected:
@@ -68,6 +83,9 @@ class Label : public Control {
     std::string caption;
     bool autoSize = false;
     bool opaque = false;
+    std::string shownText;
+    std::string hint;
+    double shownFontSize = 0;
     Alignment alignment = Alignment::left;
 };
 

@@ -226,6 +226,12 @@ const std::vector<int>& ListBox::SelectedRows() const {
     return selection.Rows();
 }
 
+void ListBox::SetHint(std::string value) {
+    if (hint == value) return;
+    hint = std::move(value);
+    Notify(Aspect::text);
+}
+
 void ListBox::MoveCurrentRow(int row) {
     if (row < 0 || row >= ListCount() || row == ListIndex()) return;
     if (!multiSelect) {

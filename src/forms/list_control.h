@@ -105,6 +105,9 @@ class ListBox : public ListControl {
     int SelCount() const { return static_cast<int>(SelectedRows().size()); }
     // In rising order; valid until the next change.
     const std::vector<int>& SelectedRows() const;
+    // Quiet words in the place of the rows while there are none.
+    const std::string& Hint() const { return hint; }
+    void SetHint(std::string value);
     // The user moves the selected row and leaves the choice as it is. A different row in range runs
     // the click handler.
     void MoveCurrentRow(int row);
@@ -116,6 +119,7 @@ class ListBox : public ListControl {
 
  private:
     int meantRow = -1;
+    std::string hint;
 };
 
 // A drop-down list with a text field. Selecting a row writes its text into the field and runs the

@@ -111,6 +111,8 @@ class TextMeasure {
     virtual ~TextMeasure() = default;
     virtual int Width(const Font& font, std::string_view line) const = 0;
     virtual int LineHeight(const Font& font) const = 0;
+    // How many lines a view makes of one that it may break to keep within a width.
+    virtual int LinesWithin(const Font& font, std::string_view line, int width) const = 0;
 };
 
 // The order of sorted lists: without regard to case, in the user's language. Compare gives a value

@@ -17,6 +17,13 @@ QFont PlainFont(QFont font) {
     return font;
 }
 
+QFont HintFont(QFont font) {
+    constexpr double least = 10, most = 14;
+    font.setPointSizeF(qBound(least, font.pointSizeF() * 0.75, most));
+    font.setBold(false);
+    return font;
+}
+
 QFont ToQt(const forms::Font& font) {
     QFont result = QGuiApplication::font();
     if (!font.name.empty()) result.setFamilies(QStringList(ToQt(font.name)) + result.families());

@@ -14,4 +14,7 @@ QFont PlainFont(QFont font);
 // resolution: text and geometry must stay in proportion.
 QFont ToQt(const forms::Font& font);
 
+// For quiet words beside text of this font: smaller, but never too small to read.
+QFont HintFont(QFont font);
+
 }  // namespace kivu::view

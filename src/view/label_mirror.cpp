@@ -5,6 +5,7 @@
 
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/fonts.h"
 #include "view/style_parts.h"
 #include "view/text.h"
 #include "view/text_block.h"
@@ -14,6 +15,10 @@ namespace kivu::view {
 namespace {
 
 constexpr QMargins tabAir(8, 4, 8, 6);
+
+const std::string& TextOf(const forms::Label& label) {
+    return label.ShownText().empty() ? label.Caption() : label.ShownText();
+}
 
 class LabelWidget : public QWidget {
  public:
@@ -57,12 +62,13 @@ class LabelWidget : public QWidget {
 
  private:
     void DrawLines(QPainter& painter) {
+        const std::string& shown = TextOf(label);
         // Blanks that do not fit leave nothing to tell of.
-        if (label.Caption().find_first_not_of(' ') == std::string::npos) return;
+        if (shown.find_first_not_of(' ') == std::string::npos) return;
         const QRect place = rect().marginsRemoved(mirror.Overhang()).adjusted(1, 0, -1, 0);
         if (brokenFor != place.size()) {
             brokenFor = place.size();
-            lines = BreakText(ToQt(label.Caption()), font(), place.width(), place.height());
+            lines = BreakText(ToQt(shown), font(), place.width(), place.height());
         }
         static constexpr Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
         const Qt::Alignment side = sides[static_cast<int>(label.GetAlignment())];
@@ -76,6 +82,20 @@ class LabelWidget : public QWidget {
                              text);
             line.translate(0, step);
         }
+        DrawHint(painter, line.top());
+    }
+
+    // Below the text, with air above and at the sides.
+    void DrawHint(QPainter& painter, double top) {
+        if (label.Hint().empty()) return;
+        const QRectF place = QRectF(rect()).adjusted(24, 0, -24, 0);
+        painter.setFont(HintFont(font()));
+        QColor quiet = painter.pen().color();
+        quiet.setAlphaF(0.75F);
+        painter.setPen(quiet);
+        painter.drawText(QRectF(place.left(), top + 12, place.width(), place.bottom() - top - 12),
+                         int(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextWordWrap,
+                         SplitLines(ToQt(label.Hint())).join(u'\n'));
     }
 
     const forms::Label& label;
@@ -101,9 +121,12 @@ void LabelMirror::Apply(forms::Aspect aspect) {
     if (aspect == forms::Aspect::geometry) {
         widget->setCursor(label.onClick ? Qt::PointingHandCursor : Qt::ArrowCursor);
     }
+    if (aspect == forms::Aspect::font) widget->setFont(ToQt(label.ShownFont()));
     if (aspect == forms::Aspect::text || aspect == forms::Aspect::font) {
         static_cast<LabelWidget*>(widget.data())->Forget();
-        if (aspect == forms::Aspect::text) widget->setAccessibleDescription(ToQt(label.Caption()));
+        if (aspect == forms::Aspect::text)
+            widget->setAccessibleDescription(
+                ToQt(TextOf(label) + (label.Hint().empty() ? "" : "\r") + label.Hint()));
     }
 }
 

@@ -1,9 +1,14 @@
 #include "view/list_mirror.h"
 
+#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
 
+#include "view/colors.h"
+#include "view/fonts.h"
 #include "view/row_delegate.h"
+#include "view/text.h"
+#include "view/text_block.h"
 
 namespace kivu::view {
 
@@ -13,7 +18,24 @@ class ListView : public QListView {
  public:
     using QListView::QListView;
 
+    void SetHint(const QString& words) {
+        if (hint == words) return;
+        hint = words;
+        viewport()->update();
+    }
+
  protected:
+    void paintEvent(QPaintEvent* event) override {
+        QListView::paintEvent(event);
+        if (hint.isEmpty() || (model() && model()->rowCount() > 0)) return;
+        QPainter painter(viewport());
+        painter.setFont(HintFont(font()));
+        const QColor base = palette().color(QPalette::Base);
+        painter.setPen(Mix(base, Readable(palette().color(QPalette::Text), base), 0.72));
+        constexpr int air = 24;
+        painter.drawText(viewport()->rect().adjusted(air, air, -air, -air),
+                         int(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextWordWrap, hint);
+    }
     // A slim margin keeps the rows off the rounded line.
     void resizeEvent(QResizeEvent* event) override {
         setViewportMargins(1, 2, 1, 2);
@@ -28,9 +50,12 @@ class ListView : public QListView {
         QListView::focusOutEvent(event);
         viewport()->update();
     }
+
+ private:
+    QString hint;
 };
 
-QListView* MakeView(QWidget* parent) {
+ListView* MakeView(QWidget* parent) {
     auto* view = new ListView(parent);
     view->setUniformItemSizes(true);
     view->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -70,12 +95,21 @@ void ListMirror::Apply(forms::Aspect aspect) {
             break;
         case forms::Aspect::selection:
             break;
+        case forms::Aspect::text:
+            ShowHint();
+            return;
         default:
             return;
     }
     // With the rows the selected one may have moved.
     selectionChanged = true;
     host.FlushSoon(*this);
+}
+
+void ListMirror::ShowHint() {
+    const auto* box = dynamic_cast<const forms::ListBox*>(&control);
+    if (!box) return;
+    static_cast<ListView*>(list.data())->SetHint(SplitLines(ToQt(box->Hint())).join(u'\n'));
 }
 
 void ListMirror::Flush() {

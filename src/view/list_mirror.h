@@ -24,6 +24,8 @@ class ListMirror : public Mirror {
     int PageRows() const override;
 
  private:
+    void ShowHint();
+
     std::unique_ptr<RowSource> source;
     QPointer<QListView> list;
     Rows* rows = nullptr;

@@ -6,6 +6,7 @@
 #include "view/fonts.h"
 #include "view/geometry.h"
 #include "view/text.h"
+#include "view/text_block.h"
 
 namespace kivu::view {
 
@@ -25,6 +26,14 @@ int TextMeasure::Width(const forms::Font& font, std::string_view line) const {
 
 int TextMeasure::LineHeight(const forms::Font& font) const {
     return ToTwips(static_cast<int>(std::ceil(MetricsOf(font).height())));
+}
+
+int TextMeasure::LinesWithin(const forms::Font& font, std::string_view line, int width) const {
+    // A pixel at each side stays free, and the edges may be rounded towards one another.
+    const int room = std::max(1, width / forms::twipsPerPixel - 3);
+    if (MetricsOf(font).horizontalAdvance(ToQt(line)) <= room) return 1;
+    constexpr double high = 1e6;
+    return static_cast<int>(BreakText(ToQt(line), ToQt(font), room, high).size());
 }
 
 }  // namespace kivu::view

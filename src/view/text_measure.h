@@ -13,6 +13,8 @@ class TextMeasure : public forms::TextMeasure {
  public:
     int Width(const forms::Font& font, std::string_view line) const override;
     int LineHeight(const forms::Font& font) const override;
+    // In a label of that width.
+    int LinesWithin(const forms::Font& font, std::string_view line, int width) const override;
 
  private:
     struct Known {

@@ -20,7 +20,7 @@ Session::Session(platform::FileSystem& files, const Options& options)
     : programDirectory(options.programDirectory),
       host(MakeHost(files, options)),
       launcher(host.Services(options.programDirectory, options.program, options.commandLine),
-               nullptr, [this] {
+               options.measure, [this] {
                    ended = true;
                    throw ProgramEnded{};
                }) {

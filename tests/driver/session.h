@@ -17,6 +17,7 @@ struct Options {
     std::string language = "English";  // English name of the system language
     platform::TimeOfDay time{12, 0, 0};
     bool windowsStartFiles = false;  // start files for cmd.exe instead of /bin/sh
+    const forms::TextMeasure* measure = nullptr;
 };
 
 // Thrown where the launcher ends its program, since a program that ends never returns.

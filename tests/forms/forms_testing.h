@@ -45,6 +45,9 @@ class FixedMeasure : public TextMeasure {
         return static_cast<int>(static_cast<double>(line.size()) * font.size * 10);
     }
     int LineHeight(const Font& font) const override { return static_cast<int>(font.size * 20); }
+    int LinesWithin(const Font& font, std::string_view line, int width) const override {
+        return 1 + std::max(0, Width(font, line) - 1) / width;
+    }
 };
 
 // Writes "name aspect" for each change, with what the control is like at that moment.
