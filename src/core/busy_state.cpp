@@ -22,7 +22,7 @@ void BusyState::HideAll(bool iVIsible) {
     form.Label2.SetVisible(iVIsible);
     form.Label3.SetVisible(iVIsible);
     form.EmulatorLongListbox.SetVisible(false);
-    form.SearchDblsTxt.SetVisible(iVIsible);
+    form.ShowSearchBox(iVIsible);
     form.FavoritenListeGlobal.SetVisible(false);
     form.Current_ProgramNameFull.SetCaption("");
     if (!iVIsible) {

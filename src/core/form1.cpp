@@ -43,6 +43,12 @@ bool Form1::ChoiceInFront() const {
     return choosing && EmulatorLongListbox.Visible() && !FavoritenListeGlobal.Visible();
 }
 
+void Form1::ShowSearchBox(bool show) {
+    SearchDblsTxt.SetVisible(show);
+    SuchErg.SetVisible(show);
+    SearchAllBtn.SetVisible(show);
+}
+
 std::string Form1::BaseDirectory() const {
     std::string directory = AppDir;
     if (!directory.empty() && (directory.back() == '\\' || directory.back() == '/'))
@@ -103,13 +109,12 @@ void Form1::DesignLists() {
     AddToFavorit_Global.SetCaption("Add to global Favorites");
     DeLFav.SetCaption("Remove Favorite");
     for (forms::CommandButton* button : {&AddToFavorit, &AddToFavorit_Global, &DeLFav}) {
-        button->Move(ListLeft, 0, 2200, 390);
+        button->Move(ListLeft, 0, 2200, 420);
         button->SetFont({"", 9, false});
         button->SetVisible(false);
         // They lie on SettingsFrame.
         button->BringToFront();
     }
-    AddToFavorit_Global.SetWidth(2350);
 }
 
 void Form1::DesignFrame() {
@@ -118,6 +123,8 @@ void Form1::DesignFrame() {
     SettingsFrame.Move(9433, 6000, 4800, 4000);
     Current_ProgramNameFull.Move(100, 200, 4600, 1000);
     Current_ProgramNameFull.SetFont({"", 15, false});
+    // Several routines change its font; the eye wants one size.
+    Current_ProgramNameFull.SetShownFontSize(15);
     SearchDblsTxt.SetText("Suche..");
     SearchDblsTxt.SetWidth(2250);
     SuchErg.Move(0, 0, 330, 330);
@@ -172,7 +179,8 @@ void Form1::DesignDrives() {
         Check_Dfx[i].SetFont({"Arial Black", 8, true});
         Check_Dfx[i].Move(30 + static_cast<int>(i) * 810, 45, 800, 300);
     }
-    DrivesResizeLabel.SetCaption(std::string(10, ' '));
+    DrivesResizeLabel.SetCaption(unfoldedHandle);
+    DrivesResizeLabel.SetShownText(foldSign);
     DrivesResizeLabel.Move(4360, 270, 200, 210);
     DrivesResizeLabel.SetFont({"", 8, true});
     DrivesResizeLabel.SetAlignment(forms::Alignment::center);

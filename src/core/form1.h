@@ -11,6 +11,9 @@
 namespace kivu::core {
 
 inline constexpr const char* defaultTitle = "Kivu 1.4b";
+// The caption of the drives panel's handle, and the sign that it shows.
+inline constexpr const char* unfoldedHandle = "          ";
+inline constexpr const char* foldSign = "<";
 
 // The reusable scanner's inner controls; library/FileScanRecursive drives them.
 struct FileScanControls {
@@ -189,6 +192,8 @@ struct Form1 : forms::Form {
     const char* Say(const char* german, const char* english) const {
         return CurrentLanguage == 1 ? german : english;
     }
+    // The search box with what belongs to it.
+    void ShowSearchBox(bool show);
     // The program's directory as path routines want it: without a closing separator.
     std::string BaseDirectory() const;
 

@@ -66,6 +66,12 @@ void SettingsLoader::LoadDrivesPanel() {
     };
     panel.SetLeft(place("DrvWindowX", panel.Left()));
     panel.SetTop(place("DrvWindowY", panel.Top()));
+    // A place from another size of the window, or of a profile that only took over the one that it
+    // found, may lie anywhere by now.
+    const std::string docked =
+        ini.ReadIniValue(settings, "DrvWindowDocked", form.IniPath, "", false);
+    if (docked == "1" || (docked != "0" && hooks.DrivesCoverOthers && hooks.DrivesCoverOthers()))
+        hooks.DockDrives();
 }
 
 void SettingsLoader::LoadJoystick() {

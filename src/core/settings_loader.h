@@ -18,6 +18,8 @@ class SettingsLoader {
         Hook<void()> SetColors;
         Hook<void(bool)> JoystickEnable;
         Hook<int()> JoystickCount;
+        Hook<bool()> DrivesCoverOthers;  // the drives panel, at its place
+        Hook<void()> DockDrives;
     };
 
     SettingsLoader(Form1& form, Ini& ini, const platform::FileSystem& files,

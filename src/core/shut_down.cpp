@@ -8,6 +8,7 @@ void ShutDown::ExitBtn_Click() {
     };
     write("DrvWindowX", form.SettingsSubPicture.Left(), form.IniPath);
     write("DrvWindowY", form.SettingsSubPicture.Top(), form.IniPath);
+    write("DrvWindowDocked", DrivesAreHome && DrivesAreHome() ? 1 : 0, form.IniPath);
     write("WindowState", static_cast<int>(form.State()), form.BaseIniName);
     // A maximised or tiny window never replaces the last good geometry.
     if (form.State() == forms::WindowState::normal && form.Width() > 2000 && form.Height() > 1000) {

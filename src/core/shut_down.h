@@ -13,6 +13,7 @@ class ShutDown {
 
     void ExitBtn_Click();
 
+    Hook<bool()> DrivesAreHome;  // the drives panel lies in its place in the right column
     // Ends the program at once.
     Hook<void()> EndProgram;
 

@@ -108,6 +108,7 @@ bool GlobalEvents::ShowGlobalFavourites() {
     store.ShowHeading();
     // The open choice has made the drop-down as wide as the lists; the tabs stand beside it.
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    hooks.RestoreColours();
     hooks.ArrangeLists();
     form.DeLFav.SetVisible(true);
     // The choice of a font size leaves this list out.

@@ -23,6 +23,7 @@ class GlobalEvents {
         core::Hook<void()> SetToNormal;   // the window is no longer kept on top
         core::Hook<void()> ArrangeLists;  // the list in front, and the tabs
         core::Hook<void()> LeaveEmulatorBox;
+        core::Hook<void()> RestoreColours;  // the drop-down's, that the open choice has changed
         core::Hook<void(bool)> ShowEmulatorBox;
     };
     struct Services {

@@ -36,11 +36,8 @@ void EmulatorBox::Close() {
     if (form.EmuListbox.ListIndex() != form.EmuBoxIndexSaved)
         form.EmuListbox.SetListIndex(form.EmuBoxIndexSaved);
     form.EmuListLocked = false;
-    if (choiceOpen) {
-        form.EmuListbox.SetBackColor(form.EmuListboxBackColor);
-        form.EmuListbox.SetForeColor(form.EmuListboxForeColor);
-        choiceOpen = false;
-    }
+    RestoreColours();
+    choiceOpen = false;
     if (form.EmuListbox.ListIndex() >= 0) {
         form.EmuListbox.SetText(form.EmuListbox.SelectedText());
     } else {
@@ -48,6 +45,12 @@ void EmulatorBox::Close() {
     }
     busy.HideAll(false);
     form.EmulatorLongListbox.SetVisible(false);
+}
+
+void EmulatorBox::RestoreColours() {
+    if (!choiceOpen) return;
+    form.EmuListbox.SetBackColor(form.EmuListboxBackColor);
+    form.EmuListbox.SetForeColor(form.EmuListboxForeColor);
 }
 
 void EmulatorBox::Open() {
@@ -74,7 +77,7 @@ void EmulatorBox::Open() {
     form.EmulatorLongListbox.SetForeColor(forms::Rgb(0, 0, 0));
     form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
     // A letter typed here starts a search, so the box is there.
-    if (!form.EmulatorRuns()) form.SearchDblsTxt.SetVisible(true);
+    if (!form.EmulatorRuns()) form.ShowSearchBox(true);
 }
 
 // Only the favourites' tab goes with it, at the right edge.
@@ -148,7 +151,7 @@ void EmulatorBox::EmuListbox_KeyPress(forms::Character& character) {
 
 void EmulatorBox::StartSearchWith(char32_t letter) {
     if (form.EmulatorRuns()) return;
-    form.SearchDblsTxt.SetVisible(true);
+    form.ShowSearchBox(true);
     form.SearchDblsTxt.SetText(std::string(1, static_cast<char>(letter)));
     form.SearchDblsTxt.SetFocus();
     form.SearchDblsTxt.SetSelection(1, 0);

@@ -41,6 +41,8 @@ class EmulatorBox {
     void LeaveEmulatorBox();
     // From its opening until it is closed, also while something hides the long list.
     bool ChoiceIsOpen() const { return choiceOpen; }
+    // The drop-down as it looks beside any other list.
+    void RestoreColours();
 
     void EmuListbox_Click();
     void EmuListbox_DblClick();

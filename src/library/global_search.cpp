@@ -15,6 +15,7 @@ namespace kivu::library {
 namespace {
 
 constexpr int tabGap = 200;
+constexpr int margin = 120;  // a screen draws tabs with air around them
 constexpr std::int32_t linesPerTurn = 100;
 
 // Behind the caption, so that the label covers the tabs beside it.
@@ -87,7 +88,7 @@ void AllEmulatorsSearch::ArrangeForSearch() {
     if (form.EmulatorLongListbox.Visible()) hooks.CloseEmulatorChoice();
     busy.HideAll(false);
     // It tells what is searched for, and takes the next search.
-    form.SearchDblsTxt.SetVisible(true);
+    form.ShowSearchBox(true);
     form.SearchAllBtn.SetBackColor(allEmulatorsColor);
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
     PlaceLabel4();
@@ -116,10 +117,16 @@ void AllEmulatorsSearch::DressList() {
 void AllEmulatorsSearch::PlaceLabel4() {
     const std::string& caption = form.Label4.Caption();
     const bool backed = caption.ends_with(Backing());
+    const int left = form.EmuListbox.Right() + tabGap;
+    int width =
+        form.Label4.WidthOf(backed ? caption : caption + Backing()) + 2 * forms::twipsPerPixel;
+    // Counts of five digits make tabs that are wider than that.
+    for (const forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3}) {
+        if (tab->Visible()) width = std::max(width, tab->Right() + margin - left);
+    }
     form.Label4.SetAutoSize(false);
-    form.Label4.SetWidth(form.Label4.WidthOf(backed ? caption : caption + Backing()) +
-                         2 * forms::twipsPerPixel);
-    form.Label4.SetLeft(form.EmuListbox.Right() + tabGap);
+    form.Label4.SetWidth(width);
+    form.Label4.SetLeft(left);
 }
 
 // The label covers the other tabs, of which one may have been brought to the front, and none of

@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <array>
 
-#include "library/short_names.h"
-#include "support/string_ops.h"
 #include "support/text.h"
 #include "ui/layout_numbers.h"
 
@@ -13,26 +11,11 @@ namespace kivu::ui {
 namespace {
 constexpr int cornerRadius = 30;  // pixels
 constexpr int tabGap = 200;
-constexpr int nameTop = 200;  // of the current entry's name, in its frame
-constexpr int rowPitch = 540;
-constexpr int buttonGap = 90;
-constexpr int lowestRow = 800;  // from the frame's bottom
-constexpr int drivesRow = lowestRow + 2 * rowPitch + 750;
+constexpr int allRoom = 1'000'000'000;
 
-// How many lines a line becomes where it breaks between words, and wherever it must within one.
-int BrokenLines(const forms::Label& label, std::string_view line, int width) {
-    int lines = 1;
-    std::size_t begin = 0, word = 0;
-    while (word < line.size()) {
-        const std::size_t end = std::min(line.find(' ', word), line.size());
-        if (label.WidthOf(line.substr(begin, end - begin)) > width) {
-            lines += word > begin;
-            begin = word;
-            lines += std::max(0, label.WidthOf(line.substr(begin, end - begin)) - 1) / width;
-        }
-        word = end + 1;
-    }
-    return lines;
+// " Favorites (12) " as "Favorites".
+std::string WithoutCount(std::string_view caption) {
+    return std::string(support::Trim(caption.substr(0, caption.find(" ("))));
 }
 }  // namespace
 
@@ -108,130 +91,6 @@ void Layout::SetVorschau() {
     form.VorschauBild.Move(form.Col2Left, form.FavoritenListe.Top(), width, height);
 }
 
-void Layout::ResizeSettingsWindow() {
-    const int left = form.ListLeft + form.ListWidth + 100;
-    const int width = form.Width() - left - 100;
-    stacked =
-        100 + form.AddToFavorit.Width() + buttonGap + form.AddToFavorit_Global.Width() > width;
-    const int height = HeightOfFrame(width, form.Height() - form.VorschauBild.Bottom());
-    form.SettingsFrame.Move(left, form.Height() - height, width, height);
-    PlaceName();
-    PlaceFrameRows();
-    PlaceDrivesHome();
-    PlaceFavouriteButtons();
-    KeepDrivesInside();
-}
-
-// From the name's bottom edge to the frame's: the favourites' buttons, the drives and the rows.
-int Layout::RoomBelowName() const {
-    return (stacked ? 2 : 1) * (form.AddToFavorit.Height() + buttonGap) + buttonGap + drivesRow;
-}
-
-int Layout::LineOfName() const {
-    const std::string& caption = form.Current_ProgramNameFull.Caption();
-    const auto breaks = static_cast<int>(std::count(caption.begin(), caption.end(), '\r'));
-    return std::max(1, form.Current_ProgramNameFull.TextHeight() / (breaks + 1));
-}
-
-// With the breaks that the view adds where a line is too wide all the same.
-int Layout::HeightOfName(int width) const {
-    const forms::Label& name = form.Current_ProgramNameFull;
-    const std::string_view caption = name.Caption();
-    if (caption.empty()) return 0;
-    int lines = 0;
-    for (std::size_t start = 0; start <= caption.size();) {
-        const std::size_t end = std::min(caption.find('\r', start), caption.size());
-        lines += BrokenLines(name, caption.substr(start, end - start), std::max(1, width));
-        start = end + 1;
-    }
-    return lines * LineOfName();
-}
-
-// A name of many lines needs more than the picture leaves. The frame then begins higher, since the
-// rows at its bottom have to stay in the window, but not above the lists.
-int Layout::HeightOfFrame(int width, int height) const {
-    const int text = HeightOfName(width - 100);
-    if (text == 0) return height;
-    const int wanted = nameTop + text + RoomBelowName();
-    return std::max(height, std::min(wanted, form.Height() - form.FavoritenListe.Top()));
-}
-
-void Layout::PlaceName() {
-    forms::Label& name = form.Current_ProgramNameFull;
-    const int width = form.SettingsFrame.Width() - 100;
-    const int text = HeightOfName(width);
-    const int line = LineOfName();
-    const int lines = std::max(1, (form.SettingsFrame.Height() - nameTop - RoomBelowName()) / line);
-    name.Move(100, nameTop, width, std::clamp(text, line, lines * line));
-    // What is cut, or has lost a letter to a break, can be read there.
-    const bool whole = text <= lines * line && name.WidthOf(name.Caption()) <= width;
-    name.SetToolTipText(whole ? "" : support::replaceall(fullName, "\r", " "));
-}
-
-// From the right and from the bottom: the exit and the search, above them options and rescan, below
-// them the font size and the pins.
-void Layout::PlaceFrameRows() {
-    const int frameWidth = form.SettingsFrame.Width();
-    const int lowest = form.SettingsFrame.Height() - lowestRow;
-    const auto place = [](forms::Control& control, int left, int top) {
-        control.Move(left, top, control.Width(), control.Height());
-    };
-    place(form.SettingsBtn, frameWidth - form.SettingsBtn.Width() - 300, lowest - 2 * rowPitch);
-    form.SettingsShortBtn.Move(form.SettingsBtn.Left(), form.SettingsBtn.Top(),
-                               form.SettingsBtn.Width(), form.SettingsBtn.Height());
-    place(form.ExitBtn, frameWidth - form.ExitBtn.Width() - 300, lowest - rowPitch);
-    // A narrow window leaves less for the search box.
-    constexpr int widest = 2250, narrowest = 900, margin = 150;
-    const int room = form.ExitBtn.Left() - 300 - 100 - form.SearchAllBtn.Width() - margin;
-    form.SearchDblsTxt.SetWidth(std::clamp(room, narrowest, widest));
-    place(form.SearchDblsTxt, form.ExitBtn.Left() - form.SearchDblsTxt.Width() - 300,
-          lowest - rowPitch);
-    place(form.SearchAllBtn, form.SearchDblsTxt.Left() - form.SearchAllBtn.Width() - 100,
-          lowest - rowPitch);
-    form.SuchErg.Move(form.SearchDblsTxt.Right() + 20, form.SearchDblsTxt.Top() + 75, 260, 260);
-    place(form.LoadBtn, form.SearchAllBtn.Left(), lowest - 2 * rowPitch);
-    place(form.FontSizeCombo, form.SearchAllBtn.Left(), lowest);
-    place(form.AlwaysOnTop1, frameWidth - form.AlwaysOnTop1.Width() - 150, lowest);
-    place(form.JoystickIcon, form.AlwaysOnTop1.Left() - form.JoystickIcon.Width() - 200, lowest);
-}
-
-// The panel lies in the frame, above its rows, until somebody drags it away.
-void Layout::PlaceDrivesHome() {
-    forms::PictureBox& panel = form.SettingsSubPicture;
-    const bool atHome =
-        drivesHomeLeft < 0 || (panel.Left() == drivesHomeLeft && panel.Top() == drivesHomeTop);
-    drivesHomeLeft = form.SettingsFrame.Left() + 100;
-    drivesHomeTop = form.SettingsFrame.Bottom() - drivesRow;
-    if (atHome) panel.Move(drivesHomeLeft, drivesHomeTop, panel.Width(), panel.Height());
-}
-
-// Above the drives panel's home: one place for adding and removing, of which only one makes sense
-// at a time, and one for the global list, on top of them where they do not fit beside one another.
-void Layout::PlaceFavouriteButtons() {
-    const int top = drivesHomeTop - form.AddToFavorit.Height() - buttonGap;
-    const auto place = [](forms::CommandButton& button, int left, int top) {
-        button.Move(left, top, button.Width(), button.Height());
-    };
-    place(form.AddToFavorit, drivesHomeLeft, top);
-    place(form.DeLFav, drivesHomeLeft, top);
-    forms::CommandButton& toGlobal = form.AddToFavorit_Global;
-    if (stacked) {
-        place(toGlobal, drivesHomeLeft, top - toGlobal.Height() - buttonGap);
-    } else {
-        place(toGlobal, form.AddToFavorit.Right() + buttonGap, top);
-    }
-}
-
-void Layout::KeepDrivesInside() {
-    forms::PictureBox& panel = form.SettingsSubPicture;
-    if (panel.Left() > form.Width() - 300) panel.SetLeft(form.Width() - panel.Width() - 200);
-    if (panel.Top() > form.Height() - 500) panel.SetTop(form.Height() - panel.Height() - 200);
-    // Beyond the other edges nothing would be left to grab it by.
-    constexpr int leastInside = 150;
-    if (panel.Right() < leastInside) panel.SetLeft(200);
-    if (panel.Bottom() < leastInside) panel.SetTop(200);
-}
-
 void Layout::ArrangeLists() {
     form.GlobalSearchList.SetVisible(false);
     form.SearchAllBtn.SetBackColor(forms::Rgb(255, 255, 255));
@@ -286,28 +145,33 @@ void Layout::ArrangeTabs() {
     PlaceTabs();
 }
 
-// What a large font or a small window leaves no room for is cut, and told by a tool tip.
+// What a large font or a small window leaves no room for: first the counts go, that of the tab in
+// front last, then the words of the others are cut. A tool tip tells them.
 void Layout::FitTabs(int left, bool choosing) {
-    std::vector<forms::Label*> tabs;
-    std::vector<int> widths;
-    std::size_t current = 0;
-    for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
-        if (!tab->Visible()) continue;
-        if (tab->IsOpaque()) current = tabs.size();
-        tabs.push_back(tab);
-        widths.push_back(tab->TextWidth() + 2 * forms::twipsPerPixel);
-    }
-    const int gaps = static_cast<int>(tabs.size()) * tabGap;
-    const std::vector<int> fitting = TabWidths(widths, current, form.Width() - left - gaps, 300);
     // Over the hits of all emulators one caption covers the others, and the window's edge cuts it.
     // Over the open choice there is but one tab.
     const bool covered = form.GlobalSearchList.Visible() || choosing;
+    std::vector<forms::Label*> tabs;
+    std::vector<TabNeed> needs;
+    std::size_t current = 0;
+    for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
+        if (!tab->Visible() || (covered && tab == &form.Label4)) continue;
+        if (tab->IsOpaque()) current = tabs.size();
+        tabs.push_back(tab);
+        constexpr int edges = 2 * forms::twipsPerPixel;
+        needs.push_back(
+            {tab->TextWidth() + edges, tab->WidthOf(WithoutCount(tab->Caption())) + edges});
+    }
+    const int gaps = static_cast<int>(tabs.size()) * tabGap;
+    const int room = covered ? allRoom : form.Width() - left - gaps;
+    const std::vector<TabWidth> fitting = FitTabWidths(needs, current, room, 300);
     for (std::size_t i = 0; i < tabs.size(); ++i) {
-        if (covered && tabs[i] == &form.Label4) continue;
-        const bool whole = covered || fitting[i] == widths[i];
-        tabs[i]->SetAutoSize(whole);
-        tabs[i]->SetToolTipText(whole ? "" : std::string(support::Trim(tabs[i]->Caption())));
-        if (!whole) tabs[i]->SetWidth(fitting[i]);
+        forms::Label& tab = *tabs[i];
+        const bool whole = fitting[i].counted && fitting[i].width == needs[i].whole;
+        tab.SetShownText(fitting[i].counted ? "" : WithoutCount(tab.Caption()));
+        tab.SetAutoSize(whole);
+        tab.SetToolTipText(whole ? "" : std::string(support::Trim(tab.Caption())));
+        if (!whole) tab.SetWidth(fitting[i].width);
     }
 }
 
@@ -327,44 +191,6 @@ void Layout::PlaceTabs() {
         tab->SetLeft(left);
         left = tab->Right() + tabGap;
     }
-}
-
-void Layout::DrivesResizeLabel_Click() {
-    constexpr int foldedWidth = 480, foldedHeight = 210;
-    forms::PictureBox& panel = form.SettingsSubPicture;
-    const bool folded = panel.Width() == foldedWidth && panel.Height() == foldedHeight;
-    if (folded) {
-        panel.Move(panel.Left(), panel.Top(), drivesWidth, drivesHeight);
-        form.DrivesResizeLabel.SetCaption(std::string(10, ' '));
-        return;
-    }
-    drivesWidth = panel.Width();
-    drivesHeight = panel.Height();
-    panel.Move(panel.Left(), panel.Top(), foldedWidth, foldedHeight);
-    form.DrivesResizeLabel.SetCaption(">");
-}
-
-void Layout::SettingsSubPicture_Resize() {
-    form.DrivesResizeLabel.SetLeft(form.SettingsSubPicture.Width() -
-                                   form.DrivesResizeLabel.Width());
-    form.DrivesResizeLabel.SetTop(form.SettingsSubPicture.Height() -
-                                  form.DrivesResizeLabel.Height());
-}
-
-void Layout::Current_ProgramNameFull_Change() {
-    // Breaking the caption changes it, and comes back here.
-    if (wrapping) return;
-    const core::Raised once(wrapping);
-    forms::Label& name = form.Current_ProgramNameFull;
-    fullName = name.Caption();
-    const auto width = [&](const std::string& caption) {
-        return static_cast<double>(name.WidthOf(caption));
-    };
-    const library::WrappedCaption wrapped =
-        library::WrapCaption(name.Caption(), width, name.Width());
-    name.SetCaption(wrapped.caption);
-    if (wrapped.hide) name.SetVisible(false);
-    ResizeSettingsWindow();
 }
 
 }  // namespace kivu::ui

@@ -32,6 +32,15 @@ class Layout {
     void DrivesResizeLabel_Click();
     void SettingsSubPicture_Resize();
     void Current_ProgramNameFull_Change();
+    void Current_ProgramNameFull_FontChange();
+
+    // The drives panel lies in its place in the right column, and goes with it at each size.
+    bool DrivesAreHome() const;
+    void DockDrives();
+    // Dropped within some pixels of its home, it is meant to lie there.
+    void DockDrivesNearHome();
+    // It lies on something that has a place of its own.
+    bool DrivesCoverOthers() const;
 
     Hooks hooks;
 
@@ -39,12 +48,13 @@ class Layout {
     void Compute();
     void PlaceLists();
     void PlaceBusySigns();
-    int RoomBelowName() const;
-    int LineOfName() const;
+    bool Stacked(int frameWidth) const;
+    int RoomBelowName(int frameWidth) const;
     int HeightOfName(int width) const;
     int HeightOfFrame(int width, int height) const;
     void PlaceName();
     void PlaceFrameRows();
+    void FitDrives(int room);
     void KeepDrivesInside();
     void PlaceDrivesHome();
     void PlaceFavouriteButtons();
@@ -54,9 +64,9 @@ class Layout {
 
     core::Form1& form;
     int drivesHomeLeft = -1, drivesHomeTop = -1;
-    int drivesWidth = 0, drivesHeight = 0;  // natural size while folded
-    bool stacked = false;                   // the favourites' buttons, in a narrow window
-    std::string fullName;                   // in Current_ProgramNameFull, unbroken
+    int drivesWidth = 4560, drivesHeight = 480;  // natural size
+    // In Current_ProgramNameFull, whole and as it was broken to its width.
+    std::string fullName, brokenName;
     bool wrapping = false;
     bool placingTabs = false;
 };

@@ -32,19 +32,45 @@ LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int l
     return numbers;
 }
 
-std::vector<int> TabWidths(std::vector<int> wanted, std::size_t current, int room, int least) {
-    const int sum = std::accumulate(wanted.begin(), wanted.end(), 0);
-    if (sum <= room || current >= wanted.size()) return wanted;
-    const int others = sum - wanted[current];
-    const auto count = static_cast<int>(wanted.size()) - 1;
-    const int front = std::clamp(room - count * least, least, std::max(least, wanted[current]));
-    wanted[current] = std::min(wanted[current], front);
-    const double share = others > 0 ? static_cast<double>(room - wanted[current]) / others : 0;
-    for (std::size_t i = 0; i < wanted.size(); ++i) {
+namespace {
+
+int Sum(const std::vector<TabWidth>& tabs) {
+    return std::accumulate(tabs.begin(), tabs.end(), 0,
+                           [](int sum, const TabWidth& tab) { return sum + tab.width; });
+}
+
+// The current tab keeps what it needs as long as the others keep the least.
+void Squeeze(std::vector<TabWidth>& tabs, std::size_t current, int room, int least) {
+    const int others = Sum(tabs) - tabs[current].width;
+    const auto count = static_cast<int>(tabs.size()) - 1;
+    const int wanted = tabs[current].width;
+    const int front = std::clamp(room - count * least, least, std::max(least, wanted));
+    tabs[current].width = std::min(wanted, front);
+    const double share = others > 0 ? static_cast<double>(room - tabs[current].width) / others : 0;
+    for (std::size_t i = 0; i < tabs.size(); ++i) {
         if (i == current) continue;
-        wanted[i] = std::min(wanted[i], std::max(least, Floor(wanted[i] * share)));
+        tabs[i].width = std::min(tabs[i].width, std::max(least, Floor(tabs[i].width * share)));
     }
-    return wanted;
+}
+
+}  // namespace
+
+std::vector<TabWidth> FitTabWidths(const std::vector<TabNeed>& needs, std::size_t current, int room,
+                                   int least) {
+    std::vector<TabWidth> tabs;
+    for (const TabNeed& need : needs)
+        tabs.push_back({need.whole, true});
+    if (current >= tabs.size()) return tabs;
+    const auto drop = [&](std::size_t i) {
+        tabs[i] = {needs[i].bare, needs[i].bare == needs[i].whole};
+    };
+    if (Sum(tabs) > room) {
+        for (std::size_t i = 0; i < tabs.size(); ++i)
+            if (i != current) drop(i);
+    }
+    if (Sum(tabs) > room) drop(current);
+    if (Sum(tabs) > room) Squeeze(tabs, current, room, least);
+    return tabs;
 }
 
 }  // namespace kivu::ui

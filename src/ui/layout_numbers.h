@@ -25,8 +25,20 @@ struct LayoutNumbers {
 // come out negative; a control takes none of those.
 LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int listTop);
 
-// The widths of tabs that stand side by side in `room`, from those that they would like to have. If
-// they do not fit, all but the current one give way, down to `least`; then that one too.
-std::vector<int> TabWidths(std::vector<int> wanted, std::size_t current, int room, int least);
+// What a tab's text takes, with the count of its list and without.
+struct TabNeed {
+    int whole = 0;
+    int bare = 0;
+};
+struct TabWidth {
+    int width = 0;
+    bool counted = true;  // there is room for the count
+};
+
+// The widths of tabs that stand side by side in `room`. If their texts do not fit, the counts go:
+// those of the others, then that of the current one. If that is not enough, the others give way,
+// down to `least`; then the current one too.
+std::vector<TabWidth> FitTabWidths(const std::vector<TabNeed>& needs, std::size_t current, int room,
+                                   int least);
 
 }  // namespace kivu::ui

@@ -59,6 +59,7 @@ void PanelDrag::DragOver(const Target& target, const forms::Control& source, int
 void PanelDrag::DragDrop(const Target& target, const forms::Control& source, int x, int y) {
     if (source.Tag() != tag) return;
     DragOver(target, source, x, y);
+    DockNearHome();
     KeepInside();
 }
 

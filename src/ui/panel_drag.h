@@ -29,6 +29,7 @@ class PanelDrag {
 
     // Brings a panel back that lies outside of the window.
     core::Hook<void()> KeepInside;
+    core::Hook<void()> DockNearHome;
 
  private:
     core::Form1& form;

@@ -42,7 +42,11 @@ void Launcher::Routines::JoinWindow() {
     form.LoadingBtn.onChange = [this] { watch.LoadingBtn_Change(); };
     form.AppRunningPicture.onClick = [this] { watch.AppRunningPicture_Click(); };
     form.Current_ProgramNameFull.onChange = [this] { layout.Current_ProgramNameFull_Change(); };
+    form.Current_ProgramNameFull.onFontChange = [this] {
+        layout.Current_ProgramNameFull_FontChange();
+    };
     form.Current_ProgramNameFull.onDblClick = [this] { LaunchInFront(); };
+    form.TxtRomPath.onChange = [this] { hints.Refresh(); };
     form.FileScanRecursive1.frame.onResize = [this] { scanner.UserControl_Resize(); };
 }
 

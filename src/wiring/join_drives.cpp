@@ -51,6 +51,10 @@ void Launcher::Routines::JoinPanelDrag() {
     }
     // A panel that was let go of at the edge must not be out of reach.
     panelDrag.KeepInside = [this] { layout.ResizeSettingsWindow(); };
+    panelDrag.DockNearHome = [this] { layout.DockDrivesNearHome(); };
+    settingsLoader.hooks.DrivesCoverOthers = [this] { return layout.DrivesCoverOthers(); };
+    settingsLoader.hooks.DockDrives = [this] { layout.DockDrives(); };
+    shutDown.DrivesAreHome = [this] { return layout.DrivesAreHome(); };
 }
 
 }  // namespace kivu::wiring

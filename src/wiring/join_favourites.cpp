@@ -23,6 +23,7 @@ void Launcher::Routines::JoinFavourites() {
     global.MarkedGameHasGone = own.MarkedGameHasGone;
     global.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
     global.ArrangeLists = [this] { layout.ArrangeLists(); };
+    global.RestoreColours = [this] { emulatorBox.RestoreColours(); };
     global.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
     global.ShowEmulatorBox = [this](bool show) { emulatorBox.ShowEmulatorBox(show); };
 

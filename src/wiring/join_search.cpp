@@ -8,7 +8,7 @@ void Launcher::Routines::JoinSearch() {
     auto& search = listSearch.hooks;
     search.RebuildLayout = [this] { RefreshList(); };
     // Ctrl+Enter, and Enter over the emulators or over their hits, search everywhere.
-    search.SearchAllBtn_Click = [this] { globalSearch.SearchAllBtn_Click(); };
+    search.SearchAllBtn_Click = [this] { SearchAll(); };
     search.LaunchBtn_Click = [this] { gameLaunch.LaunchBtn_Click(); };
     search.SuchErgList_GotFocus = [this] { listEvents.SuchErgList_GotFocus(); };
     // Letters typed in the results begin a new search, as in the game lists.
@@ -31,13 +31,16 @@ void Launcher::Routines::JoinSearch() {
     };
 
     forms::TextBox& box = form.SearchDblsTxt;
-    box.onChange = [this] { globalSearch.SearchDblsTxt_Change(); };
+    box.onChange = [this] {
+        globalSearch.SearchDblsTxt_Change();
+        hints.Refresh();
+    };
     box.onGotFocus = [this] { listSearch.SearchDblsTxt_GotFocus(); };
     box.onLostFocus = [this] { listSearch.SearchDblsTxt_LostFocus(); };
     box.onKeyDown = [this](forms::Key& key) { listSearch.SearchDblsTxt_KeyDown(key); };
     box.onKeyPress = [this](forms::Character& key) { listSearch.SearchDblsTxt_KeyPress(key); };
     form.SuchErg.onClick = [this] { listSearch.SuchErg_Click(); };
-    form.SearchAllBtn.onClick = [this] { globalSearch.SearchAllBtn_Click(); };
+    form.SearchAllBtn.onClick = [this] { SearchAll(); };
 
     form.SuchErgList.onClick = [this] {
         listSearch.SuchErgList_Click();
@@ -54,6 +57,11 @@ void Launcher::Routines::JoinSearch() {
     form.GlobalSearchList.onKeyPress = [this](forms::Character& key) {
         globalSearch.GlobalSearchList_KeyPress(key);
     };
+}
+
+void Launcher::Routines::SearchAll() {
+    globalSearch.SearchAllBtn_Click();
+    hints.Refresh();
 }
 
 }  // namespace kivu::wiring

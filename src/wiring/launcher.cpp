@@ -29,6 +29,8 @@ core::Form1& Launcher::MainWindow() {
 void Launcher::Start() {
     routines->alwaysOnTop.LoadSettings();
     routines->startUp.Form_Load();
+    routines->hints.Refresh();
+    routines->hints.ShowFirstSteps();
 }
 
 void Launcher::StartHandedFile(const std::string& path) {
@@ -74,6 +76,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       driveSlots(form, ini, host.beeper),
       layout(form),
       fontSize(form),
+      hints(form),
       surface(form, ini, dialogs),
       panelDrag(form),
       navigation(form) {
@@ -105,6 +108,7 @@ void Launcher::Routines::RefreshList() {
     layout.ArrangeLists();
     gameLists.UpdateListCaptions();
     markedGame.ShowName();
+    hints.Refresh();
 }
 
 }  // namespace kivu::wiring

@@ -34,6 +34,7 @@
 #include "platform/host.h"
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
+#include "ui/hints.h"
 #include "ui/layout.h"
 #include "ui/panel_drag.h"
 #include "ui/window_surface.h"
@@ -96,6 +97,7 @@ struct Launcher::Routines {
 
     ui::Layout layout;
     ui::FontSize fontSize;
+    ui::Hints hints;
     ui::WindowSurface surface;
     ui::PanelDrag panelDrag;
 
@@ -108,6 +110,7 @@ struct Launcher::Routines {
     void RefreshList();
     // No choice of an emulator is open, and the drop-down stands on the one that is loaded.
     void LeaveChoice();
+    void SearchAll();
 
  private:
     void JoinCore();

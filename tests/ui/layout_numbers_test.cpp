@@ -46,25 +46,42 @@ TEST(LayoutNumbers, LetsTheListShrinkInASmallWindow) {
     EXPECT_LT(ComputeLayout(3000, 1500, 300, 1300).ListHeight, 0);
 }
 
+// Each tab's width, negative where its count has gone.
+std::vector<int> Fit(const std::vector<TabNeed>& needs, std::size_t current, int room, int least) {
+    std::vector<int> widths;
+    for (const TabWidth& tab : FitTabWidths(needs, current, room, least))
+        widths.push_back(tab.counted ? tab.width : -tab.width);
+    return widths;
+}
+
 using Widths = std::vector<int>;
 
-TEST(TabWidths, TabsThatFitHaveWhatTheyWant) {
-    EXPECT_EQ(TabWidths({100, 200, 300}, 1, 600, 50), (Widths{100, 200, 300}));
-    EXPECT_EQ(TabWidths({}, 0, 600, 50), Widths{});
-    EXPECT_EQ(TabWidths({700}, 3, 600, 50), Widths{700});
+TEST(FitTabWidths, TabsThatFitHaveWhatTheyWant) {
+    EXPECT_EQ(Fit({{100, 80}, {200, 150}, {300, 90}}, 1, 600, 50), (Widths{100, 200, 300}));
+    EXPECT_EQ(Fit({}, 0, 600, 50), Widths{});
+    EXPECT_EQ(Fit({{700, 600}}, 3, 600, 50), Widths{700});
 }
 
-TEST(TabWidths, AllButTheCurrentOneGiveWay) {
-    EXPECT_EQ(TabWidths({100, 200, 300}, 2, 450, 20), (Widths{50, 100, 300}));
-    EXPECT_EQ(TabWidths({100, 200, 300}, 0, 350, 20), (Widths{100, 100, 150}));
+TEST(FitTabWidths, CountsGoFirstAndThatInFrontLast) {
+    EXPECT_EQ(Fit({{100, 80}, {200, 150}, {300, 90}}, 1, 599, 50), (Widths{-80, 200, -90}));
+    EXPECT_EQ(Fit({{100, 80}, {200, 150}, {300, 90}}, 1, 370, 50), (Widths{-80, 200, -90}));
+    EXPECT_EQ(Fit({{100, 80}, {200, 150}, {300, 90}}, 1, 369, 50), (Widths{-80, -150, -90}));
+    // A caption without a count has none to lose.
+    EXPECT_EQ(Fit({{100, 100}, {200, 150}}, 1, 260, 50), (Widths{100, -150}));
 }
 
-TEST(TabWidths, NoneIsNarrowerThanTheLeast) {
-    EXPECT_EQ(TabWidths({100, 200, 300}, 2, 380, 40), (Widths{40, 53, 300}));
-    EXPECT_EQ(TabWidths({100, 200, 300}, 2, 200, 40), (Widths{40, 53, 120}));
-    EXPECT_EQ(TabWidths({100, 200, 300}, 2, -500, 40), (Widths{40, 40, 40}));
-    EXPECT_EQ(TabWidths({10, 200}, 1, 100, 40), (Widths{10, 60}));
-    EXPECT_EQ(TabWidths({300}, 0, 100, 40), Widths{100});
+TEST(FitTabWidths, ThenAllButTheCurrentOneGiveWay) {
+    EXPECT_EQ(Fit({{100, 100}, {200, 200}, {300, 300}}, 2, 450, 20), (Widths{50, 100, 300}));
+    EXPECT_EQ(Fit({{110, 100}, {200, 200}, {310, 300}}, 0, 350, 20), (Widths{-100, 100, -150}));
+}
+
+TEST(FitTabWidths, NoneIsNarrowerThanTheLeast) {
+    const std::vector<TabNeed> three{{100, 100}, {200, 200}, {300, 300}};
+    EXPECT_EQ(Fit(three, 2, 380, 40), (Widths{40, 53, 300}));
+    EXPECT_EQ(Fit(three, 2, 200, 40), (Widths{40, 53, 120}));
+    EXPECT_EQ(Fit(three, 2, -500, 40), (Widths{40, 40, 40}));
+    EXPECT_EQ(Fit({{10, 10}, {200, 200}}, 1, 100, 40), (Widths{10, 60}));
+    EXPECT_EQ(Fit({{300, 300}}, 0, 100, 40), Widths{100});
 }
 
 }  // namespace

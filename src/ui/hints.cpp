@@ -1,0 +1,62 @@
+#include "ui/hints.h"
+
+#include "library/list_search.h"
+#include "support/text.h"
+
+namespace kivu::ui {
+
+void Hints::Refresh() {
+    const std::string none = form.CurrentEmuIndex < 0 ? NoEmulator() : "";
+    form.EmulatorLongListbox.SetHint(NoEmulator());
+    const std::string games = none.empty() ? NoGames() : none;
+    form.WIthoutDoubles.SetHint(games);
+    form.UAE_Short.SetHint(games);
+    form.FavoritenListe.SetHint(
+        none.empty()
+            ? form.Say("Noch keine Favoriten.\rWähle ein Spiel und drücke \"Add Favorite\".",
+                       "No favorites yet.\rSelect a game and press \"Add Favorite\".")
+            : none);
+    form.FavoritenListeGlobal.SetHint(form.Say(
+        "Noch keine globalen Favoriten.\rWähle ein Spiel und drücke \"Add to global Favorites\".",
+        "No global favorites yet.\rSelect a game and press \"Add to global Favorites\"."));
+    form.SuchErgList.SetHint(NoHits(
+        form.Say("Strg+Return sucht in allen Emulatoren.", "Ctrl+Return searches all emulators.")));
+    // While the lists are searched nobody knows yet.
+    form.GlobalSearchList.SetHint(
+        form.Busy ? ""
+                  : NoHits(form.Say("Gesucht wurde in den Listen aller Emulatoren.",
+                                    "The lists of all emulators have been searched.")));
+}
+
+void Hints::ShowFirstSteps() {
+    if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible())
+        form.LoadingBtn.SetHint(NoEmulator());
+}
+
+std::string Hints::NoEmulator() const {
+    if (form.EmuListbox.ListCount() > 0)
+        return form.Say("Wähle oben links einen Emulator.", "Choose an emulator at the top left.");
+    return form.Say("Noch kein Emulator.\rLege in\r", "No emulator yet.\rIn\r") + form.ConfigPath +
+           form.Say("\rfür jeden ein Verzeichnis mit seinem Namen an\rund starte das Programm neu.",
+                    "\rmake a directory with the name of each\rand start the program anew.");
+}
+
+std::string Hints::NoGames() const {
+    return form.Say("Keine Spiele in der Liste. Gesucht wird in\r",
+                    "No games in the list. They are looked for in\r") +
+           form.TxtRomPath.Text() +
+           form.Say("\r\"Liste Neu einlesen\" sucht dort noch einmal.",
+                    "\r\"Liste Neu einlesen\" looks there once more.");
+}
+
+std::string Hints::NoHits(const char* where) const {
+    const std::string& words = form.SearchDblsTxt.Text();
+    if (library::IsIdleText(words) || !library::IsLongEnough(words)) {
+        return form.Say("Gib zwei oder mehr Zeichen in das Suchfeld ein.",
+                        "Type two or more characters into the search box.");
+    }
+    return form.Say("Kein Spiel mit \"", "No game with \"") + std::string(support::Trim(words)) +
+           "\".\r" + where;
+}
+
+}  // namespace kivu::ui

@@ -1,0 +1,84 @@
+#include "scenarios/scenario.h"
+
+namespace kivu::scenarios {
+namespace {
+
+using ::testing::HasSubstr;
+
+class Hints : public LoadedScenario {};
+
+class FirstSteps : public Scenario {};
+
+TEST_F(FirstSteps, StandBelowTheTitleOfAFirstStart) {
+    Start();
+    EXPECT_TRUE(Visible("LoadingBtn"));
+    EXPECT_EQ(Text("LoadingBtn.Caption"), "Kivu 1.4b");
+    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("No emulator yet"));
+    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr(Text("ConfigPath")));
+    // No box to search in, and nothing of it.
+    for (const char* name : {"SearchDblsTxt", "SuchErg", "SearchAllBtn"})
+        EXPECT_FALSE(Visible(name)) << name;
+}
+
+TEST_F(FirstSteps, AreToChooseAnEmulatorWhereThereAreSome) {
+    options.language = "German";
+    tree.AddEmulator("Alpha");
+    Start();
+    EXPECT_EQ(Text("LoadingBtn.Hint"), "Wähle oben links einen Emulator.");
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 0);
+    EXPECT_EQ(Text("LoadingBtn.Hint"), "");
+    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr("Keine Spiele in der Liste"));
+    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr(Text("TxtRomPath.Text")));
+}
+
+TEST_F(Hints, EmptyListsTellWhatIsTheMatter) {
+    Start();
+    EXPECT_THAT(Text("FavoritenListe.Hint"), HasSubstr("No favorites yet"));
+    EXPECT_THAT(Text("UAE_Short.Hint"), HasSubstr(tree.Path("Roms/Alpha")));
+    EXPECT_EQ(Get("FavoritenListe.ListCount"), 0);
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 1);
+    EXPECT_THAT(Text("UAE_Short.Hint"), HasSubstr(tree.Path("Roms/Beta")));
+}
+
+TEST_F(Hints, SearchWithoutHitsNamesItsWords) {
+    Start();
+    Do("type", "Form1.SearchDblsTxt", "q");
+    EXPECT_THAT(Text("SuchErgList.Hint"), HasSubstr("two or more characters"));
+    Do("type", "Form1.SearchDblsTxt", "qx");
+    EXPECT_EQ(Get("SuchErgList.ListCount"), 0);
+    EXPECT_THAT(Text("SuchErgList.Hint"), HasSubstr("No game with \"qqx\""));
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_THAT(Text("GlobalSearchList.Hint"), HasSubstr("No game with \"qqx\""));
+    EXPECT_THAT(Text("GlobalSearchList.Hint"), HasSubstr("all emulators"));
+}
+
+TEST_F(Hints, DropDownHasItsColoursAgainOverTheGlobalFavourites) {
+    Start();
+    const std::string back = Text("EmuListbox.BackColor");
+    Do("focus", "Form1.EmuListbox");
+    EXPECT_EQ(Text("EmuListbox.BackColor"), "#000000");
+    Do("click", "Form1.Label1");
+    ASSERT_TRUE(Visible("FavoritenListeGlobal"));
+    EXPECT_EQ(Text("EmuListbox.BackColor"), back);
+    Do("click", "Form1.Label2");
+    EXPECT_EQ(Text("EmuListbox.BackColor"), back);
+}
+
+TEST_F(Hints, MagnifierAndAllGoWithTheSearchBox) {
+    Start();
+    for (const char* name : {"SearchDblsTxt", "SuchErg", "SearchAllBtn"})
+        EXPECT_TRUE(Visible(name)) << name;
+    Call("HideAll", false);
+    for (const char* name : {"SearchDblsTxt", "SuchErg", "SearchAllBtn"})
+        EXPECT_FALSE(Visible(name)) << name;
+    Do("focus", "Form1.EmuListbox");
+    for (const char* name : {"SearchDblsTxt", "SuchErg", "SearchAllBtn"})
+        EXPECT_TRUE(Visible(name)) << name;
+}
+
+}  // namespace
+}  // namespace kivu::scenarios
