@@ -78,12 +78,17 @@ void Form1::DesignWindow() {
     AppRunningPicture.SetPicture({":/running", nullptr});
     AppRunningPicture.SetToolTipText("Emulator beenden");
     AppRunningPicture.SetVisible(false);
+    // Both end the emulator: not by a click that only fetches the window.
+    LoadingBtn.SetTakesActivatingClick(false);
+    AppRunningPicture.SetTakesActivatingClick(false);
 }
 
 void Form1::DesignLists() {
     EmuListbox.SetFont({"", 16, false});
     EmuListbox.Move(ListLeft, 540, 3520, EmuListbox.Height());
     EmuListbox.SetToolTipText("Emulator auswählen");
+    EmuListbox.SetChoice(true);
+    EmulatorLongListbox.SetLeader(EmuListbox);
     EmulatorLongListbox.SetToolTipText(
         "Doppelklick öffneet den Emulator, Rechte Maustaste startet den Emulator im Setup-Modus");
     for (forms::ListBox* list :
@@ -150,6 +155,7 @@ void Form1::DesignFrame() {
     ExitBtn.SetCaption("&Exit");
     ExitBtn.Move(0, 0, 1050, 420);
     FontSizeCombo.Move(0, 0, 2100, 420);
+    FontSizeCombo.SetChoice(true);
     JoystickIcon.Move(0, 0, 420, 420);
     JoystickIcon.SetPicture({":/joystick", nullptr});
     JoystickIcon.SetToolTipText("Joysticksteuerung aktiv");

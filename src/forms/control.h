@@ -88,6 +88,10 @@ class Control {
     // What the program wants to know the control by, whatever its name.
     const std::string& Tag() const { return tag; }
     void SetTag(std::string value) { tag = std::move(value); }
+    // False: a click that brings the window to the front is not meant for this control, which does
+    // something that cannot be taken back.
+    bool TakesActivatingClick() const { return takesActivatingClick; }
+    void SetTakesActivatingClick(bool value) { takesActivatingClick = value; }
 
     // True: the user and the program can give it the focus.
     virtual bool TakesFocus() const { return false; }
@@ -112,6 +116,8 @@ class Control {
     std::function<void(const Mouse&)> onMouseDown;
     std::function<void(const Mouse&)> onMouseMove;
     std::function<void(const Mouse&)> onMouseUp;
+    // The mouse is no longer over this control or one that lies in it.
+    std::function<void()> onMouseLeave;
     std::function<void()> onResize;
     std::function<void()> onFontChange;
     // A control is dragged over this one, or dropped on it. Twips from this control's edges.
@@ -141,6 +147,7 @@ class Control {
     Form* form = nullptr;
     bool visible = true;
     bool enabled = true;
+    bool takesActivatingClick = true;
     int left = 0, top = 0, width = 0, height = 0;
     Font font;
     Color backColor = Rgb(0x00, 0x52, 0xbc);

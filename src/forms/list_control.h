@@ -116,10 +116,14 @@ class ListBox : public ListControl {
     // none. It is only shown, by a line around it.
     int MeantRow() const { return meantRow; }
     void SetMeantRow(int row);
+    // Another control whose keys move this list's row: the list looks focused with it.
+    const Control* Leader() const { return leader; }
+    void SetLeader(const Control& value) { leader = &value; }
 
  private:
     int meantRow = -1;
     std::string hint;
+    const Control* leader = nullptr;
 };
 
 // A drop-down list with a text field. Selecting a row writes its text into the field and runs the
@@ -141,7 +145,16 @@ class ComboBox : public ListControl {
     // Text and selection in one step, as typing changes them: the change handler finds both.
     void SetField(TextField value);
 
+    // A choice among the rows alone: the user types nothing into its field, though its key handlers
+    // hear of each key; Home and End choose the first and the last row, and a click opens the rows.
+    // Settled before a view is made.
+    bool IsChoice() const { return choice; }
+    void SetChoice(bool value) { choice = value; }
+
     std::function<void()> onChange;
+    // The user asks for the rows by the arrow, F4 or Alt+Down. With a handler no rows drop down:
+    // the program shows them in a way of its own.
+    std::function<void()> onDropDown;
 
  protected:
     void TakeSelection() override;
@@ -152,6 +165,7 @@ class ComboBox : public ListControl {
     bool Store(TextField value);
 
     TextField field;
+    bool choice = false;
 };
 
 }  // namespace kivu::forms

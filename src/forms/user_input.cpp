@@ -80,8 +80,8 @@ bool Edit(Control* control, const std::function<bool(TextField&)>& edit) {
         return true;
     };
     if (auto* box = dynamic_cast<TextBox*>(control)) return apply(*box);
-    if (auto* combo = dynamic_cast<ComboBox*>(control)) return apply(*combo);
-    return false;
+    auto* combo = dynamic_cast<ComboBox*>(control);
+    return combo && !combo->IsChoice() && apply(*combo);
 }
 
 // The code points of UTF-8. A byte that begins none stands for itself.
@@ -116,6 +116,22 @@ void UserInput::MouseMove(Control& control, const Mouse& mouse) {
 void UserInput::MouseUp(Control& control, const Mouse& mouse) {
     CancelDrag();
     if (control.IsReachable()) Control::Run(control.onMouseUp, mouse);
+}
+
+void UserInput::MouseLeave(Control* from, const Control* to) {
+    const auto holds = [](const Control* outer, const Control* inner) {
+        while (inner && inner != outer)
+            inner = inner->Parent();
+        return inner != nullptr;
+    };
+    for (Control* left = from; left && !holds(left, to); left = left->Parent())
+        Control::Run(left->onMouseLeave);
+}
+
+bool UserInput::DropDown(ComboBox& box) {
+    if (!box.onDropDown || !box.IsReachable()) return false;
+    Control::Run(box.onDropDown);
+    return true;
 }
 
 void UserInput::Click(Control& control, std::optional<int> row, int shift) {
@@ -239,8 +255,9 @@ bool UserInput::MoveRow(Control& control, Key key) {
     OnRows(control, [&](auto& list) {
         const int last = list.ListCount() - 1;
         // In a text field Home and End belong to the caret.
-        const bool caret = control.GetKind() == Kind::comboBox &&
-                           (key.code == keys::home || key.code == keys::end);
+        const auto* combo = dynamic_cast<const ComboBox*>(&control);
+        const bool caret =
+            combo && !combo->IsChoice() && (key.code == keys::home || key.code == keys::end);
         if (last < 0 || caret) return;
         const auto next = RowByKey(key.code, list.ListIndex(), last, std::max(1, pageRows - 1));
         moved = next.has_value();

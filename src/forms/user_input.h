@@ -9,6 +9,7 @@
 
 namespace kivu::forms {
 
+class ComboBox;
 class ListBox;
 
 // What a user's hands do to a form, in the order in which a window system tells it: the focus moves
@@ -22,6 +23,9 @@ class UserInput {
     void MouseDown(Control& control, const Mouse& mouse);
     void MouseMove(Control& control, const Mouse& mouse);
     void MouseUp(Control& control, const Mouse& mouse);
+    // The mouse has gone from one control to another, either null for none of this form. Whatever
+    // held the first and does not hold the second hears that it has been left.
+    void MouseLeave(Control* from, const Control* to);
     // The shift state chooses rows where several can be chosen: Ctrl turns one over, Shift takes
     // all from the row chosen last.
     void Click(Control& control, std::optional<int> row = {}, int shift = 0);
@@ -62,6 +66,9 @@ class UserInput {
     void Type(Control& control, std::string_view text);
 
     void FocusNext(bool forward);
+
+    // Asks for the rows of a drop-down list. False: its program does not show them itself.
+    bool DropDown(ComboBox& box);
 
     // Rows that fit on the screen, for Page Up and Page Down.
     int pageRows = 10;

@@ -129,6 +129,16 @@ void EmulatorBox::EmuListbox_GotFocus() {
     ShowEmulatorBox(true);
 }
 
+void EmulatorBox::EmuListbox_DropDown() {
+    if (form.EmulatorLongListbox.Visible()) {
+        LeaveEmulatorBox();
+    } else if (form.EmuListbox.HasFocus()) {
+        EmuListbox_GotFocus();
+    } else {
+        form.EmuListbox.SetFocus();
+    }
+}
+
 void EmulatorBox::EmuListbox_LostFocus() {
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
 }

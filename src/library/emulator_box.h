@@ -47,6 +47,8 @@ class EmulatorBox {
     void EmuListbox_Click();
     void EmuListbox_DblClick();
     void EmuListbox_GotFocus();
+    // By the arrow or a key for it: opens the choice, and leaves it where it is open.
+    void EmuListbox_DropDown();
     void EmuListbox_LostFocus();
     void EmuListbox_KeyDown(forms::Key& key);
     void EmuListbox_KeyPress(forms::Character& character);

@@ -60,6 +60,7 @@ void Launcher::Routines::JoinLists() {
     emulators.onClick = [this] { emulatorBox.EmuListbox_Click(); };
     emulators.onDblClick = [this] { emulatorBox.EmuListbox_DblClick(); };
     emulators.onGotFocus = [this] { emulatorBox.EmuListbox_GotFocus(); };
+    emulators.onDropDown = [this] { emulatorBox.EmuListbox_DropDown(); };
     emulators.onLostFocus = [this] { emulatorBox.EmuListbox_LostFocus(); };
     emulators.onKeyDown = [this](forms::Key& key) { emulatorBox.EmuListbox_KeyDown(key); };
     emulators.onKeyPress = [this](forms::Character& key) { emulatorBox.EmuListbox_KeyPress(key); };
@@ -132,6 +133,7 @@ void Launcher::Routines::JoinButtons() {
     form.AOT_Disabled.onMouseMove = [this](const forms::Mouse&) {
         alwaysOnTop.AOT_Disabled_MouseMove();
     };
+    form.AlwaysOnTop1.onMouseLeave = [this] { alwaysOnTop.MouseLeft(); };
     // Nothing opens them yet.
     form.SettingsBtn.SetEnabled(false);
     form.SettingsShortBtn.SetEnabled(false);

@@ -184,5 +184,21 @@ TEST_F(Hands, BackwardsFromNowhereBeginsAtTheLast) {
     EXPECT_EQ(form.Focus(), &button);
 }
 
+TEST_F(Hands, LeavingAControlLeavesWhatHoldsItUnlessThatIsStillUnderTheMouse) {
+    for (Control* control : std::vector<Control*>{&form, &frame, &label, &first, &button})
+        control->onMouseLeave = Writes(log, control->Name());
+    user.MouseLeave(&label, &first);
+    EXPECT_THAT(log, ElementsAre("Label"));
+    log.clear();
+    user.MouseLeave(&label, &button);
+    EXPECT_THAT(log, ElementsAre("Label", "Frame"));
+    log.clear();
+    user.MouseLeave(&frame, &first);
+    user.MouseLeave(nullptr, &label);
+    EXPECT_THAT(log, IsEmpty());
+    user.MouseLeave(&first, nullptr);
+    EXPECT_THAT(log, ElementsAre("First", "Frame", "F"));
+}
+
 }  // namespace
 }  // namespace kivu::forms

@@ -191,6 +191,35 @@ TEST_F(KeysTest, ComboBoxMovesItsRowWithArrowsAndItsCaretWithHomeAndEnd) {
     EXPECT_EQ(combo.ListIndex(), 1);
 }
 
+TEST_F(KeysTest, ChoiceTellsOfTypingAndTakesNone) {
+    combo.AddItems({"Amiga", "Atari", "C64"});
+    combo.SetChoice(true);
+    combo.SetText("Select:");
+    combo.onChange = [this] { log.push_back("change"); };
+    combo.SetFocus();
+    Press("End");
+    EXPECT_EQ(combo.Text(), "C64");
+    Press("Home");
+    EXPECT_EQ(combo.Text(), "Amiga");
+    log.clear();
+    user.Type(combo, "x");
+    Press("Backspace");
+    Press("Left");
+    EXPECT_EQ(combo.Text(), "Amiga");
+    EXPECT_THAT(log, ElementsAre("window down 88", "C down 88", "window press 120", "C press 120",
+                                 "window down 8", "C down 8", "window press 8", "C press 8",
+                                 "window down 37", "C down 37"));
+}
+
+TEST_F(KeysTest, DropDownGoesToTheProgramThatShowsTheRowsItself) {
+    EXPECT_FALSE(user.DropDown(combo));
+    combo.onDropDown = [this] { log.push_back("rows"); };
+    EXPECT_TRUE(user.DropDown(combo));
+    combo.SetEnabled(false);
+    EXPECT_FALSE(user.DropDown(combo));
+    EXPECT_THAT(log, ElementsAre("rows"));
+}
+
 TEST_F(KeysTest, SpaceTogglesACheckBoxAndEnterDoesNot) {
     check.SetFocus();
     Press("Enter");
