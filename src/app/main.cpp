@@ -9,6 +9,7 @@
 #include <string>
 
 #include "app/desktop_host.h"
+#include "platform/qt/compositing_qt.h"
 #include "view/fit_into.h"
 #include "view/form_view.h"
 #include "view/pictures.h"
@@ -60,6 +61,7 @@ int main(int argc, char** argv) {
     Reached("launcher");
 
     kivu::view::FormView view(launcher.MainWindow());
+    view.SetCompositing(kivu::platform::IsComposited);
     view.onClosed = EndAtOnce;
     Reached("view");
     view.Show();

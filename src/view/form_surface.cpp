@@ -5,6 +5,7 @@
 #include <QPainterPath>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 #include "view/colors.h"
 
@@ -40,6 +41,10 @@ void FormSurface::Renew() {
     face = {};
     CutCorners();
     update();
+}
+
+void FormSurface::SetComposited(bool value) {
+    if (std::exchange(composited, value) != value) Renew();
 }
 
 int FormSurface::Radius() const {
@@ -84,7 +89,12 @@ void FormSurface::Paint() {
     const double radius = Radius();
     painter.setPen(Qt::NoPen);
     painter.setBrush(brush);
-    painter.drawRoundedRect(whole, radius, radius);
+    if (composited) {
+        painter.drawRoundedRect(whole, radius, radius);
+    } else {
+        // The window's mask cuts the corners.
+        painter.drawRect(whole);
+    }
     if (form.HasFrame() || form.State() == forms::WindowState::maximized) return;
     // A hairline sets the window off from what lies behind it.
     painter.setPen(QPen(QColor(255, 255, 255, 56), 1));

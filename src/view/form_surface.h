@@ -15,6 +15,8 @@ class FormSurface : public QWidget {
     void TakePicture();
     // The face has to be made anew: another colour, other corners.
     void Renew();
+    // False: what is not drawn whole would be black, so that the corners are cut and not smooth.
+    void SetComposited(bool value);
 
  protected:
     void paintEvent(QPaintEvent* event) override;
@@ -27,6 +29,7 @@ class FormSurface : public QWidget {
 
     const forms::Form& form;
     PictureCache picture;
+    bool composited = true;
     QPixmap face;  // the whole surface in device pixels
 };
 

@@ -56,6 +56,7 @@ bool IsShown(const forms::Control& control) {
 FormView::FormView(forms::Form& form)
     : form(form),
       surface(std::make_unique<FormSurface>(form)),
+      rest(*surface),
       sync(form, *surface),
       drag(*surface, sync),
       pointer(form, input, drag, [this](forms::Control& control) { return Find(control); }),
@@ -160,6 +161,8 @@ void FormView::FormChanged(forms::Aspect aspect) {
     switch (aspect) {
         case forms::Aspect::focus:
             ShowFocus();
+            for (const auto& [control, mirror] : mirrors)
+                mirror->FocusMoved();
             break;
         case forms::Aspect::visible:
             form.Visible() ? Show() : surface->hide();
@@ -207,6 +210,11 @@ void FormView::ShowModal(QWidget* parent) {
     surface->activateWindow();
     loop.exec(QEventLoop::DialogExec);
     disconnect(hidden);
+}
+
+void FormView::SetCompositing(std::function<bool()> ask) {
+    isComposited = std::move(ask);
+    surface->SetComposited(isComposited());
 }
 
 void FormView::Summon() {
@@ -266,25 +274,33 @@ bool FormView::eventFilter(QObject* object, QEvent* event) {
     const auto found = watched.find(object);
     if (found == watched.end()) return false;
     Mirror& mirror = *found->second;
+    if (object == surface.get() && event->type() == QEvent::UpdateRequest) return rest.Holds();
+    const RepaintRest::Handler running(rest);
     if (object == surface.get() && WindowEvent(*event)) return true;
-    switch (event->type()) {
+    return HandEvent(*object, mirror, *event);
+}
+
+bool FormView::HandEvent(QObject& object, Mirror& mirror, QEvent& event) {
+    switch (event.type()) {
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
         case QEvent::MouseMove:
         case QEvent::MouseButtonRelease:
-            return pointer.Handle(mirror, static_cast<QMouseEvent&>(*event));
+            return pointer.Handle(mirror, static_cast<QMouseEvent&>(event));
         case QEvent::ShortcutOverride:
             // The form's handlers come before any shortcut of the toolkit.
-            event->accept();
+            event.accept();
             return true;
         case QEvent::KeyPress:
-            keyboard.Press(static_cast<QWidget&>(*object), static_cast<QKeyEvent&>(*event));
-            // A field that makes nothing of a key would hand it on to the windows behind, and with
-            // it to the form once more.
-            event->accept();
+            PressKey(object, static_cast<QKeyEvent&>(event));
             return true;
+        case QEvent::ToolTip:
+            // What can be clicked does something of its own, which the tip of its container does
+            // not tell.
+            return mirror.GetControl().onClick && mirror.GetControl().ToolTipText().empty() &&
+                   !mirror.HasRows();
         case QEvent::FocusIn:
-            TakeFocus(mirror, static_cast<QFocusEvent*>(event)->reason());
+            TakeFocus(mirror, static_cast<QFocusEvent&>(event).reason());
             return false;
         case QEvent::Show:
             mirror.Flush();
@@ -294,8 +310,24 @@ bool FormView::eventFilter(QObject* object, QEvent* event) {
     }
 }
 
+void FormView::PressKey(QObject& object, QKeyEvent& event) {
+    for (const auto& [control, mirror] : mirrors)
+        mirror->ForgetMouse();
+    keyboard.Press(static_cast<QWidget&>(object), event);
+    // A field that makes nothing of a key would hand it on to the windows behind, and with it to
+    // the form once more.
+    event.accept();
+}
+
 bool FormView::WindowEvent(QEvent& event) {
     switch (event.type()) {
+        case QEvent::WindowActivate:
+            pointer.WindowActivated();
+            if (isComposited) surface->SetComposited(isComposited());
+            return false;
+        case QEvent::Leave:
+            pointer.LeftWindow();
+            return false;
         case QEvent::Close:
             Close(event);
             return true;

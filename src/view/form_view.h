@@ -12,6 +12,7 @@
 #include "view/keyboard.h"
 #include "view/mirror.h"
 #include "view/pointer.h"
+#include "view/repaint_rest.h"
 #include "view/window_drag.h"
 #include "view/window_sync.h"
 
@@ -32,6 +33,9 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     void Show();
     // Shows the window over `parent` and returns once it has been closed or hidden.
     void ShowModal(QWidget* parent);
+    // Asked now and whenever the window comes to the front: whether the screen can blend the window
+    // into what lies behind it. Without this it is taken to.
+    void SetCompositing(std::function<bool()> ask);
     // Brings the window back to the front, out of the task bar too.
     void Summon();
     QWidget& Window() { return *surface; }
@@ -49,6 +53,7 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     void FlushSoon(Mirror& mirror) override;
     forms::UserInput& Input() override { return input; }
     forms::Form& Form() override { return form; }
+    RepaintRest& Rest() override { return rest; }
 
     void FormChanged(forms::Aspect aspect);
     Mirror* Find(forms::Control& control) const;
@@ -62,10 +67,13 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     void FlushNow();
     void Close(QEvent& request);
     bool WindowEvent(QEvent& event);
+    bool HandEvent(QObject& object, Mirror& mirror, QEvent& event);
+    void PressKey(QObject& object, QKeyEvent& event);
 
     forms::Form& form;
     forms::UserInput input{form};
     std::unique_ptr<FormSurface> surface;
+    RepaintRest rest;
     WindowSync sync;
     WindowDrag drag;
     Pointer pointer;
@@ -73,6 +81,7 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     std::unordered_map<const forms::Control*, std::unique_ptr<Mirror>> mirrors;
     std::unordered_map<const QObject*, Mirror*> watched;
     std::vector<Mirror*> waiting;  // for a flush
+    std::function<bool()> isComposited;
     bool flushPosted = false;
     bool movingFocus = false;
     bool sessionEnding = false;

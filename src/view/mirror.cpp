@@ -20,10 +20,13 @@ void DropFocusWithin(QWidget& widget) {
 
 }  // namespace
 
+QString PlainToolTip(const QString& text) {
+    if (!Qt::mightBeRichText(text)) return text;
+    return QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
 QString PlainToolTip(const std::string& text) {
-    const QString plain = ToQt(text);
-    if (!Qt::mightBeRichText(plain)) return plain;
-    return QStringLiteral("<qt>") + plain.toHtmlEscaped() + QStringLiteral("</qt>");
+    return PlainToolTip(ToQt(text));
 }
 
 void Mirror::Adopt(QWidget* newWidget) {

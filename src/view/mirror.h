@@ -6,6 +6,7 @@
 
 #include "forms/control.h"
 #include "forms/user_input.h"
+#include "view/repaint_rest.h"
 
 class QLineEdit;
 
@@ -23,6 +24,8 @@ class MirrorHost {
     virtual void FlushSoon(Mirror& mirror) = 0;
     virtual forms::UserInput& Input() = 0;
     virtual forms::Form& Form() = 0;
+    // For whoever runs a handler by something else than the mouse and the keys.
+    virtual RepaintRest& Rest() = 0;
 };
 
 // One control on the screen: keeps a widget in line with it. The control is the truth; a widget
@@ -50,6 +53,13 @@ class Mirror {
     virtual int SelectedRow() const { return -1; }
     virtual void ClickRow(int, int /*shift*/) {}
     virtual void SelectRow(int) {}
+    // The user works by keys: what the mouse rests on is not what he means.
+    virtual void ForgetMouse() {}
+    // The form's focus has moved.
+    virtual void FocusMoved() {}
+    // The arrow of a drop-down list.
+    virtual bool IsOnArrow(QPoint /*global*/) const { return false; }
+    virtual void ShowRows() {}
     // Whole rows that fit.
     virtual int PageRows() const { return 10; }
     // The widget has mouse work of its own: a caret, a handle, a popup.
@@ -72,6 +82,7 @@ class Mirror {
 };
 
 // "<" and "&" in a tool tip are no markup: a file name may hold them.
+QString PlainToolTip(const QString& text);
 QString PlainToolTip(const std::string& text);
 
 }  // namespace kivu::view

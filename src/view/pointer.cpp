@@ -84,7 +84,14 @@ bool Pointer::Press(Mirror& mirror, const QMouseEvent& event, bool second) {
     last = again ? nullptr : &control;
     drag.Disarm();
     dragsControl = false;
-    if (!control.IsReachable()) {
+    const bool fetches = OnlyActivates(mirror, second);
+    if (!control.IsReachable() || fetches) {
+        pressed = nullptr;
+        return true;
+    }
+    auto* box = dynamic_cast<forms::ComboBox*>(&control);
+    if (box && bit == forms::buttons::left && mirror.IsOnArrow(GlobalOf(event)) &&
+        input.DropDown(*box)) {
         pressed = nullptr;
         return true;
     }
@@ -106,6 +113,36 @@ bool Pointer::Press(Mirror& mirror, const QMouseEvent& event, bool second) {
     return !mirror.Widget() || !mirror.Widget()->isVisible() || !control.IsReachable();
 }
 
+bool Pointer::OnlyActivates(const Mirror& mirror, bool second) {
+    // Milliseconds in which the click arrives that has activated the window.
+    constexpr qint64 promptly = 300;
+    const QWidget* widget = mirror.Widget();
+    const bool fresh = activated.isValid() && activated.elapsed() < promptly;
+    const bool fetches = fresh || (second && fetching) || !widget || !widget->isActiveWindow();
+    fetching = fetches && !mirror.GetControl().TakesActivatingClick();
+    return fetching;
+}
+
+void Pointer::Hover(forms::Control* control) {
+    forms::Control* from = std::exchange(hovered, control);
+    if (from != control) input.MouseLeave(from, control);
+}
+
+void Pointer::LoseButton() {
+    forms::Control* control = std::exchange(pressed, nullptr);
+    button = Qt::NoButton;
+    clickPending = false;
+    dragsControl = false;
+    drag.Disarm();
+    if (form.Dragged()) {
+        Mirror* dragged = mirrorOf(*form.Dragged());
+        input.CancelDrag();
+        if (dragged) dragged->Apply(forms::Aspect::geometry);
+    }
+    Mirror* mirror = control ? mirrorOf(*control) : nullptr;
+    if (mirror && mirror->Widget()) mirror->ShowPressed(false);
+}
+
 void Pointer::PressList(Mirror& mirror, const QMouseEvent& event, bool second) {
     forms::Control& control = mirror.GetControl();
     clickPending = false;
@@ -125,6 +162,12 @@ void Pointer::PressList(Mirror& mirror, const QMouseEvent& event, bool second) {
 }
 
 bool Pointer::Move(Mirror& mirror, const QMouseEvent& event) {
+    if (pressed || form.Dragged()) {
+        // Press and release may both have waited while a handler ran, and the release have gone to
+        // somebody else.
+        if (!(event.buttons() & (button == Qt::NoButton ? Qt::LeftButton : button))) LoseButton();
+    }
+    if (!pressed) Hover(&mirror.GetControl());
     if (button == Qt::LeftButton && pressed && drag.Moved(GlobalOf(event))) {
         clickPending = false;
         return true;

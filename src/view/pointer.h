@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QMouseEvent>
 #include <functional>
 
@@ -18,11 +19,20 @@ class Pointer {
 
     // True: the widget is not to see the event any more.
     bool Handle(Mirror& mirror, QMouseEvent& event);
+    // The window has come to the front.
+    void WindowActivated() { activated.start(); }
+    // The mouse is over nothing of the form any more.
+    void LeftWindow() { Hover(nullptr); }
     // A handler asks for the window to follow the mouse.
     void DragWindow();
 
  private:
     bool Press(Mirror& mirror, const QMouseEvent& event, bool second);
+    // The press only fetches the window, and its control must not take that for its own click.
+    bool OnlyActivates(const Mirror& mirror, bool second);
+    void Hover(forms::Control* control);
+    // The button has come up where nobody told of it.
+    void LoseButton();
     bool Move(Mirror& mirror, const QMouseEvent& event);
     bool Release(const QMouseEvent& event, bool consumed);
     void PressList(Mirror& mirror, const QMouseEvent& event, bool second);
@@ -45,6 +55,9 @@ class Pointer {
     bool dragsControl = false;       // past the distance that tells a drag from a click
     QPoint draggedFrom;              // pixels
     forms::Control* last = nullptr;  // of the press before, for double clicks
+    forms::Control* hovered = nullptr;
+    QElapsedTimer activated;
+    bool fetching = false;  // the press before did nothing but activate
 };
 
 }  // namespace kivu::view

@@ -4,7 +4,10 @@ namespace kivu::view {
 
 TimerMirror::TimerMirror(forms::Timer& control, MirrorHost& host)
     : Mirror(control, host), model(control) {
-    QObject::connect(&timer, &QTimer::timeout, &timer, [this] { model.Tick(); });
+    QObject::connect(&timer, &QTimer::timeout, &timer, [this] {
+        const RepaintRest::Handler running(this->host.Rest());
+        model.Tick();
+    });
     Apply(forms::Aspect::timer);
 }
 

@@ -42,15 +42,20 @@ class EdgeGrip : public QWidget {
  protected:
     void mousePressEvent(QMouseEvent* event) override {
         if (event->button() != Qt::LeftButton) return;
-        QWindow* native = window()->windowHandle();
-        if (native && native->startSystemResize(edges)) return;
         dragging = true;
         pressedAt = event->globalPosition().toPoint();
         before = window()->geometry();
     }
 
     void mouseMoveEvent(QMouseEvent* event) override {
+        // A window manager that is asked with the button already up would never let go.
+        dragging = dragging && (event->buttons() & Qt::LeftButton);
         if (!dragging) return;
+        QWindow* native = window()->windowHandle();
+        if (native && native->startSystemResize(edges)) {
+            dragging = false;
+            return;
+        }
         const QPoint by = event->globalPosition().toPoint() - pressedAt;
         QRect now = before;
         if (edges & Qt::LeftEdge) {

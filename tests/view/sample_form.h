@@ -24,6 +24,9 @@ struct SampleForm : forms::Form {
         list.Move(300, 300, 4500, 4500);
         other.Move(5100, 300, 3000, 3000);
         combo.Move(300, 5100, 3000, combo.Height());
+        choice.SetChoice(true);
+        choice.SetVisible(false);
+        choice.Move(300, 6600, 3000, choice.Height());
         text.Move(300, 5700, 3000, text.Height());
         label.Move(5100, 3600, 3000, 300);
         label.SetCaption("Label");
@@ -42,6 +45,8 @@ struct SampleForm : forms::Form {
     forms::ListBox list{this, "List", forms::ListControl::Order::asAdded};
     forms::ListBox other{this, "Other", forms::ListControl::Order::sorted};
     forms::ComboBox combo{this, "Combo"};
+    // Not shown until a test wants it.
+    forms::ComboBox choice{this, "Choice"};
     forms::TextBox text{this, "Text"};
     forms::Label label{this, "Label"};
     forms::CommandButton button{this, "Button"};

@@ -105,6 +105,32 @@ TEST_F(WindowTest, HasRoundCornersUnlessMaximised) {
     EXPECT_TRUE(view.Window().mask().isEmpty());
 }
 
+TEST_F(WindowTest, PaintsItsCornersWholeWhereNothingBlendsThem) {
+    bool composited = true;
+    view.SetCompositing([&] { return composited; });
+    Show();
+    const auto corner = [this] {
+        QImage picture(view.Window().size(), QImage::Format_ARGB32_Premultiplied);
+        picture.fill(Qt::transparent);
+        view.Window().render(&picture, {}, {}, QWidget::DrawChildren);
+        // The outermost pixel of a line that the shape still holds.
+        int x = 0;
+        while (!view.Window().mask().contains(QPoint(x, 2)))
+            ++x;
+        return picture.pixelColor(x, 2);
+    };
+    EXPECT_LT(corner().alpha(), 255);
+    composited = false;
+    view.SetCompositing([&] { return composited; });
+    EXPECT_EQ(corner().alpha(), 255);
+    EXPECT_GT(corner().blue(), 60);
+    // It asks again when it comes to the front.
+    composited = true;
+    QEvent activate(QEvent::WindowActivate);
+    QCoreApplication::sendEvent(&view.Window(), &activate);
+    EXPECT_LT(corner().alpha(), 255);
+}
+
 TEST_F(WindowTest, StaysOpenWhileSomebodyObjects) {
     bool refuse = true;
     form.onQueryClose = [&](bool& cancel) { cancel = refuse; };

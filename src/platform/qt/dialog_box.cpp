@@ -6,17 +6,21 @@
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPainterPath>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
 #include <QWindow>
 #include <algorithm>
 
+#include "platform/qt/compositing_qt.h"
+
 namespace kivu::platform {
 
 namespace {
 
 constexpr int widest = 560;  // pixels of text before it breaks
+constexpr int cornerRadius = 12;
 
 // The window that a box belongs to: the active one, or while none is, the one that is seen.
 QWidget* Owner() {
@@ -57,12 +61,13 @@ class Sign : public QWidget {
 }  // namespace
 
 DialogBox::DialogBox(const QString& name, const QString& title)
-    : QDialog(Owner(), Qt::Dialog | Qt::FramelessWindowHint) {
+    : QDialog(Owner(), Qt::Dialog | Qt::FramelessWindowHint), blended(IsComposited()) {
     // Over a window that stays on top of all others only one that does so too is seen.
     const QWindow* owner = parentWidget() ? parentWidget()->windowHandle() : nullptr;
     if (owner && owner->flags().testFlag(Qt::WindowStaysOnTopHint)) {
         setWindowFlag(Qt::WindowStaysOnTopHint);
     }
+    setAttribute(Qt::WA_TranslucentBackground, blended);
     setObjectName(name);
     setAccessibleName(name);
     setWindowTitle(title);
@@ -160,9 +165,25 @@ int DialogBox::Ask() {
 
 void DialogBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), palette().color(QPalette::Window));
+    painter.setRenderHint(QPainter::Antialiasing);
+    const QColor face = palette().color(QPalette::Window);
+    // Where nothing blends the corners, the mask cuts them out of a whole face.
+    if (!blended) painter.fillRect(rect(), face);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(face);
+    painter.drawRoundedRect(rect(), cornerRadius, cornerRadius);
     painter.setPen(QColor(255, 255, 255, 70));
-    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius - 0.5,
+                            cornerRadius - 0.5);
+}
+
+void DialogBox::resizeEvent(QResizeEvent* event) {
+    QDialog::resizeEvent(event);
+    if (blended) return;
+    QPainterPath shape;
+    shape.addRoundedRect(rect(), cornerRadius, cornerRadius);
+    setMask(QRegion(shape.toFillPolygon().toPolygon()));
 }
 
 // As in the system's own boxes a button's letter presses it without Alt, too.
@@ -178,7 +199,18 @@ void DialogBox::keyPressEvent(QKeyEvent* event) {
 }
 
 void DialogBox::mousePressEvent(QMouseEvent* event) {
-    if (event->button() == Qt::LeftButton && windowHandle()) windowHandle()->startSystemMove();
+    gripped = event->button() == Qt::LeftButton;
+    grippedAt = event->globalPosition().toPoint();
+}
+
+// Only once the mouse has moved with the button down: a window manager that is asked behind the
+// release would never let go.
+void DialogBox::mouseMoveEvent(QMouseEvent* event) {
+    gripped = gripped && (event->buttons() & Qt::LeftButton);
+    const int way = (event->globalPosition().toPoint() - grippedAt).manhattanLength();
+    if (!gripped || way < QApplication::startDragDistance()) return;
+    gripped = false;
+    if (windowHandle()) windowHandle()->startSystemMove();
 }
 
 }  // namespace kivu::platform

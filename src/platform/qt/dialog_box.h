@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QPoint>
 #include <QString>
 
 class QHBoxLayout;
@@ -29,9 +30,14 @@ class DialogBox : public QDialog {
  protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+    bool blended;  // the screen lays windows over one another
+    bool gripped = false;
+    QPoint grippedAt;
     QVBoxLayout* body = nullptr;
     QHBoxLayout* message = nullptr;
     QHBoxLayout* buttons = nullptr;
