@@ -62,6 +62,7 @@ void ButtonMirror::Take(QAbstractButton* newButton) {
     button = newButton;
     // Real clicks never reach the toolkit's button; these are a screen reader's.
     QObject::connect(button, &QAbstractButton::clicked, button, [this] {
+        const RepaintRest::Handler running(host.Rest());
         host.Input().Click(control);
         Apply(forms::Aspect::text);
     });
@@ -98,12 +99,15 @@ void ButtonMirror::ShowPressed(bool pressed) {
 void ButtonMirror::ApplyColors() {
     Mirror::ApplyColors();
     if (control.GetKind() != forms::Kind::commandButton) return;
-    // A button in its window's colour would not stand out from it.
     const QColor window = ToQt(control.ParentForm()->BackColor());
     const QColor own = ToQt(control.BackColor());
-    if (own != window && control.BackColor() != forms::Rgb(0x00, 0x52, 0xbc)) return;
     QPalette palette = widget->palette();
-    palette.setColor(QPalette::Button, Mix(window, Qt::white, 0.16));
+    // One that is off sinks into what lies behind it.
+    palette.setColor(QPalette::Window, window);
+    // A button in its window's colour would not stand out from it.
+    if (own == window || control.BackColor() == forms::Rgb(0x00, 0x52, 0xbc)) {
+        palette.setColor(QPalette::Button, Mix(window, Qt::white, 0.16));
+    }
     widget->setPalette(palette);
 }
 

@@ -37,6 +37,15 @@ QColor Mix(const QColor& bottom, const QColor& top, double opacity) {
                   mix(bottom.blue(), top.blue()));
 }
 
+QColor MixFor(double contrast, const QColor& bottom, const QColor& top, double opacity) {
+    QColor mixed = Mix(bottom, top, opacity);
+    while (opacity < 1 && Contrast(mixed, bottom) < contrast) {
+        opacity = std::min(1.0, opacity + 0.02);
+        mixed = Mix(bottom, top, opacity);
+    }
+    return mixed;
+}
+
 QColor Readable(const QColor& wanted, const QColor& background) {
     constexpr double enough = 2.5;
     if (Contrast(wanted, background) >= enough) return wanted;

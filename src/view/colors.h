@@ -15,6 +15,10 @@ QColor ToQt(forms::Color color);
 // `top` laid over `bottom` with an opacity of 0 to 1.
 QColor Mix(const QColor& bottom, const QColor& top, double opacity);
 
+// `top` laid over `bottom`, with the least opacity from `opacity` on that gives the contrast, as
+// far as there is one.
+QColor MixFor(double contrast, const QColor& bottom, const QColor& top, double opacity);
+
 // `wanted`, or black or white where `wanted` could not be read on `background`.
 QColor Readable(const QColor& wanted, const QColor& background);
 

@@ -1,12 +1,12 @@
 #include "view/combo_box_mirror.h"
 
-#include <QListView>
+#include <QAbstractItemView>
 #include <QSignalBlocker>
+#include <QStyleOptionComboBox>
 #include <QWheelEvent>
-#include <algorithm>
 #include <utility>
 
-#include "view/row_delegate.h"
+#include "view/choice_box.h"
 
 namespace kivu::view {
 
@@ -17,9 +17,7 @@ class Combo : public QComboBox {
     Combo(const RowSource& source, QWidget* parent) : QComboBox(parent), source(source) {
         setEditable(true);
         setInsertPolicy(QComboBox::NoInsert);
-        setDuplicatesEnabled(true);
         setCompleter(nullptr);
-        setMaxVisibleItems(16);
         // Leaving the field or Enter in it would look the text up among the rows and choose one.
         disconnect(lineEdit(), SIGNAL(editingFinished()), this, nullptr);
         disconnect(lineEdit(), SIGNAL(returnPressed()), this, nullptr);
@@ -29,15 +27,8 @@ class Combo : public QComboBox {
     }
 
     void showPopup() override {
-        // The popup is made when it is first wanted.
-        if (!dressed) {
-            dressed = true;
-            view()->window()->setFont(font());
-            view()->setItemDelegate(new RowDelegate(source, true, view()));
-            view()->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-            if (auto* list = qobject_cast<QListView*>(view())) list->setUniformItemSizes(true);
-        }
-        view()->setMinimumWidth(width());
+        DressPopup(*this, source);
+        dressed = true;
         QComboBox::showPopup();
     }
 
@@ -64,14 +55,11 @@ class Combo : public QComboBox {
 
  private:
     // The field's width follows the font by a fixed rule, so a long text is set narrower before it
-    // is cut; beyond a quarter it would be hard to read.
+    // is cut.
     void FitText() {
         // Until then the field has no width of its own, and each narrower font costs an engine.
         if (!isVisible()) return;
-        QFont fitted = font();
-        const int room = lineEdit()->width() - 8;
-        const int wanted = QFontMetrics(fitted).horizontalAdvance(lineEdit()->text());
-        if (room > 0 && wanted > room) fitted.setStretch(std::max(75, 100 * room / wanted));
+        const QFont fitted = Fitted(font(), lineEdit()->text(), lineEdit()->width() - 8);
         if (lineEdit()->font() != fitted) lineEdit()->setFont(fitted);
     }
 
@@ -79,23 +67,31 @@ class Combo : public QComboBox {
     bool dressed = false;
 };
 
+QComboBox* MakeCombo(const forms::ComboBox& box, const RowSource& source, QWidget* parent) {
+    if (box.IsChoice()) return new ChoiceBox(box, source, parent);
+    return new Combo(source, parent);
+}
+
 }  // namespace
 
 ComboBoxMirror::ComboBoxMirror(forms::ComboBox& control, QWidget* parent, MirrorHost& host)
     : Mirror(control, host),
       box(control),
       source(control),
-      combo(new Combo(source, parent)),
-      rows(new Rows(source, combo)),
-      editor(control, combo->lineEdit()) {
+      combo(MakeCombo(control, source, parent)),
+      rows(new Rows(source, combo)) {
+    if (combo->lineEdit()) editor.emplace(control, combo->lineEdit());
+    combo->setDuplicatesEnabled(true);
+    combo->setMaxVisibleItems(16);
     combo->setModel(rows);
     QObject::connect(combo, &QComboBox::activated, combo, [this](int row) {
+        const RepaintRest::Handler running(this->host.Rest());
         if (box.IsReachable()) box.ClickRow(row);
         // Where the click changed nothing the toolkit has still written the row into the field.
         ShowSelectedRow();
     });
     Adopt(combo);
-    host.Watch(combo->lineEdit(), *this);
+    if (combo->lineEdit()) host.Watch(combo->lineEdit(), *this);
 }
 
 void ComboBoxMirror::Apply(forms::Aspect aspect) {
@@ -103,19 +99,28 @@ void ComboBoxMirror::Apply(forms::Aspect aspect) {
     if (!combo) return;
     switch (aspect) {
         case forms::Aspect::text:
-            editor.ShowText();
+            ShowText();
             break;
         case forms::Aspect::rows:
             rowsChanged = true;
             host.FlushSoon(*this);
             break;
         case forms::Aspect::selection:
-            editor.ShowSelection();
+            if (editor) editor->ShowSelection();
             host.FlushSoon(*this);
             break;
         default:
             break;
     }
+}
+
+void ComboBoxMirror::ShowText() {
+    if (editor) {
+        editor->ShowText();
+        return;
+    }
+    combo->setAccessibleDescription(ToQt(box.Text()));
+    combo->update();
 }
 
 void ComboBoxMirror::Flush() {
@@ -132,7 +137,20 @@ void ComboBoxMirror::ShowSelectedRow() {
     const int row = source.Selected();
     const QSignalBlocker quiet(combo);
     if (row < combo->count() && combo->currentIndex() != row) combo->setCurrentIndex(row);
-    editor.ShowText();
+    ShowText();
+}
+
+bool ComboBoxMirror::IsOnArrow(QPoint global) const {
+    if (!combo) return false;
+    QStyleOptionComboBox option;
+    option.initFrom(combo);
+    return combo->style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, combo)
+        .contains(combo->mapFromGlobal(global));
+}
+
+void ComboBoxMirror::ShowRows() {
+    if (combo && !host.Input().DropDown(box)) combo->showPopup();
 }
 
 }  // namespace kivu::view

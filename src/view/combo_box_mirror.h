@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QComboBox>
+#include <optional>
 
 #include "forms/list_control.h"
 #include "view/field_editor.h"
@@ -9,8 +10,8 @@
 
 namespace kivu::view {
 
-// A text field over a drop-down list. A row chosen in the popup is the user's click on it; the
-// field inserts nothing and completes nothing.
+// A text field over a drop-down list, or a choice among its rows alone. A row chosen in the popup
+// is the user's click on it; the field inserts nothing and completes nothing.
 class ComboBoxMirror : public Mirror {
  public:
     ComboBoxMirror(forms::ComboBox& box, QWidget* parent, MirrorHost& host);
@@ -20,15 +21,18 @@ class ComboBoxMirror : public Mirror {
     QLineEdit* Editor() const override { return combo ? combo->lineEdit() : nullptr; }
     bool HasRows() const override { return true; }
     bool UsesMouse() const override { return true; }
+    bool IsOnArrow(QPoint global) const override;
+    void ShowRows() override;
 
  private:
+    void ShowText();
     void ShowSelectedRow();
 
     forms::ComboBox& box;
     ListRowSource source;
     QPointer<QComboBox> combo;
     Rows* rows = nullptr;
-    FieldEditor<forms::ComboBox> editor;
+    std::optional<FieldEditor<forms::ComboBox>> editor;  // none for a choice
     bool rowsChanged = true;
 };
 

@@ -48,7 +48,11 @@ void Keyboard::Press(QWidget& widget, QKeyEvent& event) {
     forms::Control* focus = form.Focus();
     Mirror* mirror = focus ? mirrorOf(*focus) : nullptr;
     if (mirror) input.pageRows = mirror->PageRows();
-    if (!OpensPopup(left) && input.DefaultKey(left)) return;
+    if (mirror && OpensPopup(left)) {
+        mirror->ShowRows();
+        return;
+    }
+    if (input.DefaultKey(left)) return;
     if (UseAccessKey(left)) return;
     if (left.code == keys::f4 && left.shift == shifts::alt) {
         if (onCloseKey) onCloseKey();

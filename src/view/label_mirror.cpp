@@ -49,7 +49,10 @@ class LabelWidget : public QWidget {
         } else if (label.IsOpaque()) {
             FillRounded(painter, rect(), cornerRadius, back);
         }
-        if (tab && !marked && underMouse() && isEnabled()) {
+        // A label over a whole area would light it up.
+        const bool oneLine =
+            rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
+        if (tab && !marked && oneLine && underMouse() && isEnabled()) {
             FillRounded(painter, rect(), cornerRadius, QColor(255, 255, 255, 34));
         }
         if (!isEnabled()) text.setAlphaF(0.5F);

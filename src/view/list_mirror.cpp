@@ -1,80 +1,16 @@
 #include "view/list_mirror.h"
 
-#include <QPainter>
-#include <QScrollBar>
 #include <algorithm>
+#include <utility>
 
-#include "view/colors.h"
-#include "view/fonts.h"
 #include "view/row_delegate.h"
 #include "view/text.h"
-#include "view/text_block.h"
 
 namespace kivu::view {
 
-namespace {
-
-class ListView : public QListView {
- public:
-    using QListView::QListView;
-
-    void SetHint(const QString& words) {
-        if (hint == words) return;
-        hint = words;
-        viewport()->update();
-    }
-
- protected:
-    void paintEvent(QPaintEvent* event) override {
-        QListView::paintEvent(event);
-        if (hint.isEmpty() || (model() && model()->rowCount() > 0)) return;
-        QPainter painter(viewport());
-        painter.setFont(HintFont(font()));
-        const QColor base = palette().color(QPalette::Base);
-        painter.setPen(Mix(base, Readable(palette().color(QPalette::Text), base), 0.72));
-        constexpr int air = 24;
-        painter.drawText(viewport()->rect().adjusted(air, air, -air, -air),
-                         int(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextWordWrap, hint);
-    }
-    // A slim margin keeps the rows off the rounded line.
-    void resizeEvent(QResizeEvent* event) override {
-        setViewportMargins(1, 2, 1, 2);
-        QListView::resizeEvent(event);
-    }
-    // The rows' pills tell of the focus.
-    void focusInEvent(QFocusEvent* event) override {
-        QListView::focusInEvent(event);
-        viewport()->update();
-    }
-    void focusOutEvent(QFocusEvent* event) override {
-        QListView::focusOutEvent(event);
-        viewport()->update();
-    }
-
- private:
-    QString hint;
-};
-
-ListView* MakeView(QWidget* parent) {
-    auto* view = new ListView(parent);
-    view->setUniformItemSizes(true);
-    view->setSelectionMode(QAbstractItemView::SingleSelection);
-    view->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    view->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    view->setDragDropMode(QAbstractItemView::NoDragDrop);
-    view->setContextMenuPolicy(Qt::NoContextMenu);
-    view->viewport()->setFocusPolicy(Qt::NoFocus);
-    // The frame behind it has round corners that the bar must not square.
-    view->verticalScrollBar()->setAttribute(Qt::WA_OpaquePaintEvent, false);
-    return view;
-}
-
-}  // namespace
-
 ListMirror::ListMirror(forms::Control& control, std::unique_ptr<RowSource> rowSource,
                        QWidget* parent, MirrorHost& host)
-    : Mirror(control, host), source(std::move(rowSource)), list(MakeView(parent)) {
+    : Mirror(control, host), source(std::move(rowSource)), list(new ListView(parent)) {
     rows = new Rows(*source, list);
     list->setModel(rows);
     list->setItemDelegate(new RowDelegate(*source, false, list));
@@ -91,8 +27,6 @@ void ListMirror::Apply(forms::Aspect aspect) {
             emptied = emptied || source->Count() == 0;
             break;
         case forms::Aspect::font:
-            list->verticalScrollBar()->setSingleStep(RowHeight(list->fontMetrics()));
-            break;
         case forms::Aspect::selection:
             break;
         case forms::Aspect::text:
@@ -109,13 +43,17 @@ void ListMirror::Apply(forms::Aspect aspect) {
 void ListMirror::ShowHint() {
     const auto* box = dynamic_cast<const forms::ListBox*>(&control);
     if (!box) return;
-    static_cast<ListView*>(list.data())->SetHint(SplitLines(ToQt(box->Hint())).join(u'\n'));
+    list->SetHint(SplitLines(ToQt(box->Hint())).join(u'\n'));
 }
 
 void ListMirror::Flush() {
     // A hidden list waits until it is shown: nobody sorts or lays out what nobody sees.
     if (!list || !list->isVisible()) return;
-    if (std::exchange(rowsChanged, false)) rows->Refresh();
+    if (std::exchange(rowsChanged, false)) {
+        rows->Refresh();
+        // The toolkit would lay them out behind the next picture, which would show none.
+        list->doItemsLayout();
+    }
     if (std::exchange(emptied, false)) list->scrollToTop();
     if (!std::exchange(selectionChanged, false)) return;
     const QModelIndex index = rows->index(source->Selected(), 0);
@@ -126,6 +64,15 @@ void ListMirror::Flush() {
         list->selectionModel()->clear();
     }
     list->viewport()->update();
+}
+
+void ListMirror::ForgetMouse() {
+    if (list && list->isVisible()) list->ForgetMouse();
+}
+
+void ListMirror::FocusMoved() {
+    const bool led = source->IsLed();
+    if (std::exchange(wasLed, led) != led && list) list->viewport()->update();
 }
 
 std::optional<int> ListMirror::RowAt(QPoint global) const {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QListView>
 #include <memory>
 
+#include "view/list_view.h"
 #include "view/mirror.h"
 #include "view/rows.h"
 
@@ -22,16 +22,19 @@ class ListMirror : public Mirror {
     void ClickRow(int row, int shift) override { source->Click(row, shift); }
     void SelectRow(int row) override { source->Select(row); }
     int PageRows() const override;
+    void ForgetMouse() override;
+    void FocusMoved() override;
 
  private:
     void ShowHint();
 
     std::unique_ptr<RowSource> source;
-    QPointer<QListView> list;
+    QPointer<ListView> list;
     Rows* rows = nullptr;
     bool rowsChanged = true;
     bool selectionChanged = true;
     bool emptied = false;
+    bool wasLed = false;
 };
 
 }  // namespace kivu::view

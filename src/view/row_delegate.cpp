@@ -6,6 +6,7 @@
 #include <QToolTip>
 
 #include "view/colors.h"
+#include "view/mirror.h"
 #include "view/style_parts.h"
 
 namespace kivu::view {
@@ -26,6 +27,11 @@ QString ShownText(const QModelIndex& index) {
     for (QChar& c : shown) {
         if (c.category() == QChar::Other_Control) c = u' ';
     }
+    // Blanks that pad a row are nothing that could be cut.
+    qsizetype end = shown.size();
+    while (end > 0 && shown[end - 1].isSpace())
+        --end;
+    shown.truncate(end);
     return shown;
 }
 
@@ -41,7 +47,8 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const bool current = option.state.testFlag(QStyle::State_Selected);
     const bool marked = followsCurrent ? current : source.IsMarked(index.row());
     const bool active = followsCurrent || option.state.testFlag(QStyle::State_HasFocus) ||
-                        (option.widget && option.widget->hasFocus());
+                        (option.widget && option.widget->hasFocus()) ||
+                        (source.IsLed() && option.widget && option.widget->isActiveWindow());
     const QColor base = option.palette.color(QPalette::Base);
     const QColor text = Readable(option.palette.color(QPalette::Text), base);
     QColor writing = text;
@@ -68,12 +75,12 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
 bool RowDelegate::helpEvent(QHelpEvent* event, QAbstractItemView* view,
                             const QStyleOptionViewItem& option, const QModelIndex& index) {
-    const QString text = ShownText(index).trimmed();
+    const QString text = ShownText(index);
     const int width = LineOf(view->visualRect(index)).width();
     const bool cut = QFontMetrics(view->font()).horizontalAdvance(text) > width;
     if (event->type() != QEvent::ToolTip || !cut)
         return QStyledItemDelegate::helpEvent(event, view, option, index);
-    QToolTip::showText(event->globalPos(), text.toHtmlEscaped(), view);
+    QToolTip::showText(event->globalPos(), PlainToolTip(text.trimmed()), view);
     return true;
 }
 

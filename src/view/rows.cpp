@@ -20,6 +20,11 @@ int ListRowSource::Meant() const {
     return box ? box->MeantRow() : -1;
 }
 
+bool ListRowSource::IsLed() const {
+    const auto* box = dynamic_cast<const forms::ListBox*>(&list);
+    return box && box->Leader() && box->Leader()->HasFocus();
+}
+
 void ListRowSource::Click(int row, int shift) {
     using forms::Choice;
     const bool range = (shift & forms::shifts::shift) != 0;

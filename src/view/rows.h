@@ -20,6 +20,8 @@ class RowSource {
     virtual bool ShowsCurrent() const { return false; }
     // The row that a key pressed elsewhere would select; -1 for none.
     virtual int Meant() const { return -1; }
+    // Another control that moves these rows has the focus.
+    virtual bool IsLed() const { return false; }
     // With the shift state of the mouse.
     virtual void Click(int row, int shift) = 0;
     virtual void Select(int row) = 0;
@@ -34,6 +36,7 @@ class ListRowSource : public RowSource {
     bool IsMarked(int row) const override;
     bool ShowsCurrent() const override;
     int Meant() const override;
+    bool IsLed() const override;
     void Click(int row, int shift) override;
     void Select(int row) override { list.SetListIndex(row); }
 

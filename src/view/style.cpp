@@ -14,7 +14,7 @@ namespace kivu::view {
 
 namespace {
 
-constexpr int scrollBarExtent = 12;
+constexpr int scrollBarExtent = 16;
 
 QRect ScrollBarSlider(const QStyleOptionSlider& bar) {
     const bool upright = bar.orientation == Qt::Vertical;
@@ -100,6 +100,7 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
         case SH_DitherDisabledText:
             return 0;
         case SH_UnderlineShortcut:
+        case SH_ScrollBar_LeftClickAbsolutePosition:
             return 1;
         default:
             return QProxyStyle::styleHint(hint, option, widget, returned);

@@ -23,6 +23,11 @@ QColor LineOn(const QColor& background, double strength) {
     return Mix(background, IsDark(background) ? QColor(Qt::white) : QColor(Qt::black), strength);
 }
 
+// A button that is off sinks into its window.
+QColor DisabledFace(const QPalette& palette) {
+    return Mix(palette.color(QPalette::Window), palette.color(QPalette::Button), 0.35);
+}
+
 }  // namespace
 
 void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
@@ -64,16 +69,16 @@ void DrawButton(QPainter& painter, const QStyleOption& option) {
     } else if (enabled && hover) {
         back = Mix(back, IsDark(back) ? QColor(Qt::white) : QColor(Qt::black), 0.12);
     }
-    if (!enabled) back.setAlphaF(0.35F);
+    if (!enabled) back = DisabledFace(option.palette);
     const QColor line = focus ? accent : QColor(255, 255, 255, enabled ? 46 : 20);
     FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
 }
 
 void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const QStyle& style) {
     const bool enabled = Has(button, QStyle::State_Enabled);
-    QColor color = Readable(button.palette.color(QPalette::ButtonText),
-                            button.palette.color(QPalette::Button));
-    if (!enabled) color.setAlphaF(0.45F);
+    const QColor back = button.palette.color(QPalette::Button);
+    QColor color = Readable(button.palette.color(QPalette::ButtonText), back);
+    if (!enabled) color = MixFor(3.5, DisabledFace(button.palette), color, 0.5);
     painter.save();
     painter.setPen(color);
     const QRect rect = button.rect.adjusted(4, 0, -4, 0);
@@ -140,8 +145,9 @@ void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QRect
     const QRectF rect = upright ? QRectF(slider).adjusted(margin, 2, -margin, -2)
                                 : QRectF(slider).adjusted(2, margin, -2, -margin);
     // The window's writing stands out against the list, so its colour does here too.
-    QColor color = Readable(bar.palette.color(QPalette::Text), bar.palette.color(QPalette::Base));
-    color.setAlphaF(held ? 0.75F : hover ? 0.55F : 0.32F);
+    const QColor base = bar.palette.color(QPalette::Base);
+    const QColor text = Readable(bar.palette.color(QPalette::Text), base);
+    const QColor color = MixFor(3, base, text, held ? 0.8 : hover ? 0.65 : 0.4);
     FillRounded(painter, rect, std::min(rect.width(), rect.height()) / 2, color);
 }
 

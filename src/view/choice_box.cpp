@@ -1,0 +1,87 @@
+#include "view/choice_box.h"
+
+#include <QAbstractItemView>
+#include <QHelpEvent>
+#include <QListView>
+#include <QStylePainter>
+#include <QToolTip>
+#include <algorithm>
+
+#include "view/colors.h"
+#include "view/mirror.h"
+#include "view/row_delegate.h"
+#include "view/text.h"
+
+namespace kivu::view {
+
+void DressPopup(QComboBox& combo, const RowSource& source) {
+    QAbstractItemView* view = combo.view();
+    if (!dynamic_cast<RowDelegate*>(view->itemDelegate())) {
+        view->setItemDelegate(new RowDelegate(source, true, view));
+        view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+        if (auto* list = qobject_cast<QListView*>(view)) list->setUniformItemSizes(true);
+        view->window()->setFont(combo.font());
+    }
+    view->setMinimumWidth(combo.width());
+}
+
+QFont Fitted(QFont font, const QString& text, int width) {
+    const int wanted = QFontMetrics(font).horizontalAdvance(text);
+    if (width > 0 && wanted > width) font.setStretch(std::max(75, 100 * width / wanted));
+    return font;
+}
+
+void ChoiceBox::showPopup() {
+    DressPopup(*this, source);
+    dressed = true;
+    QComboBox::showPopup();
+}
+
+QRect ChoiceBox::Field() const {
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    constexpr int margin = 2;  // pixels, as in a field that can be edited
+    return style()
+        ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+        .adjusted(margin, 0, -margin, 0);
+}
+
+QString ChoiceBox::ShownText() const {
+    const QString whole = ToQt(box.Text());
+    const int width = Field().width();
+    return QFontMetrics(Fitted(font(), whole, width)).elidedText(whole, Qt::ElideRight, width);
+}
+
+bool ChoiceBox::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || ShownText() == ToQt(box.Text()))
+        return QComboBox::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), PlainToolTip(box.Text()),
+                       this);
+    return true;
+}
+
+void ChoiceBox::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    const QRect field = Field();
+    painter.setFont(Fitted(font(), ToQt(box.Text()), field.width()));
+    const QColor base = palette().color(QPalette::Base);
+    const QColor text = palette().color(QPalette::Text);
+    painter.setPen(isEnabled() ? text : Mix(base, text, 0.7));
+    painter.drawText(field, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, ShownText());
+}
+
+void ChoiceBox::changeEvent(QEvent* event) {
+    // The toolkit would make the popup for its font, and lay out all rows in it.
+    const bool font = event->type() == QEvent::FontChange;
+    font && !dressed ? QWidget::changeEvent(event) : QComboBox::changeEvent(event);
+}
+
+void ChoiceBox::mousePressEvent(QMouseEvent* event) {
+    // A program that shows the rows itself has heard of the mouse already.
+    if (!box.onDropDown) QComboBox::mousePressEvent(event);
+}
+
+}  // namespace kivu::view
