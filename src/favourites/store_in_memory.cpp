@@ -15,17 +15,17 @@ StoreInMemory::StoreInMemory(const platform::FileSystem& files, StoredTexts stor
       stored(std::move(storedTexts)),
       base(std::move(base)),
       // A save writes to no number beyond twice the entries, a load looks one beyond the last.
-      slots(2 * std::max(mostEntries, entries.size()) + 1) {
+      entriesInFile(2 * std::max(mostEntries, entries.size()) + 1) {
     IdOfText({});
     for (const FavoritEntry& entry : entries)
         records.push_back({IdOfText(entry.FullPath), IdOfText(entry.Name)});
     for (const std::string& row : listRows)
         rows.push_back(IdOfText(row));
-    for (std::size_t number = 0; number < slots.size(); ++number) {
+    for (std::size_t number = 0; number < entriesInFile.size(); ++number) {
         if (auto raw = stored.Raw(favoritenSection, NameKey(number)))
-            slots[number].name.value = IdOfRaw(*std::move(raw));
+            entriesInFile[number].name.value = IdOfRaw(*std::move(raw));
         if (auto raw = stored.Raw(favoritenSection, PathKey(number)))
-            slots[number].path.value = IdOfRaw(*std::move(raw));
+            entriesInFile[number].path.value = IdOfRaw(*std::move(raw));
     }
 }
 
@@ -86,12 +86,12 @@ void StoreInMemory::Load() {
     records.clear();
     ++load;
     for (std::size_t i = 0; i < mostEntries; ++i) {
-        const TextId name = LoadedText(slots[i].name.value);
+        const TextId name = LoadedText(entriesInFile[i].name.value);
         if (name == emptyText) {
-            if (LoadedText(slots[i + 1].name.value) == emptyText) break;
+            if (LoadedText(entriesInFile[i + 1].name.value) == emptyText) break;
             continue;
         }
-        const TextId path = LoadedPath(slots[i].path.value);
+        const TextId path = LoadedPath(entriesInFile[i].path.value);
         const auto place = static_cast<std::size_t>(path);
         if (!texts[static_cast<std::size_t>(name)].isStorable || !texts[place].isStorable) continue;
         loads.resize(texts.size());
@@ -121,7 +121,7 @@ std::vector<std::string> StoreInMemory::Rows() const {
 
 void StoreInMemory::WriteTo(core::IniDocument& profile) const {
     const auto write = [&](std::size_t number, bool isPath) {
-        const Key& key = isPath ? slots[number].path : slots[number].name;
+        const Key& key = isPath ? entriesInFile[number].path : entriesInFile[number].name;
         if (!key.isWritten) return;
         const std::string& value = raws[static_cast<std::size_t>(key.value)].written;
         const std::string name = isPath ? PathKey(number) : NameKey(number);
@@ -132,7 +132,7 @@ void StoreInMemory::WriteTo(core::IniDocument& profile) const {
     };
     for (const auto& [number, isPath] : newKeys)
         write(number, isPath);
-    for (std::size_t number = 0; number < slots.size(); ++number) {
+    for (std::size_t number = 0; number < entriesInFile.size(); ++number) {
         write(number, false);
         write(number, true);
     }
@@ -203,8 +203,8 @@ StoreInMemory::RawId StoreInMemory::SavedPath(TextId text) {
 }
 
 void StoreInMemory::Write(std::size_t number, RawId name, RawId path) {
-    WriteKey(slots[number].name, name, number, false);
-    WriteKey(slots[number].path, path, number, true);
+    WriteKey(entriesInFile[number].name, name, number, false);
+    WriteKey(entriesInFile[number].path, path, number, true);
 }
 
 // As IniDocument::Set.

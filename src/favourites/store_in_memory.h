@@ -96,7 +96,7 @@ class StoreInMemory {
     std::unordered_map<std::string, RawId> rawIds;
     std::vector<Record> records;
     std::vector<TextId> rows;
-    std::vector<Slot> slots;                            // by the number in the key
+    std::vector<Slot> entriesInFile;                    // by the number in the key
     std::vector<std::pair<std::size_t, bool>> newKeys;  // in their order; true: of a path
     std::vector<int> loads;                             // by path: the load that has met it last
     int load = 0;

@@ -5,6 +5,7 @@
 
 #include "view/row_delegate.h"
 #include "view/text.h"
+#include "view/text_block.h"
 
 namespace kivu::view {
 

@@ -109,6 +109,7 @@ TEST_F(WindowsListFilling, ACacheInTheCodePageGivesTextWhetherTheGameIsThereOrNo
 }
 
 TEST_F(WindowsListFilling, AGameBesidesADirectoryThatBeginsLikeTheProgramsComesBack) {
+    form.CurrentEmuIndex = 0;
     form.AppDir = "C:\\kivu\\";
     form.StartPfad = "C:\\kivu\\Config\\A\\";
     form.CacheName = form.StartPfad + "Kivu_Cache.txt";

@@ -11,6 +11,7 @@ namespace {
 using ControlsTest = ShownForm;
 
 TEST_F(ControlsTest, NameEveryWidgetAsItsControl) {
+    form.choice.SetVisible(true);
     EXPECT_EQ(view.Window().objectName(), "Sample");
     EXPECT_EQ(view.Window().accessibleName(), "Sample");
     for (const forms::Control* control : form.Controls()) {
