@@ -166,9 +166,9 @@ StoreInMemory::RawId StoreInMemory::IdOfRaw(std::string bytes) {
     return id;
 }
 
-StoreInMemory::RawId StoreInMemory::RawOf(const std::string& value) {
+StoreInMemory::RawId StoreInMemory::RawOf(std::string value) {
     const RawId id = IdOfRaw(stored.RawOfText(value));
-    raws[static_cast<std::size_t>(id)].written = value;
+    raws[static_cast<std::size_t>(id)].written = std::move(value);
     return id;
 }
 

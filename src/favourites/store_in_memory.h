@@ -76,7 +76,8 @@ class StoreInMemory {
 
     TextId IdOfText(const std::string& text);
     RawId IdOfRaw(std::string bytes);
-    RawId RawOf(const std::string& value);
+    // By value: what it is made from may move while texts are added.
+    RawId RawOf(std::string value);
     TextId LoadedText(RawId raw) const;
     TextId LoadedPath(RawId raw);
     RawId SavedName(TextId text);

@@ -57,7 +57,7 @@ bool GameIndex::LookForParts() {
         texts, form.UAE_FULL.ListCount(),
         [&](int row) -> const std::string& { return form.UAE_FULL.List(row); },
         [&](int) { return Turn(); });
-    if (found.size() != texts.size()) return false;
+    if (found.size() != texts.size() || changes != form.UAE_FULL.Changes()) return false;
     for (std::size_t i = 0; i < texts.size(); ++i)
         answers[texts[i]].part = found[i];
     return true;

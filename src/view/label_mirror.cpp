@@ -96,9 +96,11 @@ class LabelWidget : public QWidget {
         QColor quiet = painter.pen().color();
         quiet.setAlphaF(0.75F);
         painter.setPen(quiet);
-        painter.drawText(QRectF(place.left(), top + 12, place.width(), place.bottom() - top - 12),
-                         int(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextWordWrap,
-                         SplitLines(ToQt(label.Hint())).join(u'\n'));
+        const QRectF below(place.left(), top + 12, place.width(), place.bottom() - top - 12);
+        if (below.isEmpty()) return;
+        const QStringList lines =
+            BreakText(ToQt(label.Hint()), painter.font(), below.width(), below.height());
+        painter.drawText(below, int(Qt::AlignHCenter | Qt::AlignTop), lines.join(u'\n'));
     }
 
     const forms::Label& label;

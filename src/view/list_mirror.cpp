@@ -12,6 +12,8 @@ namespace kivu::view {
 ListMirror::ListMirror(forms::Control& control, std::unique_ptr<RowSource> rowSource,
                        QWidget* parent, MirrorHost& host)
     : Mirror(control, host), source(std::move(rowSource)), list(new ListView(parent)) {
+    // A list that is made when it is shown may have its leader in front already.
+    wasLed = source->IsLed();
     rows = new Rows(*source, list);
     list->setModel(rows);
     list->setItemDelegate(new RowDelegate(*source, false, list));

@@ -1,15 +1,17 @@
 #include "view/list_view.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QHoverEvent>
 #include <QPainter>
 #include <QScrollBar>
+#include <QWheelEvent>
 #include <algorithm>
 #include <utility>
 
 #include "view/colors.h"
 #include "view/fonts.h"
 #include "view/row_delegate.h"
+#include "view/text_block.h"
 
 namespace kivu::view {
 
@@ -53,18 +55,23 @@ void ListView::paintEvent(QPaintEvent* event) {
     const QColor base = palette().color(QPalette::Base);
     painter.setPen(Mix(base, Readable(palette().color(QPalette::Text), base), 0.72));
     constexpr int air = 24;
-    painter.drawText(viewport()->rect().adjusted(air, air, -air, -air),
-                     int(Qt::AlignHCenter | Qt::AlignTop) | Qt::TextWordWrap, hint);
+    const QRect place = viewport()->rect().adjusted(air, air, -air, -air);
+    if (place.isEmpty()) return;
+    // A long path has no blank to break at.
+    painter.drawText(place, int(Qt::AlignHCenter | Qt::AlignTop),
+                     BreakText(hint, HintFont(font()), place.width(), place.height()).join(u'\n'));
 }
 
 void ListView::updateGeometries() {
+    QScrollBar* bar = verticalScrollBar();
+    // The toolkit's own range ends within a row, and takes a list back that shows its last one.
+    const int before = bar->value();
     QListView::updateGeometries();
     // A page is of whole rows; the last one begins with a whole row too, and ends with some air.
-    QScrollBar* bar = verticalScrollBar();
     bar->setSingleStep(Step());
     bar->setPageStep(std::max(1, viewport()->height() / Step()) * Step());
     bar->setMaximum((bar->maximum() + Step() - 1) / Step() * Step());
-    if (!bar->isSliderDown()) bar->setValue(Snapped(bar->value()));
+    if (!bar->isSliderDown()) bar->setValue(Snapped(before));
 }
 
 void ListView::scrollTo(const QModelIndex& index, ScrollHint hint) {
@@ -75,6 +82,22 @@ void ListView::scrollTo(const QModelIndex& index, ScrollHint hint) {
     const int top = bar->value() + row.top();
     const int whole = std::max(1, room / Step()) * Step();
     bar->setValue(row.top() < 0 ? top : top + Step() - whole);
+}
+
+// A touch pad tells of a few pixels at a time, of which each alone would come to rest where it was.
+void ListView::wheelEvent(QWheelEvent* event) {
+    constexpr int notch = 120;
+    const int delta = event->angleDelta().y();
+    if (event->modifiers() != Qt::NoModifier || delta == 0) {
+        QListView::wheelEvent(event);
+        return;
+    }
+    if ((delta < 0) != (turned < 0)) turned = 0;
+    turned += delta * std::max(1, QApplication::wheelScrollLines());
+    const int rows = turned / notch;
+    turned -= rows * notch;
+    verticalScrollBar()->setValue(verticalScrollBar()->value() - rows * Step());
+    event->accept();
 }
 
 void ListView::ForgetMouse() {

@@ -21,6 +21,7 @@ class ListView : public QListView {
  protected:
     void paintEvent(QPaintEvent* event) override;
     void updateGeometries() override;
+    void wheelEvent(QWheelEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
@@ -32,6 +33,7 @@ class ListView : public QListView {
     int Snapped(int value) const;
 
     QString hint;
+    int turned = 0;  // of the wheel, in lines times a notch's 120, that made no whole row yet
     bool mouseRests = false;
     QPointF restingAt;  // pixels of the screen
 };

@@ -56,7 +56,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       scanner(form, scanSource, host.beeper, pacer),
       gameLists(form, ini, host.files, busy, pacer, scanner),
       emulatorBox(form, ini, host.files, busy),
-      markedGame(form, host.dialogs),
+      markedGame(form, dialogs),
       listEvents(form, markedGame),
       listSearch(form, markedGame),
       globalSearch(form, host.files, busy, pacer),

@@ -19,6 +19,7 @@ class ConversationTest : public ::testing::Test {
     ConversationTest() {
         auto& form = session.MainWindow();
         form.ExitBtn.onClick = [this] { Open("Files"); };
+        form.LoadBtn.SetEnabled(true);
         form.LoadBtn.onClick = [this] {
             Open("Files");
             Open("SettingsForm");

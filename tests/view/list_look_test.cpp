@@ -1,5 +1,6 @@
 #include <QScopedValueRollback>
 #include <QStyledItemDelegate>
+#include <QWheelEvent>
 
 #include "view/shown_form.h"
 
@@ -36,6 +37,49 @@ TEST_F(ListLook, AlwaysBeginsWithAWholeRow) {
     form.list.SetHeight(form.list.Height() + 100);
     Settle();
     EXPECT_EQ(bar->value() % row, 0);
+}
+
+TEST_F(ListLook, StaysAtItsEndWhateverItsHeight) {
+    form.Fill(100);
+    form.list.SetFocus();
+    Show();
+    auto* list = Find<QAbstractItemView>("List");
+    QScrollBar* bar = list->verticalScrollBar();
+    Key(Qt::Key_End);
+    Settle();
+    EXPECT_EQ(bar->value(), bar->maximum());
+    // 15 twips are a pixel.
+    for (int pixel = 0; pixel < bar->singleStep(); ++pixel) {
+        form.list.SetHeight(form.list.Height() - 15);
+        Settle();
+        list->doItemsLayout();
+        const QRect last = list->visualRect(list->model()->index(99, 0));
+        EXPECT_LT(last.top(), list->viewport()->height());
+        EXPECT_GE(bar->value() + bar->singleStep(), bar->maximum());
+    }
+}
+
+// A touch pad tells of a notch in many small pieces.
+TEST_F(ListLook, ScrollsByTheSmallPiecesOfATouchPad) {
+    form.Fill(200);
+    Show();
+    auto* list = Find<QAbstractItemView>("List");
+    QScrollBar* bar = list->verticalScrollBar();
+    const QPointF at(list->viewport()->rect().center());
+    const auto turn = [&](int delta, int times) {
+        for (int i = 0; i < times; ++i) {
+            QWheelEvent event(at, list->viewport()->mapToGlobal(at), QPoint(), QPoint(0, delta),
+                              Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(list->viewport(), &event);
+        }
+    };
+    turn(-8, 15);
+    const int notch = QApplication::wheelScrollLines() * bar->singleStep();
+    EXPECT_EQ(bar->value(), notch);
+    turn(-120, 1);
+    EXPECT_EQ(bar->value(), 2 * notch);
+    turn(8, 15);
+    EXPECT_EQ(bar->value(), notch);
 }
 
 TEST_F(ListLook, GoesWhereItsGrooveIsClicked) {

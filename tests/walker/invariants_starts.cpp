@@ -152,7 +152,12 @@ const std::vector<Invariant>& StartInvariants() {
         {"a marked game starts",
          "a double click that does nothing looks broken",
          StartsAtAll,
-         {untold, repairedJustNow}},
+         {untold,
+          repairedJustNow,
+          {"while a game runs its name is no way to start another one",
+           [](const Moment& m) {
+               return m.before.Running() && m.hand.control == "Current_ProgramNameFull";
+           }}}},
         {"a missing game is told of",
          "a double click that does nothing looks broken",
          TellsOfMissing,

@@ -42,32 +42,7 @@ void WalkSeeds(std::uint64_t first, std::uint64_t count, const std::set<std::str
 
 // Known faults whose mends are under way.
 const std::set<std::string>& Waiting() {
-    static const std::set<std::string> names{
-        // The settings buttons, the font of the long list, the title line, letters of a game.
-        "one settings button",
-        "font of the long list",
-        "what is said is seen",
-        "letters of a game stay out of the search",
-        // A rescan out of the open choice, the choice opened twice, a picture without its timer.
-        "drop-down on the loaded emulator",
-        "what is loaded is the chosen emulator",
-        "what runs is watched",
-        // The busy state after a missing game.
-        "no busy label over the lists",
-        "no tab alone beside a box",
-        "drop-down to be reached",
-        "one list in front",
-        "tabs to be seen",
-        "focus on something",
-        "Escape leads to a usable window",
-        "a marked game starts",
-        "a missing game is told of",
-        // A scan without an emulator shows the launcher's own files as games.
-        "what starts is the marked game",
-        "what is stored as a global favourite is the marked game",
-        // The search box over the global favourites leaves their list behind the hits.
-        "global favourites are stored",
-    };
+    static const std::set<std::string> names;
     return names;
 }
 
