@@ -150,7 +150,8 @@ void AllEmulatorsSearch::ShowResults() {
 void AllEmulatorsSearch::LeaveWithoutResults(bool backToBox) {
     busy.HideAll(true);
     hooks.RebuildLayout();
-    if (backToBox) form.SearchDblsTxt.SetFocus();
+    // The button that was clicked may have gone, and the focus with it.
+    if (backToBox || !form.Focus()) form.SearchDblsTxt.SetFocus();
 }
 
 void AllEmulatorsSearch::LeaveForOtherList() {

@@ -149,6 +149,8 @@ void ListSearch::SearchDblsTxt_GotFocus() {
     form.SearchDblsTxt.SetBackColor(form.FormForeColor);
     form.SearchDblsTxt.SetForeColor(form.FormBackColor);
     if (form.GlobalSearchList.Visible()) return;
+    // The global favourites lie over everything that a search shows.
+    form.FavoritenListeGlobal.SetVisible(false);
     // From the list of emulators a search goes through them all, so it stays in front. The tabs
     // stand beside the drop-down, which the open choice has made as wide as the list.
     const bool choosing = form.EmulatorLongListbox.Visible();

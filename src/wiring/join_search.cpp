@@ -39,7 +39,11 @@ void Launcher::Routines::JoinSearch() {
     box.onLostFocus = [this] { listSearch.SearchDblsTxt_LostFocus(); };
     box.onKeyDown = [this](forms::Key& key) { listSearch.SearchDblsTxt_KeyDown(key); };
     box.onKeyPress = [this](forms::Character& key) { listSearch.SearchDblsTxt_KeyPress(key); };
-    form.SuchErg.onClick = [this] { listSearch.SuchErg_Click(); };
+    // Over the open list of emulators it closes that one first, as the tabs do.
+    form.SuchErg.onClick = [this] {
+        if (emulatorBox.ChoiceIsOpen()) emulatorBox.LeaveEmulatorBox();
+        listSearch.SuchErg_Click();
+    };
     form.SearchAllBtn.onClick = [this] { SearchAll(); };
 
     form.SuchErgList.onClick = [this] {

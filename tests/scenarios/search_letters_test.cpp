@@ -56,5 +56,37 @@ TEST_F(ListSearchScenario, ALetterOverTheEmulatorsSearchesThemAllAtEnter) {
     EXPECT_EQ(Get("GlobalSearchList.ListCount"), 5);
 }
 
+TEST_F(ListSearchScenario, AnIdleTextIsNoSearchOfAllAndKeepsTheFocusInItsBox) {
+    Start();
+    Do("focus", "Form1.SearchDblsTxt");
+    Do("type", "Form1.SearchDblsTxt", "Suche..");
+    Do("click", "Form1.SearchAllBtn");
+    EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
+    EXPECT_FALSE(Visible("GlobalSearchList"));
+}
+
+TEST_F(ListSearchScenario, TheMagnifierOverTheOpenChoiceClosesIt) {
+    Start();
+    Type("an");
+    Do("click", "Form1.EmuListbox");
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    Do("click", "Form1.SuchErg");
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    EXPECT_TRUE(Visible("SuchErgList"));
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), Get("CurrentEmuIndex"));
+}
+
+TEST_F(ListSearchScenario, TheBoxPutsTheGlobalFavouritesAway) {
+    Start();
+    Type("an");
+    Do("click", "Form1.EmuListbox");
+    Do("click", "Form1.Label1");
+    ASSERT_TRUE(Visible("FavoritenListeGlobal"));
+    Do("click", "Form1.SearchDblsTxt");
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_FALSE(Visible("DeLFav"));
+    EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
+}
+
 }  // namespace
 }  // namespace kivu::scenarios

@@ -115,6 +115,11 @@ const std::vector<Invariant>& FrontInvariants() {
           {"a search typed over the open choice fills its list behind that of the emulators",
            [](const Moment& m) {
                return m.after.mode == "7" && m.after.At(List::emulators).visible;
+           }},
+          {"the global favourites come up over the open choice",
+           [](const Moment& m) {
+               return m.after.At(List::globalFavourites).visible &&
+                      m.after.At(List::emulators).visible;
            }}}},
         {"the tab of the list in front is marked",
          "keys, sizes and Escape act by the mode, and the user reads it off the tabs",

@@ -141,6 +141,11 @@ std::string Loads(const Moment& m) {
     return Quoted(is) + " is loaded instead of " + Quoted(wanted);
 }
 
+const Exemption nameOfRunning{
+    "while a game runs its name is no way to start another one", [](const Moment& m) {
+        return m.before.Running() && m.hand.control == "Current_ProgramNameFull";
+    }};
+
 }  // namespace
 
 const std::vector<Invariant>& StartInvariants() {
@@ -152,16 +157,11 @@ const std::vector<Invariant>& StartInvariants() {
         {"a marked game starts",
          "a double click that does nothing looks broken",
          StartsAtAll,
-         {untold,
-          repairedJustNow,
-          {"while a game runs its name is no way to start another one",
-           [](const Moment& m) {
-               return m.before.Running() && m.hand.control == "Current_ProgramNameFull";
-           }}}},
+         {untold, repairedJustNow, nameOfRunning}},
         {"a missing game is told of",
          "a double click that does nothing looks broken",
          TellsOfMissing,
-         {untold, repairedJustNow}},
+         {untold, repairedJustNow, nameOfRunning}},
         {"what is stored as a favourite is the marked game",
          "the wrong one shows only when it is started, weeks later",
          StoresOwn,
