@@ -156,7 +156,10 @@ void ListSearch::SearchDblsTxt_GotFocus() {
     const bool choosing = form.EmulatorLongListbox.Visible();
     if (choosing) form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
     hooks.RebuildLayout();
-    if (choosing) form.EmulatorLongListbox.BringToFront();
+    if (choosing) {
+        form.EmulatorLongListbox.BringToFront();
+        form.SuchErgList.SetVisible(false);
+    }
     form.ListMode = "7";
     ShowMeantRow(true);
     if (IsIdleText(form.SearchDblsTxt.Text())) form.SearchDblsTxt.SetText("");

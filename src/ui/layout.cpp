@@ -125,6 +125,9 @@ void Layout::ShowListOfMode() {
         form.EmulatorLongListbox.SetFont(form.Label4.GetFont());
         form.EmulatorLongListbox.SetVisible(true);
         form.EmulatorLongListbox.BringToFront();
+    } else if (form.Mode() == 7 && form.EmulatorLongListbox.Visible()) {
+        // A search typed over the open choice goes through all emulators, which stay in front.
+        return;
     } else if (mode >= 1 && mode <= 4) {
         lists[static_cast<std::size_t>(mode - 1)]->SetVisible(true);
     }

@@ -88,5 +88,17 @@ TEST_F(ListSearchScenario, TheBoxPutsTheGlobalFavouritesAway) {
     EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
 }
 
+TEST_F(ListSearchScenario, TheResultsStayHiddenBehindTheOpenChoice) {
+    Start();
+    Type("an");
+    Do("click", "Form1.EmuListbox");
+    Do("key", "Form1", "Ctrl+F");
+    EXPECT_TRUE(Visible("EmulatorLongListbox"));
+    EXPECT_FALSE(Visible("SuchErgList"));
+    Do("resize", "Form1", 15000, 11000);
+    EXPECT_TRUE(Visible("EmulatorLongListbox"));
+    EXPECT_FALSE(Visible("SuchErgList"));
+}
+
 }  // namespace
 }  // namespace kivu::scenarios
