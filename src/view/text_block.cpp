@@ -50,7 +50,11 @@ QStringList BreakText(const QString& text, const QFont& font, double width, doub
         }
     }
     for (QString& line : lines) {
-        if (metrics.horizontalAdvance(line) > width + 0.01) {
+        // Blanks at a break hang over the edge, and the layout rounds otherwise than the metrics.
+        qsizetype end = line.size();
+        while (end > 0 && line[end - 1].isSpace())
+            --end;
+        if (metrics.horizontalAdvance(line.left(end)) > width + 1) {
             line = metrics.elidedText(line, Qt::ElideRight, width);
         }
     }
