@@ -29,8 +29,7 @@ void HandedFile::StartHandedFile(const std::string& path) {
         beeper.Beep();
         return;
     }
-    if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible())
-        hooks.LeaveEmulatorBox();
+    hooks.LeaveEmulatorBox();
     hooks.SetToNormal();
     form.EmuListbox.SetVisible(false);
     hooks.StartGame(path);
@@ -38,8 +37,7 @@ void HandedFile::StartHandedFile(const std::string& path) {
 }
 
 bool HandedFile::IsFree() const {
-    const bool running = form.GameIsRunning || form.AppRunningPicture.Visible();
-    return form.WindowReady && form.CurrentEmuIndex >= 0 && !running && !form.Busy &&
+    return form.WindowReady && form.CurrentEmuIndex >= 0 && !form.EmulatorRuns() && !form.Busy &&
            !hooks.BoxIsOpen();
 }
 

@@ -105,7 +105,8 @@ void Launcher::Routines::JoinLaunch() {
     gameLaunch.hooks.LeaveChoice = [this] { LeaveChoice(); };
     gameLaunch.hooks.RefreshList = [this] { RefreshList(); };
 
-    handedFile.hooks.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
+    // The loaded emulator starts it, whatever row of the choice has been looked at.
+    handedFile.hooks.LeaveEmulatorBox = [this] { LeaveChoice(); };
     handedFile.hooks.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
     handedFile.hooks.StartGame = [this](const std::string& path) { gameLaunch.StartGame(path); };
     handedFile.hooks.BoxIsOpen = [this] { return dialogs.IsOpen(); };
