@@ -9,7 +9,7 @@
 #include "launch/drive_slots.h"
 #include "platform/linux/file_system_linux.h"
 #include "ratio/ratio.h"
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace {
 

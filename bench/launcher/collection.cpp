@@ -10,7 +10,7 @@
 
 #include "library/list_cache.h"
 #include "library/short_names.h"
-#include "support/collation.h"
+#include "text/collation.h"
 
 namespace kivu::bench {
 
@@ -87,7 +87,7 @@ std::string CacheText(int games) {
     std::vector<std::string> paths = CollectionPaths(games);
     for (std::string& path : paths)
         path.insert(0, "../Roms/");
-    std::sort(paths.begin(), paths.end(), support::TextLess{});
+    std::sort(paths.begin(), paths.end(), text::TextLess{});
     std::string cache;
     for (const std::string& path : paths)
         library::AppendCacheEntry(cache, path, library::CutShortName(path, ")", true));

@@ -8,8 +8,8 @@
 #include "library/find_game.h"
 #include "platform/desktop.h"
 #include "platform/file_system.h"
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::bench {
 
@@ -45,7 +45,7 @@ class PlainRepair {
             const std::string& path = entries[i].FullPath;
             const bool found =
                 path.find(text) != std::string::npos ||
-                (!support::IsUtf8(path) && files.DecodeText(path).find(text) != std::string::npos);
+                (!text::IsUtf8(path) && files.DecodeText(path).find(text) != std::string::npos);
             if (found) return static_cast<int>(i);
         }
         return -1;
@@ -86,7 +86,7 @@ class PlainRepair {
     }
 
     int FindAgain(const std::string& path, const std::string& rowText) {
-        const std::string name = support::GetFileNameOnly(path);
+        const std::string name = text::GetFileNameOnly(path);
         int found = -1;
         for (const std::string& wanted : {path, name, name, rowText}) {
             found = library::FindGameInFullList(form, busy, pacer, wanted);

@@ -1,7 +1,7 @@
 #include "core/emulator_paths.h"
 
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -12,7 +12,7 @@ std::string FindByName(const platform::FileSystem& files, const std::string& dir
     const auto entries = files.ListDirectory(directory);
     if (!entries) return exact;
     for (const auto& entry : *entries) {
-        if (support::EqualsNoCase(entry.name, name)) return directory + entry.name;
+        if (text::EqualsNoCase(entry.name, name)) return directory + entry.name;
     }
     return exact;
 }
@@ -33,7 +33,7 @@ void AssignProgramPaths(Form1& form, const platform::FileSystem& files) {
 }
 
 void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const std::string& name) {
-    form.StartPfad = support::AddPathSeparator(form.ConfigPath + name);
+    form.StartPfad = text::AddPathSeparator(form.ConfigPath + name);
     form.VBSFilename = form.StartPfad + "Startscript.vbs";
     form.FavoritenIni = FindByName(files, form.StartPfad, "Favoriten.ini");
     form.IniPath = form.StartPfad + form.EXE + ".ini";

@@ -1,8 +1,8 @@
 #include "core/emulator_switch.h"
 
 #include "core/emulator_paths.h"
-#include "support/file_ops.h"
-#include "support/text.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -163,13 +163,13 @@ void EmulatorSwitch::ReadTitle() {
 }
 
 bool EmulatorSwitch::ServeCommandLine() {
-    if (support::Trim(commandLine).empty()) return false;
+    if (text::Trim(commandLine).empty()) return false;
     ini.StoreWriteBacks();
     if (commandLine.find('?') != std::string::npos) {
         dialogs.MessageBox("Command Parameter: Not full supported yet!  *.adf Files should work!",
                            defaultTitle, platform::Buttons::Ok, platform::Icon::None);
     } else {
-        hooks.StartGame(support::QuoteIfNeeded(support::Trim(commandLine)));
+        hooks.StartGame(text::QuoteIfNeeded(text::Trim(commandLine)));
     }
     form.Ended = true;
     hooks.EndProgram();

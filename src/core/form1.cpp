@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -35,7 +35,7 @@ Form1::Form1(forms::Toolkit toolkit) : forms::Form("Form1", toolkit) {
 }
 
 int Form1::Mode() const {
-    return support::ToNumber(ListMode).value_or(0);
+    return text::ToNumber(ListMode).value_or(0);
 }
 
 bool Form1::ChoiceInFront() const {

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "core/ini_scan.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -36,14 +36,13 @@ std::string Ini::ReadIniBytes(std::string_view section, std::string_view key,
 
 int Ini::ReadIniNumber(std::string_view section, std::string_view key, const std::string& iniFile,
                        std::string_view defaultText, bool writeBack) {
-    return support::ToNumber(ReadIniValue(section, key, iniFile, defaultText, writeBack))
-        .value_or(0);
+    return text::ToNumber(ReadIniValue(section, key, iniFile, defaultText, writeBack)).value_or(0);
 }
 
 std::optional<int> Ini::ReadIniWide(std::string_view section, std::string_view key,
                                     const std::string& iniFile, std::string_view defaultText,
                                     bool writeBack) {
-    return support::ToWideNumber(ReadIniValue(section, key, iniFile, defaultText, writeBack));
+    return text::ToWideNumber(ReadIniValue(section, key, iniFile, defaultText, writeBack));
 }
 
 void Ini::WriteIniValue(std::string_view section, std::string_view key, std::string_view value,

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -81,7 +81,7 @@ std::string_view ReadableValue(std::string_view rawValue) {
     const char quote = value.empty() ? '\0' : value.front();
     if ((quote == '"' || quote == '\'') && value.size() >= 2 && value.back() == quote) {
         // Tabs in quotes are meant.
-        value = support::Trim(value.substr(1, value.size() - 2));
+        value = text::Trim(value.substr(1, value.size() - 2));
     }
     return value;
 }
@@ -128,13 +128,13 @@ IniName IniName::Key(std::string_view text, const IniCoding& coding) {
 bool IniName::Matches(std::string_view nameInFile, const IniCoding& coding) const {
     if (!IsAscii(nameInFile)) return FoldedName(nameInFile, coding) == folded;
     return std::equal(nameInFile.begin(), nameInFile.end(), folded.begin(), folded.end(),
-                      [](char a, char b) { return support::ToLowerAscii(a) == b; });
+                      [](char a, char b) { return text::ToLowerAscii(a) == b; });
 }
 
 std::string FoldedName(std::string_view nameInFile, const IniCoding& coding) {
     // Every code page agrees on ASCII, which nearly all names are.
-    if (IsAscii(nameInFile)) return support::ToLower(nameInFile);
-    return support::ToLower(DecodeIni(coding, nameInFile));
+    if (IsAscii(nameInFile)) return text::ToLower(nameInFile);
+    return text::ToLower(DecodeIni(coding, nameInFile));
 }
 
 std::string DecodeIni(const IniCoding& coding, std::string_view bytes) {
@@ -151,12 +151,12 @@ std::size_t ByteOrderMarkLength(std::string_view bytes) {
 
 IniCoding CodingOfMarkedFile(const IniCoding& hostCoding) {
     return {[decode = hostCoding.decode](std::string_view bytes) {
-                return support::IsUtf8(bytes) || !decode ? std::string(bytes) : decode(bytes);
+                return text::IsUtf8(bytes) || !decode ? std::string(bytes) : decode(bytes);
             },
             [](std::string_view text) {
                 std::string valid;
                 for (std::size_t at = 0; at < text.size();) {
-                    support::AppendUtf8(valid, support::NextCodePoint(text, at));
+                    text::AppendUtf8(valid, text::NextCodePoint(text, at));
                 }
                 return valid;
             }};

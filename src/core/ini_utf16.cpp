@@ -1,6 +1,6 @@
 #include "core/ini_utf16.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -55,12 +55,12 @@ std::string Utf16ToUtf8(std::string_view bytes) {
         const char32_t unit = UnitAt(bytes, at);
         const char32_t next = at + 3 < bytes.size() ? UnitAt(bytes, at + 2) : 0;
         if (IsHighSurrogate(unit) && IsLowSurrogate(next)) {
-            support::AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
+            text::AppendUtf8(text, 0x10000 + ((unit - 0xD800) << 10) + (next - 0xDC00));
             at += 2;
         } else if (IsHighSurrogate(unit) || IsLowSurrogate(unit)) {
             AppendLoneSurrogate(text, unit);
         } else {
-            support::AppendUtf8(text, unit);
+            text::AppendUtf8(text, unit);
         }
     }
     return text;
@@ -75,7 +75,7 @@ std::string Utf8ToUtf16(std::string_view text) {
             at += 3;
             continue;
         }
-        const char32_t codePoint = support::NextCodePoint(text, at);
+        const char32_t codePoint = text::NextCodePoint(text, at);
         if (codePoint < 0x10000) {
             AppendUnit(bytes, codePoint);
         } else {

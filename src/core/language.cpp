@@ -1,6 +1,6 @@
 #include "core/language.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::core {
 
@@ -9,7 +9,7 @@ std::string GetLocaleString(const platform::Locale& locale, int LCType) {
 }
 
 bool GetSystemLanguageIsGerman(const platform::Locale& locale) {
-    return support::ToUpperAscii(GetLocaleString(locale, LOCALE_SENGLANGUAGE)).find("GERMAN") !=
+    return text::ToUpperAscii(GetLocaleString(locale, LOCALE_SENGLANGUAGE)).find("GERMAN") !=
            std::string::npos;
 }
 

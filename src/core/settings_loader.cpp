@@ -1,7 +1,7 @@
 #include "core/settings_loader.h"
 
-#include "support/file_ops.h"
-#include "support/run_file.h"
+#include "text/paths.h"
+#include "text/stored_paths.h"
 
 namespace kivu::core {
 
@@ -26,7 +26,7 @@ void SettingsLoader::LoadSettings() {
 }
 
 std::string SettingsLoader::AbsolutePath(const std::string& stored) const {
-    return support::ProfilePath(form.BaseDirectory(), stored, [this](const std::string& path) {
+    return text::ProfilePath(form.BaseDirectory(), stored, [this](const std::string& path) {
         return files.FileExists(path) || files.IsDirectory(path);
     });
 }
@@ -45,7 +45,7 @@ void SettingsLoader::LoadPaths() {
         return ini.ReadIniValue(settings, key, form.IniPath, "", true);
     };
     form.TxtRomPath.SetText(read("RomPath"));
-    form.TxtRomPath.SetText(support::AddPathSeparator(AbsolutePath(form.TxtRomPath.Text())));
+    form.TxtRomPath.SetText(text::AddPathSeparator(AbsolutePath(form.TxtRomPath.Text())));
     form.txtWinUAEExe.SetText(read("EmulatorPath"));
     form.txtWinUAEExe.SetText(EmulatorPath(form.txtWinUAEExe.Text()));
     form.FontSizeCombo.SetListIndex(

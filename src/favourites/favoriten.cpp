@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "favourites/stored_texts.h"
-#include "support/file_ops.h"
-#include "support/text.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::favourites {
 
@@ -14,11 +14,11 @@ namespace {
 constexpr const char* section = favoritenSection;
 
 char32_t FirstCharacter(const std::string& text) {
-    return support::DecodeAt(text, 0).codePoint;
+    return text::DecodeAt(text, 0).codePoint;
 }
 
 bool IsBlank(const std::string& text) {
-    return support::Trim(text).empty();
+    return text::Trim(text).empty();
 }
 
 }  // namespace
@@ -55,7 +55,7 @@ void Favoriten::SaveFavoriten() {
             ++skipped;
             continue;
         }
-        Write(*profile, written++, entry.Name, support::PathToStore(base, entry.FullPath));
+        Write(*profile, written++, entry.Name, text::PathToStore(base, entry.FullPath));
     }
     if (count > 0 && written == 0) return;
     if (count == 0) Write(*profile, 0, "", "");

@@ -2,7 +2,7 @@
 
 #include "favourites/edit_alias_name.h"
 #include "library/find_game.h"
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::favourites {
 
@@ -39,7 +39,7 @@ int FavoritenEvents::FindGame(const FavoritEntry& favourite) {
     if (favourite.FullPath.empty()) return -1;
     const int row = library::FindGameInFullList(form, busy, pacer, favourite.FullPath);
     if (row >= 0) return row;
-    const std::string name = support::GetFileNameOnly(favourite.FullPath);
+    const std::string name = text::GetFileNameOnly(favourite.FullPath);
     return name.empty() ? -1 : library::FindGameInFullList(form, busy, pacer, name);
 }
 
@@ -64,7 +64,7 @@ void FavoritenEvents::ShowGame(int row) {
     form.UAE_Short.SetListIndex(row);
     form.UAE_FULL.SetListIndex(row);
     if (form.SettingsSubPicture.Visible()) hooks.SelectSimilarDisks(row, 4, 14, 2);
-    form.Check_Dfx[0].SetToolTipText(support::GetFileNameOnly(form.UAE_FULL.List(row)));
+    form.Check_Dfx[0].SetToolTipText(text::GetFileNameOnly(form.UAE_FULL.List(row)));
     form.Check_Dfx[0].SetValue(1);
 }
 
@@ -92,7 +92,7 @@ int FavoritenEvents::RowOfGame() const {
     if (path.empty()) return -1;
     const std::vector<std::string>& paths = form.UAE_FULL.Rows();
     const int row = library::RowOfGame(paths, path);
-    const std::string name = support::GetFileNameOnly(path);
+    const std::string name = text::GetFileNameOnly(path);
     return row >= 0 || name.empty() ? row : library::RowOfGame(paths, name);
 }
 

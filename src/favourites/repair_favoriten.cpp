@@ -1,6 +1,6 @@
 #include "favourites/repair_favoriten.h"
 
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::favourites {
 
@@ -9,7 +9,7 @@ namespace {
 // The row of UAE_FULL, 0 or less when it is not found: the first row counts as none.
 int FindAgain(library::GameIndex& games, const std::string& path, const std::string& rowText) {
     int found = -1;
-    for (const std::string& wanted : {path, support::GetFileNameOnly(path), rowText}) {
+    for (const std::string& wanted : {path, text::GetFileNameOnly(path), rowText}) {
         found = games.Find(wanted);
         if (found > 0) break;
     }
@@ -52,7 +52,7 @@ std::string Repair::Walk(StoreInMemory& memory) {
     library::GameIndex games(form, busy, pacer);
     for (const FavoritEntry& favourite : memory.Entries()) {
         games.Expect(favourite.FullPath);
-        games.Expect(support::GetFileNameOnly(favourite.FullPath));
+        games.Expect(text::GetFileNameOnly(favourite.FullPath));
     }
     std::string report;
     const std::vector<std::string> rows = memory.Rows();

@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "core/ini_syntax.h"
-#include "support/file_ops.h"
-#include "support/text.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::favourites {
 
@@ -143,9 +143,9 @@ StoreInMemory::TextId StoreInMemory::IdOfText(const std::string& text) {
     if (isNew) {
         Text added;
         added.text = text;
-        if (!support::IsUtf8(text)) added.readable = files.DecodeText(text);
+        if (!text::IsUtf8(text)) added.readable = files.DecodeText(text);
         added.isStorable = IsStorable(text);
-        added.isBlank = support::Trim(text).empty();
+        added.isBlank = text::Trim(text).empty();
         texts.push_back(std::move(added));
     }
     return place->second;
@@ -196,7 +196,7 @@ StoreInMemory::RawId StoreInMemory::SavedName(TextId text) {
 StoreInMemory::RawId StoreInMemory::SavedPath(TextId text) {
     const auto place = static_cast<std::size_t>(text);
     if (texts[place].asPath == none) {
-        const RawId raw = RawOf(support::PathToStore(base, texts[place].text));
+        const RawId raw = RawOf(text::PathToStore(base, texts[place].text));
         texts[place].asPath = raw;
     }
     return texts[place].asPath;

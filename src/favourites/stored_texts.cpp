@@ -1,9 +1,9 @@
 #include "favourites/stored_texts.h"
 
 #include "core/ini_syntax.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
-#include "support/text.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::favourites {
 
@@ -34,14 +34,14 @@ std::string StoredTexts::PathOfRaw(std::string_view raw, std::string_view base) 
     if (decoded.empty()) return decoded;
     const auto absolute = [&](const std::string& path) { return Absolute(path, base); };
     const std::string plain(core::ReadableValue(raw));
-    if (!support::NamesAreBytes(*files) || support::IsUtf8(plain)) return absolute(decoded);
+    if (!support::NamesAreBytes(*files) || text::IsUtf8(plain)) return absolute(decoded);
     return absolute(support::NameOfStoredBytes(*files, plain, absolute));
 }
 
 std::string StoredTexts::Absolute(const std::string& stored, std::string_view base) const {
     if (base.empty()) return stored;
-    return support::ProfilePath(
-        base, stored, [this](const std::string& path) { return files->FileExists(path); });
+    return text::ProfilePath(base, stored,
+                             [this](const std::string& path) { return files->FileExists(path); });
 }
 
 bool IsStorable(std::string_view text) {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "library/short_names.h"
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::launch {
 
@@ -18,11 +18,11 @@ void DriveSlots::SelectSimilarDisks(int FromRow, int RowsBack, int, int Limit) {
     const int first = std::max(FromRow - RowsBack, 0);
     const int last =
         std::min(form.UAE_Short.ListIndex() + reachForward, form.UAE_Short.ListCount() - 1);
-    const std::string wanted = support::GetFileNameOnly(form.UAE_FULL.SelectedText());
+    const std::string wanted = text::GetFileNameOnly(form.UAE_FULL.SelectedText());
     std::size_t drive = 0;
     for (int row = first; row <= last && drive < form.Check_Dfx.size(); ++row) {
         const std::string& path = form.UAE_FULL.List(row);
-        const std::string_view name = support::FileNameView(path);
+        const std::string_view name = text::FileNameView(path);
         if (library::getCharDiff(name, wanted, Limit) >= Limit) continue;
         Show(drive, path);
         form.DiskSlots[drive] = path;
@@ -111,7 +111,7 @@ void DriveSlots::Empty() {
 
 void DriveSlots::Show(std::size_t drive, const std::string& path) {
     form.Check_Dfx[drive].SetValue(1);
-    form.Check_Dfx[drive].SetToolTipText(support::GetFileNameOnly(path));
+    form.Check_Dfx[drive].SetToolTipText(text::GetFileNameOnly(path));
 }
 
 }  // namespace kivu::launch

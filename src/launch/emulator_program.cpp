@@ -1,7 +1,7 @@
 #include "launch/emulator_program.h"
 
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::launch {
 
@@ -16,12 +16,12 @@ std::string ResolveEmulator(const std::string& program, const std::string& progr
 }
 
 bool IsBatchFile(const std::string& program) {
-    const std::string name = support::ToLower(support::GetFileNameOnly(program));
+    const std::string name = text::ToLower(text::GetFileNameOnly(program));
     return name.find(".exe") == std::string::npos && name.find(".bat") != std::string::npos;
 }
 
 std::string WatchedName(const std::string& program) {
-    return IsBatchFile(program) ? "cmd.exe" : support::GetFileNameOnly(program);
+    return IsBatchFile(program) ? "cmd.exe" : text::GetFileNameOnly(program);
 }
 
 }  // namespace kivu::launch

@@ -2,9 +2,9 @@
 
 #include "launch/emulator_program.h"
 #include "launch/wait.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
-#include "support/run_file.h"
+#include "text/paths.h"
+#include "text/stored_paths.h"
 
 namespace kivu::launch {
 
@@ -14,7 +14,7 @@ std::string EmulatorSetup::EmulatorOf(const std::string& name) const {
     const std::string stored = ini.ReadIniValue("Settings", "EmulatorPath", profile, "", false);
     if (stored.empty()) return {};
     const std::string path =
-        support::ProfilePath(form.BaseDirectory(), stored, [&](const std::string& candidate) {
+        text::ProfilePath(form.BaseDirectory(), stored, [&](const std::string& candidate) {
             return files.FileExists(candidate) || files.IsDirectory(candidate);
         });
     const bool bareName = stored.find_first_of("/\\") == std::string::npos;
@@ -31,7 +31,7 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
         SayMissing(EName, path);
         return;
     }
-    const std::string file = support::GetFileNameOnly(path);
+    const std::string file = text::GetFileNameOnly(path);
     if (ConfirmationMessagebox) {
         const auto answer = services.dialogs.MessageBox(
             EName + "-Emulator zum Einstellen jetzt starten?", file + " starten?",
@@ -41,7 +41,7 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
     form.LoadingBtn.SetCaption("Setup:\r" + EName + "\r->" + file);
     const std::string directory = support::DirectoryOf(services.files, path);
     (void)services.files.ChangeDirectory(
-        support::QuoteIfNeeded(support::ShortFileName(services.files, directory)));
+        text::QuoteIfNeeded(support::ShortFileName(services.files, directory)));
     (void)services.files.ChangeDirectory(directory);
     platform::StartRequest request;
     request.command = path;

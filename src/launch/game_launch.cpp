@@ -4,12 +4,12 @@
 #include "launch/wait.h"
 #include "library/find_game.h"
 #include "library/short_names.h"
-#include "support/command_line.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
-#include "support/run_file.h"
-#include "support/string_ops.h"
-#include "support/text.h"
+#include "text/command_line.h"
+#include "text/paths.h"
+#include "text/stored_paths.h"
+#include "text/string_ops.h"
+#include "text/text.h"
 
 namespace kivu::launch {
 
@@ -32,7 +32,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     const std::string notedTitle = form.Caption();
     forms::Control* const focus = form.Focus();
     Run run;
-    run.path = support::RemoveQuotes(GamePath);
+    run.path = text::RemoveQuotes(GamePath);
     // A name may end in a blank; trimmed, it would be another one.
     if (services.files.FileExists(GamePath)) run.path = GamePath;
     Prepare(run);
@@ -46,7 +46,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     const std::string found = run.direct ? "" : FindStartFile(form.TmpBatName);
     if (!found.empty()) form.TmpBatName = found;
     form.TmpBatName =
-        "\"" + support::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
+        "\"" + text::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
     EnterEmulatorDirectory(run);
     ShowLoadingAndMount(run);
     form.CurrentRunninApplication = WatchedName(run.emulator);
@@ -82,10 +82,9 @@ void GameLaunch::Prepare(Run& run) {
     const platform::FileSystem& files = services.files;
     run.emulator = ResolveEmulator(form.txtWinUAEExe.Text(), form.AppDir, files, services.starter);
     run.useQuote = Number("UseQuote", "0");
-    run.argument =
-        support::QuoteIfNeeded(run.useQuote >= 1 ? support::LongFileName(files, run.path)
-                                                 : support::ShortFileName(files, run.path));
-    form.TmpBatName = support::RemoveQuotes(form.TmpBatName);
+    run.argument = text::QuoteIfNeeded(run.useQuote >= 1 ? support::LongFileName(files, run.path)
+                                                         : support::ShortFileName(files, run.path));
+    form.TmpBatName = text::RemoveQuotes(form.TmpBatName);
     hooks.SetToNormal();
     busy.HideAll(false);
     // The one tab that the busy state leaves; it would stand there alone.
@@ -96,14 +95,14 @@ void GameLaunch::Prepare(Run& run) {
     Add_CURRENT_PROGRAM_STARTED(entry);
     form.LoadingBtn.SetCaption(run.argument + "...");
     hooks.SetWindowBackToNormal();
-    std::string title = support::GetFileNameOnly(run.path);
-    const std::size_t length = support::CodePointCount(title);
-    if (length > 4) title.resize(support::CodePointOffset(title, length - 4));
+    std::string title = text::GetFileNameOnly(run.path);
+    const std::size_t length = text::CodePointCount(title);
+    if (length > 4) title.resize(text::CodePointOffset(title, length - 4));
     form.CURRENT_PROGRAM_STARTED = title;
 }
 
 void GameLaunch::BuildParameters(Run& run) {
-    run.windowsPaths = services.starter.UsesShell() && support::IsWindowsProgram(run.emulator);
+    run.windowsPaths = services.starter.UsesShell() && text::IsWindowsProgram(run.emulator);
     run.parameters = StartParameters(run.windowsPaths);
     run.parameters.AppendTyped(Text("WinUAE_ConfigParameter"));
     run.parameters.Pad();
@@ -126,10 +125,10 @@ void GameLaunch::AppendGame(Run& run) {
         run.parameters.AppendPath(run.argument, run.path);
         return;
     }
-    std::string name = support::replaceall(support::GetFileNameOnly(run.argument), "\"", "");
+    std::string name = text::replaceall(text::GetFileNameOnly(run.argument), "\"", "");
     // Exactly 1, where the path itself is quoted from 1 upward.
-    if (run.useQuote == 1) name = support::QuoteIfNeeded(name);
-    run.parameters.AppendPath(name, support::GetFileNameOnly(run.path));
+    if (run.useQuote == 1) name = text::QuoteIfNeeded(name);
+    run.parameters.AppendPath(name, text::GetFileNameOnly(run.path));
 }
 
 bool GameLaunch::GameExists(const Run& run) {
@@ -152,14 +151,14 @@ bool GameLaunch::WriteStartFile(Run& run) {
     if (services.starter.UsesShell()) return WriteShellStartFile(run, directory);
     bool safe = run.parameters.IsBatchSafe();
     const std::string cd =
-        BatchWord(support::QuoteIfNeeded(support::ShortFileName(files, directory)), safe);
-    const std::string program = BatchWord(support::QuoteIfNeeded(run.emulator), safe);
+        BatchWord(text::QuoteIfNeeded(support::ShortFileName(files, directory)), safe);
+    const std::string program = BatchWord(text::QuoteIfNeeded(run.emulator), safe);
     const std::string content =
         BatchStartFile(cd, StartCommand(program, run.parameters.BatchText()));
     // A batch file's line goes to a second command processor, which reads it again and may take the
     // outer quotes off it: nothing that is quoted or doubled here is safe there.
-    if (!support::IsProgramFile(run.emulator))
-        safe &= run.parameters.HasPlainPaths() && support::IsPlainForCmd(run.emulator);
+    if (!text::IsProgramFile(run.emulator))
+        safe &= run.parameters.HasPlainPaths() && text::IsPlainForCmd(run.emulator);
     const auto bytes = services.starter.StartFileBytes(content);
     run.direct = !safe || !bytes;
     const bool written = !run.direct && !files.WriteFile(form.TmpBatName, *bytes);
@@ -188,30 +187,30 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
 // batch file among them gets a batch file of its own, in which nothing of a path is acted upon.
 std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
     std::vector<std::string> words = run.parameters.Words();
-    if (!support::IsWindowsProgram(run.emulator)) {
+    if (!text::IsWindowsProgram(run.emulator)) {
         words.insert(words.begin(), run.emulator);
         return words;
     }
-    const bool batch = !support::ToLower(run.emulator).ends_with(".exe");
+    const bool batch = !text::ToLower(run.emulator).ends_with(".exe");
     if (!batch) {
         words.insert(words.begin(), {"wine", run.emulator});
         return words;
     }
     platform::FileSystem& files = services.files;
-    const std::string directory = support::ToWinePath(support::DirectoryOf(files, run.emulator));
+    const std::string directory = text::ToWinePath(support::DirectoryOf(files, run.emulator));
     // What is doubled or quoted here is read again by the batch file that it is handed to, and Wine
     // replaces a "%NAME%" in it once more.
     safe = run.parameters.IsBatchSafe() && run.parameters.HasPlainPaths() &&
-           support::IsPlainForCmd(run.emulator);
-    const std::string cd = BatchWord(support::QuoteIfNeeded(directory), safe);
+           text::IsPlainForCmd(run.emulator);
+    const std::string cd = BatchWord(text::QuoteIfNeeded(directory), safe);
     const std::string program =
-        BatchWord(support::QuoteIfNeeded(support::ToWinePath(run.emulator)), safe);
+        BatchWord(text::QuoteIfNeeded(text::ToWinePath(run.emulator)), safe);
     const std::string companion = form.StartPfad + form.EXE + "_tmp_wine.bat";
     const std::string content =
-        BatchStartFile(cd, program + " " + std::string(support::Trim(run.parameters.BatchText())));
+        BatchStartFile(cd, program + " " + std::string(text::Trim(run.parameters.BatchText())));
     // The command processor reads its own path too.
-    const std::string path = support::ToWinePath(companion);
-    if (support::EscapeForCmd(path) != path) safe = false;
+    const std::string path = text::ToWinePath(companion);
+    if (text::EscapeForCmd(path) != path) safe = false;
     if (safe && files.WriteFile(companion, content)) safe = false;
     return {"wine", "cmd", "/c", path};
 }
@@ -239,19 +238,19 @@ void GameLaunch::StartEmulatorProgram(const Run& run) {
     request.directory = services.files.CurrentDirectory();
     if (!run.startFileFailed) {
         request.command = form.TmpBatName;
-        request.words = {support::RemoveQuotes(form.TmpBatName)};
+        request.words = {text::RemoveQuotes(form.TmpBatName)};
         request.style = platform::WindowStyle::Minimized;
         request.startFile = true;
         (void)services.starter.Run(request);
         return;
     }
     if (!run.direct) services.beeper.Beep();
-    request.command = support::QuoteIfNeeded(run.emulator) + " " +
-                      std::string(support::Trim(run.parameters.Text()));
+    request.command =
+        text::QuoteIfNeeded(run.emulator) + " " + std::string(text::Trim(run.parameters.Text()));
     bool safe = true;
     // A host that starts by the command text needs no words, nor any file for them.
     if (services.starter.UsesShell()) request.words = HostWords(run, safe);
-    const bool program = support::ToLower(run.emulator).find(".exe") != std::string::npos;
+    const bool program = text::ToLower(run.emulator).find(".exe") != std::string::npos;
     request.style = program ? platform::WindowStyle::Maximized : platform::WindowStyle::Minimized;
     if (safe) (void)services.starter.Run(request);
 }
@@ -286,8 +285,7 @@ void GameLaunch::SetCurrentRunninApplication(const std::string& NewAppPAth) {
 std::string GameLaunch::Add_CURRENT_PROGRAM_STARTED(std::string& name) {
     name = library::CutShortName(support::LongFileName(services.files, name), ")", true);
     const bool first = form.CURRENT_PROGRAM_STARTED.empty();
-    if (!first && support::CodePointCount(name) >= 30)
-        name.resize(support::CodePointOffset(name, 29));
+    if (!first && text::CodePointCount(name) >= 30) name.resize(text::CodePointOffset(name, 29));
     if (!first) form.CURRENT_PROGRAM_STARTED += '\r';
     form.CURRENT_PROGRAM_STARTED += name;
     return {};
@@ -295,11 +293,11 @@ std::string GameLaunch::Add_CURRENT_PROGRAM_STARTED(std::string& name) {
 
 std::string GameLaunch::FindStartFile(const std::string& path) {
     const platform::FileSystem& files = services.files;
-    std::string current(support::Trim(path));
+    std::string current(text::Trim(path));
     if (current.empty() || files.FileExists(current)) return current;
     const std::string shortName = support::ShortFileName(files, current);
     for (const std::string& form :
-         {support::LongFileName(files, current), shortName, support::QuoteIfNeeded(shortName)}) {
+         {support::LongFileName(files, current), shortName, text::QuoteIfNeeded(shortName)}) {
         if (!files.FileExists(form)) continue;
         return form;
     }

@@ -1,6 +1,6 @@
 #include "launch/handed_file.h"
 
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::launch {
 
@@ -15,7 +15,7 @@ bool IsAbsolute(const std::string& path) {
 
 std::string FileToHandOver(const std::string& commandLine, const platform::FileSystem& files) {
     if (commandLine.find('?') != std::string::npos) return {};
-    const std::string path = support::RemoveQuotes(commandLine);
+    const std::string path = text::RemoveQuotes(commandLine);
     if (path.empty() || IsAbsolute(path)) return path;
     std::string directory = files.CurrentDirectory();
     if (directory.empty()) return {};

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::launch {
 
@@ -11,12 +11,12 @@ namespace {
 
 bool Carries(const platform::ProcessEntry& entry, const std::string& name) {
     return std::any_of(entry.names.begin(), entry.names.end(),
-                       [&](const std::string& own) { return support::EqualsNoCase(own, name); });
+                       [&](const std::string& own) { return text::EqualsNoCase(own, name); });
 }
 
 bool Contains(const platform::ProcessEntry& entry, const std::string& name) {
     return std::any_of(entry.names.begin(), entry.names.end(),
-                       [&](const std::string& own) { return support::ContainsNoCase(own, name); });
+                       [&](const std::string& own) { return text::ContainsNoCase(own, name); });
 }
 
 bool Matches(const platform::ProcessEntry& entry, const std::string& name, Reach reach) {
@@ -39,7 +39,7 @@ std::int32_t FindOfLaunch(const std::vector<platform::ProcessEntry>& entries,
 }  // namespace
 
 std::int32_t Prozess::FindProcessId(const std::string& name, Reach reach) const {
-    const std::string own = support::GetFileNameOnly(name);
+    const std::string own = text::GetFileNameOnly(name);
     const auto snapshot = list.Snapshot();
     if (own.empty() || !snapshot) return 0;
     if (reach == Reach::andLaunch) {
@@ -55,7 +55,7 @@ std::int32_t Prozess::FindProcessId(const std::string& name, Reach reach) const 
 }
 
 bool Prozess::IsProcessRunning(const std::string& name, Reach reach) const {
-    const std::string own = support::GetFileNameOnly(name);
+    const std::string own = text::GetFileNameOnly(name);
     const auto snapshot = list.Snapshot();
     if (own.empty() || !snapshot) return false;
     return std::any_of(

@@ -1,7 +1,7 @@
 #include "launch/running_watch.h"
 
-#include "support/file_ops.h"
-#include "support/run_file.h"
+#include "text/paths.h"
+#include "text/stored_paths.h"
 
 namespace kivu::launch {
 
@@ -97,7 +97,7 @@ void RunningWatch::LoadingBtn_Click() {
     const std::string stored =
         ini.ReadIniValue(settings, "EmulatorPath", form.IniPath, "*.exe", true);
     const std::string name =
-        support::MakeAbsolutePath(form.BaseDirectory(), support::GetFileNameOnly(stored));
+        text::MakeAbsolutePath(form.BaseDirectory(), text::GetFileNameOnly(stored));
     if (name.empty()) return;
     const auto id = processes.FindProcessId(name, Reach::nameOnly);
     if (id <= 0) return;

@@ -1,37 +1,36 @@
 #include "launch/start_parameters.h"
 
-#include "support/command_line.h"
-#include "support/file_ops.h"
-#include "support/text.h"
+#include "text/command_line.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::launch {
 
 void StartParameters::AppendTyped(std::string_view typed) {
     text += typed;
     batchText += typed;
-    for (std::string& word : support::SplitWindowsCommandLine(typed))
+    for (std::string& word : text::SplitWindowsCommandLine(typed))
         words.push_back(std::move(word));
 }
 
 void StartParameters::AppendPath(std::string_view quotedOrPlain, std::string_view path) {
-    const std::string word = translatePaths ? support::ToWinePath(path) : std::string(path);
+    const std::string word = translatePaths ? text::ToWinePath(path) : std::string(path);
     // A translated path is quoted anew, since its text is another one.
-    const std::string shown =
-        word == path ? std::string(quotedOrPlain) : support::QuoteIfNeeded(word);
+    const std::string shown = word == path ? std::string(quotedOrPlain) : text::QuoteIfNeeded(word);
     text += shown;
     batchText += BatchWord(shown, batchSafe);
-    plainPaths = plainPaths && support::IsPlainForCmd(shown);
+    plainPaths = plainPaths && text::IsPlainForCmd(shown);
     words.push_back(word);
 }
 
 void StartParameters::Pad() {
     for (std::string* padded : {&text, &batchText}) {
-        *padded = " " + std::string(support::Trim(*padded)) + " ";
+        *padded = " " + std::string(text::Trim(*padded)) + " ";
     }
 }
 
 std::string BatchWord(std::string_view quotedOrPlain, bool& safe) {
-    if (const auto escaped = support::EscapeForCmd(quotedOrPlain)) return *escaped;
+    if (const auto escaped = text::EscapeForCmd(quotedOrPlain)) return *escaped;
     safe = false;
     return std::string(quotedOrPlain);
 }
@@ -40,8 +39,8 @@ std::string StartCommand(std::string_view emulator, std::string_view parameters)
     std::string command = "Start \"\" ";
     command += emulator;
     command += ' ';
-    command += support::Trim(parameters);
-    return std::string(support::Trim(command));
+    command += text::Trim(parameters);
+    return std::string(text::Trim(command));
 }
 
 std::string BatchStartFile(std::string_view directory, std::string_view startCommand) {
@@ -52,9 +51,9 @@ std::string BatchStartFile(std::string_view directory, std::string_view startCom
 
 std::string ShellStartFile(std::string_view directory, const std::vector<std::string>& words) {
     std::string file;
-    if (!directory.empty()) file = "cd " + support::QuoteForShell(directory) + "\n";
+    if (!directory.empty()) file = "cd " + text::QuoteForShell(directory) + "\n";
     for (const std::string& word : words)
-        file += support::QuoteForShell(word) + " ";
+        file += text::QuoteForShell(word) + " ";
     return file + "&\n";
 }
 

@@ -1,6 +1,6 @@
 #include "launch/uae_configuration.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::launch {
 
@@ -48,7 +48,7 @@ std::string StartConfiguration(const UaeStart& start) {
     // An editor's mark is none in the middle of a file: it would spoil the first key.
     if (master.starts_with(byteOrderMark)) master.remove_prefix(byteOrderMark.size());
     std::string text;
-    for (const std::string_view line : support::SplitLines(master))
+    for (const std::string_view line : text::SplitLines(master))
         AddLine(text, line);
     if (start.fullscreen) {
         AddLine(text, "gfx_fullscreen_amiga=True");
@@ -56,7 +56,7 @@ std::string StartConfiguration(const UaeStart& start) {
     }
     const bool romKnown = text.find(romKey) != std::string::npos;
     if (start.rom && !romKnown && FitsOneLine(*start.rom))
-        AddLine(text, romKey, support::Trim(*start.rom));
+        AddLine(text, romKey, text::Trim(*start.rom));
     for (std::size_t drive = 0; drive < start.floppies.size(); ++drive) {
         const std::string& disk = start.floppies[drive];
         if (disk.empty() || !FitsOneLine(disk)) continue;

@@ -1,10 +1,10 @@
 #include "launch/uae_files.h"
 
 #include "launch/uae_configuration.h"
-#include "support/command_line.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
-#include "support/text.h"
+#include "text/command_line.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::launch {
 
@@ -17,7 +17,7 @@ std::string UaeFiles::GetMasterConfig() {
 
 void UaeFiles::WriteStartConfiguration(bool windowsPaths) {
     const auto forEmulator = [windowsPaths](const std::string& path) {
-        return windowsPaths ? support::ToWinePath(path) : path;
+        return windowsPaths ? text::ToWinePath(path) : path;
     };
     UaeStart start;
     std::string master;
@@ -27,12 +27,12 @@ void UaeFiles::WriteStartConfiguration(bool windowsPaths) {
     start.fullscreen = form.FullscreenCheck.Value() == 1;
     const std::string& rom = form.TxtKickstartRomFile.Text();
     // Only the empty text means that there is no ROM.
-    if (!rom.empty()) start.rom = files.EncodeText(forEmulator(std::string(support::Trim(rom))));
+    if (!rom.empty()) start.rom = files.EncodeText(forEmulator(std::string(text::Trim(rom))));
     for (std::size_t drive = 0; drive < start.floppies.size(); ++drive) {
         std::string disk = form.DiskSlots[drive];
         if (disk.empty()) continue;
         const std::string path = forEmulator(support::ShortFileName(files, disk));
-        start.floppies[drive] = files.EncodeText(support::QuoteIfNeeded(path));
+        start.floppies[drive] = files.EncodeText(text::QuoteIfNeeded(path));
         hooks.Add_CURRENT_PROGRAM_STARTED(disk);
     }
     (void)files.WriteFile(form.StartScriptName, StartConfiguration(start));

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "library/short_names.h"
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
@@ -20,9 +20,9 @@ bool CacheSearch::Next(Part& part) {
 }
 
 void CacheSearch::Take(std::string_view line, std::vector<Hit>& hits) {
-    const std::string text = support::IsUtf8(line) ? std::string(line) : decode(line);
-    std::string name = CutShortName(support::FileNameView(text), ")", false);
-    std::string lowerName = support::ToLower(name);
+    const std::string text = text::IsUtf8(line) ? std::string(line) : decode(line);
+    std::string name = CutShortName(text::FileNameView(text), ")", false);
+    std::string lowerName = text::ToLower(name);
     if (lowerName == lastName) return;
     lastName = lowerName;
     hits.push_back({std::move(name), std::move(lowerName)});

@@ -1,8 +1,8 @@
 #include "library/emulator_box.h"
 
 #include "library/list_search.h"
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
@@ -178,7 +178,7 @@ void EmulatorBox::EmulatorLongListbox_Click() {
     }
     hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
     const std::string directory =
-        support::AddPathSeparator(form.ConfigPath + form.EmuListbox.SelectedText());
+        text::AddPathSeparator(form.ConfigPath + form.EmuListbox.SelectedText());
     const std::string profile = directory + form.EXE + ".ini";
     forms::Label& name = form.Current_ProgramNameFull;
     name.SetCaption(form.EmulatorLongListbox.SelectedText());

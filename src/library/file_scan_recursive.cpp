@@ -1,6 +1,6 @@
 #include "library/file_scan_recursive.h"
 
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::library {
 
@@ -24,7 +24,7 @@ std::string Joined(const std::string& start, const std::string& name) {
 }  // namespace
 
 std::string FileScanRecursive::PreParePath(const std::string& Path) const {
-    return support::PreParePath(Path);
+    return text::PreParePath(Path);
 }
 
 void FileScanRecursive::Begin(const std::string& path, const std::string& pattern) {

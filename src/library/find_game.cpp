@@ -1,6 +1,6 @@
 #include "library/find_game.h"
 
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::library {
 
@@ -10,7 +10,7 @@ enum class Match { none, part, whole };
 
 // The text is the whole path or the whole file name, or only a part of them.
 Match MatchOf(std::string_view path, std::string_view text) {
-    if (path.ends_with(text) && (path.size() == text.size() || support::FileNameView(path) == text))
+    if (path.ends_with(text) && (path.size() == text.size() || text::FileNameView(path) == text))
         return Match::whole;
     return path.find(text) == std::string_view::npos ? Match::none : Match::part;
 }

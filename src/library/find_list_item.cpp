@@ -3,7 +3,7 @@
 #include <cstdint>
 
 #include "library/search_words.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
@@ -28,7 +28,7 @@ std::int64_t DivideRounded(std::int64_t number, std::int64_t divisor) {
 char32_t FirstCharacter(std::string_view text) {
     if (text.empty()) return 0;
     std::size_t at = 0;
-    return support::FoldCase(support::NextCodePoint(text, at));
+    return text::FoldCase(text::NextCodePoint(text, at));
 }
 
 // The row to begin at: far enough ahead to save time, by the first letters alone.

@@ -2,7 +2,7 @@
 
 #include "library/find_game.h"
 #include "library/first_rows.h"
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::library {
 
@@ -43,7 +43,7 @@ bool GameIndex::LookForWhole() {
         if (row % rowsPerTurn == 0 && !Turn()) return false;
         const std::string& path = form.UAE_FULL.Rows()[static_cast<std::size_t>(row)];
         note(path, row);
-        note(support::FileNameView(path), row);
+        note(text::FileNameView(path), row);
     }
     return true;
 }

@@ -9,10 +9,10 @@
 #include "library/list_cache.h"
 #include "library/short_names.h"
 #include "support/fast_list_fill.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
-#include "support/stored_paths.h"
-#include "support/text.h"
+#include "text/stored_path_order.h"
+#include "text/stored_paths.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
@@ -69,17 +69,17 @@ void GameLists::LoadCacheList() {
 void GameLists::FillFromCache(std::string bytes) {
     const auto cache = std::make_shared<const LoadedCache>(std::move(bytes));
     // One look at the whole file is cheaper than one at each line.
-    const bool utf8 = support::IsUtf8(cache->bytes);
+    const bool utf8 = text::IsUtf8(cache->bytes);
     const bool asStored = utf8 && IsInOrder(cache->entries);
     std::vector<std::string> paths, names;
     const std::string base = form.BaseDirectory();
     int count = 0;
     for (const CacheEntry& entry : cache->entries) {
         if (!asStored) {
-            paths.push_back(utf8 ? support::StoredPath(base, entry.path)
-                                 : support::StoredPath(base, PathOnDisk(entry.path)));
-            names.push_back(utf8 || support::IsUtf8(entry.name) ? std::string(entry.name)
-                                                                : files.DecodeText(entry.name));
+            paths.push_back(utf8 ? text::StoredPath(base, entry.path)
+                                 : text::StoredPath(base, PathOnDisk(entry.path)));
+            names.push_back(utf8 || text::IsUtf8(entry.name) ? std::string(entry.name)
+                                                             : files.DecodeText(entry.name));
         }
         if (++count % 500 != 0) continue;
         busy.MeCaption("Loading: " + std::to_string(count));
@@ -100,7 +100,7 @@ void GameLists::FillFromCache(std::string bytes) {
 // those of one directory do.
 bool GameLists::IsInOrder(const std::vector<CacheEntry>& entries) const {
     if (entries.empty()) return true;
-    const support::StoredPaths stored(form.BaseDirectory(), entries.front().path);
+    const text::StoredPaths stored(form.BaseDirectory(), entries.front().path);
     std::string_view before;
     for (const CacheEntry& entry : entries) {
         const auto rest = stored.Rest(entry.path);
@@ -116,7 +116,7 @@ void GameLists::FillOnDemand(const std::shared_ptr<const LoadedCache>& cache) {
     const auto count = static_cast<int>(entries.size());
     const bool nameless = count > 0 && !entries.back().hasName;
     form.UAE_FULL.AddOnDemand(count, [cache, base = form.BaseDirectory()](int row) {
-        return support::StoredPath(base, cache->entries[static_cast<std::size_t>(row)].path);
+        return text::StoredPath(base, cache->entries[static_cast<std::size_t>(row)].path);
     });
     form.UAE_Short.AddOnDemand(count - (nameless ? 1 : 0), [cache](int row) {
         return std::string(cache->entries[static_cast<std::size_t>(row)].name);
@@ -126,9 +126,9 @@ void GameLists::FillOnDemand(const std::shared_ptr<const LoadedCache>& cache) {
 }
 
 std::string GameLists::PathOnDisk(std::string_view stored) const {
-    if (support::IsUtf8(stored)) return std::string(stored);
+    if (text::IsUtf8(stored)) return std::string(stored);
     return support::NameOfStoredBytes(files, std::string(stored), [this](const std::string& path) {
-        return support::StoredPath(form.BaseDirectory(), path);
+        return text::StoredPath(form.BaseDirectory(), path);
     });
 }
 
@@ -146,7 +146,7 @@ void GameLists::LoadBtn_Click() {
     form.EmuListbox.SetVisible(false);
     busy.HideAll(false);
     pacer.DoEvents();
-    form.StartPfad = support::AddPathSeparator(form.StartPfad);
+    form.StartPfad = text::AddPathSeparator(form.StartPfad);
     const std::string patterns =
         ini.ReadIniValue(settings, "Dir_Parameter", form.IniPath, "*.*", true);
     form.LoadingBtn.SetCaption("Scanning...");
@@ -195,8 +195,7 @@ void GameLists::ScanPatterns(const std::string& patterns) {
         const bool comma = patterns[i] == ',';
         if (!last && !comma) continue;
         const std::size_t end = comma ? i : i + 1;
-        ScanPattern(
-            std::string(support::Trim(std::string_view(patterns).substr(start, end - start))));
+        ScanPattern(std::string(text::Trim(std::string_view(patterns).substr(start, end - start))));
         start = i + 1;
     }
 }
@@ -208,7 +207,7 @@ void GameLists::ScanPattern(const std::string& pattern) {
     pacer.DoEvents();
     busy.MeCaption("Sorting Files: " + pattern);
     std::vector<std::string> found = scanner.Result_list().Rows();
-    std::erase_if(found, [](const std::string& row) { return support::Trim(row).empty(); });
+    std::erase_if(found, [](const std::string& row) { return text::Trim(row).empty(); });
     form.UAE_FULL.AddItems(std::move(found));
 }
 
@@ -219,7 +218,7 @@ void GameLists::CutNames() {
     names.reserve(form.UAE_FULL.Rows().size());
     for (const std::string& path : form.UAE_FULL.Rows()) {
         std::string name = CutShortName(path, ")", true);
-        names.push_back(support::IsUtf8(name) ? std::move(name) : files.DecodeText(name));
+        names.push_back(text::IsUtf8(name) ? std::move(name) : files.DecodeText(name));
     }
     form.UAE_Short.AddItems(std::move(names));
 }
@@ -230,7 +229,7 @@ void GameLists::SaveCache() {
     const std::string base = form.BaseDirectory();
     std::string cache;
     for (int row = 0; row < form.UAE_FULL.ListCount(); ++row) {
-        AppendCacheEntry(cache, support::PathToStore(base, form.UAE_FULL.List(row)),
+        AppendCacheEntry(cache, text::PathToStore(base, form.UAE_FULL.List(row)),
                          form.UAE_Short.List(row));
     }
     // A disk that is full or read-only keeps the former cache; the lists in memory are the new
@@ -330,7 +329,7 @@ void GameLists::AddToALL_LIST() {
     const auto cache = files.ReadFile(form.CacheName);
     if (!cache) return;
     std::string lines;
-    for (const std::string_view line : support::SplitLines(*cache)) {
+    for (const std::string_view line : text::SplitLines(*cache)) {
         if (!line.empty()) lines.append(line).append("\r\n");
     }
     (void)files.AppendFile(form.GlobalListName, lines);

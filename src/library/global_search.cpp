@@ -7,8 +7,8 @@
 
 #include "library/list_search.h"
 #include "library/search_colors.h"
-#include "support/string_ops.h"
-#include "support/text.h"
+#include "text/string_ops.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
@@ -34,7 +34,7 @@ forms::Color ButtonFace(forms::Color window) {
 }
 
 std::string EmulatorOf(std::string_view row) {
-    return std::string(support::Trim(row.substr(0, row.find(':'))));
+    return std::string(text::Trim(row.substr(0, row.find(':'))));
 }
 
 }  // namespace
@@ -42,7 +42,7 @@ std::string EmulatorOf(std::string_view row) {
 std::string GlobalSearchRow(std::string_view emulator, std::string_view name) {
     std::string row(emulator);
     row.append(":  ").append(name);
-    const std::size_t length = support::CodePointCount(name);
+    const std::size_t length = text::CodePointCount(name);
     for (const std::size_t below : {std::size_t{20}, std::size_t{40}, std::size_t{60}}) {
         if (length >= below) continue;
         row.append(below + 1 - length, ' ');
@@ -71,7 +71,7 @@ void AllEmulatorsSearch::SearchAllBtn_Click() {
         return;
     }
     form.GlobalSearchList.SetVisible(true);
-    const Outcome outcome = Search(std::string(support::Trim(text)));
+    const Outcome outcome = Search(std::string(text::Trim(text)));
     if (form.Ended) return;
     if (outcome == Outcome::left) {
         LeaveForOtherList();
@@ -182,7 +182,7 @@ AllEmulatorsSearch::Outcome AllEmulatorsSearch::Search(const std::string& text) 
     form.SearchAllBtn.SetBackColor(allEmulatorsColor);
     form.SuchErgList.Clear();
     GlobalSearchText = text;
-    if (support::Trim(text).empty()) return Outcome::through;
+    if (text::Trim(text).empty()) return Outcome::through;
     const std::string notedText = form.SearchDblsTxt.Text();
     const std::string notedCaption = form.Label4.Caption();
     form.SearchDblsTxt.SetEnabled(false);
@@ -294,7 +294,7 @@ int AllEmulatorsSearch::EmulatorRow(std::string_view name) const {
 
 void AllEmulatorsSearch::GlobalSearchList_Click() {
     const std::string row = form.GlobalSearchList.SelectedText();
-    form.Current_ProgramNameFull.SetCaption(support::replaceall(support::Trim(row), ":", ":\r"));
+    form.Current_ProgramNameFull.SetCaption(text::replaceall(text::Trim(row), ":", ":\r"));
     // Behind the caption: an emulator's name that is too wide to be broken must not hide the title,
     // of which the list may show little.
     form.Current_ProgramNameFull.SetVisible(true);

@@ -1,13 +1,13 @@
 #include "library/list_events.h"
 
 #include "library/find_list_item.h"
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
 void ListEvents::UAE_FULL_Click() {
-    form.Current_ProgramNameFull.SetCaption(support::GetFileNameOnly(form.UAE_FULL.SelectedText()));
+    form.Current_ProgramNameFull.SetCaption(text::GetFileNameOnly(form.UAE_FULL.SelectedText()));
     form.Current_ProgramNameFull.SetVisible(true);
 }
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "library/search_colors.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
@@ -25,7 +25,7 @@ bool IsIdleText(std::string_view text) {
 }
 
 bool IsLongEnough(std::string_view text) {
-    return support::CodePointCount(support::Trim(text)) >= 2;
+    return text::CodePointCount(text::Trim(text)) >= 2;
 }
 
 bool BeginsSearch(const forms::Character& character) {
@@ -35,7 +35,7 @@ bool BeginsSearch(const forms::Character& character) {
 }
 
 void ListSearch::SearchInList(const std::string& Text, int StartRow) {
-    if (support::Trim(Text).empty()) {
+    if (text::Trim(Text).empty()) {
         form.SuchErgList.Clear();
         return;
     }
@@ -166,7 +166,7 @@ void ListSearch::SearchDblsTxt_GotFocus() {
 }
 
 void ListSearch::SearchDblsTxt_LostFocus() {
-    if (support::Trim(form.SearchDblsTxt.Text()).empty())
+    if (text::Trim(form.SearchDblsTxt.Text()).empty())
         form.SearchDblsTxt.SetText(form.Say(idleGerman, idleEnglish));
     form.SearchDblsTxt.SetBackColor(form.SuchErgList.BackColor());
     form.SearchDblsTxt.SetForeColor(form.SuchErgList.ForeColor());

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "library/find_list_item.h"
-#include "support/run_file.h"
+#include "text/paths.h"
 
 namespace kivu::library {
 
@@ -56,7 +56,7 @@ void MarkedGame::ShowName() {
     const int row = IsInStep(*list) ? form.UAE_Short.ListIndex() : RowOf(*list);
     const std::string& path = form.UAE_FULL.List(row);
     if (path.empty()) return;
-    form.Current_ProgramNameFull.SetCaption(support::GetFileNameOnly(path));
+    form.Current_ProgramNameFull.SetCaption(text::GetFileNameOnly(path));
     form.Current_ProgramNameFull.SetVisible(true);
 }
 

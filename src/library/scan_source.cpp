@@ -69,7 +69,7 @@ void ScanSource::LeaveOutLinksInside(const std::string& path,
 bool ScanSource::Matches(const std::string& text, const std::string& name) {
     if (text != patternText) {
         patternText = text;
-        pattern = support::Pattern(text);
+        pattern = text::Pattern(text);
     }
     return pattern.Matches(name);
 }

@@ -6,7 +6,7 @@
 
 #include "forms/types.h"
 #include "platform/file_system.h"
-#include "support/pattern.h"
+#include "text/pattern.h"
 
 namespace kivu::library {
 
@@ -34,7 +34,7 @@ class ScanSource : public forms::DirectorySource {
 
     const platform::FileSystem& files;
     std::string patternText;
-    support::Pattern pattern{""};
+    text::Pattern pattern{""};
 
     bool scanning = false;
     std::string rootPath;  // resolved

@@ -68,7 +68,7 @@ std::size_t Commonness(char c) {
 
 std::vector<SearchWord> WordsOf(std::string_view text) {
     std::vector<SearchWord> words;
-    for (const std::string_view word : support::Split(text, ' ')) {
+    for (const std::string_view word : text::Split(text, ' ')) {
         if (!word.empty()) words.emplace_back(word);
     }
     return words;
@@ -77,7 +77,7 @@ std::vector<SearchWord> WordsOf(std::string_view text) {
 }  // namespace
 
 SearchWord::SearchWord(std::string_view word) : needle(word) {
-    folded = support::ToLower(word);
+    folded = text::ToLower(word);
     probe = AsciiRun(folded);
     for (const char c : probe)
         caseBits += CaseBit(c);
@@ -150,7 +150,7 @@ bool SearchWord::IsIn(std::string_view text) const {
 // Within stray bytes a word may stand where it begins in the middle of a character.
 bool SearchWord::Implies(const SearchWord& other) const {
     if (folded == other.folded) return true;
-    return support::IsUtf8(other.folded) && folded.find(other.folded) != std::string::npos;
+    return text::IsUtf8(other.folded) && folded.find(other.folded) != std::string::npos;
 }
 
 SearchWords::SearchWords(std::string_view text) : SearchWords(WordsOf(text)) {
@@ -195,7 +195,7 @@ bool SearchWords::OthersAreIn(std::string_view text) const {
 }
 
 bool SearchWords::AreInLine(std::string_view line, const Decode& decode) const {
-    if (plainAscii || support::IsUtf8(line)) return AreIn(line);
+    if (plainAscii || text::IsUtf8(line)) return AreIn(line);
     return AreIn(decode(line));
 }
 

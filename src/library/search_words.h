@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/text.h"
+#include "text/text.h"
 
 // A search is over tens of thousands of rows at each key, and over millions of lines across all
 // caches. Almost none of them match, so what counts is how fast the rest are passed over.
@@ -41,7 +41,7 @@ class SearchWord {
     std::string caseBits;   // what each byte of a text is joined with before it is compared
     std::size_t first = 0;  // places in `probe` of the two rarest letters, in rising order
     std::size_t second = 0;
-    support::NoCaseNeedle needle;
+    text::NoCaseNeedle needle;
 };
 
 // The words of a search text, split at each blank. A text matches if it contains every one,

@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include "support/run_file.h"
-#include "support/string_ops.h"
-#include "support/text.h"
+#include "text/edit_distance.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::library {
 
 namespace {
 
-using support::CodePointOffset;
-using support::NextCodePoint;
-using support::Trim;
+using text::CodePointOffset;
+using text::NextCodePoint;
+using text::Trim;
 
 constexpr std::size_t kNone = std::string_view::npos;
 constexpr std::size_t kExtension = 4;  // characters, with the point
@@ -34,7 +34,7 @@ std::string_view WithoutExtension(std::string_view name) {
     const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
     if (std::all_of(end.begin(), end.end(), isAscii))
         return name.substr(0, name.size() - kExtension);
-    return name.substr(0, CodePointOffset(name, support::CodePointCount(name) - kExtension));
+    return name.substr(0, CodePointOffset(name, text::CodePointCount(name) - kExtension));
 }
 
 // End of the code point that begins at `at`.
@@ -47,7 +47,7 @@ std::size_t Behind(std::string_view text, std::size_t at) {
 
 std::string CutShortName(std::string_view FullPath, std::string_view TRENNZ,
                          bool ErstAbDemZweitenAbschneiden) {
-    const std::string_view name = support::FileNameView(support::WithoutQuotes(FullPath));
+    const std::string_view name = text::FileNameView(text::WithoutQuotes(FullPath));
     if (HasFewerThan(name, 5)) return std::string(Trim(FullPath));
 
     const std::size_t first = TRENNZ.empty() ? kNone : name.find(TRENNZ);
@@ -63,18 +63,18 @@ std::string CutShortName(std::string_view FullPath, std::string_view TRENNZ,
 }
 
 int getCharDiff(std::string_view String1, std::string_view String2) {
-    return support::EditDistance(String1, String2);
+    return text::EditDistance(String1, String2);
 }
 
 int getCharDiff(std::string_view String1, std::string_view String2, int Limit) {
-    return support::EditDistance(String1, String2, Limit);
+    return text::EditDistance(String1, String2, Limit);
 }
 
 namespace {
 
 // Byte position of the next break, or npos when there is none.
 std::size_t NextBreak(std::string_view caption) {
-    const std::size_t count = support::CodePointCount(caption);
+    const std::size_t count = text::CodePointCount(caption);
     if (count < 2) return kNone;
     const std::size_t middle = CodePointOffset(caption, count / 2 - 1);
     const std::size_t lineBreak = caption.substr(0, middle).rfind(kLineBreak);
@@ -106,9 +106,9 @@ std::vector<AliasRule> ParseAliasList(std::string_view text, std::string_view se
     if (text.starts_with(kByteOrderMark)) text.remove_prefix(kByteOrderMark.size());
     const auto decoded = [](std::string_view part) {
         part = Trim(part);
-        return support::IsUtf8(part) ? std::string(part) : support::FromWindows1252(part);
+        return text::IsUtf8(part) ? std::string(part) : text::FromWindows1252(part);
     };
-    for (const std::string_view line : support::SplitLines(text)) {
+    for (const std::string_view line : text::SplitLines(text)) {
         const std::size_t at = line.find(separator);
         if (at == kNone) continue;
         rules.push_back({decoded(line.substr(0, at)), decoded(line.substr(at + separator.size()))});

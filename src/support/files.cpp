@@ -2,10 +2,10 @@
 
 #include <cstdlib>
 
-#include "support/file_ops.h"
 #include "support/path_forms.h"
-#include "support/string_ops.h"
-#include "support/text.h"
+#include "text/stored_paths.h"
+#include "text/string_ops.h"
+#include "text/text.h"
 
 namespace kivu::support {
 
@@ -18,7 +18,7 @@ constexpr const char* shellFolders =
     "Folders\\";
 
 // Variables hold text in the system code page.
-EnvironmentLookup Environment(const platform::FileSystem& files) {
+text::EnvironmentLookup Environment(const platform::FileSystem& files) {
     return [&files](const std::string& name) -> std::optional<std::string> {
         const char* value = std::getenv(name.c_str());
         return value ? std::optional<std::string>(files.DecodeText(value)) : std::nullopt;
@@ -49,13 +49,13 @@ bool Files::FileMove(const std::string& Source, const std::string& Destination, 
 }
 
 std::string Files::RegistryGetAbsolutValue(const std::string& RegistryKeyPath) const {
-    const auto path = SplitRegistryPath(RegistryKeyPath);
+    const auto path = text::SplitRegistryPath(RegistryKeyPath);
     return path ? services.store.SystemValue(path->root, path->keyPath, path->valueName)
                 : std::string{};
 }
 
 std::string Files::FolderValue(const std::string& path) const {
-    return ExpandUserProfile(RegistryGetAbsolutValue(path), Environment(services.files));
+    return text::ExpandUserProfile(RegistryGetAbsolutValue(path), Environment(services.files));
 }
 
 std::string Files::GetWindowsPath() const {
@@ -88,12 +88,12 @@ std::string Files::FileGetLongFileName(const std::string& FullPath) const {
 
 bool Files::FileRun(const std::string& FullPath) {
     if (!services.files.FileExists(FullPath)) return false;
-    const std::string name = ToLower(FullPath);
+    const std::string name = text::ToLower(FullPath);
     if (!name.ends_with(".exe") && !name.ends_with(".com") && !name.ends_with(".bat")) {
         return !services.starter.Open(FullPath);
     }
     platform::StartRequest request;
-    request.command = QuoteIfNeeded(FullPath);
+    request.command = text::QuoteIfNeeded(FullPath);
     request.words = {FullPath};
     return !services.starter.Run(request);
 }

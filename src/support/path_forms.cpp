@@ -1,18 +1,18 @@
 #include "support/path_forms.h"
 
-#include "support/run_file.h"
-#include "support/text.h"
+#include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::support {
 
 std::string ShortFileName(const platform::FileSystem& files, const std::string& path) {
     const std::string shortName = files.ShortPathName(LongFileName(files, path));
-    return RemoveQuotes(shortName.empty() ? path : shortName);
+    return text::RemoveQuotes(shortName.empty() ? path : shortName);
 }
 
 std::string LongFileName(const platform::FileSystem& files, const std::string& path) {
     const std::string answer = files.LongPathName(path);
-    const std::string_view trimmed = Trim(answer);
+    const std::string_view trimmed = text::Trim(answer);
     return trimmed.empty() ? path : std::string(trimmed);
 }
 
@@ -31,8 +31,8 @@ std::string NameOfStoredBytes(const platform::FileSystem& files, const std::stri
 }
 
 std::string DirectoryOf(const platform::FileSystem& files, const std::string& path) {
-    return GetFilePath(path,
-                       [&](const std::string& candidate) { return files.IsDirectory(candidate); });
+    return text::GetFilePath(
+        path, [&](const std::string& candidate) { return files.IsDirectory(candidate); });
 }
 
 }  // namespace kivu::support

@@ -1,7 +1,7 @@
 #include "ui/hints.h"
 
 #include "library/list_search.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::ui {
 
@@ -55,7 +55,7 @@ std::string Hints::NoHits(const char* where) const {
         return form.Say("Gib zwei oder mehr Zeichen in das Suchfeld ein.",
                         "Type two or more characters into the search box.");
     }
-    return form.Say("Kein Spiel mit \"", "No game with \"") + std::string(support::Trim(words)) +
+    return form.Say("Kein Spiel mit \"", "No game with \"") + std::string(text::Trim(words)) +
            "\".\r" + where;
 }
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "support/text.h"
+#include "text/text.h"
 #include "ui/layout_numbers.h"
 
 namespace kivu::ui {
@@ -15,7 +15,7 @@ constexpr int allRoom = 1'000'000'000;
 
 // " Favorites (12) " as "Favorites".
 std::string WithoutCount(std::string_view caption) {
-    return std::string(support::Trim(caption.substr(0, caption.find(" ("))));
+    return std::string(text::Trim(caption.substr(0, caption.find(" ("))));
 }
 }  // namespace
 
@@ -173,7 +173,7 @@ void Layout::FitTabs(int left, bool choosing) {
         const bool whole = fitting[i].counted && fitting[i].width == needs[i].whole;
         tab.SetShownText(fitting[i].counted ? "" : WithoutCount(tab.Caption()));
         tab.SetAutoSize(whole);
-        tab.SetToolTipText(whole ? "" : std::string(support::Trim(tab.Caption())));
+        tab.SetToolTipText(whole ? "" : std::string(text::Trim(tab.Caption())));
         if (!whole) tab.SetWidth(fitting[i].width);
     }
 }

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "library/short_names.h"
-#include "support/string_ops.h"
+#include "text/string_ops.h"
 #include "ui/column_grid.h"
 #include "ui/layout.h"
 
@@ -76,7 +76,7 @@ void Layout::PlaceName() {
     name.Move(100, nameTop, width, std::clamp(text, line, lines * line));
     // What is cut can be read there.
     const bool whole = text <= lines * line;
-    name.SetToolTipText(whole ? "" : support::replaceall(fullName, "\r", " "));
+    name.SetToolTipText(whole ? "" : text::replaceall(fullName, "\r", " "));
 }
 
 // From the right and from the bottom: the exit and the search, above them options and rescan, below

@@ -1,16 +1,16 @@
 #include "wiring/launcher.h"
 
-#include "support/collation.h"
+#include "text/collation.h"
 #include "wiring/routines.h"
 
 namespace kivu::wiring {
 
 int TextOrder::Compare(std::string_view a, std::string_view b) const {
-    return support::CompareText(a, b);
+    return text::CompareText(a, b);
 }
 
 std::uint64_t TextOrder::Rank(std::string_view text) const {
-    return support::SortRank(text);
+    return text::SortRank(text);
 }
 
 Launcher::Launcher(platform::Host host, const forms::TextMeasure* measure,

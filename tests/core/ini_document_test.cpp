@@ -5,7 +5,7 @@
 
 #include "core/ini_scan.h"
 #include "core/ini_utf16.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::core {
 namespace {
@@ -278,8 +278,8 @@ TEST(IniDocumentWrite, CopyOfADocumentIsIndependent) {
 }
 
 IniCoding Windows1252() {
-    return {[](std::string_view bytes) { return support::FromWindows1252(bytes); },
-            [](std::string_view text) { return support::ToWindows1252(text); }};
+    return {[](std::string_view bytes) { return text::FromWindows1252(bytes); },
+            [](std::string_view text) { return text::ToWindows1252(text); }};
 }
 
 TEST(IniDocumentCoding, ValuesAndNamesAreDecodedAndEncoded) {

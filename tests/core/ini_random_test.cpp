@@ -7,9 +7,9 @@
 
 #include "core/ini.h"
 #include "core/ini_utf16.h"
-#include "support/text.h"
 #include "testing/ini_checks.h"
 #include "testing/memory_file_system.h"
+#include "text/text.h"
 
 namespace kivu::core {
 namespace {
@@ -75,8 +75,8 @@ std::string RandomProfile(Chance& chance) {
 
 IniCoding RandomCoding(Chance& chance) {
     if (chance.Below(2) == 0) return {};
-    return {[](std::string_view bytes) { return support::FromWindows1252(bytes); },
-            [](std::string_view text) { return support::ToWindows1252(text); }};
+    return {[](std::string_view bytes) { return text::FromWindows1252(bytes); },
+            [](std::string_view text) { return text::ToWindows1252(text); }};
 }
 
 TEST(IniRandom, EverySetIsReadBackAndChangesNothingElse) {

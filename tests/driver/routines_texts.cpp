@@ -4,10 +4,10 @@
 #include "driver/routines.h"
 #include "library/find_list_item.h"
 #include "library/short_names.h"
-#include "support/collation.h"
-#include "support/file_ops.h"
-#include "support/run_file.h"
-#include "support/string_ops.h"
+#include "text/collation.h"
+#include "text/paths.h"
+#include "text/stored_paths.h"
+#include "text/string_ops.h"
 #include "ui/colors.h"
 
 namespace kivu::driver {
@@ -26,22 +26,20 @@ Outcome FindRow(const string& text, const std::vector<string>& rows, bool probe,
 
 void AddPathForms(RoutineTable& table) {
     table.push_back(
-        Bind("AddPathSeparator", [](string path) { return support::AddPathSeparator(path); }));
-    table.push_back(Bind("RemoveQuotes", [](string text) { return support::RemoveQuotes(text); }));
+        Bind("AddPathSeparator", [](string path) { return text::AddPathSeparator(path); }));
+    table.push_back(Bind("RemoveQuotes", [](string text) { return text::RemoveQuotes(text); }));
     table.push_back(
-        Bind("GetFileNameOnly", [](string path) { return support::GetFileNameOnly(path); }));
+        Bind("GetFileNameOnly", [](string path) { return text::GetFileNameOnly(path); }));
     table.push_back(
-        Bind("GetLastPathElement", [](string path) { return support::GetLastPathElement(path); }));
-    table.push_back(
-        Bind("GetParentPath", [](string path) { return support::GetParentPath(path); }));
-    table.push_back(
-        Bind("QuoteIfNeeded", [](string text) { return support::QuoteIfNeeded(text); }));
-    table.push_back(Bind("PreParePath", [](string path) { return support::PreParePath(path); }));
+        Bind("GetLastPathElement", [](string path) { return text::GetLastPathElement(path); }));
+    table.push_back(Bind("GetParentPath", [](string path) { return text::GetParentPath(path); }));
+    table.push_back(Bind("QuoteIfNeeded", [](string text) { return text::QuoteIfNeeded(text); }));
+    table.push_back(Bind("PreParePath", [](string path) { return text::PreParePath(path); }));
     table.push_back(Bind("MakeRelativePath", [](string base, string path) {
-        return support::MakeRelativePath(base, path);
+        return text::MakeRelativePath(base, path);
     }));
     table.push_back(Bind("MakeAbsolutePath", [](string base, string path) {
-        return support::MakeAbsolutePath(base, path);
+        return text::MakeAbsolutePath(base, path);
     }));
 }
 
@@ -60,14 +58,14 @@ void AddTextRoutines(RoutineTable& table, Session&) {
             return FindRow(text, rows, probe, start);
         }));
     table.push_back(Bind("replaceall", [](string text, string find, string replacement) {
-        return support::replaceall(text, find, replacement);
+        return text::replaceall(text, find, replacement);
     }));
     table.push_back(
         Bind("ReplaceText", [](string text, string find, string replacement, bool matchCase) {
-            return support::ReplaceText(text, find, replacement, matchCase);
+            return text::ReplaceText(text, find, replacement, matchCase);
         }));
     table.push_back(Bind("CompareText", [](string a, string b) {
-        const int order = support::CompareText(a, b);
+        const int order = text::CompareText(a, b);
         return order < 0 ? -1 : order > 0 ? 1 : 0;
     }));
     table.push_back(Bind(

@@ -3,7 +3,7 @@
 #include <charconv>
 
 #include "driver/json.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::driver {
 
@@ -35,7 +35,7 @@ forms::Control& ControlOf(forms::Form& form, std::string_view text) {
 }  // namespace
 
 bool SameName(std::string_view a, std::string_view b) {
-    return support::EqualsNoCase(a, b);
+    return text::EqualsNoCase(a, b);
 }
 
 std::string NameOf(const forms::Control& control) {

@@ -5,8 +5,8 @@
 #include <gtest/gtest.h>
 #include <random>
 
-#include "support/collation.h"
-#include "support/text.h"
+#include "text/collation.h"
+#include "text/text.h"
 
 namespace kivu::library {
 namespace {
@@ -105,10 +105,10 @@ int ProbeByFloatingPoint(const string& needle, const Rows& rows, int start) {
     const auto code = [&](double row) -> char32_t {
         const auto index = static_cast<std::size_t>(row);
         if (index >= rows.size() || rows[index].empty()) return 0;
-        return support::FoldCase(support::DecodeAt(rows[index], 0).codePoint);
+        return text::FoldCase(text::DecodeAt(rows[index], 0).codePoint);
     };
     const char32_t wanted =
-        needle.empty() ? 0 : support::FoldCase(support::DecodeAt(needle, 0).codePoint);
+        needle.empty() ? 0 : text::FoldCase(text::DecodeAt(needle, 0).codePoint);
     const auto count = static_cast<double>(rows.size());
     double at = start;
     double low = at;
@@ -135,7 +135,7 @@ TEST(FindListItem, ProbesAsFloatingPointNumbersDo) {
         for (auto n = 61 + random() % 300; n > 0; --n) {
             rows.push_back(string(letters[random() % std::size(letters)]) + std::to_string(n % 10));
         }
-        if (i % 4 != 0) std::sort(rows.begin(), rows.end(), support::TextLess());
+        if (i % 4 != 0) std::sort(rows.begin(), rows.end(), text::TextLess());
         const string needle(letters[random() % std::size(letters)]);
         const int start = static_cast<int>(random() % (rows.size() + 10));
         int from = start;

@@ -8,9 +8,9 @@
 #include "library/file_scan_recursive.h"
 #include "library/game_lists.h"
 #include "library/scan_source.h"
-#include "support/collation.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
+#include "text/collation.h"
 
 namespace kivu::library {
 namespace {
@@ -20,7 +20,7 @@ using ::testing::ElementsAre;
 class TextOrder : public forms::Collation {
  public:
     int Compare(std::string_view a, std::string_view b) const override {
-        return support::CompareText(a, b);
+        return text::CompareText(a, b);
     }
 };
 

@@ -14,7 +14,7 @@ bool Matches(std::string_view text, std::string_view row) {
 
 std::vector<string> Lines(std::string_view text, std::string_view block) {
     std::vector<string> lines;
-    const auto decode = [](std::string_view bytes) { return support::FromWindows1252(bytes); };
+    const auto decode = [](std::string_view bytes) { return text::FromWindows1252(bytes); };
     SearchWords(text).ForEachLine(block, decode, [&](std::string_view line) {
         lines.emplace_back(line);
         return true;
@@ -95,7 +95,7 @@ TEST(SearchWords, AgreesWithThePlainWayOnRandomTexts) {
     for (int round = 0; round < 20000; ++round) {
         const string word = make(4), row = make(40);
         if (word.find(' ') != string::npos) continue;
-        EXPECT_EQ(SearchWord(word).IsIn(row), support::ContainsNoCase(row, word))
+        EXPECT_EQ(SearchWord(word).IsIn(row), text::ContainsNoCase(row, word))
             << "'" << word << "' in '" << row << "'";
     }
 }

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 #include <random>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::library {
 namespace {
@@ -96,7 +96,7 @@ TEST(CutShortName, StandsAnyBytes) {
         }
         const string name = Cut(path);
         EXPECT_LE(name.size(), path.size());
-        EXPECT_EQ(support::Trim(name), name);
+        EXPECT_EQ(text::Trim(name), name);
     }
 }
 
@@ -112,7 +112,7 @@ TEST(GetCharDiff, IsTheEditDistanceUpToTheLimit) {
 // As wide as its longest line has bytes.
 double LongestLine(const string& caption) {
     std::size_t longest = 0;
-    for (const string_view line : support::Split(caption, '\r'))
+    for (const string_view line : text::Split(caption, '\r'))
         longest = std::max(longest, line.size());
     return static_cast<double>(longest);
 }

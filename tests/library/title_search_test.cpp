@@ -5,7 +5,7 @@
 #include <random>
 
 #include "forms/form.h"
-#include "support/collation.h"
+#include "text/collation.h"
 
 namespace kivu::library {
 namespace {
@@ -48,7 +48,7 @@ class TextOrder : public forms::Collation {
  public:
     int Compare(std::string_view a, std::string_view b) const override {
         ++comparisons;
-        return support::CompareText(a, b);
+        return text::CompareText(a, b);
     }
     mutable long comparisons = 0;
 };

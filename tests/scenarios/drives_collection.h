@@ -1,8 +1,8 @@
 #pragma once
 
 #include "scenarios/scenario.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
+#include "text/stored_paths.h"
 
 namespace kivu::scenarios {
 
@@ -70,7 +70,7 @@ class DrivesScenario : public Scenario {
     std::string FloppyLine(int drive, const std::string& name) {
         const std::string path = support::ShortFileName(files, tree.Path("Roms/Amiga/" + name));
         return "floppy" + std::to_string(drive) + "=" +
-               files.EncodeText(support::QuoteIfNeeded(path)) + "\r\n";
+               files.EncodeText(text::QuoteIfNeeded(path)) + "\r\n";
     }
     std::string StartConfiguration() { return tree.Read("Config/Amiga/Kivu_StartScript.uaecfg"); }
 };

@@ -1,5 +1,5 @@
 #include "scenarios/drives_collection.h"
-#include "support/command_line.h"
+#include "text/command_line.h"
 
 namespace kivu::scenarios {
 namespace {
@@ -67,7 +67,7 @@ TEST_F(DrivesLaunch, WindowsEmulatorReadsPathsOfItsOwnWorld) {
     Start();
     ShowFiles();
     Do("dblclick", list, 5);
-    const std::string windows = support::ToWinePath(tree.Root());
+    const std::string windows = text::ToWinePath(tree.Root());
     EXPECT_EQ(StartConfiguration(), "\r\nkickstart_rom_file=" + windows +
                                         "\\Roms\\kick.rom\r\nfloppy0=\"" + windows +
                                         "\\Roms\\Amiga\\Solo Flight (1992)(Other Maker).adf\"\r\n");

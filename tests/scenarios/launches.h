@@ -1,8 +1,8 @@
 #pragma once
 
 #include "scenarios/scenario.h"
-#include "support/file_ops.h"
 #include "support/path_forms.h"
+#include "text/stored_paths.h"
 
 namespace kivu::scenarios {
 
@@ -17,7 +17,7 @@ class Launch : public LoadedScenario {
     }
     // As it stands in a start file for cmd.exe: the short name where the host has one.
     std::string Short(const std::string& path) {
-        return support::QuoteIfNeeded(support::ShortFileName(files, path));
+        return text::QuoteIfNeeded(support::ShortFileName(files, path));
     }
     std::string Bee() { return tree.Path("Roms/Alpha/Bee (1991)(Maker).adf"); }
 };

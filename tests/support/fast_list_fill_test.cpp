@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 
 #include "forms/form.h"
-#include "support/collation.h"
+#include "text/collation.h"
 
 namespace kivu::support {
 namespace {
@@ -14,7 +14,9 @@ using Order = forms::ListControl::Order;
 
 class TextOrder : public forms::Collation {
  public:
-    int Compare(std::string_view a, std::string_view b) const override { return CompareText(a, b); }
+    int Compare(std::string_view a, std::string_view b) const override {
+        return text::CompareText(a, b);
+    }
 };
 
 struct FastListFillTest : ::testing::Test {

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "platform/file_system.h"
-#include "support/text.h"
 #include "testing/memory_tree.h"
+#include "text/text.h"
 
 namespace kivu::testing {
 
@@ -225,11 +225,11 @@ class MemoryFileSystem : public platform::FileSystem, private MemoryTree {
     char Separator() const override { return separator; }
 
     std::string DecodeText(std::string_view bytes) const override {
-        if (separator == '/' && support::IsUtf8(bytes)) return std::string(bytes);
-        return support::FromWindows1252(bytes);
+        if (separator == '/' && text::IsUtf8(bytes)) return std::string(bytes);
+        return text::FromWindows1252(bytes);
     }
     std::string EncodeText(std::string_view text) const override {
-        return separator == '/' ? std::string(text) : support::ToWindows1252(text);
+        return separator == '/' ? std::string(text) : text::ToWindows1252(text);
     }
 
  private:

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::testing {
 
@@ -90,7 +90,7 @@ class MemoryTree {
         for (const std::string& part : parts)
             key += "/" + part;
         if (separator == '/') return key;
-        return support::ToLower(support::IsUtf8(key) ? key : support::FromWindows1252(key));
+        return text::ToLower(text::IsUtf8(key) ? key : text::FromWindows1252(key));
     }
 
     std::string TextOf(const PathParts& parts) const {

@@ -238,7 +238,7 @@ Findings ForbiddenNeighbours(const SourceTree& tree) {
         {"forms", {"forms"}},
         {"png", {"png"}},
         {"view", {"view", "forms"}},
-        {"platform", {"platform", "support"}}};
+        {"platform", {"platform", "text"}}};
     Findings findings;
     for (const Include& include :
          Includes(tree, [](std::string_view path) { return IsBelow(path, "src"); })) {

@@ -11,7 +11,7 @@ Findings ForeignIncludes(const SourceTree& tree);
 
 // What each folder may include of the project:
 // src/forms and src/png themselves; src/view itself and forms; the interfaces directly in
-// src/platform each other and support.
+// src/platform each other and text.
 Findings ForbiddenNeighbours(const SourceTree& tree);
 
 // Only src/app, tests and bench pick a host: nobody else includes platform/linux, platform/windows

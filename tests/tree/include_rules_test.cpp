@@ -67,15 +67,15 @@ TEST(ForeignIncludesTest, TestsMayIncludeWhatTheyNeed) {
 TEST(ForbiddenNeighboursTest, EachFolderKeepsToItsNeighbours) {
     const SourceTree tree{
         File("src/core/c.h", ""),
-        File("src/forms/a.h", "#include \"support/s.h\"\n"),
+        File("src/forms/a.h", "#include \"text/s.h\"\n"),
         File("src/forms/b.h", "#include \"forms/a.h\"\n#include \"a.h\"\n"),
-        File("src/platform/p.h", "#include \"support/s.h\"\n#include \"core/c.h\"\n"),
+        File("src/platform/p.h", "#include \"text/s.h\"\n#include \"core/c.h\"\n"),
         File("src/png/p.h", "#include \"forms/a.h\"\n"),
-        File("src/support/s.h", ""),
+        File("src/text/s.h", ""),
         File("src/view/v.cpp", "#include \"forms/a.h\"\n#include \"core/c.h\"\n"),
         File("src/view/w.cpp", "#include \"png/p.h\"\n#include \"platform/p.h\"\n")};
     EXPECT_THAT(ForbiddenNeighbours(tree),
-                ElementsAre("src/forms/a.h:1: forms must not include src/support/s.h",
+                ElementsAre("src/forms/a.h:1: forms must not include src/text/s.h",
                             "src/platform/p.h:2: platform must not include src/core/c.h",
                             "src/png/p.h:1: png must not include src/forms/a.h",
                             "src/view/v.cpp:2: view must not include src/core/c.h",
@@ -84,14 +84,14 @@ TEST(ForbiddenNeighboursTest, EachFolderKeepsToItsNeighbours) {
 }
 
 TEST(ForbiddenNeighboursTest, WaysAroundAreSeen) {
-    const SourceTree tree{File("src/support/s.h", ""),
-                          File("src/view/a.h", "#include \"../support/s.h\"\n"),
-                          File("src/view/b.h", "#include <support/s.h>\n"),
-                          File("src/view/c.h", "#include \"view/.././support/s.h\"\n")};
+    const SourceTree tree{File("src/text/s.h", ""),
+                          File("src/view/a.h", "#include \"../text/s.h\"\n"),
+                          File("src/view/b.h", "#include <text/s.h>\n"),
+                          File("src/view/c.h", "#include \"view/.././text/s.h\"\n")};
     EXPECT_THAT(ForbiddenNeighbours(tree),
-                ElementsAre("src/view/a.h:1: view must not include src/support/s.h",
-                            "src/view/b.h:1: view must not include src/support/s.h",
-                            "src/view/c.h:1: view must not include src/support/s.h"));
+                ElementsAre("src/view/a.h:1: view must not include src/text/s.h",
+                            "src/view/b.h:1: view must not include src/text/s.h",
+                            "src/view/c.h:1: view must not include src/text/s.h"));
 }
 
 TEST(PickedHostsTest, OnlyAppTestsAndBenchPickAHost) {
@@ -114,7 +114,7 @@ TEST(CirclesTest, ArrowsThatGoOneWayAreNone) {
         File("src/core/c.h", "#include \"platform/p.h\"\n#include \"core/d.h\"\n"),
         File("src/core/d.h", "#include \"core/c.h\"\n"),
         File("src/platform/linux/l.h", "#include \"platform/p.h\"\n"),
-        File("src/platform/p.h", "#include \"support/s.h\"\n"), File("src/support/s.h", "")};
+        File("src/platform/p.h", "#include \"text/s.h\"\n"), File("src/text/s.h", "")};
     EXPECT_THAT(Circles(tree), IsEmpty());
 }
 

@@ -1,6 +1,6 @@
 // What the hands' commands are to do.
 
-#include "support/text.h"
+#include "text/text.h"
 #include "walker/meaning.h"
 
 namespace kivu::walker {
@@ -13,7 +13,7 @@ std::string EmulatorOfHit(const Look& look, int row) {
     const std::string text = look.At(List::globalHits).Text(row);
     const std::size_t colon = text.find(':');
     if (colon == std::string::npos) return {};
-    const std::string name(support::Trim(text.substr(0, colon)));
+    const std::string name(text::Trim(text.substr(0, colon)));
     for (const std::string& emulator : look.dropDown.rows) {
         if (emulator == name) return name;
     }

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/text.h"
+#include "text/text.h"
 #include "walker/invariants.h"
 
 namespace kivu::walker {
@@ -87,7 +87,7 @@ std::string HitsHoldTheWords(const Moment& m) {
         return {};
     if (text == "Suche.." || text == "Search here..") return {};
     // One character alone finds nothing.
-    const bool enough = support::Trim(text).size() >= 2;
+    const bool enough = text::Trim(text).size() >= 2;
     std::vector<std::string> wanted;
     for (const std::string& row : m.after.At(List::simple).rows) {
         if (enough && HasAll(row, Words(text))) wanted.push_back(row);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/text.h"
+#include "text/text.h"
 #include "walker/invariants.h"
 
 namespace kivu::walker {

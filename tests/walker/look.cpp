@@ -1,6 +1,6 @@
 #include "walker/look.h"
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::walker {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::walker {
 
@@ -73,7 +73,7 @@ std::string FileName(const std::string& path) {
 }
 
 std::string LowerCase(const std::string& text) {
-    return support::ToLower(text);
+    return text::ToLower(text);
 }
 
 Meaning MeaningOf(const Look& look, const Stores& stores, List list, int row) {

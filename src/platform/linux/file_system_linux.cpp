@@ -10,7 +10,7 @@
 
 #include "platform/linux/file_descriptor.h"
 #include "platform/linux/file_writer.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -251,7 +251,7 @@ std::string LinuxFileSystem::LongPathName(const std::string& path) const {
 }
 
 std::string LinuxFileSystem::DecodeText(std::string_view bytes) const {
-    return support::IsUtf8(bytes) ? std::string(bytes) : support::FromWindows1252(bytes);
+    return text::IsUtf8(bytes) ? std::string(bytes) : text::FromWindows1252(bytes);
 }
 
 std::string LinuxFileSystem::EncodeText(std::string_view text) const {

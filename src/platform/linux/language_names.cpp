@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -229,7 +229,7 @@ static_assert(std::ranges::is_sorted(languages, {}, &Language::code));
 std::string InLowerCase(std::string_view text) {
     std::string lower(text);
     for (char& letter : lower)
-        letter = support::ToLowerAscii(letter);
+        letter = text::ToLowerAscii(letter);
     return lower;
 }
 

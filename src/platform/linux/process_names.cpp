@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -73,7 +73,7 @@ class Names {
     static bool IsWindowsPath(std::string_view argument) {
         return argument.size() > 3 && argument[1] == ':' &&
                (argument[2] == '\\' || argument[2] == '/') &&
-               static_cast<unsigned char>(support::ToLowerAscii(argument[0]) - 'a') < 26;
+               static_cast<unsigned char>(text::ToLowerAscii(argument[0]) - 'a') < 26;
     }
     std::vector<std::string> Take() { return std::move(names); }
 

@@ -6,7 +6,7 @@
 #include <unistd.h>
 
 #include "platform/linux/user_directories.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -46,7 +46,7 @@ std::string ProgramName(const std::string& programFile) {
     if (name.size() <= 4) return name;
     std::string ending = name.substr(name.size() - 4);
     for (char& letter : ending)
-        letter = support::ToLowerAscii(letter);
+        letter = text::ToLowerAscii(letter);
     return ending == ".exe" ? name.substr(0, name.size() - 4) : name;
 }
 

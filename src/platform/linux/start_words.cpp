@@ -8,7 +8,7 @@
 #include <unistd.h>
 
 #include "platform/linux/file_descriptor.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -81,7 +81,7 @@ bool IsWindowsProgram(const std::string& path) {
     if (path.size() < 4) return false;
     std::string ending = path.substr(path.size() - 4);
     for (char& letter : ending)
-        letter = support::ToLowerAscii(letter);
+        letter = text::ToLowerAscii(letter);
     return ending == ".exe" || ending == ".bat" || ending == ".cmd";
 }
 

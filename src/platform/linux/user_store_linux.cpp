@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "platform/linux/user_directories.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -24,7 +24,7 @@ std::string_view Trimmed(std::string_view text) {
 bool SameName(std::string_view one, std::string_view other) {
     if (one.size() != other.size()) return false;
     for (std::size_t i = 0; i < one.size(); ++i) {
-        if (support::ToLowerAscii(one[i]) != support::ToLowerAscii(other[i])) return false;
+        if (text::ToLowerAscii(one[i]) != text::ToLowerAscii(other[i])) return false;
     }
     return true;
 }

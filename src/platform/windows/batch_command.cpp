@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "platform/windows/system_text.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -11,7 +11,7 @@ namespace {
 
 bool EndsWithNoCase(std::string_view text, std::string_view ending) {
     return text.size() >= ending.size() &&
-           support::EqualsNoCase(text.substr(text.size() - ending.size()), ending);
+           text::EqualsNoCase(text.substr(text.size() - ending.size()), ending);
 }
 
 // One argument as the command processor cuts it out: each quote opens or closes, "\" or not.

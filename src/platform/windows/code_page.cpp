@@ -4,7 +4,7 @@
 
 #include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -32,11 +32,11 @@ int ToBytes(unsigned codePage, DWORD flags, const char* replacement, std::wstrin
 std::string DecodeFromCodePage(std::string_view bytes, unsigned codePage) {
     if (bytes.empty()) return {};
     if (codePage == CP_UTF8)
-        return support::IsUtf8(bytes) ? std::string(bytes) : support::FromWindows1252(bytes);
-    if (!Fits(bytes.size())) return support::FromWindows1252(bytes);
+        return text::IsUtf8(bytes) ? std::string(bytes) : text::FromWindows1252(bytes);
+    if (!Fits(bytes.size())) return text::FromWindows1252(bytes);
     const int size = static_cast<int>(bytes.size());
     const int length = ::MultiByteToWideChar(codePage, 0, bytes.data(), size, nullptr, 0);
-    if (length <= 0) return support::FromWindows1252(bytes);
+    if (length <= 0) return text::FromWindows1252(bytes);
     std::wstring wide(static_cast<std::size_t>(length), L'\0');
     ::MultiByteToWideChar(codePage, 0, bytes.data(), size, wide.data(), length);
     return Narrow(wide);
@@ -45,12 +45,12 @@ std::string DecodeFromCodePage(std::string_view bytes, unsigned codePage) {
 std::string EncodeInCodePage(std::string_view text, unsigned codePage) {
     if (text.empty() || codePage == CP_UTF8) return std::string(text);
     const std::wstring wide = Wide(text);
-    if (!Fits(wide.size())) return support::ToWindows1252(text);
+    if (!Fits(wide.size())) return text::ToWindows1252(text);
     std::string bytes;
     if (ToBytes(codePage, WC_NO_BEST_FIT_CHARS, "?", wide, bytes) > 0) return bytes;
     // A few code pages hold every character and refuse to be told what to do without one.
     if (ToBytes(codePage, 0, nullptr, wide, bytes) > 0) return bytes;
-    return support::ToWindows1252(text);
+    return text::ToWindows1252(text);
 }
 
 }  // namespace kivu::platform

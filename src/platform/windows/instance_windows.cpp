@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/windows/wide_text.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -41,7 +41,7 @@ std::wstring UserName() {
 // apart; a file is the same one in small and capital letters.
 std::wstring ObjectName(const std::string& programName) {
     std::uint64_t hash = 0xcbf29ce484222325;
-    for (const char letter : support::ToLower(programName))
+    for (const char letter : text::ToLower(programName))
         hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
     wchar_t text[32];
     std::swprintf(text, std::size(text), L"%016llx", static_cast<unsigned long long>(hash));

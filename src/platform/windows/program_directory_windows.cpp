@@ -3,7 +3,7 @@
 #include "platform/windows/system_text.h"
 #include "platform/windows/wide_path.h"
 #include "platform/windows/wide_text.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -18,7 +18,7 @@ std::string ProgramName(const std::string& programFile) {
     if (name.size() <= 4) return name;
     std::string ending = name.substr(name.size() - 4);
     for (char& letter : ending)
-        letter = support::ToLowerAscii(letter);
+        letter = text::ToLowerAscii(letter);
     return ending == ".exe" ? name.substr(0, name.size() - 4) : name;
 }
 

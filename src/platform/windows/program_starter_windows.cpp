@@ -10,8 +10,8 @@
 #include "platform/windows/system_text.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/win32.h"
-#include "support/command_line.h"
-#include "support/run_file.h"
+#include "text/command_line.h"
+#include "text/paths.h"
 
 namespace kivu::platform {
 
@@ -57,7 +57,7 @@ struct Command {
 };
 
 Command Split(const StartRequest& request) {
-    if (request.words.size() == 1) return {support::RemoveQuotes(request.words[0]), {}};
+    if (request.words.size() == 1) return {text::RemoveQuotes(request.words[0]), {}};
     const std::string_view text = request.command;
     const bool quoted = text.starts_with('"');
     const std::size_t end = text.find_first_of(quoted ? "\"" : " \t", quoted ? 1 : 0);
@@ -163,7 +163,7 @@ std::error_code RunProgram(const StartRequest& request, const Command& command) 
     const auto failure = CreateIn(request, Wide(command.program), Wide(commandLine));
     // A broken program would come back from the shell, with a box on the way.
     const bool isDocument =
-        failure == Failure(ERROR_BAD_EXE_FORMAT) && !support::IsProgramFile(command.program);
+        failure == Failure(ERROR_BAD_EXE_FORMAT) && !text::IsProgramFile(command.program);
     const bool forTheShell = isDocument || failure == Failure(elevationRequired);
     return forTheShell ? OpenByShell(request, command) : failure;
 }

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -57,7 +57,7 @@ std::wstring Wide(std::string_view text) {
             wide += SurrogateAt(text, at);
             at += surrogateLength;
         } else {
-            AppendUtf16(wide, support::NextCodePoint(text, at));
+            AppendUtf16(wide, text::NextCodePoint(text, at));
         }
     }
     return wide;
@@ -70,11 +70,11 @@ std::string Narrow(std::wstring_view text) {
         const wchar_t unit = text[at];
         if (IsHighSurrogate(unit) && at + 1 < text.size() && IsLowSurrogate(text[at + 1])) {
             ++at;
-            support::AppendUtf8(narrow, 0x10000 + ((unit & 0x3FFu) << 10) + (text[at] & 0x3FFu));
+            text::AppendUtf8(narrow, 0x10000 + ((unit & 0x3FFu) << 10) + (text[at] & 0x3FFu));
         } else if (IsHighSurrogate(unit) || IsLowSurrogate(unit)) {
             AppendSurrogate(narrow, unit);
         } else {
-            support::AppendUtf8(narrow, unit);
+            text::AppendUtf8(narrow, unit);
         }
     }
     return narrow;

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "support/text.h"
 #include "testing/ini_checks.h"
+#include "text/text.h"
 
 // The input is a profile and, separated by the byte 0x1F, texts that are set in it three by three:
 // section, key, value. Its first byte says how names and values are coded, and whether the profile
@@ -23,7 +23,7 @@ std::string_view NextPart(std::string_view& input) {
 }
 
 kivu::core::IniCoding CodingOf(unsigned char choice) {
-    using namespace kivu::support;
+    using namespace kivu::text;
     if (choice % 3 == 0) return {};
     if (choice % 3 == 1) {
         return {[](std::string_view bytes) { return FromWindows1252(bytes); },

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "support/command_line.h"
+#include "text/command_line.h"
 
 namespace kivu::testing {
 
@@ -16,8 +16,8 @@ inline std::pair<std::string, int> RunProgram(const std::vector<std::string>& wo
                                               const std::string& input) {
     std::string command;
     for (const std::string& word : words)
-        command += support::QuoteForShell(word) + " ";
-    command += "2>/dev/null < " + support::QuoteForShell(input);
+        command += text::QuoteForShell(word) + " ";
+    command += "2>/dev/null < " + text::QuoteForShell(input);
     std::FILE* pipe = ::popen(command.c_str(), "r");
     if (pipe == nullptr) return {"", -1};
     std::string output;

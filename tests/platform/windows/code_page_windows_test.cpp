@@ -1,7 +1,7 @@
 #include "platform/windows/code_page.h"
 #include "platform/windows/file_system_windows.h"
 #include "platform/windows/scratch_directory.h"
-#include "support/text.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 namespace {
@@ -28,8 +28,8 @@ TEST(CodePage, EveryByteComesBack) {
     for (int byte = 0; byte < 256; ++byte) {
         const std::string bytes(1, static_cast<char>(byte));
         const std::string text = DecodeFromCodePage(bytes, western);
-        EXPECT_TRUE(support::IsUtf8(text)) << byte;
-        EXPECT_EQ(text, support::FromWindows1252(bytes)) << byte;
+        EXPECT_TRUE(text::IsUtf8(text)) << byte;
+        EXPECT_EQ(text, text::FromWindows1252(bytes)) << byte;
         EXPECT_EQ(EncodeInCodePage(text, western), bytes) << byte;
     }
 }
@@ -55,7 +55,7 @@ TEST(CodePage, APageOfTwoByteCharactersIsReadAndWritten) {
 
 TEST(CodePage, AHalfCharacterAtTheEndIsNoCrash) {
     if (!::IsValidCodePage(japanese)) GTEST_SKIP() << "code page 932 is not installed";
-    EXPECT_TRUE(support::IsUtf8(DecodeFromCodePage("a\x93", japanese)));
+    EXPECT_TRUE(text::IsUtf8(DecodeFromCodePage("a\x93", japanese)));
 }
 
 TEST(CodePage, WhereThePageIsUtf8OtherBytesAreWindows1252) {

@@ -6,7 +6,7 @@
 #include "core/ini_utf16.h"
 #include "platform/windows/file_system_windows.h"
 #include "platform/windows/scratch_directory.h"
-#include "support/text.h"
+#include "text/text.h"
 
 // The launcher's own reader and writer of profiles beside the system's calls, on generated files:
 // programs of the user's go on with what the launcher has written, and the other way round.
@@ -166,7 +166,7 @@ class ProfileCallsWindows : public ::testing::Test {
                                                         files.EncodeText(key).c_str(), "", buffer,
                                                         sizeof buffer, path.c_str());
         const std::string value = files.DecodeText({buffer, length});
-        return std::string(support::Trim(value));
+        return std::string(text::Trim(value));
     }
     bool SystemWrite(const std::string& path, const std::string& section, const std::string& key,
                      const std::string& value) const {
