@@ -30,5 +30,5 @@ done
 [ "$status" -eq 0 ] || exit "$status"
 
 if [ $# -eq 0 ]; then
-  scripts/windows/tour.sh build/windows/program/Kivu.exe build/windows/tests/platform/windows/kivu_stay.exe
+  scripts/windows/tour.sh build/windows/program/Kivu.exe build/windows/tests/hosts/windows/kivu_stay.exe
 fi

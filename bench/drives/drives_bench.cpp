@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "hosts/linux/file_system_linux.h"
 #include "launch/drive_slots.h"
-#include "platform/linux/file_system_linux.h"
 #include "ratio/ratio.h"
 #include "text/paths.h"
 
@@ -77,10 +77,10 @@ struct Panel {
                                               [](const auto& disk) { return !disk.empty(); }));
     }
 
-    platform::LinuxFileSystem files;
+    hosts::LinuxFileSystem files;
     SilentBeeper beeper;
     core::Form1 form{forms::Toolkit{}};
-    core::Ini ini;
+    profile::Ini ini;
     launch::DriveSlots drives;
 };
 

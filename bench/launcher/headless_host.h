@@ -3,14 +3,14 @@
 #include <memory>
 #include <string>
 
+#include "hosts/linux/file_system_linux.h"
 #include "platform/host.h"
-#include "platform/linux/file_system_linux.h"
 
 namespace kivu::bench {
 
 // The real file system, with a watch on what writing costs: a file is flushed to the disk before it
 // replaces the old one, which takes as long as the disk and its other users please.
-class TimedFileSystem : public platform::LinuxFileSystem {
+class TimedFileSystem : public hosts::LinuxFileSystem {
  public:
     std::error_code WriteFile(const std::string& path, std::string_view bytes) override;
     double SecondsWriting() const { return seconds; }

@@ -6,7 +6,7 @@
 
 #include "favourites/favoriten.h"
 #include "library/find_game.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "text/paths.h"
 #include "text/text.h"

@@ -11,7 +11,7 @@
 #include <string>
 
 #include "favourites/repair_favoriten.h"
-#include "platform/linux/file_system_linux.h"
+#include "hosts/linux/file_system_linux.h"
 #include "ratio/ratio.h"
 #include "repair/plain_repair.h"
 
@@ -83,12 +83,12 @@ double Repair(const Directory& directory, Outcome& outcome, Run run) {
     }
     store.close();
 
-    platform::LinuxFileSystem files;
+    hosts::LinuxFileSystem files;
     Silent host;
     core::Form1 form{forms::Toolkit{}};
     form.AppDir = directory.root.string() + "/";
     form.FavoritenIni = directory.Store().string();
-    core::Ini ini(files);
+    profile::Ini ini(files);
     core::EventPacer pacer(host, host);
     core::BusyState busy(form, host);
     favourites::Favoriten favourites(form, ini, files);

@@ -5,18 +5,18 @@
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
-#include "platform/linux/clock_linux.h"
-#include "platform/linux/file_system_linux.h"
-#include "platform/linux/instance_linux.h"
-#include "platform/linux/launch_session.h"
-#include "platform/linux/locale_linux.h"
-#include "platform/linux/process_list_linux.h"
-#include "platform/linux/program_directory_linux.h"
-#include "platform/linux/program_starter_linux.h"
-#include "platform/linux/user_store_linux.h"
-#include "platform/qt/beeper_qt.h"
-#include "platform/qt/dialogs_qt.h"
-#include "platform/qt/event_pump_qt.h"
+#include "hosts/linux/clock_linux.h"
+#include "hosts/linux/file_system_linux.h"
+#include "hosts/linux/instance_linux.h"
+#include "hosts/linux/launch_session.h"
+#include "hosts/linux/locale_linux.h"
+#include "hosts/linux/process_list_linux.h"
+#include "hosts/linux/program_directory_linux.h"
+#include "hosts/linux/program_starter_linux.h"
+#include "hosts/linux/user_store_linux.h"
+#include "hosts/qt/beeper_qt.h"
+#include "hosts/qt/dialogs_qt.h"
+#include "hosts/qt/event_pump_qt.h"
 
 namespace kivu::app {
 
@@ -27,18 +27,18 @@ void PrepareToolkit() {
 }
 
 struct DesktopHost::Parts {
-    std::string programFile = platform::ProgramFile();
-    platform::LaunchSession session;
-    platform::LinuxFileSystem files;
-    platform::LinuxProcessList processes{session};
-    platform::LinuxProgramStarter starter{session};
-    platform::LinuxClock clock;
-    platform::LinuxLocale locale;
-    platform::LinuxUserStore userStore;
-    platform::LinuxInstance instance{platform::ProgramName(programFile)};
-    platform::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
-    platform::QtBeeper beeper;
-    platform::QtEventPump events;
+    std::string programFile = hosts::ProgramFile();
+    hosts::LaunchSession session;
+    hosts::LinuxFileSystem files;
+    hosts::LinuxProcessList processes{session};
+    hosts::LinuxProgramStarter starter{session};
+    hosts::LinuxClock clock;
+    hosts::LinuxLocale locale;
+    hosts::LinuxUserStore userStore;
+    hosts::LinuxInstance instance{hosts::ProgramName(programFile)};
+    hosts::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
+    hosts::QtBeeper beeper;
+    hosts::QtEventPump events;
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
 };
@@ -53,19 +53,8 @@ DesktopHost::DesktopHost(int argc, char** argv) : parts(std::make_unique<Parts>(
 DesktopHost::~DesktopHost() = default;
 
 platform::Host DesktopHost::Services() {
-    return {parts->files,
-            parts->processes,
-            parts->starter,
-            parts->clock,
-            parts->dialogs,
-            parts->beeper,
-            parts->events,
-            parts->locale,
-            parts->userStore,
-            parts->instance,
-            platform::ProgramDirectory(parts->programFile),
-            platform::ProgramName(parts->programFile),
-            parts->commandLine};
+    return platform::ServicesOf(*parts, hosts::ProgramDirectory(parts->programFile),
+                                hosts::ProgramName(parts->programFile), parts->commandLine);
 }
 
 void DesktopHost::ListenForInstances(std::function<void(const std::string&)> summon) {

@@ -3,17 +3,17 @@
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
-#include "platform/qt/beeper_qt.h"
-#include "platform/qt/dialogs_qt.h"
-#include "platform/qt/event_pump_qt.h"
-#include "platform/windows/clock_windows.h"
-#include "platform/windows/file_system_windows.h"
-#include "platform/windows/instance_windows.h"
-#include "platform/windows/locale_windows.h"
-#include "platform/windows/process_list_windows.h"
-#include "platform/windows/program_directory_windows.h"
-#include "platform/windows/program_starter_windows.h"
-#include "platform/windows/user_store_windows.h"
+#include "hosts/qt/beeper_qt.h"
+#include "hosts/qt/dialogs_qt.h"
+#include "hosts/qt/event_pump_qt.h"
+#include "hosts/windows/clock_windows.h"
+#include "hosts/windows/file_system_windows.h"
+#include "hosts/windows/instance_windows.h"
+#include "hosts/windows/locale_windows.h"
+#include "hosts/windows/process_list_windows.h"
+#include "hosts/windows/program_directory_windows.h"
+#include "hosts/windows/program_starter_windows.h"
+#include "hosts/windows/user_store_windows.h"
 
 namespace kivu::app {
 
@@ -34,17 +34,17 @@ void PrepareToolkit() {
 }
 
 struct DesktopHost::Parts {
-    std::string programFile = platform::ProgramFile();
-    platform::WindowsFileSystem files;
-    platform::WindowsProcessList processes;
-    platform::WindowsProgramStarter starter;
-    platform::WindowsClock clock;
-    platform::WindowsLocale locale;
-    platform::WindowsUserStore userStore;
-    platform::WindowsInstance instance{platform::ProgramName(programFile)};
-    platform::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
-    platform::QtBeeper beeper;
-    platform::QtEventPump events;
+    std::string programFile = hosts::ProgramFile();
+    hosts::WindowsFileSystem files;
+    hosts::WindowsProcessList processes;
+    hosts::WindowsProgramStarter starter;
+    hosts::WindowsClock clock;
+    hosts::WindowsLocale locale;
+    hosts::WindowsUserStore userStore;
+    hosts::WindowsInstance instance{hosts::ProgramName(programFile)};
+    hosts::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
+    hosts::QtBeeper beeper;
+    hosts::QtEventPump events;
     std::string commandLine;
 };
 
@@ -57,19 +57,8 @@ DesktopHost::DesktopHost(int, char**) : parts(std::make_unique<Parts>()) {
 DesktopHost::~DesktopHost() = default;
 
 platform::Host DesktopHost::Services() {
-    return {parts->files,
-            parts->processes,
-            parts->starter,
-            parts->clock,
-            parts->dialogs,
-            parts->beeper,
-            parts->events,
-            parts->locale,
-            parts->userStore,
-            parts->instance,
-            platform::ProgramDirectory(parts->programFile),
-            platform::ProgramName(parts->programFile),
-            parts->commandLine};
+    return platform::ServicesOf(*parts, hosts::ProgramDirectory(parts->programFile),
+                                hosts::ProgramName(parts->programFile), parts->commandLine);
 }
 
 // The toolkit's own event loop serves the messages of later instances.

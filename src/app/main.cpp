@@ -9,7 +9,7 @@
 #include <string>
 
 #include "app/desktop_host.h"
-#include "platform/qt/compositing_qt.h"
+#include "hosts/qt/compositing_qt.h"
 #include "view/fit_into.h"
 #include "view/form_view.h"
 #include "view/pictures.h"
@@ -61,7 +61,7 @@ int main(int argc, char** argv) {
     Reached("launcher");
 
     kivu::view::FormView view(launcher.MainWindow());
-    view.SetCompositing(kivu::platform::IsComposited);
+    view.SetCompositing(kivu::hosts::IsComposited);
     view.onClosed = EndAtOnce;
     Reached("view");
     view.Show();

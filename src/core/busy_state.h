@@ -5,7 +5,7 @@
 
 #include "core/form1.h"
 #include "platform/clock.h"
-#include "platform/desktop.h"
+#include "platform/event_pump.h"
 
 namespace kivu::core {
 

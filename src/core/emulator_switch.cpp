@@ -13,7 +13,7 @@ constexpr const char* settings = "Settings";
 void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     if (form.Busy) return;
     const Raised working(form.Busy);
-    const Ini::GatheredWriteBacks gathered(ini);
+    const profile::Ini::GatheredWriteBacks gathered(ini);
     form.Label4.SetCaption(" Suchergebnisse (0) ");
     form.Label4.SetVisible(false);
     form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));

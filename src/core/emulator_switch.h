@@ -5,9 +5,10 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/event_pump.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
 
 namespace kivu::core {
 
@@ -37,8 +38,9 @@ class EmulatorSwitch {
         Hook<void()> EndProgram;
     };
 
-    EmulatorSwitch(Form1& form, Ini& ini, platform::FileSystem& files, platform::EventPump& events,
-                   platform::Dialogs& dialogs, BusyState& busy, std::string commandLine)
+    EmulatorSwitch(Form1& form, profile::Ini& ini, platform::FileSystem& files,
+                   platform::EventPump& events, platform::Dialogs& dialogs, BusyState& busy,
+                   std::string commandLine)
         : form(form),
           ini(ini),
           files(files),
@@ -67,7 +69,7 @@ class EmulatorSwitch {
     void FinishView();
 
     Form1& form;
-    Ini& ini;
+    profile::Ini& ini;
     platform::FileSystem& files;
     platform::EventPump& events;
     platform::Dialogs& dialogs;

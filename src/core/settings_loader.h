@@ -4,9 +4,9 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
 
 namespace kivu::core {
 
@@ -22,7 +22,7 @@ class SettingsLoader {
         Hook<void()> DockDrives;
     };
 
-    SettingsLoader(Form1& form, Ini& ini, const platform::FileSystem& files,
+    SettingsLoader(Form1& form, profile::Ini& ini, const platform::FileSystem& files,
                    platform::Dialogs& dialogs)
         : form(form), ini(ini), files(files), dialogs(dialogs) {}
 
@@ -39,7 +39,7 @@ class SettingsLoader {
     void LoadJoystick();
 
     Form1& form;
-    Ini& ini;
+    profile::Ini& ini;
     const platform::FileSystem& files;
     platform::Dialogs& dialogs;
 };

@@ -2,14 +2,14 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
+#include "profile/ini.h"
 
 namespace kivu::core {
 
 // The orderly end of the program. Everything else has been written when it changed.
 class ShutDown {
  public:
-    ShutDown(Form1& form, Ini& ini) : form(form), ini(ini) {}
+    ShutDown(Form1& form, profile::Ini& ini) : form(form), ini(ini) {}
 
     void ExitBtn_Click();
 
@@ -19,7 +19,7 @@ class ShutDown {
 
  private:
     Form1& form;
-    Ini& ini;
+    profile::Ini& ini;
 };
 
 }  // namespace kivu::core

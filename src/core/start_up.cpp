@@ -26,7 +26,7 @@ void StartUp::Form_Load() {
     form.GlobalSearchList.Clear();
     if (hooks.PreviousInstance()) return;
     // A first start fills some thirty keys.
-    const Ini::GatheredWriteBacks gathered(ini);
+    const profile::Ini::GatheredWriteBacks gathered(ini);
     MakeConfigDirectory();
     AssignProgramPaths(form, files);
     hooks.ChangeBorderstyle();

@@ -5,10 +5,10 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
 #include "platform/clock.h"
-#include "platform/desktop.h"
 #include "platform/file_system.h"
+#include "platform/locale.h"
+#include "profile/ini.h"
 
 namespace kivu::core {
 
@@ -26,8 +26,8 @@ class StartUp {
         Hook<void()> ArrangeWindow;  // what a resize does
     };
 
-    StartUp(Form1& form, Ini& ini, platform::FileSystem& files, const platform::Locale& locale,
-            const platform::Clock& clock)
+    StartUp(Form1& form, profile::Ini& ini, platform::FileSystem& files,
+            const platform::Locale& locale, const platform::Clock& clock)
         : form(form), ini(ini), files(files), locale(locale), clock(clock) {}
 
     void Form_Load();
@@ -46,7 +46,7 @@ class StartUp {
     int RowOfEmulator(const std::string& stored) const;
 
     Form1& form;
-    Ini& ini;
+    profile::Ini& ini;
     platform::FileSystem& files;
     const platform::Locale& locale;
     const platform::Clock& clock;

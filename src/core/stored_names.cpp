@@ -2,14 +2,14 @@
 
 #include <algorithm>
 
-#include "core/ini_syntax.h"
+#include "profile/ini_syntax.h"
 
 namespace kivu::core {
 
 namespace {
 
 std::string AsReadBack(const platform::FileSystem& files, const std::string& name) {
-    return files.DecodeText(ReadableValue(WithinLine(files.EncodeText(name))));
+    return files.DecodeText(profile::ReadableValue(profile::WithinLine(files.EncodeText(name))));
 }
 
 }  // namespace

@@ -2,7 +2,8 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "platform/desktop.h"
+#include "platform/beeper.h"
+#include "platform/dialogs.h"
 
 namespace kivu::core {
 

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "core/form1.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 
 namespace kivu::favourites {
 

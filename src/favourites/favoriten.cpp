@@ -67,7 +67,7 @@ void Favoriten::SaveFavoriten() {
     ini.StoreProfile(*profile, form.FavoritenIni, true);
 }
 
-void Favoriten::Write(core::IniDocument& profile, std::size_t number, std::string_view name,
+void Favoriten::Write(profile::IniDocument& profile, std::size_t number, std::string_view name,
                       std::string_view path) const {
     profile.Set(section, NameKey(number), name);
     profile.Set(section, PathKey(number), path);

@@ -8,11 +8,11 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
-#include "core/ini_document.h"
 #include "favourites/favorit_entry.h"
 #include "favourites/store_in_memory.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
+#include "profile/ini_document.h"
 
 namespace kivu::favourites {
 
@@ -24,7 +24,7 @@ class Favoriten {
         core::Hook<void()> UpdateListCaptions;
     };
 
-    Favoriten(core::Form1& form, core::Ini& ini, const platform::FileSystem& files)
+    Favoriten(core::Form1& form, profile::Ini& ini, const platform::FileSystem& files)
         : form(form), ini(ini), files(files) {}
 
     void LoadFavoriten();
@@ -67,11 +67,11 @@ class Favoriten {
 
  private:
     bool IsRecord(int record) const;
-    void Write(core::IniDocument& profile, std::size_t number, std::string_view name,
+    void Write(profile::IniDocument& profile, std::size_t number, std::string_view name,
                std::string_view path) const;
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     const platform::FileSystem& files;
     std::vector<FavoritEntry> entries;
     bool unread = false;  // the store is there, but could not be read

@@ -8,7 +8,8 @@
 #include "favourites/favoriten.h"
 #include "favourites/global_favoriten.h"
 #include "favourites/repair_favoriten.h"
-#include "platform/desktop.h"
+#include "platform/beeper.h"
+#include "platform/dialogs.h"
 
 namespace kivu::favourites {
 

@@ -6,7 +6,8 @@
 #include "core/form1.h"
 #include "core/hook.h"
 #include "favourites/global_favoriten.h"
-#include "platform/desktop.h"
+#include "platform/beeper.h"
+#include "platform/event_pump.h"
 
 namespace kivu::favourites {
 

@@ -78,7 +78,7 @@ bool GlobalFavoriten::SaveGlobalFavoriten() {
     const std::string& file = form.FavoritenGlobalIni;
     const bool isThere = files.IdentityOf(file).has_value();
     if (isThere && (!holdsStore || !files.FileExists(file))) return false;
-    core::IniDocument profile = ini.ParseProfile(header);
+    profile::IniDocument profile = ini.ParseProfile(header);
     int number = 0;
     for (const GlobalFavorit& record : records) {
         if (record.Display.empty()) continue;

@@ -5,9 +5,9 @@
 #include <vector>
 
 #include "core/form1.h"
-#include "core/ini.h"
 #include "favourites/stored_texts.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
 
 namespace kivu::favourites {
 
@@ -25,7 +25,7 @@ class GlobalFavoriten {
     // So many are read back from the file.
     static constexpr std::size_t mostRecords = 1000;
 
-    GlobalFavoriten(core::Form1& form, core::Ini& ini, platform::FileSystem& files)
+    GlobalFavoriten(core::Form1& form, profile::Ini& ini, platform::FileSystem& files)
         : form(form), ini(ini), files(files) {}
 
     // False: it is not in the store, which is full or could not be read or written.
@@ -53,7 +53,7 @@ class GlobalFavoriten {
     std::string StoredSystem(const StoredTexts& stored, const std::string& key) const;
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     platform::FileSystem& files;
     std::vector<GlobalFavorit> records;
     bool holdsStore = false;  // the array is what the file had, and changes since

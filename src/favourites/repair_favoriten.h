@@ -7,7 +7,7 @@
 #include "favourites/favoriten.h"
 #include "favourites/store_in_memory.h"
 #include "library/game_index.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 
 namespace kivu::favourites {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/ini_syntax.h"
+#include "profile/ini_syntax.h"
 #include "text/stored_paths.h"
 #include "text/text.h"
 
@@ -119,7 +119,7 @@ std::vector<std::string> StoreInMemory::Rows() const {
     return shown;
 }
 
-void StoreInMemory::WriteTo(core::IniDocument& profile) const {
+void StoreInMemory::WriteTo(profile::IniDocument& profile) const {
     const auto write = [&](std::size_t number, bool isPath) {
         const Key& key = isPath ? entriesInFile[number].path : entriesInFile[number].name;
         if (!key.isWritten) return;
@@ -155,7 +155,7 @@ StoreInMemory::RawId StoreInMemory::IdOfRaw(std::string bytes) {
     const auto [place, isNew] = rawIds.try_emplace(bytes, static_cast<RawId>(raws.size()));
     const RawId id = place->second;
     if (!isNew) return id;
-    std::string trimmed(core::TrimBlanksAndTabs(bytes));
+    std::string trimmed(profile::TrimBlanksAndTabs(bytes));
     const std::string text = stored.TextOfRaw(bytes);
     const bool isTrimmed = trimmed == bytes;
     raws.push_back({std::move(bytes), {}, id, IdOfText(text), none});

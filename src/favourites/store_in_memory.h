@@ -6,10 +6,10 @@
 #include <utility>
 #include <vector>
 
-#include "core/ini_document.h"
 #include "favourites/favorit_entry.h"
 #include "favourites/stored_texts.h"
 #include "platform/file_system.h"
+#include "profile/ini_document.h"
 
 namespace kivu::favourites {
 
@@ -39,7 +39,7 @@ class StoreInMemory {
     // Whether the store has been loaded since, so that the list is another one.
     bool HasLoaded() const { return hasLoaded; }
     // Brings all that has been saved into the file.
-    void WriteTo(core::IniDocument& profile) const;
+    void WriteTo(profile::IniDocument& profile) const;
 
  private:
     using TextId = int;  // of a name or a path, as the launcher holds it

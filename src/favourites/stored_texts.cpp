@@ -1,13 +1,13 @@
 #include "favourites/stored_texts.h"
 
-#include "core/ini_syntax.h"
+#include "profile/ini_syntax.h"
 #include "support/path_forms.h"
 #include "text/stored_paths.h"
 #include "text/text.h"
 
 namespace kivu::favourites {
 
-std::optional<StoredTexts> StoredTexts::Read(const core::Ini& ini,
+std::optional<StoredTexts> StoredTexts::Read(const profile::Ini& ini,
                                              const platform::FileSystem& files,
                                              const std::string& iniFile) {
     auto profile = ini.LoadProfile(iniFile);
@@ -33,7 +33,7 @@ std::string StoredTexts::PathOfRaw(std::string_view raw, std::string_view base) 
     const std::string decoded = texts.TextOfRaw(raw);
     if (decoded.empty()) return decoded;
     const auto absolute = [&](const std::string& path) { return Absolute(path, base); };
-    const std::string plain(core::ReadableValue(raw));
+    const std::string plain(profile::ReadableValue(raw));
     if (!support::NamesAreBytes(*files) || text::IsUtf8(plain)) return absolute(decoded);
     return absolute(support::NameOfStoredBytes(*files, plain, absolute));
 }
@@ -45,7 +45,7 @@ std::string StoredTexts::Absolute(const std::string& stored, std::string_view ba
 }
 
 bool IsStorable(std::string_view text) {
-    return !core::ReadableValue(core::WithinLine(text)).empty();
+    return !profile::ReadableValue(profile::WithinLine(text)).empty();
 }
 
 }  // namespace kivu::favourites

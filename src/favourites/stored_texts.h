@@ -4,9 +4,9 @@
 #include <string>
 #include <string_view>
 
-#include "core/ini.h"
-#include "core/ini_document.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
+#include "profile/ini_document.h"
 
 namespace kivu::favourites {
 
@@ -16,7 +16,8 @@ class StoredTexts {
  public:
     // A missing file has no texts. Empty optional: something stands there that cannot be read, and
     // that must not be overwritten.
-    static std::optional<StoredTexts> Read(const core::Ini& ini, const platform::FileSystem& files,
+    static std::optional<StoredTexts> Read(const profile::Ini& ini,
+                                           const platform::FileSystem& files,
                                            const std::string& iniFile);
 
     std::string Text(std::string_view section, std::string_view key) const;
@@ -37,12 +38,12 @@ class StoredTexts {
     std::string RawOfText(std::string_view text) const { return texts.RawOfText(text); }
 
  private:
-    StoredTexts(const platform::FileSystem& files, core::IniDocument texts)
+    StoredTexts(const platform::FileSystem& files, profile::IniDocument texts)
         : files(&files), texts(std::move(texts)) {}
     std::string Absolute(const std::string& stored, std::string_view base) const;
 
     const platform::FileSystem* files;
-    core::IniDocument texts;
+    profile::IniDocument texts;
 };
 
 // Whether a profile gives anything back for this text once it is stored as a value: blanks alone

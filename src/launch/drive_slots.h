@@ -2,8 +2,8 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
-#include "platform/desktop.h"
+#include "platform/beeper.h"
+#include "profile/ini.h"
 
 namespace kivu::launch {
 
@@ -15,7 +15,7 @@ class DriveSlots {
         core::Hook<void()> OfferFavouriteButtons;
     };
 
-    DriveSlots(core::Form1& form, core::Ini& ini, platform::Beeper& beeper)
+    DriveSlots(core::Form1& form, profile::Ini& ini, platform::Beeper& beeper)
         : form(form), ini(ini), beeper(beeper) {}
 
     // Fills the drives from Df0 on with the disks whose file names differ in less than `Limit`
@@ -48,7 +48,7 @@ class DriveSlots {
     void Show(std::size_t drive, const std::string& path);
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     platform::Beeper& beeper;
 };
 

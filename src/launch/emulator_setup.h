@@ -5,11 +5,11 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
 #include "platform/clock.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/program_starter.h"
+#include "profile/ini.h"
 
 namespace kivu::launch {
 
@@ -28,7 +28,7 @@ class EmulatorSetup {
         platform::Dialogs& dialogs;
     };
 
-    EmulatorSetup(core::Form1& form, core::Ini& ini, core::EventPacer& pacer, Services services)
+    EmulatorSetup(core::Form1& form, profile::Ini& ini, core::EventPacer& pacer, Services services)
         : form(form), ini(ini), pacer(pacer), services(services) {}
 
     void StartEmulator(const std::string& EName, bool ConfirmationMessagebox);
@@ -40,7 +40,7 @@ class EmulatorSetup {
     void SayMissing(const std::string& name, const std::string& path);
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     core::EventPacer& pacer;
     Services services;
     bool starting = false;

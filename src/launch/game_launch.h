@@ -6,12 +6,13 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
 #include "launch/start_parameters.h"
+#include "platform/beeper.h"
 #include "platform/clock.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/program_starter.h"
+#include "profile/ini.h"
 
 namespace kivu::launch {
 
@@ -40,7 +41,7 @@ class GameLaunch {
         platform::Beeper& beeper;
     };
 
-    GameLaunch(core::Form1& form, core::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
+    GameLaunch(core::Form1& form, profile::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
                Services services)
         : form(form), ini(ini), busy(busy), pacer(pacer), services(services) {}
 
@@ -88,7 +89,7 @@ class GameLaunch {
     void ReturnToLists(forms::Control* focus);
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     core::BusyState& busy;
     core::EventPacer& pacer;
     Services services;

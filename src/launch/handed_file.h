@@ -4,7 +4,7 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "platform/desktop.h"
+#include "platform/beeper.h"
 #include "platform/file_system.h"
 
 namespace kivu::launch {

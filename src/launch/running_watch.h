@@ -3,9 +3,10 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
 #include "launch/prozess.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/event_pump.h"
+#include "profile/ini.h"
 
 namespace kivu::launch {
 
@@ -24,7 +25,7 @@ class RunningWatch {
         core::Hook<void()> RestoreDisplayMode;
     };
 
-    RunningWatch(core::Form1& form, core::Ini& ini, Prozess& processes, core::BusyState& busy,
+    RunningWatch(core::Form1& form, profile::Ini& ini, Prozess& processes, core::BusyState& busy,
                  platform::EventPump& events, platform::Dialogs& dialogs)
         : form(form),
           ini(ini),
@@ -51,7 +52,7 @@ class RunningWatch {
     void EndEmulator();
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     Prozess& processes;
     core::BusyState& busy;
     platform::EventPump& events;

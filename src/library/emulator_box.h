@@ -5,8 +5,8 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
 
 namespace kivu::library {
 
@@ -28,7 +28,7 @@ class EmulatorBox {
         core::Hook<void(const std::string&, bool)> StartEmulator;
     };
 
-    EmulatorBox(core::Form1& form, core::Ini& ini, const platform::FileSystem& files,
+    EmulatorBox(core::Form1& form, profile::Ini& ini, const platform::FileSystem& files,
                 core::BusyState& busy)
         : form(form), ini(ini), files(files), busy(busy) {}
 
@@ -66,7 +66,7 @@ class EmulatorBox {
     void StartSearchWith(char32_t letter);
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     const platform::FileSystem& files;
     core::BusyState& busy;
     bool showing = false;

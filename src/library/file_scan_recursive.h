@@ -5,7 +5,7 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "library/scan_source.h"
-#include "platform/desktop.h"
+#include "platform/beeper.h"
 
 namespace kivu::library {
 

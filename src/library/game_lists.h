@@ -9,10 +9,10 @@
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
 #include "library/file_scan_recursive.h"
 #include "library/list_cache.h"
 #include "platform/file_system.h"
+#include "profile/ini.h"
 
 namespace kivu::library {
 
@@ -27,8 +27,8 @@ class GameLists {
         core::Hook<void(bool)> SelectEmulator;
     };
 
-    GameLists(core::Form1& form, core::Ini& ini, platform::FileSystem& files, core::BusyState& busy,
-              core::EventPacer& pacer, FileScanRecursive& scanner)
+    GameLists(core::Form1& form, profile::Ini& ini, platform::FileSystem& files,
+              core::BusyState& busy, core::EventPacer& pacer, FileScanRecursive& scanner)
         : form(form), ini(ini), files(files), busy(busy), pacer(pacer), scanner(scanner) {}
 
     // Fills the lists from the cache. A cache that exists is used, whatever has become of its
@@ -66,7 +66,7 @@ class GameLists {
     std::array<std::uint64_t, 3> DoublesVersions() const;
 
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     platform::FileSystem& files;
     core::BusyState& busy;
     core::EventPacer& pacer;

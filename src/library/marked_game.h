@@ -4,7 +4,7 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 
 namespace kivu::library {
 

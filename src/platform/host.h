@@ -1,12 +1,18 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
+#include "platform/beeper.h"
 #include "platform/clock.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "platform/event_pump.h"
 #include "platform/file_system.h"
+#include "platform/instance.h"
+#include "platform/locale.h"
 #include "platform/processes.h"
 #include "platform/program_starter.h"
+#include "platform/user_store.h"
 
 namespace kivu::platform {
 
@@ -28,5 +34,24 @@ struct Host {
     std::string programName;       // base name of the program file, without ".exe"
     std::string commandLine;       // the user's arguments joined by blanks
 };
+
+// What a host's parts are called is what the members of Host are called.
+template <typename Parts>
+Host ServicesOf(Parts& parts, std::string programDirectory, std::string programName,
+                std::string commandLine) {
+    return {.files = parts.files,
+            .processes = parts.processes,
+            .starter = parts.starter,
+            .clock = parts.clock,
+            .dialogs = parts.dialogs,
+            .beeper = parts.beeper,
+            .events = parts.events,
+            .locale = parts.locale,
+            .userStore = parts.userStore,
+            .instance = parts.instance,
+            .programDirectory = std::move(programDirectory),
+            .programName = std::move(programName),
+            .commandLine = std::move(commandLine)};
+}
 
 }  // namespace kivu::platform

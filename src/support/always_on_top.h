@@ -2,7 +2,7 @@
 
 #include "forms/controls.h"
 #include "forms/form.h"
-#include "platform/desktop.h"
+#include "platform/user_store.h"
 
 namespace kivu::support {
 

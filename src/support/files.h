@@ -4,9 +4,10 @@
 #include <optional>
 #include <string>
 
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/program_starter.h"
+#include "platform/user_store.h"
 
 namespace kivu::support {
 

@@ -2,8 +2,8 @@
 
 #include "core/form1.h"
 #include "core/hook.h"
-#include "core/ini.h"
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
+#include "profile/ini.h"
 
 namespace kivu::ui {
 
@@ -16,7 +16,7 @@ class WindowSurface {
         core::Hook<void()> OpenProjectPage;
     };
 
-    WindowSurface(core::Form1& form, core::Ini& ini, platform::Dialogs& dialogs)
+    WindowSurface(core::Form1& form, profile::Ini& ini, platform::Dialogs& dialogs)
         : form(form), ini(ini), dialogs(dialogs) {}
 
     void MyCaptionLabel_DblClick();
@@ -31,7 +31,7 @@ class WindowSurface {
 
  private:
     core::Form1& form;
-    core::Ini& ini;
+    profile::Ini& ini;
     platform::Dialogs& dialogs;
 };
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "platform/desktop.h"
+#include "platform/dialogs.h"
 
 namespace kivu::wiring {
 

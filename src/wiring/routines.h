@@ -5,7 +5,6 @@
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
 #include "core/form1.h"
-#include "core/ini.h"
 #include "core/settings_loader.h"
 #include "core/shut_down.h"
 #include "core/start_up.h"
@@ -32,6 +31,7 @@
 #include "library/marked_game.h"
 #include "library/scan_source.h"
 #include "platform/host.h"
+#include "profile/ini.h"
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/hints.h"
@@ -62,7 +62,7 @@ struct Launcher::Routines {
     library::ScanSource scanSource;
     core::Form1 form;
 
-    core::Ini ini;
+    profile::Ini ini;
     core::EventPacer pacer;
     core::BusyState busy;
     support::AlwaysOnTop alwaysOnTop;

@@ -39,7 +39,7 @@ struct SettingsLoaderTest : ::testing::Test {
     kivu::testing::MemoryFileSystem files;
     kivu::testing::ScriptedHost host{files};
     Form1 form{forms::Toolkit{}};
-    Ini ini{files};
+    profile::Ini ini{files};
     SettingsLoader loader{form, ini, files, host.dialogs};
     std::vector<bool> enabled;
 };

@@ -4,7 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "host_files.h"
-#include "platform/temporary_directory.h"
+#include "testing/temporary_directory.h"
 
 namespace kivu::driver {
 namespace {

@@ -7,13 +7,13 @@
 #include <vector>
 
 #include "core/busy_state.h"
-#include "core/ini.h"
 #include "favourites/favoriten.h"
 #include "favourites/favoriten_events.h"
 #include "favourites/global_events.h"
 #include "favourites/global_favoriten.h"
 #include "favourites/repair_favoriten.h"
 #include "forms/user_input.h"
+#include "profile/ini.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
 
@@ -74,7 +74,7 @@ struct Room {
 
     testing::ScriptedHost host;
     core::Form1 form{forms::Toolkit{}};
-    core::Ini ini;
+    profile::Ini ini;
     core::EventPacer pacer;
     core::BusyState busy;
     Favoriten store;

@@ -8,8 +8,8 @@
 #include "favourites_testing.h"
 #include "host_files.h"
 #include "killed_process.h"
-#include "platform/temporary_directory.h"
 #include "testing/faulty_file_system.h"
+#include "testing/temporary_directory.h"
 
 namespace kivu::favourites {
 namespace {

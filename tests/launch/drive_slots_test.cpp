@@ -74,7 +74,7 @@ struct Drives : ::testing::Test {
     kivu::testing::MemoryFileSystem files;
     kivu::testing::ScriptedBeeper beeper;
     core::Form1 form{forms::Toolkit{}};
-    core::Ini ini{files};
+    profile::Ini ini{files};
     DriveSlots drives{form, ini, beeper};
     int offers = 0;
 };

@@ -62,7 +62,7 @@ struct LaunchRoom {
     LaunchDisk files;
     kivu::testing::ScriptedHost host{files};
     core::Form1 form{forms::Toolkit{}};
-    core::Ini ini{files};
+    profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
     GameLaunch launch{

@@ -2,10 +2,10 @@
 
 #include "core/busy_state.h"
 #include "core/form1.h"
-#include "core/ini.h"
 #include "library/file_scan_recursive.h"
 #include "library/game_lists.h"
 #include "library/scan_source.h"
+#include "profile/ini.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
 
@@ -44,7 +44,7 @@ struct Aliases : ::testing::Test {
     kivu::testing::ScriptedHost host{files};
     ScanSource source{files};
     core::Form1 form{forms::Toolkit{nullptr, nullptr, &source}};
-    core::Ini ini{files};
+    profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
     FileScanRecursive scanner{form, source, host.beeper, pacer};

@@ -29,7 +29,7 @@ struct CacheProgress : ::testing::Test {
     kivu::testing::ScriptedHost host{files};
     ScanSource source{files};
     core::Form1 form{forms::Toolkit{nullptr, nullptr, &source}};
-    core::Ini ini{files};
+    profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
     FileScanRecursive scanner{form, source, host.beeper, pacer};

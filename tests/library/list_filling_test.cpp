@@ -4,10 +4,10 @@
 
 #include "core/busy_state.h"
 #include "core/form1.h"
-#include "core/ini.h"
 #include "library/file_scan_recursive.h"
 #include "library/game_lists.h"
 #include "library/scan_source.h"
+#include "profile/ini.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
 #include "text/collation.h"
@@ -32,7 +32,7 @@ struct ListFilling : ::testing::Test {
     TextOrder order;
     ScanSource source{files};
     core::Form1 form{forms::Toolkit{nullptr, &order, &source}};
-    core::Ini ini{files};
+    profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
     FileScanRecursive scanner{form, source, host.beeper, pacer};

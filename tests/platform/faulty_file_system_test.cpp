@@ -1,7 +1,7 @@
 #include "testing/faulty_file_system.h"
 
 #include "host_files.h"
-#include "platform/temporary_directory.h"
+#include "testing/temporary_directory.h"
 
 namespace kivu::testing {
 namespace {

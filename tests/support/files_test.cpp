@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 #include <map>
 
-#include "platform/environment_variable.h"
+#include "testing/environment_variable.h"
 #include "testing/memory_file_system.h"
 
 namespace kivu::support {

@@ -6,9 +6,9 @@
 #include <string_view>
 #include <vector>
 
-#include "core/ini_document.h"
-#include "core/ini_scan.h"
-#include "core/ini_utf16.h"
+#include "profile/ini_document.h"
+#include "profile/ini_scan.h"
+#include "profile/ini_utf16.h"
 
 namespace kivu::testing {
 
@@ -16,10 +16,10 @@ namespace kivu::testing {
 // gives the empty text, or what is wrong.
 class IniChecks {
  public:
-    explicit IniChecks(std::string bytes, core::IniCoding hostCoding = {})
+    explicit IniChecks(std::string bytes, profile::IniCoding hostCoding = {})
         : bytes(std::move(bytes)), hostCoding(std::move(hostCoding)), coding(this->hostCoding) {
-        if (core::ByteOrderMarkLength(Plain(this->bytes)) > 0) {
-            coding = core::CodingOfMarkedFile(this->hostCoding);
+        if (profile::ByteOrderMarkLength(Plain(this->bytes)) > 0) {
+            coding = profile::CodingOfMarkedFile(this->hostCoding);
         }
     }
 
@@ -27,12 +27,12 @@ class IniChecks {
 
     // Sets the value in the bytes and checks what that does, and does not do.
     std::string Set(std::string_view section, std::string_view key, std::string_view value) {
-        core::IniDocument profile(bytes, hostCoding);
+        profile::IniDocument profile(bytes, hostCoding);
         if (profile.Bytes() != bytes) return "parsing alone changes bytes";
         if (profile.Value(section, key) != Read(bytes, section, key)) return "two ways to read";
         const bool changed = profile.Set(section, key, value);
         const std::string after = profile.Bytes();
-        if (core::SetIniValue(bytes, section, key, value, hostCoding).value_or(bytes) != after) {
+        if (profile::SetIniValue(bytes, section, key, value, hostCoding).value_or(bytes) != after) {
             return "two ways to write";
         }
         if (changed == (after == bytes)) return "a change that is none, or an unsaid one";
@@ -54,28 +54,28 @@ class IniChecks {
     };
 
     std::string Read(std::string_view from, std::string_view section, std::string_view key) const {
-        return core::FindIniValue(from, section, key, hostCoding);
+        return profile::FindIniValue(from, section, key, hostCoding);
     }
 
     bool IsPossible(std::string_view section, std::string_view key) const {
-        return core::IniName::Section(section, coding).IsValid() &&
-               core::IniName::Key(key, coding).IsValid();
+        return profile::IniName::Section(section, coding).IsValid() &&
+               profile::IniName::Key(key, coding).IsValid();
     }
 
     std::string Expected(std::string_view value) const {
-        return core::DecodeIni(
-            coding, core::ReadableValue(core::WithinLine(core::EncodeIni(coding, value))));
+        return profile::DecodeIni(
+            coding, profile::ReadableValue(profile::WithinLine(profile::EncodeIni(coding, value))));
     }
 
     // 8-bit, whatever the file is.
     static std::string Plain(const std::string& file) {
-        return core::IsMarkedUtf16(file) ? core::Utf16ToUtf8(file) : file;
+        return profile::IsMarkedUtf16(file) ? profile::Utf16ToUtf8(file) : file;
     }
 
     static std::vector<std::string_view> LinesOf(std::string_view from) {
         std::vector<std::string_view> lines;
-        core::IniLineReader reader(from);
-        for (core::IniLine line; reader.Next(line);) {
+        profile::IniLineReader reader(from);
+        for (profile::IniLine line; reader.Next(line);) {
             lines.push_back(from.substr(line.begin, line.next - line.begin));
         }
         return lines;
@@ -109,13 +109,13 @@ class IniChecks {
     std::vector<Name> NamesIn(std::string_view from) const {
         std::vector<Name> names;
         std::string section;
-        core::IniLineReader reader(from, core::ByteOrderMarkLength(from));
-        for (core::IniLine line; reader.Next(line) && names.size() < 40;) {
+        profile::IniLineReader reader(from, profile::ByteOrderMarkLength(from));
+        for (profile::IniLine line; reader.Next(line) && names.size() < 40;) {
             const auto content = from.substr(line.begin, line.end - line.begin);
-            if (const auto name = core::SectionNameOf(content)) section = *name;
-            if (const auto entry = core::EntryOf(content)) {
+            if (const auto name = profile::SectionNameOf(content)) section = *name;
+            if (const auto entry = profile::EntryOf(content)) {
                 names.push_back(
-                    {core::DecodeIni(coding, section), core::DecodeIni(coding, entry->key)});
+                    {profile::DecodeIni(coding, section), profile::DecodeIni(coding, entry->key)});
             }
         }
         return names;
@@ -123,14 +123,14 @@ class IniChecks {
 
     std::string CheckOthers(std::string_view after, std::string_view section,
                             std::string_view key) const {
-        const auto same = [&](const core::IniName& a, const core::IniName& b) {
+        const auto same = [&](const profile::IniName& a, const profile::IniName& b) {
             return a.Folded() == b.Folded();
         };
-        const auto setSection = core::IniName::Section(section, coding);
-        const auto setKey = core::IniName::Key(key, coding);
+        const auto setSection = profile::IniName::Section(section, coding);
+        const auto setKey = profile::IniName::Key(key, coding);
         for (const Name& name : NamesIn(Plain(bytes))) {
-            if (same(core::IniName::Section(name.section, coding), setSection) &&
-                same(core::IniName::Key(name.key, coding), setKey)) {
+            if (same(profile::IniName::Section(name.section, coding), setSection) &&
+                same(profile::IniName::Key(name.key, coding), setKey)) {
                 continue;
             }
             if (Read(bytes, name.section, name.key) != Read(after, name.section, name.key)) {
@@ -141,8 +141,8 @@ class IniChecks {
     }
 
     std::string bytes;
-    core::IniCoding hostCoding;
-    core::IniCoding coding;  // of this file, which may have a byte-order mark
+    profile::IniCoding hostCoding;
+    profile::IniCoding coding;  // of this file, which may have a byte-order mark
 };
 
 }  // namespace kivu::testing

@@ -279,19 +279,8 @@ struct ScriptedHost {
 
     platform::Host Services(std::string programDirectory, std::string programName = "Kivu",
                             std::string commandLine = {}) {
-        return {files,
-                processes,
-                starter,
-                clock,
-                dialogs,
-                beeper,
-                events,
-                locale,
-                userStore,
-                instance,
-                std::move(programDirectory),
-                std::move(programName),
-                std::move(commandLine)};
+        return platform::ServicesOf(*this, std::move(programDirectory), std::move(programName),
+                                    std::move(commandLine));
     }
 
     platform::FileSystem& files;

@@ -12,8 +12,8 @@ namespace kivu::tree {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> hosts{"src/platform/linux", "src/platform/windows",
-                                                "src/platform/qt"};
+constexpr std::array<std::string_view, 3> hosts{"src/hosts/linux", "src/hosts/windows",
+                                                "src/hosts/qt"};
 
 bool IsStandardHeader(std::string_view name) {
     static const std::set<std::string_view> headers{"algorithm",
@@ -189,7 +189,7 @@ std::vector<Include> Includes(const SourceTree& tree, Wanted wanted) {
     return all;
 }
 
-// The folder of src that counts as one: a subsystem, or one host below platform.
+// The folder of src that counts as one: a room, or one host.
 std::string FolderNode(std::string_view path) {
     for (const std::string_view host : hosts) {
         if (IsBelow(path, host)) return std::string(host.substr(4));
@@ -237,8 +237,12 @@ Findings ForbiddenNeighbours(const SourceTree& tree) {
     static const std::map<std::string, std::set<std::string>> allowed{
         {"forms", {"forms"}},
         {"png", {"png"}},
+        {"text", {"text"}},
+        {"platform", {"platform", "text"}},
         {"view", {"view", "forms"}},
-        {"platform", {"platform", "text"}}};
+        {"hosts/linux", {"hosts/linux", "text", "platform"}},
+        {"hosts/windows", {"hosts/windows", "text", "platform"}},
+        {"hosts/qt", {"hosts/qt", "text", "platform"}}};
     Findings findings;
     for (const Include& include :
          Includes(tree, [](std::string_view path) { return IsBelow(path, "src"); })) {
@@ -321,6 +325,55 @@ Findings Circles(const SourceTree& tree) {
             reported.insert(way[i]);
         }
         findings.push_back(circle + proofs);
+    }
+    return findings;
+}
+
+std::vector<std::string> ListedRooms(const SourceTree& tree) {
+    constexpr std::string_view start = "    src/";
+    std::vector<std::string> rooms;
+    for (const SourceFile& file : tree) {
+        if (file.path != "docs/tree.md") continue;
+        for (const std::string_view line : LinesOf(file)) {
+            if (!line.starts_with(start)) continue;
+            const std::string_view rest = line.substr(start.size());
+            rooms.emplace_back(rest.substr(0, rest.find('/')));
+        }
+    }
+    return rooms;
+}
+
+namespace {
+
+std::string RoomOf(std::string_view path) {
+    const std::string node = FolderNode(path);
+    return node.substr(0, node.find('/'));
+}
+
+}  // namespace
+
+Findings OutOfOrder(const SourceTree& tree) {
+    std::map<std::string, std::size_t> places;
+    for (const std::string& room : ListedRooms(tree))
+        places.try_emplace(room, places.size());
+    Findings findings;
+    const auto inSource = [](std::string_view path) { return IsBelow(path, "src"); };
+    std::set<std::string> present;
+    for (const SourceFile& file : tree) {
+        if (inSource(file.path) && IsCode(file.path)) present.insert(RoomOf(file.path));
+    }
+    for (const auto& [room, place] : places) {
+        if (!present.contains(room)) findings.push_back("docs/tree.md lists src/" + room + "/");
+    }
+    for (const std::string& room : present) {
+        if (!places.contains(room)) findings.push_back("docs/tree.md lacks src/" + room + "/");
+    }
+    for (const Include& include : Includes(tree, inSource)) {
+        if (!inSource(include.target)) continue;
+        const auto from = places.find(RoomOf(include.file->path));
+        const auto to = places.find(RoomOf(include.target));
+        if (from == places.end() || to == places.end() || to->second <= from->second) continue;
+        findings.push_back(include.At(from->first + " stands above " + include.target));
     }
     return findings;
 }

@@ -44,10 +44,9 @@ TEST(ForeignIncludesTest, LogicMustNotIncludeTests) {
 
 TEST(ForeignIncludesTest, ViewAppAndHostsMayAndTheInterfacesMayNot) {
     const std::string text = "#include <QString>\n#include <unistd.h>\n";
-    const SourceTree tree{
-        File("src/app/main.cpp", text),           File("src/platform/clock.h", text),
-        File("src/platform/linux/a.cpp", text),   File("src/platform/qt/a.cpp", text),
-        File("src/platform/windows/a.cpp", text), File("src/view/a.cpp", text)};
+    const SourceTree tree{File("src/app/main.cpp", text),        File("src/platform/clock.h", text),
+                          File("src/hosts/linux/a.cpp", text),   File("src/hosts/qt/a.cpp", text),
+                          File("src/hosts/windows/a.cpp", text), File("src/view/a.cpp", text)};
     EXPECT_THAT(ForeignIncludes(tree), ElementsAre(HasSubstr("src/platform/clock.h:1: "),
                                                    HasSubstr("src/platform/clock.h:2: ")));
 }
@@ -67,17 +66,22 @@ TEST(ForeignIncludesTest, TestsMayIncludeWhatTheyNeed) {
 TEST(ForbiddenNeighboursTest, EachFolderKeepsToItsNeighbours) {
     const SourceTree tree{
         File("src/core/c.h", ""),
-        File("src/forms/a.h", "#include \"text/s.h\"\n"),
+        File("src/forms/a.h", "#include \"text/t.h\"\n"),
         File("src/forms/b.h", "#include \"forms/a.h\"\n#include \"a.h\"\n"),
-        File("src/platform/p.h", "#include \"text/s.h\"\n#include \"core/c.h\"\n"),
+        File("src/hosts/linux/l.h", "#include \"text/t.h\"\n#include \"platform/p.h\"\n"),
+        File("src/hosts/qt/q.h", "#include \"hosts/linux/l.h\"\n#include \"core/c.h\"\n"),
+        File("src/platform/p.h", "#include \"text/t.h\"\n#include \"core/c.h\"\n"),
         File("src/png/p.h", "#include \"forms/a.h\"\n"),
-        File("src/text/s.h", ""),
+        File("src/text/t.h", "#include \"platform/p.h\"\n"),
         File("src/view/v.cpp", "#include \"forms/a.h\"\n#include \"core/c.h\"\n"),
         File("src/view/w.cpp", "#include \"png/p.h\"\n#include \"platform/p.h\"\n")};
     EXPECT_THAT(ForbiddenNeighbours(tree),
-                ElementsAre("src/forms/a.h:1: forms must not include src/text/s.h",
+                ElementsAre("src/forms/a.h:1: forms must not include src/text/t.h",
+                            "src/hosts/qt/q.h:1: hosts/qt must not include src/hosts/linux/l.h",
+                            "src/hosts/qt/q.h:2: hosts/qt must not include src/core/c.h",
                             "src/platform/p.h:2: platform must not include src/core/c.h",
                             "src/png/p.h:1: png must not include src/forms/a.h",
+                            "src/text/t.h:1: text must not include src/platform/p.h",
                             "src/view/v.cpp:2: view must not include src/core/c.h",
                             "src/view/w.cpp:1: view must not include src/png/p.h",
                             "src/view/w.cpp:2: view must not include src/platform/p.h"));
@@ -95,25 +99,22 @@ TEST(ForbiddenNeighboursTest, WaysAroundAreSeen) {
 }
 
 TEST(PickedHostsTest, OnlyAppTestsAndBenchPickAHost) {
-    const std::string linuxHost = "#include \"platform/linux/l.h\"\n";
-    const SourceTree tree{File("bench/b.cpp", linuxHost),
-                          File("src/app/main.cpp", linuxHost),
-                          File("src/core/c.cpp", linuxHost),
-                          File("src/platform/clock.h", linuxHost),
-                          File("src/platform/linux/a.cpp", linuxHost),
-                          File("src/platform/linux/l.h", ""),
-                          File("src/platform/qt/q.cpp", linuxHost),
-                          File("tests/core/c_test.cpp", linuxHost)};
+    const std::string linuxHost = "#include \"hosts/linux/l.h\"\n";
+    const SourceTree tree{
+        File("bench/b.cpp", linuxHost),           File("src/app/main.cpp", linuxHost),
+        File("src/core/c.cpp", linuxHost),        File("src/platform/clock.h", linuxHost),
+        File("src/hosts/linux/a.cpp", linuxHost), File("src/hosts/linux/l.h", ""),
+        File("src/hosts/qt/q.cpp", linuxHost),    File("tests/core/c_test.cpp", linuxHost)};
     EXPECT_THAT(PickedHosts(tree),
                 ElementsAre(HasSubstr("src/core/c.cpp:1: "), HasSubstr("src/platform/clock.h:1: "),
-                            HasSubstr("src/platform/qt/q.cpp:1: ")));
+                            HasSubstr("src/hosts/qt/q.cpp:1: ")));
 }
 
 TEST(CirclesTest, ArrowsThatGoOneWayAreNone) {
     const SourceTree tree{
         File("src/core/c.h", "#include \"platform/p.h\"\n#include \"core/d.h\"\n"),
         File("src/core/d.h", "#include \"core/c.h\"\n"),
-        File("src/platform/linux/l.h", "#include \"platform/p.h\"\n"),
+        File("src/hosts/linux/l.h", "#include \"platform/p.h\"\n"),
         File("src/platform/p.h", "#include \"text/s.h\"\n"), File("src/text/s.h", "")};
     EXPECT_THAT(Circles(tree), IsEmpty());
 }
@@ -138,6 +139,35 @@ TEST(CirclesTest, EveryCircleIsFound) {
                 ElementsAre(HasSubstr("circle: a -> b -> a"), HasSubstr("circle: c -> d -> c")));
 }
 
+SourceFile Guide(const std::string& rooms) {
+    return File("docs/tree.md", "# The source tree\n\n" + rooms + "\nText.\n");
+}
+
+TEST(OutOfOrderTest, IncludesGoUpwardsInTheGuidesList) {
+    const SourceTree tree{Guide("    src/text/   text\n    src/core/   window\n"),
+                          File("src/core/c.h", "#include \"text/t.h\"\n#include \"core/d.h\"\n"),
+                          File("src/core/d.h", ""), File("src/text/t.h", "#include <vector>\n")};
+    EXPECT_THAT(ListedRooms(tree), ElementsAre("text", "core"));
+    EXPECT_THAT(OutOfOrder(tree), IsEmpty());
+}
+
+TEST(OutOfOrderTest, AnIncludeDownwardsIsFound) {
+    const SourceTree tree{
+        Guide("    src/text/   text\n    src/core/   window\n    src/hosts/  hosts\n"),
+        File("src/core/c.h", ""), File("src/hosts/linux/l.h", "#include \"core/c.h\"\n"),
+        File("src/text/t.h", "\n#include \"core/c.h\"\n#include \"hosts/linux/l.h\"\n")};
+    EXPECT_THAT(OutOfOrder(tree),
+                ElementsAre("src/text/t.h:2: text stands above src/core/c.h",
+                            "src/text/t.h:3: text stands above src/hosts/linux/l.h"));
+}
+
+TEST(OutOfOrderTest, ListAndFoldersAreTheSame) {
+    const SourceTree tree{Guide("    src/text/   text\n    src/gone/   nothing\n"),
+                          File("src/core/c.h", ""), File("src/text/t.h", "")};
+    EXPECT_THAT(OutOfOrder(tree),
+                ElementsAre("docs/tree.md lists src/gone/", "docs/tree.md lacks src/core/"));
+}
+
 struct ThisTree : testing::Test {
     static void SetUpTestSuite() { tree = ReadTree(KIVU_SOURCE_DIR); }
     static inline SourceTree tree;
@@ -159,6 +189,10 @@ TEST_F(ThisTree, FoldersKeepToTheirNeighbours) {
 
 TEST_F(ThisTree, OnlyAppTestsAndBenchPickAHost) {
     EXPECT_EQ(Joined(PickedHosts(tree)), "");
+}
+
+TEST_F(ThisTree, RoomsIncludeOnlyThoseAboveThem) {
+    EXPECT_EQ(Joined(OutOfOrder(tree)), "");
 }
 
 TEST_F(ThisTree, IncludesBetweenFoldersFormNoCircle) {

@@ -7,9 +7,9 @@
 #include <QTimer>
 #include <gtest/gtest.h>
 
-#include "platform/qt/dialogs_qt.h"
-#include "platform/qt/event_pump_qt.h"
-#include "platform/qt/pumping_clock.h"
+#include "hosts/qt/dialogs_qt.h"
+#include "hosts/qt/event_pump_qt.h"
+#include "hosts/qt/pumping_clock.h"
 
 namespace kivu::tests {
 namespace {

@@ -22,7 +22,7 @@ std::string_view NextPart(std::string_view& input) {
     return part;
 }
 
-kivu::core::IniCoding CodingOf(unsigned char choice) {
+kivu::profile::IniCoding CodingOf(unsigned char choice) {
     using namespace kivu::text;
     if (choice % 3 == 0) return {};
     if (choice % 3 == 1) {
@@ -48,10 +48,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::string_view input(reinterpret_cast<const char*>(data + 1), size - 1);
     const auto coding = CodingOf(data[0]);
     std::string bytes(NextPart(input));
-    if (data[0] >= 0xC0) bytes = "\xFF\xFE" + kivu::core::Utf8ToUtf16(bytes);
+    if (data[0] >= 0xC0) bytes = "\xFF\xFE" + kivu::profile::Utf8ToUtf16(bytes);
     kivu::testing::IniChecks checks(bytes, coding);
     Report(checks.Set("Settings", "Fontsize", "16"));
-    kivu::core::IniDocument many(bytes, coding);
+    kivu::profile::IniDocument many(bytes, coding);
     many.Set("Settings", "Fontsize", "16");
     while (!input.empty()) {
         const std::string_view section = NextPart(input);

@@ -1,0 +1,262 @@
+#include "hosts/linux/file_system_linux.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <dirent.h>
+#include <fcntl.h>
+#include <filesystem>
+#include <new>
+#include <sys/stat.h>
+
+#include "hosts/linux/file_descriptor.h"
+#include "hosts/linux/file_writer.h"
+#include "text/text.h"
+
+namespace kivu::hosts {
+
+namespace {
+
+std::error_code LastError() {
+    return {errno, std::generic_category()};
+}
+
+bool Usable(const std::string& path) {
+    return !path.empty() && path.find('\0') == std::string::npos;
+}
+
+std::error_code Unusable() {
+    return std::make_error_code(std::errc::no_such_file_or_directory);
+}
+
+bool IsQuoted(std::string_view text) {
+    return text.size() >= 2 && text.front() == '"' && text.back() == '"';
+}
+
+std::optional<struct stat> Status(const std::string& path) {
+    struct stat status {};
+    if (!Usable(path) || ::stat(path.c_str(), &status) != 0) return std::nullopt;
+    return status;
+}
+
+enum class Kind { File, Directory, Other };
+
+Kind KindOf(mode_t mode) {
+    if (S_ISREG(mode)) return Kind::File;
+    return S_ISDIR(mode) ? Kind::Directory : Kind::Other;
+}
+
+Kind KindOf(int directory, const dirent& entry) {
+    switch (entry.d_type) {
+        case DT_REG:
+            return Kind::File;
+        case DT_DIR:
+            return Kind::Directory;
+        case DT_LNK:
+        case DT_UNKNOWN: {
+            struct stat status {};
+            if (::fstatat(directory, entry.d_name, &status, 0) != 0) return Kind::Other;
+            return KindOf(status.st_mode);
+        }
+        default:
+            return Kind::Other;
+    }
+}
+
+bool IsShown(std::string_view name) {
+    // Lists of files are kept one name a line.
+    return name.front() != '.' && name.find('\n') == std::string_view::npos &&
+           name.find('\r') == std::string_view::npos;
+}
+
+class DirectoryStream {
+ public:
+    explicit DirectoryStream(const std::string& path) : stream(::opendir(path.c_str())) {}
+    ~DirectoryStream() {
+        if (stream != nullptr) ::closedir(stream);
+    }
+    DirectoryStream(const DirectoryStream&) = delete;
+    DirectoryStream& operator=(const DirectoryStream&) = delete;
+
+    explicit operator bool() const { return stream != nullptr; }
+    int Descriptor() const { return ::dirfd(stream); }
+    // Null at the end; errno then tells an end from a failure.
+    const dirent* Next() {
+        errno = 0;
+        return ::readdir(stream);
+    }
+
+ private:
+    DIR* stream;
+};
+
+// The first `size` bytes and whatever has been added behind them since the file was looked at.
+std::optional<std::string> ReadAll(int descriptor, std::size_t size) {
+    std::string bytes(size + 1, '\0');
+    std::size_t filled = 0;
+    for (;;) {
+        const ssize_t got = ::read(descriptor, bytes.data() + filled, bytes.size() - filled);
+        if (got < 0) {
+            if (errno == EINTR) continue;
+            return std::nullopt;
+        }
+        if (got == 0) break;
+        filled += static_cast<std::size_t>(got);
+        if (filled > LinuxFileSystem::maxFileSize) return std::nullopt;
+        if (filled == bytes.size()) bytes.resize(bytes.size() * 2 + 4096);
+    }
+    bytes.resize(filled);
+    return bytes;
+}
+
+}  // namespace
+
+std::optional<std::vector<platform::FileSystem::Entry>> LinuxFileSystem::ListDirectory(
+    const std::string& path) const {
+    if (!Usable(path)) return std::nullopt;
+    DirectoryStream stream(path);
+    if (!stream) return std::nullopt;
+
+    std::vector<Entry> entries;
+    entries.reserve(128);
+    while (const dirent* entry = stream.Next()) {
+        const std::string_view name = entry->d_name;
+        if (!IsShown(name)) continue;
+        const Kind kind = KindOf(stream.Descriptor(), *entry);
+        if (kind != Kind::Other) entries.push_back({std::string(name), kind == Kind::Directory});
+    }
+    if (errno != 0) return std::nullopt;
+    return entries;
+}
+
+bool LinuxFileSystem::FileExists(const std::string& path) const {
+    if (IsQuoted(path)) return false;
+    const auto status = Status(path);
+    return status && S_ISREG(status->st_mode);
+}
+
+bool LinuxFileSystem::IsDirectory(const std::string& path) const {
+    const auto status = Status(path);
+    return status && S_ISDIR(status->st_mode);
+}
+
+std::optional<platform::FileSystem::Identity> LinuxFileSystem::IdentityOf(
+    const std::string& path) const {
+    const auto status = Status(path);
+    if (!status) return std::nullopt;
+    return Identity{status->st_dev, status->st_ino};
+}
+
+bool LinuxFileSystem::IsLink(const std::string& path) const {
+    struct stat status {};
+    return Usable(path) && ::lstat(path.c_str(), &status) == 0 && S_ISLNK(status.st_mode);
+}
+
+std::string LinuxFileSystem::ResolvedPath(const std::string& path) const {
+    if (!Usable(path)) return path;
+    char* resolved = ::realpath(path.c_str(), nullptr);
+    std::string answer = resolved ? resolved : path;
+    std::free(resolved);
+    return answer;
+}
+
+std::optional<std::string> LinuxFileSystem::ReadFile(const std::string& path) const {
+    if (!Usable(path)) return std::nullopt;
+    // Without O_NONBLOCK, opening a pipe would wait for somebody who writes to it.
+    const FileDescriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat status {};
+    if (!file || ::fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
+    const auto size = static_cast<std::size_t>(status.st_size);
+    if (size > maxFileSize) return std::nullopt;
+    try {
+        return ReadAll(file.Get(), size);
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
+}
+
+std::error_code LinuxFileSystem::WriteFile(const std::string& path, std::string_view bytes) {
+    if (!Usable(path)) return Unusable();
+    return ReplaceFile(path, bytes);
+}
+
+std::error_code LinuxFileSystem::AppendFile(const std::string& path, std::string_view bytes) {
+    if (!Usable(path)) return Unusable();
+    return AppendToFile(path, bytes);
+}
+
+std::error_code LinuxFileSystem::DeleteFile(const std::string& path) {
+    if (!Usable(path)) return Unusable();
+    if (::unlink(path.c_str()) != 0) return LastError();
+    return {};
+}
+
+std::error_code LinuxFileSystem::MoveFile(const std::string& from, const std::string& to) {
+    if (!Usable(from) || !Usable(to)) return Unusable();
+    if (::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0) return {};
+    const bool otherDisk = errno == EXDEV;
+    // Network and FUSE file systems may not know the flag: there a look in front has to do.
+    if (!otherDisk && errno != EINVAL && errno != ENOSYS) return LastError();
+    struct stat status {};
+    if (::lstat(to.c_str(), &status) == 0) return std::make_error_code(std::errc::file_exists);
+    if (!otherDisk)
+        return ::rename(from.c_str(), to.c_str()) == 0 ? std::error_code() : LastError();
+    // To another disk a file is copied; the source goes only when the copy is whole.
+    std::error_code failure;
+    std::filesystem::copy_file(from, to, std::filesystem::copy_options::none, failure);
+    if (failure) {
+        static_cast<void>(DeleteFile(to));
+        return failure;
+    }
+    return DeleteFile(from);
+}
+
+std::optional<std::int64_t> LinuxFileSystem::CreationTime(const std::string& path) const {
+    struct statx status {};
+    if (!Usable(path) ||
+        ::statx(AT_FDCWD, path.c_str(), 0, STATX_BTIME | STATX_MTIME, &status) != 0) {
+        return std::nullopt;
+    }
+    return (status.stx_mask & STATX_BTIME) != 0 ? status.stx_btime.tv_sec : status.stx_mtime.tv_sec;
+}
+
+std::error_code LinuxFileSystem::MakeDirectory(const std::string& path) {
+    if (!Usable(path)) return Unusable();
+    if (::mkdir(path.c_str(), 0777) == 0) return {};
+    const std::error_code failure = LastError();
+    if (failure == std::errc::file_exists && IsDirectory(path)) return {};
+    return failure;
+}
+
+std::string LinuxFileSystem::CurrentDirectory() const {
+    char* found = ::getcwd(nullptr, 0);
+    if (found == nullptr) return {};
+    std::string path = found;
+    std::free(found);
+    // The kernel writes "(unreachable)" in front of a directory outside the process's root.
+    return path.starts_with('/') ? path : std::string();
+}
+
+std::error_code LinuxFileSystem::ChangeDirectory(const std::string& path) {
+    if (!Usable(path)) return Unusable();
+    if (::chdir(path.c_str()) != 0) return LastError();
+    return {};
+}
+
+std::string LinuxFileSystem::ShortPathName(const std::string& path) const {
+    const std::string bare = IsQuoted(path) ? path.substr(1, path.size() - 2) : path;
+    return Status(bare) ? bare : std::string();
+}
+
+std::string LinuxFileSystem::LongPathName(const std::string& path) const {
+    return ShortPathName(path);
+}
+
+std::string LinuxFileSystem::DecodeText(std::string_view bytes) const {
+    return text::IsUtf8(bytes) ? std::string(bytes) : text::FromWindows1252(bytes);
+}
+
+std::string LinuxFileSystem::EncodeText(std::string_view text) const {
+    return std::string(text);
+}
+
+}  // namespace kivu::hosts

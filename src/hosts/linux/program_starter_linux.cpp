@@ -1,0 +1,49 @@
+#include "hosts/linux/program_starter_linux.h"
+
+#include <utility>
+
+#include "hosts/linux/detached_process.h"
+#include "hosts/linux/start_words.h"
+
+namespace kivu::hosts {
+
+namespace {
+
+Detached Start(const DetachedProgram& program, bool wait) {
+    return wait ? RunDetached(program) : StartDetached(program);
+}
+
+}  // namespace
+
+std::error_code LinuxProgramStarter::Run(const platform::StartRequest& request) {
+    // Also when nothing starts: an earlier launch must not pass for this one.
+    if (request.watched) session.End();
+
+    DetachedProgram program;
+    if (const auto failure = ResolveStart(request, program)) return failure;
+    Detached started = Start(program, request.wait);
+    if (started.failure == std::errc::executable_format_error && LooksLikeScript(program.program)) {
+        program.words[0] = program.program;
+        program.words.insert(program.words.begin(), "sh");
+        program.program = "/bin/sh";
+        started = Start(program, request.wait);
+    }
+    if (started.failure) return started.failure;
+    if (request.watched && !request.wait) session.Begin(started.session);
+    return {};
+}
+
+std::string LinuxProgramStarter::FindInPath(const std::string& name) const {
+    return name.find('/') == std::string::npos ? FindProgram(name) : std::string();
+}
+
+std::error_code LinuxProgramStarter::Open(const std::string& addressOrPath) {
+    if (addressOrPath.empty()) return std::make_error_code(std::errc::invalid_argument);
+    platform::StartRequest request;
+    // A file name that begins with "-" is no option.
+    request.words = {"xdg-open",
+                     addressOrPath.starts_with('-') ? "./" + addressOrPath : addressOrPath};
+    return Run(request);
+}
+
+}  // namespace kivu::hosts

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "platform/beeper.h"
+
+namespace kivu::hosts {
+
+class QtBeeper : public platform::Beeper {
+ public:
+    void Beep() override;
+};
+
+}  // namespace kivu::hosts

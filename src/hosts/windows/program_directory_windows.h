@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string>
+
+namespace kivu::hosts {
+
+// Absolute path of the running program's file; empty if the system does not tell it.
+std::string ProgramFile();
+
+// Its base name without ".exe": "Kivu", "Kivu-1.4".
+std::string ProgramName(const std::string& programFile);
+
+// Where Config lies: the program file's directory, without a closing "\" but for that of a drive.
+std::string ProgramDirectory(const std::string& programFile);
+
+}  // namespace kivu::hosts
