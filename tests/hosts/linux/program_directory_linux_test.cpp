@@ -68,7 +68,7 @@ TEST_F(ProgramDirectoryLinux, WithoutAVariableTheDataLieBelowTheHomeDirectory) {
 TEST_F(ProgramDirectoryLinux, TheProgramFileIsTheRunningOne) {
     const std::string file = ProgramFile();
     EXPECT_TRUE(fs::path(file).is_absolute());
-    EXPECT_EQ(ProgramName(file), "kivu_test_platform");
+    EXPECT_EQ(ProgramName(file), "kivu_test_hosts_linux");
 }
 
 TEST_F(ProgramDirectoryLinux, TheProgramsNameLosesOnlyExe) {
