@@ -13,7 +13,7 @@ if [ ! -e "$library" ]; then
     echo "Building libpng $version with its SSE2 filters"
     work="$(mktemp -d)"
     trap 'rm -rf "$work"' EXIT
-    source="$(scripts/windows/fetch-source.sh libpng1.6 "$version" "$work/package")"
+    source="$(scripts/fetch-source.sh libpng1.6 "$version" "$work/package")"
     cmake -S "$source" -B "$work/build" -G Ninja "${options[@]}"
     ninja -C "$work/build"
     mkdir -p "${library%/*}"

@@ -43,7 +43,7 @@ build() {
   echo "Building $name $version for Windows"
   if [ ! -e "$work/$name/source" ]; then
     rm -rf "${work:?}/$name"
-    source="$(scripts/windows/fetch-source.sh "$name" "$version" "$work/$name")"
+    source="$(scripts/fetch-source.sh "$name" "$version" "$work/$name")"
     mv "$source" "$work/$name/source"
   fi
   step() {
