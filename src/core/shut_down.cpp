@@ -3,22 +3,29 @@
 namespace kivu::core {
 
 void ShutDown::ExitBtn_Click() {
-    const auto write = [&](const char* key, int value, const std::string& file) {
-        ini.WriteIniValue("Settings", key, std::to_string(value), file, true);
-    };
-    write("DrvWindowX", form.SettingsSubPicture.Left(), form.IniPath);
-    write("DrvWindowY", form.SettingsSubPicture.Top(), form.IniPath);
-    write("DrvWindowDocked", DrivesAreHome && DrivesAreHome() ? 1 : 0, form.IniPath);
-    write("WindowState", static_cast<int>(form.State()), form.BaseIniName);
+    Store(form.IniPath, {{"DrvWindowX", form.SettingsSubPicture.Left()},
+                         {"DrvWindowY", form.SettingsSubPicture.Top()},
+                         {"DrvWindowDocked", DrivesAreHome && DrivesAreHome() ? 1 : 0}});
+    Values window{{"WindowState", static_cast<int>(form.State())}};
     // A maximised or tiny window never replaces the last good geometry.
     if (form.State() == forms::WindowState::normal && form.Width() > 2000 && form.Height() > 1000) {
-        write("WindowX", form.Width(), form.BaseIniName);
-        write("WindowY", form.Height(), form.BaseIniName);
-        write("WindowTop", form.Top(), form.BaseIniName);
-        write("WindowLeft", form.Left(), form.BaseIniName);
+        window.insert(window.end(), {{"WindowX", form.Width()},
+                                     {"WindowY", form.Height()},
+                                     {"WindowTop", form.Top()},
+                                     {"WindowLeft", form.Left()}});
     }
+    Store(form.BaseIniName, window);
     form.Ended = true;
     EndProgram();
+}
+
+// Together: each write puts the whole file anew and waits for the disk.
+void ShutDown::Store(const std::string& file, const Values& values) {
+    std::optional<IniDocument> profile = ini.LoadProfile(file);
+    if (!profile) return;
+    for (const auto& [key, value] : values)
+        profile->Set("Settings", key, std::to_string(value));
+    ini.StoreProfile(*profile, file, true);
 }
 
 }  // namespace kivu::core

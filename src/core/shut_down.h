@@ -1,5 +1,9 @@
 #pragma once
 
+#include <string>
+#include <utility>
+#include <vector>
+
 #include "core/form1.h"
 #include "core/hook.h"
 #include "profile/ini.h"
@@ -18,6 +22,9 @@ class ShutDown {
     Hook<void()> EndProgram;
 
  private:
+    using Values = std::vector<std::pair<const char*, int>>;
+    void Store(const std::string& file, const Values& values);
+
     Form1& form;
     profile::Ini& ini;
 };
