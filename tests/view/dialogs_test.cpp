@@ -57,6 +57,26 @@ TEST(Dialogs, GiveTheCancellingAnswerWhenClosed) {
     EXPECT_EQ(dialogs.MessageBox("", "", Buttons::Ok, Icon::None), Answer::Ok);
 }
 
+TEST(Dialogs, HaveRoundCorners) {
+    QtDialogs dialogs(false);
+    QImage picture;
+    WhenShown("MessageBox", [&](QDialog& box) {
+        picture = box.grab().toImage();
+        Press(box, "Ok");
+    });
+    dialogs.MessageBox("Sure?", "Title", Buttons::Ok, Icon::None);
+    const int right = picture.width() - 1, bottom = picture.height() - 1;
+    for (const QPoint corner :
+         {QPoint(0, 0), QPoint(right, 0), QPoint(0, bottom), QPoint(right, bottom)}) {
+        EXPECT_EQ(picture.pixelColor(corner).alpha(), 0);
+        // Two pixels in from both edges a radius of twelve still leaves nothing.
+        const int x = corner.x() == 0 ? 2 : right - 2, y = corner.y() == 0 ? 2 : bottom - 2;
+        EXPECT_EQ(picture.pixelColor(x, y).alpha(), 0);
+    }
+    EXPECT_EQ(picture.pixelColor(right / 2, 2).alpha(), 255);
+    EXPECT_EQ(picture.pixelColor(2, bottom / 2).alpha(), 255);
+}
+
 TEST(Dialogs, TakeEnterForTheFirstButton) {
     QtDialogs dialogs(false);
     WhenShown("MessageBox", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
