@@ -4,6 +4,7 @@
 #include <QKeySequence>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStyleOption>
 
 #include "forms/form.h"
 #include "view/colors.h"
@@ -12,6 +13,18 @@
 namespace kivu::view {
 
 namespace {
+
+class PushButton : public QPushButton {
+ public:
+    using QPushButton::QPushButton;
+
+ protected:
+    // The toolkit's own lights up by mouse moves alone, and those go to the form.
+    void initStyleOption(QStyleOptionButton* option) const override {
+        QPushButton::initStyleOption(option);
+        option->state.setFlag(QStyle::State_MouseOver, underMouse() && isEnabled());
+    }
+};
 
 QAbstractButton* MakeValueButton(const forms::ValueButton& control, QWidget* parent) {
     if (control.GetKind() == forms::Kind::optionButton) {
@@ -45,7 +58,7 @@ const std::string* CaptionWithAccessKey(const forms::Control& control) {
 
 ButtonMirror::ButtonMirror(forms::CommandButton& control, QWidget* parent, MirrorHost& host)
     : Mirror(control, host) {
-    auto* push = new QPushButton(parent);
+    auto* push = new PushButton(parent);
     push->setAutoDefault(false);
     push->setCursor(Qt::PointingHandCursor);
     Take(push);

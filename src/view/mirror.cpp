@@ -1,5 +1,6 @@
 #include "view/mirror.h"
 
+#include <QCursor>
 #include <QPalette>
 #include <QTextDocument>
 
@@ -16,6 +17,14 @@ namespace {
 void DropFocusWithin(QWidget& widget) {
     QWidget* focus = widget.window()->focusWidget();
     if (focus && (focus == &widget || widget.isAncestorOf(focus))) focus->clearFocus();
+}
+
+// What has moved away from under a mouse that rests hears of it only when that moves.
+void LeaveRestingMouse(QWidget& widget) {
+    if (!widget.underMouse() || widget.rect().contains(widget.mapFromGlobal(QCursor::pos())))
+        return;
+    widget.setAttribute(Qt::WA_UnderMouse, false);
+    widget.update();
 }
 
 }  // namespace
@@ -58,6 +67,7 @@ void Mirror::Apply(forms::Aspect aspect) {
             break;
         case forms::Aspect::geometry:
             widget->setGeometry(PixelRect(control).marginsAdded(Overhang()));
+            LeaveRestingMouse(*widget);
             break;
         case forms::Aspect::font:
             widget->setFont(ToQt(control.GetFont()));

@@ -145,5 +145,41 @@ TEST_F(HandsTest, LightLabelsOfOneLineAlone) {
     EXPECT_FALSE(lit());
 }
 
+TEST_F(HandsTest, LightAButtonThatCanBeClicked) {
+    Show();
+    QWidget* button = Find("Button");
+    const auto lit = [&] {
+        QTest::mouseMove(Native(), QPoint(790, 590));
+        Settle();
+        const QImage dark = button->grab().toImage();
+        QTest::mouseMove(Native(), Middle(button));
+        Settle();
+        return button->grab().toImage() != dark;
+    };
+    EXPECT_TRUE(lit());
+    form.button.SetEnabled(false);
+    EXPECT_FALSE(lit());
+}
+
+// The toolkit tells it nothing.
+TEST_F(HandsTest, LightNothingThatHasMovedAwayFromAMouseThatRests) {
+    form.label.onClick = form.Note("click");
+    Show();
+    for (const char* name : {"Label", "Button"}) {
+        QWidget* widget = Find(name);
+        QTest::mouseMove(Native(), QPoint(790, 590));
+        Settle();
+        const QImage dark = widget->grab().toImage();
+        QTest::mouseMove(Native(), Middle(widget));
+        Settle();
+        EXPECT_NE(widget->grab().toImage(), dark) << name;
+        forms::Control& control =
+            form.label.FullName() == name ? static_cast<forms::Control&>(form.label) : form.button;
+        control.Move(control.Left(), control.Top() + 1800, control.Width(), control.Height());
+        Settle();
+        EXPECT_EQ(widget->grab().toImage(), dark) << name;
+    }
+}
+
 }  // namespace
 }  // namespace kivu::tests
