@@ -26,8 +26,15 @@ void DressPopup(QComboBox& combo, const RowSource& source) {
 }
 
 QFont Fitted(QFont font, const QString& text, int width) {
-    const int wanted = QFontMetrics(font).horizontalAdvance(text);
-    if (width > 0 && wanted > width) font.setStretch(std::max(75, 100 * width / wanted));
+    constexpr int least = 75;  // percent
+    const double wanted = QFontMetricsF(font).horizontalAdvance(text);
+    if (width <= 0 || wanted <= width) return font;
+    // Letters take whole pixels, so that more than this share of their widths may be left.
+    int stretch = static_cast<int>(100 * width / wanted);
+    do {
+        font.setStretch(std::max(least, stretch));
+        stretch -= 3;
+    } while (font.stretch() > least && QFontMetricsF(font).horizontalAdvance(text) > width);
     return font;
 }
 
@@ -69,7 +76,7 @@ void ChoiceBox::paintEvent(QPaintEvent*) {
     painter.setFont(Fitted(font(), ToQt(box.Text()), field.width()));
     const QColor base = palette().color(QPalette::Base);
     const QColor text = palette().color(QPalette::Text);
-    painter.setPen(isEnabled() ? text : Mix(base, text, 0.7));
+    painter.setPen(isEnabled() ? text : MixFor(3.5, base, text, 0.7));
     painter.drawText(field, Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, ShownText());
 }
 

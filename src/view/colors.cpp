@@ -46,8 +46,7 @@ QColor MixFor(double contrast, const QColor& bottom, const QColor& top, double o
     return mixed;
 }
 
-QColor Readable(const QColor& wanted, const QColor& background) {
-    constexpr double enough = 2.5;
+QColor Readable(const QColor& wanted, const QColor& background, double enough) {
     if (Contrast(wanted, background) >= enough) return wanted;
     const QColor dark = onAccent;
     const QColor light(Qt::white);

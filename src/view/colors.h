@@ -19,7 +19,7 @@ QColor Mix(const QColor& bottom, const QColor& top, double opacity);
 // far as there is one.
 QColor MixFor(double contrast, const QColor& bottom, const QColor& top, double opacity);
 
-// `wanted`, or black or white where `wanted` could not be read on `background`.
-QColor Readable(const QColor& wanted, const QColor& background);
+// `wanted`, or black or white where `wanted` has less contrast to `background`.
+QColor Readable(const QColor& wanted, const QColor& background, double enough = 2.5);
 
 }  // namespace kivu::view

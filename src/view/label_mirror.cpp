@@ -55,7 +55,10 @@ class LabelWidget : public QWidget {
         if (tab && !marked && oneLine && underMouse() && isEnabled()) {
             FillRounded(painter, rect(), cornerRadius, QColor(255, 255, 255, 34));
         }
-        if (!isEnabled()) text.setAlphaF(0.5F);
+        if (!isEnabled()) {
+            const QColor ground = label.IsOpaque() || marked ? back : window;
+            text = MixFor(3.5, ground, Readable(text, ground, 3.5), 0.5);
+        }
         painter.setPen(text);
         DrawLines(painter);
     }

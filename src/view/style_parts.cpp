@@ -76,9 +76,10 @@ void DrawButton(QPainter& painter, const QStyleOption& option) {
 
 void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const QStyle& style) {
     const bool enabled = Has(button, QStyle::State_Enabled);
-    const QColor back = button.palette.color(QPalette::Button);
-    QColor color = Readable(button.palette.color(QPalette::ButtonText), back);
-    if (!enabled) color = MixFor(3.5, DisabledFace(button.palette), color, 0.5);
+    const QColor face =
+        enabled ? button.palette.color(QPalette::Button) : DisabledFace(button.palette);
+    QColor color = Readable(button.palette.color(QPalette::ButtonText), face, enabled ? 2.5 : 3.5);
+    if (!enabled) color = MixFor(3.5, face, color, 0.5);
     painter.save();
     painter.setPen(color);
     const QRect rect = button.rect.adjusted(4, 0, -4, 0);

@@ -132,5 +132,25 @@ TEST_F(ChoiceTest, CutsALongTextWithDotsAndTellsItWhole) {
     QToolTip::hideText();
 }
 
+// Widths in whole pixels may add up to more than a share of the text's.
+TEST_F(ChoiceTest, SetsATextNarrowerBeforeItCutsIt) {
+    Show();
+    const QString text = QStringLiteral("Emulator auswählen:");
+    form.choice.SetText(text.toStdString());
+    for (int points = 8; points <= 40; ++points) {
+        const std::string tip = "Choose " + std::to_string(points);
+        form.choice.SetToolTipText(tip);
+        form.choice.SetFontSize(points);
+        const int whole = QFontMetrics(Choice()->font()).horizontalAdvance(text);
+        // Field, arrow and edges, of which the text is to fill all but a sixth.
+        form.choice.SetWidth((whole * 5 / 6 + 38) * 15);
+        const QPoint at = Choice()->rect().center();
+        QHelpEvent event(QEvent::ToolTip, at, Choice()->mapToGlobal(at));
+        QCoreApplication::sendEvent(Choice(), &event);
+        EXPECT_EQ(QToolTip::text().toStdString(), tip);
+    }
+    QToolTip::hideText();
+}
+
 }  // namespace
 }  // namespace kivu::tests
