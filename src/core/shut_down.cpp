@@ -21,7 +21,7 @@ void ShutDown::ExitBtn_Click() {
 
 // Together: each write puts the whole file anew and waits for the disk.
 void ShutDown::Store(const std::string& file, const Values& values) {
-    std::optional<IniDocument> profile = ini.LoadProfile(file);
+    auto profile = ini.LoadProfile(file);
     if (!profile) return;
     for (const auto& [key, value] : values)
         profile->Set("Settings", key, std::to_string(value));

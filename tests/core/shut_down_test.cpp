@@ -27,7 +27,7 @@ struct ShutDownTest : ::testing::Test {
 
     kivu::testing::MemoryFileSystem files;
     Form1 form{forms::Toolkit{}};
-    Ini ini{files};
+    profile::Ini ini{files};
     ShutDown shutDown{form, ini};
     int ends = 0;
 };
