@@ -37,7 +37,7 @@ void Press(QDialog& box, const char* button) {
 }
 
 TEST(Dialogs, GiveTheAnswerOfTheirButtons) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     WhenShown("MessageBox", [](QDialog& box) { Press(box, "Yes"); });
     EXPECT_EQ(dialogs.MessageBox("Sure?", "Title", Buttons::YesNo, Icon::Question), Answer::Yes);
     WhenShown("MessageBox", [](QDialog& box) { Press(box, "No"); });
@@ -47,7 +47,7 @@ TEST(Dialogs, GiveTheAnswerOfTheirButtons) {
 }
 
 TEST(Dialogs, GiveTheCancellingAnswerWhenClosed) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     const auto escape = [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Escape); };
     WhenShown("MessageBox", escape);
     EXPECT_EQ(dialogs.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::No);
@@ -78,13 +78,13 @@ TEST(Dialogs, HaveRoundCorners) {
 }
 
 TEST(Dialogs, TakeEnterForTheFirstButton) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     WhenShown("MessageBox", [](QDialog& box) { QTest::keyClick(&box, Qt::Key_Return); });
     EXPECT_EQ(dialogs.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::Yes);
 }
 
 TEST(Dialogs, TakeTheLetterOfAButtonWithAltAndWithout) {
-    QtDialogs english(false), german(true);
+    hosts::QtDialogs english(false), german(true);
     WhenShown("MessageBox", [](QDialog& box) { QTest::keyClick(box.focusWidget(), Qt::Key_N); });
     EXPECT_EQ(english.MessageBox("", "", Buttons::YesNo, Icon::None), Answer::No);
     WhenShown("MessageBox", [](QDialog& box) {
@@ -97,7 +97,7 @@ TEST(Dialogs, TakeTheLetterOfAButtonWithAltAndWithout) {
 }
 
 TEST(Dialogs, BreakNoLineThatHasRoom) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     int height = 0, line = 0;
     WhenShown("MessageBox", [&](QDialog& box) {
         auto* label = box.findChild<QLabel*>("Text");
@@ -112,7 +112,7 @@ TEST(Dialogs, BreakNoLineThatHasRoom) {
 }
 
 TEST(Dialogs, BreakLinesAtCarriageReturnsAndShowNoMarkup) {
-    QtDialogs dialogs(true);
+    hosts::QtDialogs dialogs(true);
     QString text;
     Qt::TextFormat format{};
     QString cancel;
@@ -129,7 +129,7 @@ TEST(Dialogs, BreakLinesAtCarriageReturnsAndShowNoMarkup) {
 }
 
 TEST(Dialogs, GiveTheTypedText) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     WhenShown("InputBox", [](QDialog& box) {
         auto* line = box.findChild<QLineEdit*>("Input");
         EXPECT_EQ(line->selectedText(), "old");
@@ -142,7 +142,7 @@ TEST(Dialogs, GiveTheTypedText) {
 }
 
 TEST(Dialogs, StandOverAWindowThatStaysOnTop) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     QWidget window(nullptr, Qt::Window | Qt::WindowStaysOnTopHint);
     window.setGeometry(100, 100, 600, 500);
     window.show();
@@ -163,7 +163,7 @@ TEST(Dialogs, StandOverAWindowThatStaysOnTop) {
 }
 
 TEST(Dialogs, StayOnTheScreenWithAVeryLongText) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     QRect place;
     WhenShown("MessageBox", [&](QDialog& box) {
         place = box.geometry();
@@ -210,7 +210,7 @@ class StandingClock : public Clock {
 
 TEST(PumpingClock, KeepsTheWindowAliveInItsRests) {
     StandingClock inner;
-    PumpingClock clock(inner);
+    hosts::PumpingClock clock(inner);
     bool ran = false;
     QTimer::singleShot(0, [&] { ran = true; });
     clock.Rest(20ms);
