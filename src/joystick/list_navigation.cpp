@@ -46,6 +46,8 @@ void ListNavigation::Turn(int focus, bool right) {
 }
 
 void ListNavigation::GoTo(int focus) {
+    // Behind a start that ended in a box they stand alone in front, and would cover the list.
+    hooks.LeaveGlobalFavourites();
     switch (focus) {
         case 1:
             form.FavouritesListBusy = false;

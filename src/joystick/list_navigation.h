@@ -10,6 +10,7 @@ namespace kivu::joystick {
 class ListNavigation {
  public:
     struct Hooks {
+        core::Hook<void()> LeaveGlobalFavourites;
         core::Hook<void()> FavoritenListe_GotFocus;
         core::Hook<void()> WIthoutDoubles_GotFocus;
         core::Hook<void()> UAE_Short_GotFocus;

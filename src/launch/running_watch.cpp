@@ -64,6 +64,8 @@ void RunningWatch::EndOfGame() {
 
 void RunningWatch::AppRunningPicture_Click() {
     EndEmulator();
+    // An emulator that was to be set up has been started out of the choice.
+    hooks.CloseChoice();
     if (form.FavoritenListe.ListCount() > 0) {
         hooks.Label1_Click();
     } else {

@@ -111,11 +111,12 @@ void Layout::ArrangeLists() {
 void Layout::ShowListOfMode() {
     const int mode = form.Mode() == 7 ? 4 : form.Mode();
     const bool emulators = mode == 5 || mode == 10;
+    const bool globalFavourites = form.FavoritenListeGlobal.Visible();
     const std::array<forms::ListBox*, 4> lists{&form.FavoritenListe, &form.WIthoutDoubles,
                                                &form.UAE_Short, &form.SuchErgList};
     for (int i = 0; i < 4; ++i) {
-        const bool kept =
-            mode == i + 1 || (emulators && lists[static_cast<std::size_t>(i)] == &form.UAE_Short);
+        const bool kept = (mode == i + 1 && !globalFavourites) ||
+                          (emulators && lists[static_cast<std::size_t>(i)] == &form.UAE_Short);
         if (!kept) lists[static_cast<std::size_t>(i)]->SetVisible(false);
     }
     // While an emulator runs the window shows that, and no list.
@@ -128,7 +129,7 @@ void Layout::ShowListOfMode() {
     } else if (form.Mode() == 7 && form.EmulatorLongListbox.Visible()) {
         // A search typed over the open choice goes through all emulators, which stay in front.
         return;
-    } else if (mode >= 1 && mode <= 4) {
+    } else if (mode >= 1 && mode <= 4 && !globalFavourites) {
         lists[static_cast<std::size_t>(mode - 1)]->SetVisible(true);
     }
 }

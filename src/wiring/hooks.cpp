@@ -84,6 +84,7 @@ void Launcher::Routines::JoinLibrary() {
         emulatorBox.EmuListbox_KeyPress(key);
     };
 
+    navigation.hooks.LeaveGlobalFavourites = [this] { globalEvents.LeaveGlobalFavourites(); };
     navigation.hooks.FavoritenListe_GotFocus = [this] { listEvents.FavoritenListe_GotFocus(); };
     navigation.hooks.WIthoutDoubles_GotFocus = [this] { listEvents.WIthoutDoubles_GotFocus(); };
     navigation.hooks.UAE_Short_GotFocus = [this] { listEvents.UAE_Short_GotFocus(); };

@@ -229,7 +229,11 @@ TEST_F(FavouritesGlobal, ResizeKeepsTheListInFront) {
     };
     // In front of the emulators, which lie in the same place.
     EXPECT_GT(place(Form().FavoritenListeGlobal), place(Form().EmulatorLongListbox));
-    EXPECT_GT(place(Form().FavoritenListeGlobal), place(Form().FavoritenListe));
+    // A game list would be brought up behind it by the mode, which is that of the favourites.
+    EXPECT_FALSE(Visible("FavoritenListe"));
+    Do("state", "Form1", 2);
+    EXPECT_FALSE(Visible("FavoritenListe"));
+    EXPECT_TRUE(Visible("FavoritenListeGlobal"));
 }
 
 }  // namespace

@@ -135,6 +135,12 @@ TEST_F(MissingGame, EndsOverTheFavouritesOfAllEmulatorsAsEachStartThere) {
     EXPECT_TRUE(Visible("EmuListbox"));
     EXPECT_EQ(Get("ListsVisible"), false);
     EXPECT_FALSE(Visible("Label4"));
+    // From there a key to the side goes on to a list, and no two lie over one another.
+    Do("key", "Form1", "Right");
+    EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+    EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_EQ(Get("Focus"), "Form1.UAE_Short");
+    EXPECT_EQ(Get("ListsVisible"), true);
 }
 
 }  // namespace

@@ -155,6 +155,20 @@ TEST_F(OpenChoice, SetUpStartLeadsBackAtItsEnd) {
     EXPECT_TRUE(Visible("WIthoutDoubles"));
 }
 
+TEST_F(OpenChoice, KillOfAnEmulatorThatIsSetUpLeadsBack) {
+    StartAlpha();
+    Open();
+    Host().starter.onRun = [&](const platform::StartRequest&) {
+        Host().processes.Add("beta", 4711);
+    };
+    Do("rightclick", "Form1.EmulatorLongListbox", 1);
+    Do("click", "Form1.AppRunningPicture");
+    ExpectAlpha();
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    Do("click", "Form1.AddToFavorit_Global");
+    EXPECT_EQ(StoredSystem(), "Alpha");
+}
+
 TEST_F(OpenChoice, FavouriteLookedAtInAGameLeadsBackAtItsEnd) {
     tree.Write("Config/Favoriten_Global.ini",
                ProgramDirectory::Encoded(
