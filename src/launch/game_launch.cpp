@@ -169,6 +169,11 @@ bool GameLaunch::WriteStartFile(Run& run) {
 bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
     bool safe = true;
     const std::vector<std::string> words = HostWords(run, safe);
+    if (run.companionFailed) {
+        // Without it the batch file cannot be handed anything.
+        (void)FindStartFile(CompanionName());
+        return false;
+    }
     if (!safe) {
         services.dialogs.MessageBox(
             form.Say("Dieser Name kann einer Batch-Datei nicht sicher übergeben werden:\r",
@@ -185,7 +190,7 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
 
 // The emulator and its arguments as a POSIX host starts them. Windows programs run through Wine; a
 // batch file among them gets a batch file of its own, in which nothing of a path is acted upon.
-std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
+std::vector<std::string> GameLaunch::HostWords(Run& run, bool& safe) {
     std::vector<std::string> words = run.parameters.Words();
     if (!text::IsWindowsProgram(run.emulator)) {
         words.insert(words.begin(), run.emulator);
@@ -205,14 +210,18 @@ std::vector<std::string> GameLaunch::HostWords(const Run& run, bool& safe) {
     const std::string cd = BatchWord(text::QuoteIfNeeded(directory), safe);
     const std::string program =
         BatchWord(text::QuoteIfNeeded(text::ToWinePath(run.emulator)), safe);
-    const std::string companion = form.StartPfad + form.EXE + "_tmp_wine.bat";
+    const std::string companion = CompanionName();
     const std::string content =
         BatchStartFile(cd, program + " " + std::string(text::Trim(run.parameters.BatchText())));
     // The command processor reads its own path too.
     const std::string path = text::ToWinePath(companion);
     if (text::EscapeForCmd(path) != path) safe = false;
-    if (safe && files.WriteFile(companion, content)) safe = false;
+    run.companionFailed = safe && files.WriteFile(companion, content);
     return {"wine", "cmd", "/c", path};
+}
+
+std::string GameLaunch::CompanionName() const {
+    return form.StartPfad + form.EXE + "_tmp_wine.bat";
 }
 
 void GameLaunch::EnterEmulatorDirectory(const Run& run) {
@@ -232,7 +241,7 @@ void GameLaunch::ShowLoadingAndMount(const Run& run) {
     form.LoadingBtn.SetCaption(noted);
 }
 
-void GameLaunch::StartEmulatorProgram(const Run& run) {
+void GameLaunch::StartEmulatorProgram(Run& run) {
     platform::StartRequest request;
     request.watched = true;
     request.directory = services.files.CurrentDirectory();
@@ -252,7 +261,7 @@ void GameLaunch::StartEmulatorProgram(const Run& run) {
     if (services.starter.UsesShell()) request.words = HostWords(run, safe);
     const bool program = text::ToLower(run.emulator).find(".exe") != std::string::npos;
     request.style = program ? platform::WindowStyle::Maximized : platform::WindowStyle::Minimized;
-    if (safe) (void)services.starter.Run(request);
+    if (safe && !run.companionFailed) (void)services.starter.Run(request);
 }
 
 void GameLaunch::FinishStart(const std::string& notedTitle) {

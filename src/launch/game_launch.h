@@ -68,7 +68,8 @@ class GameLaunch {
         bool useMasterConfig = false;
         bool windowsPaths = false;  // a Windows program on a POSIX host
         bool startFileFailed = false;
-        bool direct = false;  // no start file can say it safely
+        bool direct = false;           // no start file can say it safely
+        bool companionFailed = false;  // the batch file for a batch emulator is not there
         StartParameters parameters;
     };
 
@@ -81,10 +82,11 @@ class GameLaunch {
     bool WriteStartFile(Run& run);
     std::string BatchDirectory(const Run& run, bool& safe) const;
     bool WriteShellStartFile(Run& run, const std::string& directory);
-    std::vector<std::string> HostWords(const Run& run, bool& safe);
+    std::vector<std::string> HostWords(Run& run, bool& safe);
+    std::string CompanionName() const;
     void EnterEmulatorDirectory(const Run& run);
     void ShowLoadingAndMount(const Run& run);
-    void StartEmulatorProgram(const Run& run);
+    void StartEmulatorProgram(Run& run);
     void FinishStart(const std::string& notedTitle);
     void ReturnToLists(forms::Control* focus);
 

@@ -236,6 +236,18 @@ TEST_F(WineStart, NameThatNothingMakesSafeIsRefused) {
     EXPECT_FALSE(form.GameIsRunning);
 }
 
+TEST_F(WineStart, FullDiskIsNotTakenForAnUnsafeName) {
+    Emulator("/e/run.bat");
+    Profile("WinUAE_UseMasterConfig=0\r\nEmulatorParameterAddDiskPath=1\r\n");
+    files.SetFreeSpace(0);
+    Launch("/roms/a.zip");
+    ASSERT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_THAT(host.dialogs.shown[0].text, HasSubstr("Start-File not found"));
+    EXPECT_THAT(host.dialogs.shown[0].text, HasSubstr("Kivu_tmp_wine.bat"));
+    EXPECT_THAT(host.starter.runs, IsEmpty());
+    EXPECT_FALSE(form.GameIsRunning);
+}
+
 // The batch file reads its arguments again, and Wine fills in variables once more.
 TEST_F(WineStart, NameThatIsReadAgainIsRefusedForABatchFile) {
     form.CurrentLanguage = 2;
