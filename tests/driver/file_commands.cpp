@@ -17,7 +17,7 @@ bool IsAbsolute(const std::string& path) {
 std::string PathFrom(Session& session, const Json& value) {
     std::string path = TextFrom(value, "the path");
     if (path.empty()) throw CommandError("the path must not be empty");
-    const char separator = session.Host().files.Separator();
+    const char separator = session.files.Separator();
     std::replace(path.begin(), path.end(), '/', separator);
     return IsAbsolute(path) ? path : session.programDirectory + separator + path;
 }
@@ -35,7 +35,7 @@ void MakeDirectoriesAbove(platform::FileSystem& files, const std::string& path) 
 Json File(Session& session, const Json& command) {
     const std::string& action = TextFrom(command[1], "the action");
     const std::string path = PathFrom(session, command[2]);
-    platform::FileSystem& files = session.Host().files;
+    platform::FileSystem& files = session.files;
     if (action == "write" && command.size() == 4) {
         const std::string& text = TextFrom(command[3], "the text");
         MakeDirectoriesAbove(files, path);
@@ -48,10 +48,27 @@ Json File(Session& session, const Json& command) {
     return Json::object();
 }
 
+// A fault stays until the disk is fine again.
+Json Disk(Session& session, const Json& command) {
+    const std::string& state = TextFrom(command[1], "the state");
+    testing::FaultyFileSystem& disk = session.disk;
+    const bool fine = state == "fine";
+    if ((!fine && state != "full" && state != "read-only") || (fine && command.size() > 2))
+        throw CommandError(
+            "disk takes \"full\" or \"read-only\", each with a part of paths, or "
+            "\"fine\"");
+    disk.Heal();
+    disk.OnlyFor(command.size() > 2 ? TextFrom(command[2], "the part") : "");
+    if (state == "full") disk.FillDisk();
+    if (state == "read-only") disk.MakeReadOnly();
+    return Json::object();
+}
+
 }  // namespace
 
 const std::vector<Command>& FileCommands() {
-    static const std::vector<Command> commands{{"file", 2, 3, false, File}};
+    static const std::vector<Command> commands{{"file", 2, 3, false, File},
+                                               {"disk", 1, 2, false, Disk}};
     return commands;
 }
 

@@ -1,6 +1,7 @@
 #include "driver/interpreter.h"
 
 #include <exception>
+#include <utility>
 
 #include "driver/commands.h"
 #include "driver/routines.h"
@@ -54,6 +55,17 @@ Json Interpreter::ExecuteLine(std::string_view line) {
 }
 
 Json Interpreter::Execute(const Json& command) {
+    if (!planned) return Serve(command);
+    Meanwhile meanwhile(session, *std::exchange(planned, {}), [this](const Json& inner) {
+        if (onMeanwhile) onMeanwhile(inner);
+        return Serve(inner);
+    });
+    Json answer = Serve(command);
+    answer["meanwhile"] = meanwhile.Answers();
+    return answer;
+}
+
+Json Interpreter::Serve(const Json& command) {
     Json answer;
     try {
         answer = Answer(command);
@@ -76,6 +88,10 @@ Json Interpreter::Answer(const Json& command) {
     if (name == "quit") {
         if (command.size() > 1) throw CommandError("quit takes fewer arguments");
         quit = true;
+        return answer;
+    }
+    if (name == "meanwhile") {
+        planned = PlanFrom(command);
         return answer;
     }
     if (name == "call") {

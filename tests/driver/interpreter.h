@@ -1,9 +1,12 @@
 #pragma once
 
+#include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "driver/json.h"
+#include "driver/meanwhile.h"
 #include "driver/routine_table.h"
 #include "driver/session.h"
 
@@ -24,12 +27,17 @@ class Interpreter {
     bool Quit() const { return quit; }
     bool ProgramHasEnded() const { return session.ended; }
 
+    // Run in front of each command of a "meanwhile".
+    std::function<void(const Json& command)> onMeanwhile;
+
  private:
+    Json Serve(const Json& command);
     Json Answer(const Json& command);
     Outcome Call(const Json& command) const;
 
     Session& session;
     RoutineTable routines;
+    std::optional<MeanwhilePlan> planned;  // for the next command
     bool quit = false;
 };
 

@@ -224,6 +224,55 @@ TEST_F(InterpreterTest, FilesComeAndGoBelowTheProgram) {
     Refused("[\"file\",\"remove\",\"\"]", "empty");
 }
 
+TEST_F(InterpreterTest, DiskThatIsFullTakesNothingOfTheLauncherUntilItIsFine) {
+    Do("[\"start\"]");
+    EXPECT_TRUE(Do("[\"disk\",\"full\",\"Mine\"]")["ok"]);
+    EXPECT_TRUE(session.Host().files.WriteFile(directory.Path("Mine.txt"), "x"));
+    EXPECT_FALSE(session.Host().files.WriteFile(directory.Path("Other.txt"), "x"));
+    // Others still can.
+    EXPECT_TRUE(Do("[\"file\",\"write\",\"Mine.txt\",\"theirs\"]")["ok"]);
+    EXPECT_TRUE(Do("[\"disk\",\"read-only\"]")["ok"]);
+    EXPECT_TRUE(session.Host().files.DeleteFile(directory.Path("Mine.txt")));
+    EXPECT_TRUE(Do("[\"disk\",\"fine\"]")["ok"]);
+    EXPECT_FALSE(session.Host().files.DeleteFile(directory.Path("Mine.txt")));
+    Refused("[\"disk\",\"broken\"]", "read-only");
+    Refused("[\"disk\",\"fine\",\"Mine\"]", "read-only");
+}
+
+TEST_F(InterpreterTest, CommandsHappenWhileABoxIsShown) {
+    Do("[\"start\"]");
+    EXPECT_TRUE(
+        Do("[\"meanwhile\",\"box\",1,[\"process\",\"add\",\"x\",7],"
+           "[\"get\",\"Form1.Nothing\"]]")["ok"]);
+    const Json answer = Do("[\"key\",\"Form1\",\"Escape\"]");
+    ASSERT_EQ(answer["meanwhile"].size(), 2U);
+    EXPECT_EQ(answer["meanwhile"][0]["ok"], true);
+    EXPECT_EQ(answer["meanwhile"][1]["ok"], false);
+    EXPECT_EQ(session.Host().processes.entries.size(), 1U);
+    // Only during the one command.
+    EXPECT_FALSE(Do("[\"key\",\"Form1\",\"Escape\"]").contains("meanwhile"));
+}
+
+TEST_F(InterpreterTest, CommandsHappenWhenEventsRunForTheNthTime) {
+    EXPECT_TRUE(Do("[\"meanwhile\",\"events\",2,[\"set\",\"Form1.ListMode\",\"3\"]]")["ok"]);
+    EXPECT_EQ(Do("[\"start\"]")["meanwhile"].size(), 1U);
+    EXPECT_TRUE(Do("[\"meanwhile\",\"events\",9999,[\"set\",\"Form1.ListMode\",\"4\"]]")["ok"]);
+    EXPECT_TRUE(Do("[\"click\",\"Form1.Label2\"]")["meanwhile"].empty());
+    EXPECT_EQ(session.Host().clock.perLook.count(), 0);
+    Refused("[\"meanwhile\",\"box\",1]", "commands");
+    Refused("[\"meanwhile\",\"never\",1,[\"get\",\"Form1.ListMode\"]]", "box");
+    Refused("[\"meanwhile\",\"box\",0,[\"get\",\"Form1.ListMode\"]]", "1 or more");
+    Refused("[\"meanwhile\",\"box\",1,[\"quit\"]]", "quit");
+    Refused("[\"meanwhile\",\"box\",1,[]]", "begins with its name");
+}
+
+TEST_F(InterpreterTest, ProgramThatEndsMeanwhileDoesNotGoOn) {
+    Do("[\"start\"]");
+    Do("[\"meanwhile\",\"box\",1,[\"click\",\"Form1.ExitBtn\"],[\"boxes\"]]");
+    EXPECT_TRUE(Do("[\"key\",\"Form1\",\"Escape\"]")["ended"]);
+    EXPECT_TRUE(interpreter.ProgramHasEnded());
+}
+
 TEST_F(InterpreterTest, DevicesKeepTheirState) {
     Do("[\"device\",\"add\",\"Pad\",4]");
     Refused("[\"device\",\"set\",0,{\"x\":65536}]");

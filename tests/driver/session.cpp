@@ -18,7 +18,9 @@ testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& optio
 
 Session::Session(platform::FileSystem& files, const Options& options)
     : programDirectory(options.programDirectory),
-      host(MakeHost(files, options)),
+      files(files),
+      disk(files),
+      host(MakeHost(disk, options)),
       launcher(host.Services(options.programDirectory, options.program, options.commandLine),
                options.measure, [this] {
                    ended = true;

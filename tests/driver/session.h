@@ -5,6 +5,7 @@
 
 #include "driver/devices.h"
 #include "driver/windows.h"
+#include "testing/faulty_file_system.h"
 #include "testing/scripted_host.h"
 #include "wiring/launcher.h"
 
@@ -35,6 +36,8 @@ class Session {
     Windows& OpenWindows() { return windows; }
 
     const std::string programDirectory;
+    platform::FileSystem& files;  // as others have it, without the faults of the launcher's disk
+    testing::FaultyFileSystem disk;
     std::vector<ScriptedDevice> devices;
     ScriptedDisplay display;
     bool started = false;
