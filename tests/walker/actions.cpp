@@ -1,5 +1,9 @@
 #include "walker/actions.h"
 
+#include <algorithm>
+#include <set>
+#include <utility>
+
 namespace kivu::walker {
 
 namespace {
@@ -42,8 +46,9 @@ Commands Clicked(World& world, const char* control) {
     return {Command({"click", std::string("Form1.") + control})};
 }
 
-Step NextStep(World& world, Random& random) {
-    const Look look = world.Now();
+namespace {
+
+Step AnyStep(World& world, const Look& look, Random& random) {
     // Ticks and sizes can always be had, so one of these tries succeeds.
     for (int tries = 0; tries < 1000; ++tries) {
         const Action& action = Choose(random);
@@ -51,6 +56,44 @@ Step NextStep(World& world, Random& random) {
         if (!commands.empty()) return {action.name, std::move(commands)};
     }
     return {"nothing", {}};
+}
+
+// Behind a box there are no hands. While events run processes and files come and go.
+bool ComesMeanwhile(const Commands& commands, bool atBox) {
+    return std::all_of(commands.begin(), commands.end(), [&](const Json& command) {
+        static const std::set<std::string> outside{"process", "file"}, calls{"tick", "summon"};
+        const std::string name = command[0].get<std::string>();
+        return outside.contains(name) || (atBox && calls.contains(name));
+    });
+}
+
+// The last command of the step with another step in its middle.
+Step Interrupted(World& world, const Look& look, Random& random, Step step) {
+    const bool atBox = random.Chance(30);
+    Step other = AnyStep(world, look, random);
+    for (int tries = 0; tries < 20 && !ComesMeanwhile(other.commands, atBox); ++tries)
+        other = AnyStep(world, look, random);
+    if (!ComesMeanwhile(other.commands, atBox)) return step;
+    // At a start and a switch events run some thirty times.
+    Json meanwhile = Json::array({"meanwhile", atBox ? "box" : "events", 1});
+    if (!atBox) meanwhile[2] = 1 + random.Below(random.Chance(50) ? 4 : 30);
+    for (Json command : other.commands) {
+        // In so short a time a timer fires once.
+        if (command[0] == "tick" && command.size() > 2) command.erase(2);
+        meanwhile.push_back(std::move(command));
+    }
+    step.commands.insert(step.commands.end() - 1, std::move(meanwhile));
+    step.action += " (meanwhile: " + other.action + ")";
+    return step;
+}
+
+}  // namespace
+
+Step NextStep(World& world, Random& random) {
+    const Look look = world.Now();
+    Step step = AnyStep(world, look, random);
+    if (!random.Chance(10) || step.commands.empty()) return step;
+    return Interrupted(world, look, random, std::move(step));
 }
 
 }  // namespace kivu::walker

@@ -72,6 +72,25 @@ Commands OnDropDown(World& world, const Look& look, Random& random, const char* 
     return {Command({command, "Form1.EmuListbox", random.Below(look.dropDown.rows.size())})};
 }
 
+// Another list comes to the front, and the row that is still marked there is acted upon: what other
+// lists have selected meanwhile must not count.
+Commands MarkedRowOfAnotherList(World& world, const Look& look, Random& random) {
+    static const std::vector<List> lists{List::favourites, List::simple, List::complete,
+                                         List::hits};
+    const List list = random.Pick(lists);
+    if (look.At(list).visible || look.At(list).row < 0) return {};
+    const char* tab = listNames[static_cast<std::size_t>(list)].tab;
+    if (!Reachable(world, tab)) return {};
+    static const std::vector<Json> actions{
+        Command({"key", "Form1", "Enter"}),
+        Command({"click", "Form1.AddToFavorit"}),
+        Command({"click", "Form1.AddToFavorit_Global"}),
+        Command({"dblclick", "Form1.Current_ProgramNameFull"}),
+    };
+    return {Command({"click", std::string("Form1.") + tab}), Command({"answer", "No"}),
+            random.Pick(actions)};
+}
+
 template <const auto& control>
 Commands Click(World& world, const Look&, Random&) {
     return Clicked(world, control);
@@ -88,6 +107,7 @@ const std::vector<Action>& ListActions() {
         {"simple list to the front", 8, Click<tab2>},
         {"complete list to the front", 8, Click<tab3>},
         {"hits to the front", 6, Click<tab4>},
+        {"act on the marked row of another list", 14, MarkedRowOfAnotherList},
         {"open the choice", 12, Click<dropDown>},
         {"choose in the drop-down", 6,
          [](World& world, const Look& look, Random& random) {

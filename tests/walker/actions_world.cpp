@@ -53,6 +53,13 @@ Commands FileVanishes(World& world, const Look&, Random& random) {
     return {Command({"file", "remove", path})};
 }
 
+// The simple list and the hits keep the row of a game that a rescan does not find any more.
+Commands FileVanishesAndRescan(World& world, const Look&, Random& random) {
+    const std::string path = SomeGame(world, random);
+    if (path.empty() || !world.Exists(path) || !Reachable(world, "LoadBtn")) return {};
+    return {Command({"file", "remove", path}), Command({"click", "Form1.LoadBtn"})};
+}
+
 Commands FileComesBack(World& world, const Look&, Random& random) {
     const std::string path = SomeGame(world, random);
     if (path.empty() || world.Exists(path)) return {};
@@ -66,6 +73,40 @@ Commands NewFile(World& world, const Look&, Random& random) {
     const std::string directory = world.Form().TxtRomPath.Text();
     if (world.Now().loaded < 0 || directory.empty()) return {};
     return {Command({"file", "write", directory + random.Pick(names), "x"})};
+}
+
+// A later start of the program: with a file or without, by a whole path or not, and with what asks
+// for help.
+Commands HandOver(World& world, const Look&, Random& random) {
+    const std::string roms = std::string(programDirectory) + "/Roms/";
+    static const std::vector<const char*> others{"Arcade/puckman.zip", "Old C64/Hen (1984).d64",
+                                                 "nowhere.adf", "what?.adf"};
+    const std::string game = SomeGame(world, random);
+    switch (random.Below(8)) {
+        case 0:
+            return {Command({"summon"})};
+        case 1:
+            return {Command({"summon", "Roms/Arcade/puckman.zip"})};
+        case 2:
+        case 3:
+            return {Command({"summon", roms + random.Pick(others)})};
+        default:
+            return game.empty() ? Commands{} : Commands{Command({"summon", game})};
+    }
+}
+
+// What cannot be written from now on.
+Commands DiskBreaks(World& world, const Look&, Random& random) {
+    if (world.DiskIsBroken()) return {};
+    const char* state = random.Chance(60) ? "full" : "read-only";
+    static const std::vector<const char*> parts{"Favoriten", "Cache", "Kivu.ini", "_tmp"};
+    if (random.Chance(50)) return {Command({"disk", state})};
+    return {Command({"disk", state, random.Pick(parts)})};
+}
+
+Commands DiskIsFine(World& world, const Look&, Random&) {
+    if (!world.DiskIsBroken()) return {};
+    return {Command({"disk", "fine"})};
 }
 
 Commands Resize(World&, const Look&, Random& random) {
@@ -85,8 +126,12 @@ const std::vector<Action>& WorldActions() {
         {"the game goes", 6, GameGoes},
         {"a bystander comes or goes", 3, Bystander},
         {"a file vanishes", 3, FileVanishes},
+        {"a file vanishes in front of a rescan", 4, FileVanishesAndRescan},
         {"a file comes back", 3, FileComesBack},
         {"a new file", 2, NewFile},
+        {"a file is handed over", 4, HandOver},
+        {"the disk breaks", 2, DiskBreaks},
+        {"the disk is fine again", 8, DiskIsFine},
         {"resize", 2, Resize},
         {"minimise, maximise or restore", 1, State},
         {"close", 1,

@@ -63,7 +63,21 @@ Expected PressKey(const Look& look, const Stores& stores, const std::string& key
     return Press(look, stores, look.focus);
 }
 
+// The loaded emulator starts it, whatever row of the choice has been looked at.
+Expected TakeFile(const Look& look, const std::string& path) {
+    const bool free = look.loaded >= 0 && !look.gameRuns && !look.picture;
+    if (!free || !IsFileToStart(path)) return {};
+    Expected expected;
+    expected.act = Act::start;
+    expected.meant = {Meaning::Kind::game, path, FileName(path), look.Loaded()};
+    return expected;
+}
+
 }  // namespace
+
+bool IsFileToStart(const std::string& path) {
+    return path.starts_with('/') && path.find('?') == std::string::npos;
+}
 
 Hand HandOf(const Json& command) {
     Hand hand;
@@ -79,6 +93,7 @@ Hand HandOf(const Json& command) {
 
 Expected Expect(const Look& look, const Stores& stores, const Json& command) {
     const Hand hand = HandOf(command);
+    if (hand.gesture == "summon") return TakeFile(look, hand.control);
     if (hand.gesture == "key") return PressKey(look, stores, hand.key);
     const List* list = ListOf(hand.control);
     if (hand.gesture == "dblclick" && list) return TakeRow(look, stores, *list, hand.row, false);

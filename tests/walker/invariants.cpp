@@ -10,9 +10,16 @@ bool Moment::Answered(const std::string& titlePart, platform::Answer answer) con
     });
 }
 
+std::vector<Expected> Moment::AllExpected() const {
+    std::vector<Expected> all{expected};
+    for (const Intrusion& intrusion : inner)
+        all.push_back(intrusion.expected);
+    return all;
+}
+
 std::optional<Fault> Check(const Moment& moment, const std::set<std::string>& leftOut) {
-    for (const auto* table : {&StartInvariants(), &RunningInvariants(), &FrontInvariants(),
-                              &ListInvariants(), &StoreInvariants()}) {
+    for (const auto* table : {&StartInvariants(), &HandedInvariants(), &RunningInvariants(),
+                              &FrontInvariants(), &ListInvariants(), &StoreInvariants()}) {
         for (const Invariant& invariant : *table) {
             const bool exempt =
                 std::any_of(invariant.exemptions.begin(), invariant.exemptions.end(),

@@ -13,7 +13,15 @@ namespace kivu::walker {
 struct Memory {
     bool repaired = false;   // own favourites, since they were loaded
     bool rescanned = false;  // since the emulator was loaded
+    bool unwritten = false;  // since then, something that the disk did not take
     bool settled = false;    // nothing is under way any more: the session is at its end
+};
+
+// A command that came in the middle of another one, and what it was to do there.
+struct Intrusion {
+    Hand hand;
+    Expected expected;
+    bool atBox;  // while a box was on the screen
 };
 
 // One command, with all that was seen around it.
@@ -29,9 +37,16 @@ struct Moment {
     std::vector<Started> starts;
     std::vector<BoxLook> boxes;
     std::string error;  // of a command that was not taken
+    int beeps;
+    int refusals;                         // of the disk
+    const std::vector<Intrusion>& inner;  // what came in the middle of it
     const Memory& memory;
 
     bool Taken() const { return error.empty(); }
+    // Nothing came in its middle, so it does just what was worked out in front of it.
+    bool Alone() const { return inner.empty(); }
+    // What the command and those in its middle may each have done.
+    std::vector<Expected> AllExpected() const;
     // No game, no choice, an emulator loaded: the lists are to be seen.
     bool AtRest() const { return !after.Running() && !after.ChoiceOpen() && after.loaded >= 0; }
     bool Answered(const std::string& titlePart, platform::Answer answer) const;
@@ -55,6 +70,7 @@ struct Invariant {
 const std::vector<Invariant>& FrontInvariants();    // the list in front, its tab, the focus
 const std::vector<Invariant>& ListInvariants();     // what the lists hold
 const std::vector<Invariant>& StartInvariants();    // what starts, is stored, is loaded
+const std::vector<Invariant>& HandedInvariants();   // files of later starts of the program
 const std::vector<Invariant>& RunningInvariants();  // a game and its end
 const std::vector<Invariant>& StoreInvariants();    // the files
 

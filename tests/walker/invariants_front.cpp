@@ -114,8 +114,8 @@ const std::vector<Invariant>& FrontInvariants() {
           nothingLoaded,
           {"the global favourites come up over the open choice",
            [](const Moment& m) {
-               return m.after.At(List::globalFavourites).visible &&
-                      m.after.At(List::emulators).visible;
+               return m.after.InFront() ==
+                      std::vector<List>{List::globalFavourites, List::emulators};
            }}}},
         {"the tab of the list in front is marked",
          "keys, sizes and Escape act by the mode, and the user reads it off the tabs",

@@ -54,10 +54,13 @@ std::string CompleteCount(const Moment& m) {
     return Counted(m, 2, List::complete);
 }
 
+bool Typed(const Moment& m) {
+    return m.hand.gesture == "type" && m.before.searchText != m.after.searchText && m.Alone();
+}
+
 // Only what was typed just now: later changes of the list leave the caption, as it is told.
 std::string HitsCount(const Moment& m) {
-    const bool typed = m.hand.gesture == "type" && m.before.searchText != m.after.searchText;
-    if (!typed || !m.after.At(List::hits).visible) return {};
+    if (!Typed(m) || !m.after.At(List::hits).visible) return {};
     return Counted(m, 3, List::hits);
 }
 
@@ -81,9 +84,8 @@ bool HasAll(const std::string& row, const std::vector<std::string>& words) {
 }
 
 std::string HitsHoldTheWords(const Moment& m) {
-    const bool typed = m.hand.gesture == "type" && m.before.searchText != m.after.searchText;
     const std::string& text = m.after.searchText;
-    if (!typed || !m.after.At(List::hits).visible || text.find_first_not_of(' ') == text.npos)
+    if (!Typed(m) || !m.after.At(List::hits).visible || text.find_first_not_of(' ') == text.npos)
         return {};
     if (text == "Suche.." || text == "Search here..") return {};
     // One character alone finds nothing.

@@ -40,7 +40,8 @@ std::string Enabled(const Moment& m) {
 
 std::string LettersStay(const Moment& m) {
     const bool letter = m.hand.gesture == "key" && m.hand.key.size() == 1;
-    if (!letter || !m.before.Running() || m.before.searchText == m.after.searchText) return {};
+    if (!letter || !m.Alone() || !m.before.Running() || m.before.searchText == m.after.searchText)
+        return {};
     return Quoted(m.hand.key) + " made the search text " + Quoted(m.after.searchText);
 }
 

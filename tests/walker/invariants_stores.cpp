@@ -9,6 +9,26 @@ namespace {
 const Exemption nothingLoaded{"without an emulator there are no files of one",
                               [](const Moment& m) { return m.after.loaded < 0; }};
 
+const Exemption unwritten{
+    "the disk has not taken what was to be stored since the emulator was loaded",
+    [](const Moment& m) { return m.memory.unwritten; }};
+
+// A write that is refused leaves the old file.
+std::string OldFileStays(const Moment& m) {
+    if (!m.world.DiskIsBroken() || m.before.loaded != m.after.loaded) return {};
+    if (m.hand.gesture == "disk" || m.hand.gesture == "file" || !m.Alone()) return {};
+    const std::string directory = "Config/" + m.after.Loaded() + "/";
+    if (m.world.Refuses(directory + "Favoriten.ini") && m.storesBefore.own != m.stores.own)
+        return "Favoriten.ini is another one";
+    if (m.world.Refuses("Config/Favoriten_Global.ini") && m.storesBefore.global != m.stores.global)
+        return "Favoriten_Global.ini is another one";
+    const bool sameCache =
+        m.storesBefore.cacheThere == m.stores.cacheThere && m.storesBefore.cache == m.stores.cache;
+    if (m.world.Refuses(directory + "Kivu_Cache.txt") && !sameCache)
+        return "Kivu_Cache.txt is another one";
+    return {};
+}
+
 std::string OwnFavourites(const Moment& m) {
     std::vector<std::string> names;
     for (const Favourite& favourite : m.stores.own)
@@ -75,6 +95,8 @@ const std::vector<Invariant>& StoreInvariants() {
          "the list is made anew from the file at the next start",
          OwnFavourites,
          {nothingLoaded,
+          {"a name given by hand stays in the list until the disk takes it",
+           [](const Moment& m) { return m.memory.unwritten; }},
           {"a repair writes the file without reading it again",
            [](const Moment& m) { return m.memory.repaired; }}}},
         {"global favourites are stored",
@@ -85,21 +107,26 @@ const std::vector<Invariant>& StoreInvariants() {
         {"the cache holds the lists",
          "the next start takes them from there",
          Cache,
-         {nothingLoaded}},
+         {nothingLoaded, unwritten}},
         {"the loaded emulator is the last one",
          "the next start loads it",
          LastEmulator,
-         {nothingLoaded}},
+         {nothingLoaded, unwritten}},
         {"a new start finds the same",
          "what was added must not be gone the next day",
          NewStart,
          {nothingLoaded,
+          unwritten,
           {"a repair leaves keys behind the favourites that it has kept",
            [](const Moment& m) { return m.memory.repaired; }}}},
         {"the count of games is stored",
          "the choice of emulators shows it",
          RomCount,
-         {nothingLoaded}},
+         {nothingLoaded, unwritten}},
+        {"a file that cannot be written stays as it was",
+         "half a list of favourites is worse than yesterday's",
+         OldFileStays,
+         {}},
     };
     return invariants;
 }

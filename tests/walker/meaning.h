@@ -42,11 +42,14 @@ Expected Expect(const Look& look, const Stores& stores, const Json& command);
 // A command by its parts.
 struct Hand {
     std::string gesture;  // "click", "dblclick", "key", ...
-    std::string control;  // without the window
+    std::string control;  // without the window; of a later start of the program its file
     int row = -1;
     std::string key;
 };
 Hand HandOf(const Json& command);
+
+// What a later start of the program may hand over: a whole path, and no question for help.
+bool IsFileToStart(const std::string& path);
 
 std::string FileName(const std::string& path);
 std::string LowerCase(const std::string& text);

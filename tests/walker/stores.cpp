@@ -112,7 +112,12 @@ Stores ReadStores(const World& world, const Look& look) {
         ReadGlobal(Section(world.Read("Config/Favoriten_Global.ini"), "Favoriten_Global"));
     if (look.loaded < 0) return stores;
     const std::string directory = "Config/" + look.Loaded() + "/";
-    stores.own = ReadOwn(Section(world.Read(directory + "Favoriten.ini"), "Favoriten"));
+    const Values own = Section(world.Read(directory + "Favoriten.ini"), "Favoriten");
+    stores.own = ReadOwn(own);
+    for (const auto& [key, value] : own) {
+        if (key.ends_with("_FullPath") && !value.empty())
+            stores.ownPaths.insert(AbsolutePath(value));
+    }
     const std::string cache = directory + "Kivu_Cache.txt";
     stores.cacheThere = world.Exists(std::string(programDirectory) + "/" + cache);
     stores.cache = ReadCache(world.Read(cache));

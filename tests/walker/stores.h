@@ -1,5 +1,6 @@
 #pragma once
 
+#include <set>
 #include <string>
 #include <utility>
 #include <vector>
@@ -21,7 +22,8 @@ struct GlobalFavourite {
 
 // What stands in the files, read by the walker's own reader.
 struct Stores {
-    std::vector<Favourite> own;  // of the loaded emulator
+    std::vector<Favourite> own;      // of the loaded emulator
+    std::set<std::string> ownPaths;  // of all keys of its file, also behind the last that is read
     std::vector<GlobalFavourite> global;
     bool cacheThere = false;
     std::vector<Favourite> cache;  // each image's path and the name that is shown for it

@@ -6,7 +6,9 @@ namespace {
 
 class Player {
  public:
-    explicit Player(const Session& session) : world(session.collection), leftOut(session.leftOut) {}
+    explicit Player(const Session& session) : world(session.collection), leftOut(session.leftOut) {
+        world.onMeanwhile = [this](const Json& command) { NoteIntrusion(command); };
+    }
 
     World& TheWorld() { return world; }
     bool Ended() const { return world.Ended(); }
@@ -29,7 +31,7 @@ class Player {
 
     // Games end, the watch sees it, Escape is pressed: whatever is left now stays.
     std::optional<Failure> Settle() {
-        Step end{"the end", {}};
+        Step end{"the end", {Command({"disk", "fine"})}};
         for (const auto& entry : world.Host().processes.entries)
             end.commands.push_back(Command({"process", "remove", entry.id}));
         if (world.Now().watching)
@@ -44,11 +46,22 @@ class Player {
 
  private:
     static bool IsForHost(const Json& command) {
-        return command[0] == "answer" || command[0] == "input";
+        return command[0] == "answer" || command[0] == "input" || command[0] == "meanwhile";
+    }
+
+    // What a command is to do where it comes in the middle of another one.
+    void NoteIntrusion(const Json& command) {
+        if (IsForHost(command)) return;
+        const Look look = world.Now();
+        Intrusion intrusion{HandOf(command), {}, atBox};
+        // Behind a box there is no hand, and nothing from outside is to do anything.
+        if (!atBox) intrusion.expected = Expect(look, ReadStores(world, look), command);
+        inner.push_back(std::move(intrusion));
     }
 
     std::optional<Failure> Play(const Json& command) {
         if (IsForHost(command)) {
+            if (command[0] == "meanwhile") atBox = command[1] == "box";
             world.Execute(command);
             return {};
         }
@@ -84,16 +97,22 @@ class Player {
                             world.TakeStarts(),
                             world.TakeBoxes(),
                             error,
+                            world.TakeBeeps(),
+                            world.TakeRefusals(),
+                            inner,
                             memory};
         Remember(moment);
         const auto fault = Check(moment, leftOut);
+        inner.clear();
         if (!fault) return {};
         return Failure{0, fault->invariant->name, fault->invariant->why, fault->what, command};
     }
 
     void Remember(const Moment& moment) {
-        if (moment.before.loaded != moment.after.loaded) memory = {};
-        if (moment.hand.gesture == "start") memory.rescanned = false;
+        const bool anew = moment.hand.gesture == "start";
+        if (!anew && moment.before.loaded != moment.after.loaded) memory = {};
+        if (moment.refusals > 0) memory.unwritten = true;
+        if (anew) memory.rescanned = false;
         if (Pressed(moment, "LoadBtn")) memory.rescanned = true;
         if (moment.Answered("epar", platform::Answer::Yes)) memory.repaired = true;
         // Both load the favourites again.
@@ -104,6 +123,9 @@ class Player {
 
     // With the mouse or with a key.
     static bool Pressed(const Moment& moment, const std::string& button) {
+        for (const Intrusion& intrusion : moment.inner) {
+            if (intrusion.hand.control == button) return true;
+        }
         if (!moment.Taken()) return false;
         const Hand& hand = moment.hand;
         const bool byKey = hand.gesture == "key" && (hand.key == "Enter" || hand.key == "Space");
@@ -112,6 +134,8 @@ class Player {
 
     World world;
     const std::set<std::string>& leftOut;
+    std::vector<Intrusion> inner;  // of the command that is under way
+    bool atBox = false;            // when they come
     Memory memory;
 };
 

@@ -13,7 +13,26 @@ World::World(const Collection& collection) : options(collection.options) {
     Watch();
 }
 
+Json World::Execute(const Json& command) {
+    NoteDisk(command);
+    return interpreter->Execute(command);
+}
+
+void World::NoteDisk(const Json& command) {
+    if (command[0] != "disk") return;
+    broken.reset();
+    if (command[1] != "fine")
+        broken = command.size() > 2 ? command[2].get<std::string>() : std::string();
+}
+
+int World::TakeRefusals() {
+    const int all = session->disk.Failures();
+    return all - std::exchange(refusals, all);
+}
+
 void World::StartAnew() {
+    broken.reset();
+    refusals = 0;
     interpreter.reset();
     session = std::make_unique<driver::Session>(disk, options);
     interpreter = std::make_unique<driver::Interpreter>(*session);
@@ -25,6 +44,10 @@ void World::Watch() {
     Host().starter.onRun = [this](const platform::StartRequest& request) { NoteStart(request); };
     Host().dialogs.onShow = [this] {
         boxes.push_back({Host().dialogs.shown.back(), TakeLook(Form())});
+    };
+    interpreter->onMeanwhile = [this](const Json& command) {
+        NoteDisk(command);
+        if (onMeanwhile) onMeanwhile(command);
     };
 }
 
@@ -46,7 +69,7 @@ void World::NoteStart(const platform::StartRequest& request) {
         for (const std::string& word : request.words)
             started.text += word + "\n";
     }
-    if (!started.game) started.program = first;
+    if (!request.startFile) started.program = first;
     std::replace(started.text.begin(), started.text.end(), '\\', '/');
     starts.push_back(std::move(started));
 }

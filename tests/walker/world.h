@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -17,7 +19,7 @@ struct Started {
     bool game = false;     // through a start file or in its place; else an emulator for setting up
     std::string emulator;  // whose directory the start file lies in; empty without one
     std::string text;      // all that the command processors get to read, with "/" in paths
-    std::string program;   // of an emulator for setting up
+    std::string program;   // of an emulator that is started without a start file
 };
 
 struct BoxLook {
@@ -33,7 +35,7 @@ class World {
     World& operator=(const World&) = delete;
 
     // A driver's command, and what it answers.
-    Json Execute(const Json& command) { return interpreter->Execute(command); }
+    Json Execute(const Json& command);
     // Another run of the program on the same disk.
     void StartAnew();
 
@@ -46,12 +48,25 @@ class World {
     std::string Read(const std::string& path) const;
     bool Exists(const std::string& absolute) const { return disk.FileExists(absolute); }
 
+    // Whether the launcher cannot write that file of its own now.
+    bool Refuses(const std::string& path) const {
+        return broken && path.find(*broken) != std::string::npos;
+    }
+    bool DiskIsBroken() const { return broken.has_value(); }
+
+    // Run in front of each command that comes in the middle of another one.
+    std::function<void(const Json& command)> onMeanwhile;
+
     // Since the last look at them.
+    int TakeBeeps() { return std::exchange(Host().beeper.count, 0); }
+    // Writes that the disk has refused.
+    int TakeRefusals();
     std::vector<Started> TakeStarts() { return std::exchange(starts, {}); }
     std::vector<BoxLook> TakeBoxes() { return std::exchange(boxes, {}); }
 
  private:
     void Watch();
+    void NoteDisk(const Json& command);
     void NoteStart(const platform::StartRequest& request);
 
     driver::Options options;
@@ -60,6 +75,8 @@ class World {
     std::unique_ptr<driver::Interpreter> interpreter;
     std::vector<Started> starts;
     std::vector<BoxLook> boxes;
+    std::optional<std::string> broken;  // what paths hold that cannot be written; empty: all
+    int refusals = 0;
 };
 
 }  // namespace kivu::walker
