@@ -170,8 +170,8 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
     bool safe = true;
     const std::vector<std::string> words = HostWords(run, safe);
     if (run.companionFailed) {
-        // Without it the batch file cannot be handed anything.
-        (void)FindStartFile(CompanionName());
+        // What an earlier start has left there names another game.
+        TellOfMissingStartFile(CompanionName());
         return false;
     }
     if (!safe) {
@@ -310,9 +310,13 @@ std::string GameLaunch::FindStartFile(const std::string& path) {
         if (!files.FileExists(form)) continue;
         return form;
     }
-    services.dialogs.MessageBox("Bat - Start-File not found: \r" + current, core::defaultTitle,
-                                platform::Buttons::Ok, platform::Icon::None);
+    TellOfMissingStartFile(current);
     return current;
+}
+
+void GameLaunch::TellOfMissingStartFile(const std::string& path) {
+    services.dialogs.MessageBox("Bat - Start-File not found: \r" + path, core::defaultTitle,
+                                platform::Buttons::Ok, platform::Icon::None);
 }
 
 }  // namespace kivu::launch

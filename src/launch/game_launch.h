@@ -84,6 +84,7 @@ class GameLaunch {
     bool WriteShellStartFile(Run& run, const std::string& directory);
     std::vector<std::string> HostWords(Run& run, bool& safe);
     std::string CompanionName() const;
+    void TellOfMissingStartFile(const std::string& path);
     void EnterEmulatorDirectory(const Run& run);
     void ShowLoadingAndMount(const Run& run);
     void StartEmulatorProgram(Run& run);

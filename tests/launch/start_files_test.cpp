@@ -246,6 +246,11 @@ TEST_F(WineStart, FullDiskIsNotTakenForAnUnsafeName) {
     EXPECT_THAT(host.dialogs.shown[0].text, HasSubstr("Kivu_tmp_wine.bat"));
     EXPECT_THAT(host.starter.runs, IsEmpty());
     EXPECT_FALSE(form.GameIsRunning);
+    // Nor is the file of an earlier start handed over.
+    files.AddFile("/k/Config/Alpha/Kivu_tmp_wine.bat", "another game");
+    Launch("/roms/a.zip");
+    EXPECT_EQ(host.dialogs.shown.size(), 2U);
+    EXPECT_THAT(host.starter.runs, IsEmpty());
 }
 
 // The batch file reads its arguments again, and Wine fills in variables once more.
