@@ -16,7 +16,7 @@ const Exemption untold{"the file after a repair holds more than the list, until 
                        [](const Moment& m) { return m.expected.meant.kind == Kind::untold; }};
 const Exemption repairedJustNow{
     "the question of a missing favourite was answered with a repair, which moves the rows",
-    [](const Moment& m) { return m.Answered("epar", platform::Answer::Yes); }};
+    [](const Moment& m) { return m.Answered("epa", platform::Answer::Yes); }};
 
 std::string StoredProgram(const Moment& m, const std::string& emulator) {
     const std::string profile = m.world.Read("Config/" + emulator + "/Kivu.ini");

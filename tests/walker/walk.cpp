@@ -114,7 +114,7 @@ class Player {
         if (moment.refusals > 0) memory.unwritten = true;
         if (anew) memory.rescanned = false;
         if (Pressed(moment, "LoadBtn")) memory.rescanned = true;
-        if (moment.Answered("epar", platform::Answer::Yes)) memory.repaired = true;
+        if (moment.Answered("epa", platform::Answer::Yes)) memory.repaired = true;
         // Both load the favourites again.
         const bool removed =
             Pressed(moment, "DeLFav") && moment.before.At(List::favourites).visible;
