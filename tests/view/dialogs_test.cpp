@@ -58,7 +58,7 @@ TEST(Dialogs, GiveTheCancellingAnswerWhenClosed) {
 }
 
 TEST(Dialogs, HaveRoundCorners) {
-    QtDialogs dialogs(false);
+    hosts::QtDialogs dialogs(false);
     QImage picture;
     WhenShown("MessageBox", [&](QDialog& box) {
         picture = box.grab().toImage();
@@ -177,7 +177,7 @@ TEST(Dialogs, StayOnTheScreenWithAVeryLongText) {
 }
 
 TEST(EventPump, RunsWhatWaits) {
-    QtEventPump pump;
+    hosts::QtEventPump pump;
     bool ran = false;
     QTimer::singleShot(0, [&] { ran = true; });
     pump.DoEvents();
@@ -185,7 +185,7 @@ TEST(EventPump, RunsWhatWaits) {
 }
 
 TEST(EventPump, EndsTheDescentOfEventsThatPump) {
-    QtEventPump pump;
+    hosts::QtEventPump pump;
     int depth = 0;
     int deepest = 0;
     QObject waiting;  // what has not run by the end never will
