@@ -4,7 +4,7 @@
 #include <cstring>
 #include <utility>
 
-#include "library/search_words.h"
+#include "library/letter_pair.h"
 
 namespace kivu::library {
 

@@ -1,42 +1,11 @@
 #include "library/search_words.h"
 
 #include <algorithm>
-#include <array>
 #include <bit>
-#include <cstring>
 
 namespace kivu::library {
 
 namespace {
-
-using Lanes = std::uint64_t;  // eight bytes side by side
-constexpr Lanes kOnes = 0x0101010101010101;
-constexpr Lanes kLow7 = 0x7F7F7F7F7F7F7F7F;
-constexpr std::size_t kLaneCount = sizeof(Lanes);
-constexpr std::size_t kStep = 64;  // bytes looked at in one go where nothing is expected
-
-Lanes Fill(char byte) {
-    return kOnes * static_cast<unsigned char>(byte);
-}
-
-// Eight bytes, the first of them in the lowest lane.
-Lanes Load(const char* place) {
-    if constexpr (std::endian::native == std::endian::little) {
-        Lanes lanes;
-        std::memcpy(&lanes, place, sizeof(lanes));
-        return lanes;
-    } else {
-        Lanes lanes = 0;
-        for (std::size_t i = kLaneCount; i-- > 0;)
-            lanes = lanes << 8 | static_cast<unsigned char>(place[i]);
-        return lanes;
-    }
-}
-
-// The highest bit of each lane that is 0, exactly.
-Lanes ZeroLanes(Lanes lanes) {
-    return ~(((lanes & kLow7) + kLow7) | lanes | kLow7);
-}
 
 bool IsAscii(char c) {
     return static_cast<unsigned char>(c) < 0x80;
@@ -81,65 +50,32 @@ SearchWord::SearchWord(std::string_view word) : needle(word) {
     probe = AsciiRun(folded);
     for (const char c : probe)
         caseBits += CaseBit(c);
+    std::size_t first = 0;
     for (std::size_t i = 1; i < probe.size(); ++i) {
         if (Commonness(probe[i]) > Commonness(probe[first])) first = i;
     }
-    second = first == 0 && probe.size() > 1 ? 1 : 0;
+    std::size_t second = first == 0 && probe.size() > 1 ? 1 : 0;
     for (std::size_t i = 0; i < probe.size(); ++i) {
         if (i != first && Commonness(probe[i]) > Commonness(probe[second])) second = i;
     }
-    if (second < first) std::swap(first, second);
+    if (probe.empty()) return;
+    const auto letterAt = [this](std::size_t i) {
+        return LetterPair::Letter{i, probe[i], caseBits[i]};
+    };
+    rarest = {letterAt(first), letterAt(second)};
 }
 
 bool SearchWord::MatchesAt(const char* place) const {
+    // The two letters have been looked for already.
+    if (probe.size() <= 2) return true;
     for (std::size_t i = 0; i < probe.size(); ++i) {
         if (static_cast<char>(place[i] | caseBits[i]) != probe[i]) return false;
     }
     return true;
 }
 
-// Whether one of the places begin to begin + kStep - 1 has both letters. A plain loop of fixed
-// length, which compilers turn into vector instructions.
-bool SearchWord::LettersStandNear(const char* begin) const {
-    const auto firstCase = static_cast<unsigned char>(caseBits[first]);
-    const auto secondCase = static_cast<unsigned char>(caseBits[second]);
-    const auto firstLetter = static_cast<unsigned char>(probe[first]);
-    const auto secondLetter = static_cast<unsigned char>(probe[second]);
-    const auto* a = reinterpret_cast<const unsigned char*>(begin + first);
-    const auto* b = reinterpret_cast<const unsigned char*>(begin + second);
-    unsigned char any = 0;
-    for (std::size_t i = 0; i < kStep; ++i) {
-        const auto differs = static_cast<unsigned char>(((a[i] | firstCase) ^ firstLetter) |
-                                                        ((b[i] | secondCase) ^ secondLetter));
-        any |= static_cast<unsigned char>(differs == 0 ? 1 : 0);
-    }
-    return any != 0;
-}
-
 std::size_t SearchWord::Find(std::string_view text, std::size_t from) const {
-    if (text.size() < probe.size()) return std::string_view::npos;
-    const char* const begin = text.data();
-    const std::size_t places = text.size() - probe.size() + 1;  // where the probe may begin
-    const Lanes firstCase = Fill(caseBits[first]), firstLetter = Fill(probe[first]);
-    const Lanes secondCase = Fill(caseBits[second]), secondLetter = Fill(probe[second]);
-    std::size_t at = from;
-    while (at + kLaneCount <= places) {
-        while (at + kStep <= places && !LettersStandNear(begin + at))
-            at += kStep;
-        for (const std::size_t end = at + kStep; at < end && at + kLaneCount <= places;
-             at += kLaneCount) {
-            const Lanes a = (Load(begin + at + first) | firstCase) ^ firstLetter;
-            const Lanes b = (Load(begin + at + second) | secondCase) ^ secondLetter;
-            for (Lanes found = ZeroLanes(a | b); found != 0; found &= found - 1) {
-                const auto lane = static_cast<std::size_t>(std::countr_zero(found)) / 8;
-                if (MatchesAt(begin + at + lane)) return at + lane;
-            }
-        }
-    }
-    for (; at < places; ++at) {
-        if (MatchesAt(begin + at)) return at;
-    }
-    return std::string_view::npos;
+    return WordPlaces(*this, text).Next(from);
 }
 
 bool SearchWord::IsIn(std::string_view text) const {
@@ -151,6 +87,66 @@ bool SearchWord::IsIn(std::string_view text) const {
 bool SearchWord::Implies(const SearchWord& other) const {
     if (folded == other.folded) return true;
     return text::IsUtf8(other.folded) && folded.find(other.folded) != std::string::npos;
+}
+
+WordPlaces::WordPlaces(const SearchWord& word, std::string_view text)
+    : word(word),
+      text(text.data()),
+      end(text.size() < word.ProbeLength() ? 0 : text.size() - word.ProbeLength() + 1) {
+}
+
+std::size_t WordPlaces::Next(std::size_t from) {
+    if (from >= ahead) {
+        ahead = from;
+        found = 0;
+    } else if (from > begin) {
+        found &= ~std::uint64_t{0} << (from - begin);
+    }
+    do {
+        for (; found != 0; found &= found - 1) {
+            const std::size_t place = begin + static_cast<std::size_t>(std::countr_zero(found));
+            if (!word.MatchesAt(text + place)) continue;
+            return place;
+        }
+    } while (Step());
+    return std::string_view::npos;
+}
+
+// On to places that have the two letters. False: there are no more.
+bool WordPlaces::Step() {
+    found = NextPlaces(text, ahead, end, word.rarest);
+    begin = ahead;
+    if (found != 0) {
+        ahead += LetterPair::step;
+        return true;
+    }
+    // Less than a step is left.
+    constexpr std::size_t eight = 8;
+    for (; ahead < end && found == 0; ahead = std::min(begin + eight, end)) {
+        begin = ahead;
+        if (end < eight) {
+            found = FewPlaces();
+            continue;
+        }
+        // The last eight end where the text does.
+        begin = std::min(begin, end - eight);
+        found = std::uint64_t{PlacesInEight(text + begin, word.rarest)} >> (ahead - begin)
+                                                                               << (ahead - begin);
+    }
+    return found != 0;
+}
+
+// The same from `ahead` on in a text with less than eight places.
+std::uint64_t WordPlaces::FewPlaces() const {
+    const auto stands = [](const char* place, const LetterPair::Letter& letter) {
+        return static_cast<char>(place[letter.offset] | letter.caseBit) == letter.folded;
+    };
+    std::uint64_t places = 0;
+    for (std::size_t at = ahead; at < end; ++at) {
+        const bool both = stands(text + at, word.rarest.a) && stands(text + at, word.rarest.b);
+        places |= std::uint64_t{both ? 1U : 0U} << (at - ahead);
+    }
+    return places;
 }
 
 SearchWords::SearchWords(std::string_view text) : SearchWords(WordsOf(text)) {
@@ -200,11 +196,13 @@ bool SearchWords::AreInLine(std::string_view line, const Decode& decode) const {
 }
 
 bool SearchWords::ForEachLine(std::string_view block, const Decode& decode, const Hit& hit) const {
-    const SearchWord* jump = Driver();
+    const SearchWord* driverWord = Driver();
+    std::optional<WordPlaces> jump;
+    if (driverWord) jump.emplace(*driverWord, block);
     for (std::size_t at = 0; at < block.size();) {
         std::size_t begin = at;
         if (jump) {
-            const std::size_t place = jump->Find(block, at);
+            const std::size_t place = jump->Next(at);
             if (place == std::string_view::npos) return true;
             begin = place;
             while (begin > at && block[begin - 1] != '\n')
@@ -217,26 +215,6 @@ bool SearchWords::ForEachLine(std::string_view block, const Decode& decode, cons
         at = end + 1;
     }
     return true;
-}
-
-std::size_t CountLineFeeds(std::string_view block) {
-    // Each of the columns counts for itself, which goes well for 255 rows.
-    constexpr std::size_t columns = 64;
-    std::size_t count = 0;
-    std::size_t at = 0;
-    while (at + columns <= block.size()) {
-        const std::size_t rows = std::min<std::size_t>((block.size() - at) / columns, 255);
-        std::array<unsigned char, columns> sums{};
-        for (std::size_t row = 0; row < rows; ++row, at += columns) {
-            const char* place = block.data() + at;
-            for (std::size_t i = 0; i < columns; ++i)
-                sums[i] = static_cast<unsigned char>(sums[i] + (place[i] == '\n' ? 1 : 0));
-        }
-        for (const unsigned char sum : sums)
-            count += sum;
-    }
-    return count + static_cast<std::size_t>(std::count(
-                       block.begin() + static_cast<std::ptrdiff_t>(at), block.end(), '\n'));
 }
 
 }  // namespace kivu::library

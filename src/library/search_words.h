@@ -1,19 +1,21 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "library/letter_pair.h"
 #include "text/text.h"
 
 // A search is over tens of thousands of rows at each key, and over millions of lines across all
 // caches. Almost none of them match, so what counts is how fast the rest are passed over.
 namespace kivu::library {
 
-// One word to be looked for without regard to case. Eight bytes are looked at in one step, for two
+// One word to be looked for without regard to case: many bytes are looked at in one step, for two
 // letters of the word that are rare in titles; only where both stand in their places is the word
 // compared.
 class SearchWord {
@@ -33,15 +35,35 @@ class SearchWord {
     bool Implies(const SearchWord& other) const;
 
  private:
+    friend class WordPlaces;
+    // A place of the two rarest letters.
     bool MatchesAt(const char* place) const;
-    bool LettersStandNear(const char* begin) const;
 
     std::string folded;
-    std::string probe;      // folded
-    std::string caseBits;   // what each byte of a text is joined with before it is compared
-    std::size_t first = 0;  // places in `probe` of the two rarest letters, in rising order
-    std::size_t second = 0;
+    std::string probe;     // folded
+    std::string caseBits;  // what each byte of a text is joined with before it is compared
+    LetterPair rarest;     // letters of the probe
     text::NoCaseNeedle needle;
+};
+
+// The places in a text where a word's probe stands, one by one: what a step has found is kept for
+// the next ones. The word and the text live longer.
+class WordPlaces {
+ public:
+    WordPlaces(const SearchWord& word, std::string_view text);
+    // The first place at or behind `from`, or npos. Each call goes on behind the one before.
+    std::size_t Next(std::size_t from);
+
+ private:
+    bool Step();
+    std::uint64_t FewPlaces() const;
+
+    const SearchWord& word;
+    const char* text;
+    std::size_t end;          // behind the last place where the probe may begin
+    std::size_t begin = 0;    // of the step that `found` is about
+    std::uint64_t found = 0;  // places of the two letters there that are still to be looked at
+    std::size_t ahead = 0;    // the first place that no step has looked at
 };
 
 // The words of a search text, split at each blank. A text matches if it contains every one,
@@ -75,8 +97,5 @@ class SearchWords {
     std::size_t driver = 0;         // the word with the longest probe
     bool plainAscii = true;
 };
-
-// Line feeds in a block.
-std::size_t CountLineFeeds(std::string_view block);
 
 }  // namespace kivu::library

@@ -51,10 +51,12 @@ std::size_t JoinedRows::RowAt(std::size_t place, std::size_t from) const {
 RowNumbers JoinedRows::Find(const SearchWords& words, std::size_t start) const {
     RowNumbers found;
     const SearchWord* driver = words.Driver();
+    std::optional<WordPlaces> places;
+    if (driver) places.emplace(*driver, text);
     for (std::size_t row = start; row < Count(); ++row) {
         bool matches = false;
         if (driver) {
-            const std::size_t place = driver->Find(text, begins[row]);
+            const std::size_t place = places->Next(begins[row]);
             if (place == std::string::npos) break;
             row = RowAt(place, row);
             const bool within = place + driver->ProbeLength() < begins[row + 1];

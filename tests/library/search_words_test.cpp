@@ -156,17 +156,26 @@ TEST(SearchWordsBeyond, OtherTextsAreLookedForAnew) {
     EXPECT_FALSE(SearchWords("ä").Beyond(SearchWords("\xC3")));
 }
 
-TEST(CountLineFeeds, CountsInBlocksOfAnyLength) {
-    std::mt19937 random(3);
-    for (std::size_t length = 0; length < 5000; length += 1 + length / 9) {
-        string block(length, 'x');
-        std::size_t count = 0;
-        for (char& c : block) {
-            c = static_cast<char>(random() % 4 == 0 ? '\n' : random());
-            if (c == '\n') ++count;
+// The places of a word from each place on, and those that one object gives one after the other.
+TEST(WordPlaces, AreThoseOfThePlainWay) {
+    std::mt19937 random(5);
+    const string letters = "abB1-----";
+    for (const char* word : {"b", "ab", "b1", "abb", "1-b-a"}) {
+        const SearchWord searched(word);
+        for (std::size_t size = 0; size < 300; size += 1 + size / 20) {
+            string text(size, '-');
+            for (char& c : text)
+                c = letters[random() % letters.size()];
+            const string lower = text::ToLower(text);
+            std::size_t step = 1 + random() % 3;
+            WordPlaces places(searched, text);
+            for (std::size_t from = 0; from <= size; from += step) {
+                const std::size_t expected = lower.find(word, from);
+                ASSERT_EQ(places.Next(from), expected) << word << " in " << text;
+                ASSERT_EQ(searched.Find(text, from), expected) << word << " in " << text;
+                if (random() % 9 == 0) step = 1 + random() % 90;
+            }
         }
-        EXPECT_EQ(CountLineFeeds(block), count);
-        EXPECT_EQ(CountLineFeeds(string(length, '\n')), length);
     }
 }
 

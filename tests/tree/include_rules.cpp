@@ -203,9 +203,11 @@ bool IsHost(std::string_view path) {
                        [&](std::string_view host) { return IsBelow(path, host); });
 }
 
-// Headers of an instruction set, each for the one file that the target picks by that set.
+// Headers of an instruction set, each for the files that the target picks by that set.
 bool IsInstructionSetOf(std::string_view path, std::string_view header) {
-    return path == "src/png/filters_sse2.cpp" && header == "emmintrin.h";
+    const bool needsSse2 =
+        path == "src/png/filters_sse2.cpp" || path == "src/library/letter_pair_sse2.cpp";
+    return needsSse2 && header == "emmintrin.h";
 }
 
 bool MayLeaveTheLanguage(std::string_view path) {

@@ -51,9 +51,10 @@ TEST(ForeignIncludesTest, ViewAppAndHostsMayAndTheInterfacesMayNot) {
                                                    HasSubstr("src/platform/clock.h:2: ")));
 }
 
-TEST(ForeignIncludesTest, OneFileMayNameItsInstructionSet) {
+TEST(ForeignIncludesTest, FewFilesMayNameTheirInstructionSet) {
     const SourceTree tree{
         File("src/png/filters_sse2.cpp", "#include <emmintrin.h>\n#include <immintrin.h>\n"),
+        File("src/library/letter_pair_sse2.cpp", "#include <emmintrin.h>\n"),
         File("src/png/row_conversion.cpp", "#include <emmintrin.h>\n")};
     EXPECT_THAT(ForeignIncludes(tree), ElementsAre(HasSubstr("src/png/filters_sse2.cpp:2: "),
                                                    HasSubstr("src/png/row_conversion.cpp:1: ")));
