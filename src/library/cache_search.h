@@ -15,7 +15,7 @@
 namespace kivu::library {
 
 // A look through one list cache, which is never in memory as a whole. Several can go on at a time,
-// each in a thread of its own.
+// each in the hands of one thread at a time.
 class CacheSearch {
  public:
     // The title of a game that a line has led to. Lines that follow one another and lead to the

@@ -1,8 +1,7 @@
 #include "library/global_search.h"
 
 #include <algorithm>
-#include <atomic>
-#include <future>
+#include <deque>
 #include <utility>
 
 #include "library/list_search.h"
@@ -206,24 +205,19 @@ bool AllEmulatorsSearch::MayGoOn() const {
     return !form.Ended && (!watchingList || form.GlobalSearchList.Visible());
 }
 
-// Two caches at a time: while this core looks through one, another looks through the next. What
-// that has found comes behind the first one's hits, so that all stand as if one by one.
+// A few caches are opened ahead, for both cores to have something to do.
 void AllEmulatorsSearch::ScanCaches(const SearchWords& words) {
-    bool goesOn = true;
-    for (int row = 0; goesOn && MayGoOn();) {
-        const std::optional<Cache> first = OpenNext(row, words);
-        if (!first) return;
-        const std::optional<Cache> second = OpenNext(row, words);
-        std::atomic<bool> stop = false;
-        std::future<std::vector<CacheSearch::Part>> ahead;
-        if (second) {
-            // Without a thread to be had it is done when it is asked for.
-            ahead = std::async(std::launch::async | std::launch::deferred,
-                               [&second, &stop] { return second->search->Rest(limit + 1, stop); });
+    CacheCrew crew(limit);
+    std::deque<std::string> emulators;
+    for (int row = 0; MayGoOn();) {
+        while (crew.Count() < CacheCrew::enough) {
+            auto cache = OpenNext(row, words);
+            if (!cache) break;
+            emulators.push_back(std::move(cache->emulator));
+            crew.Add(std::move(cache->search));
         }
-        goesOn = Scan(*first);
-        stop = !goesOn;
-        if (second) goesOn = TakeParts(*second, ahead.get()) && goesOn;
+        if (crew.Count() == 0 || !Scan(emulators.front(), crew)) return;
+        emulators.pop_front();
     }
 }
 
@@ -242,23 +236,22 @@ std::optional<AllEmulatorsSearch::Cache> AllEmulatorsSearch::OpenNext(int& row,
     return {};
 }
 
-// False: the search ends.
-bool AllEmulatorsSearch::Scan(const Cache& cache) {
-    ShowProgress(cache.emulator, lines);
-    for (CacheSearch::Part part; MayGoOn() && cache.search->Next(part);) {
-        if (!TakePart(cache.emulator, part)) return false;
+// The cache in front. False: the search ends.
+bool AllEmulatorsSearch::Scan(const std::string& emulator, CacheCrew& crew) {
+    ShowProgress(emulator, lines);
+    for (CacheSearch::Part part; MayGoOn();) {
+        switch (crew.Next(part)) {
+            case CacheCrew::Progress::found:
+                if (!TakePart(emulator, part)) return false;
+                break;
+            case CacheCrew::Progress::busy:
+                pacer.DoEventsWhenDue();
+                break;
+            case CacheCrew::Progress::through:
+                return true;
+        }
     }
-    return MayGoOn();
-}
-
-bool AllEmulatorsSearch::TakeParts(const Cache& cache,
-                                   const std::vector<CacheSearch::Part>& parts) {
-    if (!MayGoOn() || hits > limit) return false;
-    ShowProgress(cache.emulator, lines);
-    for (const CacheSearch::Part& part : parts) {
-        if (!MayGoOn() || !TakePart(cache.emulator, part)) return false;
-    }
-    return MayGoOn();
+    return false;
 }
 
 bool AllEmulatorsSearch::TakePart(const std::string& emulator, const CacheSearch::Part& part) {

@@ -5,11 +5,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
+#include "library/cache_crew.h"
 #include "library/cache_search.h"
 #include "library/search_words.h"
 #include "platform/file_system.h"
@@ -69,7 +69,6 @@ class AllEmulatorsSearch {
     void LeaveForOtherList();
     void PlaceLabel4();
     void CoverTabs();
-    // A cache that is being looked through.
     struct Cache {
         std::string emulator;
         std::unique_ptr<CacheSearch> search;
@@ -77,8 +76,7 @@ class AllEmulatorsSearch {
 
     void ScanCaches(const SearchWords& words);
     std::optional<Cache> OpenNext(int& row, const SearchWords& words);
-    bool Scan(const Cache& cache);
-    bool TakeParts(const Cache& cache, const std::vector<CacheSearch::Part>& parts);
+    bool Scan(const std::string& emulator, CacheCrew& crew);
     bool TakePart(const std::string& emulator, const CacheSearch::Part& part);
     void ShowProgress(const std::string& emulator, std::int32_t linesShown);
     bool MayGoOn() const;
