@@ -10,8 +10,8 @@ namespace kivu::forms {
 
 namespace {
 
-void Sort(const Toolkit& toolkit, std::vector<std::string>& rows) {
-    SortRowsBy(toolkit.collation, rows.begin(), rows.end());
+void Sort(const Toolkit& toolkit, std::vector<std::string_view>& names) {
+    SortNamesBy(toolkit.collation, names);
 }
 
 // A path that begins with "/" has no other separator, and "\" may end a name in it.
@@ -55,8 +55,17 @@ void DirectoryControl::ReplaceRows(std::vector<std::string> newRows) {
     Notify(Aspect::rows);
 }
 
+void DirectoryControl::ShowRows(std::string_view start,
+                                const std::vector<std::string_view>& names) {
+    rows.resize(names.size());
+    for (std::size_t i = 0; i < names.size(); ++i)
+        rows[i].assign(start).append(names[i]);
+    selected = -1;
+    Notify(Aspect::rows);
+}
+
 void DirListBox::SetPath(const std::string& given) {
-    std::vector<std::string> directories;
+    std::vector<std::string_view> directories;
     DirectorySource* source = GetToolkit().directories;
     const std::string value = WithoutClosingSeparator(given);
     if (value.empty() || !source || !source->Read(value, &directories, nullptr)) return;
@@ -64,11 +73,9 @@ void DirListBox::SetPath(const std::string& given) {
     const char separator = SeparatorOf(value);
     std::string base = value;
     if (base.back() != separator && base.back() != '/') base += separator;
-    for (std::string& name : directories)
-        name.insert(0, base);
     const bool changed = path != value;
     path = value;
-    ReplaceRows(std::move(directories));
+    ShowRows(base, directories);
     if (changed) Run(onChange);
 }
 
@@ -78,7 +85,7 @@ void DirListBox::ForgetPath() {
 }
 
 void FileListBox::SetPath(const std::string& value) {
-    std::vector<std::string> files;
+    std::vector<std::string_view> files;
     if (!ReadFiles(value, files)) return;
     const bool changed = path != value;
     path = value;
@@ -89,22 +96,22 @@ void FileListBox::SetPath(const std::string& value) {
 void FileListBox::SetPattern(const std::string& value) {
     if (pattern == value) return;
     pattern = value;
-    std::vector<std::string> files;
+    std::vector<std::string_view> files;
     ReadFiles(path, files);
     ShowMatching(std::move(files));
     Run(onChange);
 }
 
-bool FileListBox::ReadFiles(const std::string& directory, std::vector<std::string>& files) {
+bool FileListBox::ReadFiles(const std::string& directory, std::vector<std::string_view>& files) {
     DirectorySource* source = GetToolkit().directories;
     return !directory.empty() && source && source->Read(directory, nullptr, &files);
 }
 
-void FileListBox::ShowMatching(std::vector<std::string> files) {
+void FileListBox::ShowMatching(std::vector<std::string_view> files) {
     DirectorySource* source = GetToolkit().directories;
-    std::erase_if(files, [&](const std::string& name) { return !source->Matches(pattern, name); });
+    std::erase_if(files, [&](std::string_view name) { return !source->Matches(pattern, name); });
     Sort(GetToolkit(), files);
-    ReplaceRows(std::move(files));
+    ShowRows({}, files);
 }
 
 }  // namespace kivu::forms

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -17,6 +18,8 @@ class DirectoryControl : public Control {
     bool TakesFocus() const override { return true; }
     int ListCount() const { return static_cast<int>(rows.size()); }
     const std::string& List(int row) const;
+    // Valid until the control shows others.
+    const std::vector<std::string>& Rows() const { return rows; }
     int ListIndex() const { return selected; }
     // A different row in range (or -1) runs the click handler.
     void SetListIndex(int row);
@@ -26,6 +29,9 @@ class DirectoryControl : public Control {
 
  protected:
     void ReplaceRows(std::vector<std::string> newRows);
+    // Each row is `start` and a name. Rows keep their memory: a walk shows directory upon
+    // directory.
+    void ShowRows(std::string_view start, const std::vector<std::string_view>& names);
 
  private:
     std::vector<std::string> rows;
@@ -71,8 +77,8 @@ class FileListBox : public DirectoryControl {
 
  private:
     // False: there is no such directory to enter, and no file is given.
-    bool ReadFiles(const std::string& directory, std::vector<std::string>& files);
-    void ShowMatching(std::vector<std::string> files);
+    bool ReadFiles(const std::string& directory, std::vector<std::string_view>& files);
+    void ShowMatching(std::vector<std::string_view> files);
 
     std::string path;
     std::string pattern = "*.*";

@@ -36,7 +36,11 @@ void ListControl::Settle() const {
         return Precedes(a, b);
     };
     const auto middle = rows.begin() + static_cast<std::ptrdiff_t>(settled);
-    SortRowsBy(GetCollation(), middle, rows.end());
+    for (OrderedRows& some : ordered) {
+        some.begin -= static_cast<std::uint32_t>(settled);
+        some.end -= static_cast<std::uint32_t>(settled);
+    }
+    SortRowsBy(GetCollation(), middle, rows.end(), std::exchange(ordered, {}));
     if (settled > 0 && before(*middle, *(middle - 1))) PlaceNewRows();
     settled = rows.size();
 }
@@ -109,6 +113,19 @@ void ListControl::AddItems(std::vector<std::string> texts) {
     Notify(Aspect::rows);
 }
 
+void ListControl::AddInOrder(std::vector<std::string> texts) {
+    if (texts.empty()) return;
+    if (order == Order::sorted) {
+        const auto begin = static_cast<std::uint32_t>(rows.size());
+        ordered.push_back({begin, begin + static_cast<std::uint32_t>(texts.size())});
+    }
+    MakeRows();
+    rows.insert(rows.end(), std::make_move_iterator(texts.begin()),
+                std::make_move_iterator(texts.end()));
+    ++changes;
+    Notify(Aspect::rows);
+}
+
 void ListControl::AddSorted(std::vector<std::string> texts) {
     if (!rows.empty() || texts.empty()) {
         AddItems(std::move(texts));
@@ -174,6 +191,7 @@ std::vector<std::string> ListControl::TakeRows() {
 
 void ListControl::NoteCleared() {
     settled = 0;
+    ordered.clear();
     maker = {};
     const bool deselected = selection.Clear();
     ++changes;

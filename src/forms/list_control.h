@@ -8,6 +8,7 @@
 
 #include "forms/control.h"
 #include "forms/row_selection.h"
+#include "forms/sort_rows.h"
 #include "forms/text_field.h"
 
 namespace kivu::forms {
@@ -38,6 +39,8 @@ class ListControl : public Control {
     // The same for rows that the caller has put in order by Precedes, equal ones in their order of
     // arrival; a list that was empty takes them as they are.
     void AddSorted(std::vector<std::string> texts);
+    // Rows that are in order among themselves: to place them costs a sorted list little.
+    void AddInOrder(std::vector<std::string> texts);
     // So many rows, in their order, behind which no others are: each is made when somebody first
     // looks at it, and what is made of a row is always the same text.
     using RowMaker = std::function<std::string(int row)>;
@@ -84,7 +87,8 @@ class ListControl : public Control {
     mutable std::vector<std::string> rows;
     mutable RowMaker maker;  // of the rows that are empty; null: all are made
     std::uint64_t changes = 0;
-    mutable std::size_t settled = 0;  // so many rows at the front are in order
+    mutable std::size_t settled = 0;           // so many rows at the front are in order
+    mutable std::vector<OrderedRows> ordered;  // of those behind
 };
 
 class ListBox : public ListControl {

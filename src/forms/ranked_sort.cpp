@@ -1,7 +1,6 @@
 #include "forms/ranked_sort.h"
 
 #include <algorithm>
-#include <string_view>
 
 namespace kivu::forms {
 
@@ -37,7 +36,7 @@ void RankedSort::Sort(std::span<Entry> entries, std::size_t start) {
     }
     const std::size_t common = CommonStart(entries, start);
     for (Entry& entry : entries)
-        entry.rank = collation.Rank(std::string_view(rows[entry.place]).substr(common));
+        entry.rank = collation.Rank(rows[entry.place].substr(common));
     std::sort(entries.begin(), entries.end(), [](const Entry& a, const Entry& b) {
         return a.rank != b.rank ? a.rank < b.rank : a.place < b.place;
     });
@@ -47,7 +46,7 @@ void RankedSort::Sort(std::span<Entry> entries, std::size_t start) {
         const auto equal = entries.subspan(begin, end - begin);
         if (equal.size() < 2) continue;
         // Rows that are no longer told apart by what follows are told apart as a whole.
-        if (CommonStart(equal, common) > common) {
+        if (equal.size() > few && CommonStart(equal, common) > common) {
             Sort(equal, common);
         } else {
             SortByText(equal);

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 #include <span>
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/types.h"
@@ -16,7 +16,7 @@ class RankedSort {
  public:
     using Place = std::uint32_t;
 
-    RankedSort(std::span<const std::string> rows, const Collation& collation)
+    RankedSort(std::span<const std::string_view> rows, const Collation& collation)
         : rows(rows), collation(collation) {}
 
     // The rows' places in their order, equal ones as they come.
@@ -33,7 +33,7 @@ class RankedSort {
     void SortByText(std::span<Entry> entries) const;
     std::size_t CommonStart(std::span<const Entry> entries, std::size_t start) const;
 
-    std::span<const std::string> rows;
+    std::span<const std::string_view> rows;
     const Collation& collation;
 };
 

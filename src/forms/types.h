@@ -116,7 +116,8 @@ class TextMeasure {
 };
 
 // The order of sorted lists: without regard to case, in the user's language. Compare gives a value
-// below, at or above 0. Texts that begin with the same ASCII compare as what follows it.
+// below, at or above 0. Texts that begin alike, up to an ASCII character, compare as what follows
+// it.
 class Collation {
  public:
     virtual ~Collation() = default;
@@ -129,11 +130,11 @@ class Collation {
 class DirectorySource {
  public:
     virtual ~DirectorySource() = default;
-    // Either list may be null: it is not wanted then. False: the directory cannot be entered;
-    // nothing is changed then.
-    virtual bool Read(const std::string& path, std::vector<std::string>* directories,
-                      std::vector<std::string>* files) = 0;
-    virtual bool Matches(const std::string& pattern, const std::string& name) = 0;
+    // Names in no particular order, valid until the next call. Either list may be null: it is not
+    // wanted then. False: the directory cannot be entered; nothing is changed then.
+    virtual bool Read(const std::string& path, std::vector<std::string_view>* directories,
+                      std::vector<std::string_view>* files) = 0;
+    virtual bool Matches(const std::string& pattern, std::string_view name) = 0;
 };
 
 // What the controls ask of the world outside. All may be missing: then rows compare by their bytes,

@@ -1,10 +1,14 @@
 #include "library/file_scan_recursive.h"
 
+#include <algorithm>
+
 #include "text/paths.h"
 
 namespace kivu::library {
 
 namespace {
+
+constexpr int rowsPerTurn = 100;
 
 std::string WithSeparator(std::string directory) {
     const char closing = directory.empty() ? '\0' : directory.back();
@@ -81,14 +85,18 @@ int FileScanRecursive::ScanFiles(const std::string& Path, const std::string& Pat
 
 FileScanRecursive::Step FileScanRecursive::CollectFiles(const std::string& progressText,
                                                         forms::Label* label) {
+    source.WillEnter(controls.MyTmpDir.Rows());
     controls.MyTmpFile.SetPath(controls.MyTmpDir.Path());
     if (BreakFlag) return Step::leave;
-    // Copies: an event handler may drive the controls too.
+    // A copy: an event handler may drive the controls too.
     const std::string directory = WithSeparator(controls.MyTmpFile.Path());
-    for (int i = 0; i < controls.MyTmpFile.ListCount(); ++i) {
-        controls.ResultList.AddItem(Joined(directory, controls.MyTmpFile.List(i)));
+    for (int i = 0; i < controls.MyTmpFile.ListCount();) {
+        // Events run at row 0 and at each hundredth, behind which the next rows come at once, or
+        // the one with which a break is noticed.
+        const int turn = BreakFlag ? i + 1 : (i + rowsPerTurn - 1) / rowsPerTurn * rowsPerTurn + 1;
+        AddFiles(directory, i, std::min(turn, i + limit - controls.ResultList.ListCount()));
         if (controls.ResultList.ListCount() >= limit || BreakFlag) return Step::stop;
-        if (i % 100 != 0) continue;
+        if ((i - 1) % rowsPerTurn != 0) continue;
         pacer.DoEventsWhenDue();
         SetCaption(label, progressText + std::to_string(controls.ResultList.ListCount()));
     }
@@ -97,6 +105,17 @@ FileScanRecursive::Step FileScanRecursive::CollectFiles(const std::string& progr
     }
     pacer.DoEventsWhenDue();
     return Step::goOn;
+}
+
+// At least one, from row `i` on, which moves behind them. Names of one directory are in order, and
+// so are the paths that end in them.
+void FileScanRecursive::AddFiles(const std::string& directory, int& i, int end) {
+    std::vector<std::string> paths;
+    end = std::min(std::max(end, i + 1), controls.MyTmpFile.ListCount());
+    paths.reserve(static_cast<std::size_t>(end - i));
+    for (; i < end; ++i)
+        paths.push_back(Joined(directory, controls.MyTmpFile.List(i)));
+    controls.ResultList.AddInOrder(std::move(paths));
 }
 
 int FileScanRecursive::ScanDirs(const std::string& Path, const std::string& ProgressText) {
@@ -129,6 +148,7 @@ int FileScanRecursive::ScanDirs(const std::string& Path, const std::string& Prog
 
 FileScanRecursive::Step FileScanRecursive::CollectDirectories(const std::string& progressText) {
     if (BreakFlag) return Step::leave;
+    source.WillEnter(controls.MyTmpDir.Rows());
     for (int i = 0; i < controls.MyTmpDir.ListCount(); ++i) {
         const std::string directory = controls.MyTmpDir.List(i);
         controls.ResultList.AddItem(WithSeparator(directory));

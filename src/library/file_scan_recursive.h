@@ -43,6 +43,7 @@ class FileScanRecursive {
 
     void Begin(const std::string& path, const std::string& pattern);
     Step CollectFiles(const std::string& progressText, forms::Label* label);
+    void AddFiles(const std::string& directory, int& i, int end);
     Step CollectDirectories(const std::string& progressText);
     // True: the directory on top of the stack has been entered, and is taken off it.
     bool EnterTop(std::string& lastDir);

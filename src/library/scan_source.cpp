@@ -4,69 +4,59 @@
 
 namespace kivu::library {
 
-bool ScanSource::Read(const std::string& path, std::vector<std::string>* directories,
-                      std::vector<std::string>* names) {
-    if (!scanning) {
-        std::vector<std::string> readDirectories, readNames;
-        if (!List(path, readDirectories, readNames)) return false;
-        if (directories) *directories = std::move(readDirectories);
-        if (names) *names = std::move(readNames);
-        return true;
+bool ScanSource::Read(const std::string& path, std::vector<std::string_view>* directories,
+                      std::vector<std::string_view>* names) {
+    const bool entering = scanning && path != lastPath;
+    if (entering && !Enter(path)) return false;
+    if (!entering && (!scanning || (names && !namesAreLeft))) {
+        auto listing = files.ReadDirectory(path);
+        if (!listing) return false;
+        if (scanning) LeaveOutLinksInside(path, *listing);
+        last = *std::move(listing);
     }
-    if (path != lastPath && !Enter(path)) return false;
-    if (names && !namesAreLeft) {
-        std::vector<std::string> ignored;
-        if (!List(path, ignored, lastNames)) return false;
-    }
-    if (directories) *directories = lastDirectories;
+    if (directories) Show(last, true, directories);
     if (names) {
-        *names = std::exchange(lastNames, {});
+        Show(last, false, names);
         namesAreLeft = false;
     }
     return true;
 }
 
-// Reads a directory that the scan has not seen yet.
-bool ScanSource::Enter(const std::string& path) {
-    const auto identity = files.IdentityOf(path);
-    if (identity && entered.contains(*identity)) return false;
-    std::vector<std::string> directories, names;
-    if (!List(path, directories, names)) return false;
-    LeaveOutLinksInside(path, directories);
-    if (identity) entered.insert(*identity);
-    lastPath = path;
-    lastDirectories = std::move(directories);
-    lastNames = std::move(names);
-    namesAreLeft = true;
-    return true;
+void ScanSource::Show(const Listing& listing, bool directories,
+                      std::vector<std::string_view>* names) {
+    names->clear();
+    names->reserve(listing.items.size());
+    for (const Listing::Item& item : listing.items) {
+        if (item.isDirectory == directories) names->push_back(listing.Name(item));
+    }
 }
 
-bool ScanSource::List(const std::string& path, std::vector<std::string>& directories,
-                      std::vector<std::string>& names) {
-    auto entries = files.ListDirectory(path);
-    if (!entries) return false;
-    directories.clear();
-    names.clear();
-    names.reserve(entries->size());
-    for (auto& entry : *entries)
-        (entry.isDirectory ? directories : names).push_back(std::move(entry.name));
+// Reads a directory that the scan has not seen yet.
+bool ScanSource::Enter(const std::string& path) {
+    auto listing = ahead->Read(path);
+    if (!listing) return false;
+    if (listing->identity && !entered.insert(*listing->identity).second) return false;
+    LeaveOutLinksInside(path, *listing);
+    last = *std::move(listing);
+    lastPath = path;
+    namesAreLeft = true;
     return true;
 }
 
 // A link to a directory that the walk meets anyway would only decide under which of its paths the
 // files are found.
-void ScanSource::LeaveOutLinksInside(const std::string& path,
-                                     std::vector<std::string>& directories) const {
-    std::erase_if(directories, [&](const std::string& name) {
+void ScanSource::LeaveOutLinksInside(const std::string& path, Listing& listing) const {
+    std::erase_if(listing.items, [&](const Listing::Item& item) {
+        if (!item.isLink) return false;
         const bool closed = !path.empty() && (path.back() == '/' || path.back() == '\\');
-        const std::string full = closed ? path + name : path + files.Separator() + name;
-        if (!files.IsLink(full)) return false;
+        std::string full = closed ? path : path + files.Separator();
+        full += listing.Name(item);
         const std::string target = files.ResolvedPath(full);
         return target == rootPath || target.starts_with(rootPath + files.Separator());
     });
 }
 
-bool ScanSource::Matches(const std::string& text, const std::string& name) {
+bool ScanSource::Matches(const std::string& text, std::string_view name) {
     if (text != patternText) {
         patternText = text;
         pattern = text::Pattern(text);
@@ -79,15 +69,20 @@ void ScanSource::BeginScan(const std::string& root) {
     rootPath = files.ResolvedPath(root);
     entered.clear();
     lastPath.clear();
+    ahead.emplace(files);
+}
+
+void ScanSource::WillEnter(const std::vector<std::string>& paths) {
+    if (ahead) ahead->Expect(paths);
 }
 
 void ScanSource::EndScan() {
     scanning = false;
     entered.clear();
     lastPath.clear();
-    lastDirectories.clear();
-    lastNames.clear();
+    last = {};
     namesAreLeft = false;
+    ahead.reset();
 }
 
 }  // namespace kivu::library

@@ -1,10 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "forms/types.h"
+#include "library/read_ahead.h"
 #include "platform/file_system.h"
 #include "text/pattern.h"
 
@@ -19,30 +22,36 @@ class ScanSource : public forms::DirectorySource {
  public:
     explicit ScanSource(const platform::FileSystem& files) : files(files) {}
 
-    bool Read(const std::string& path, std::vector<std::string>* directories,
-              std::vector<std::string>* names) override;
-    bool Matches(const std::string& pattern, const std::string& name) override;
+    bool Read(const std::string& path, std::vector<std::string_view>* directories,
+              std::vector<std::string_view>* names) override;
+    bool Matches(const std::string& pattern, std::string_view name) override;
 
     void BeginScan(const std::string& root);
+    // The scan will go on with these, the last one first.
+    void WillEnter(const std::vector<std::string>& paths);
     void EndScan();
 
  private:
-    bool List(const std::string& path, std::vector<std::string>& directories,
-              std::vector<std::string>& names);
+    using Listing = platform::FileSystem::Listing;
+
     bool Enter(const std::string& path);
-    void LeaveOutLinksInside(const std::string& path, std::vector<std::string>& directories) const;
+    void LeaveOutLinksInside(const std::string& path, Listing& listing) const;
+    static void Show(const Listing& listing, bool directories,
+                     std::vector<std::string_view>* names);
 
     const platform::FileSystem& files;
     std::string patternText;
     text::Pattern pattern{""};
+    // What has been shown last. In a scan it is the directory that was entered last, and its names
+    // are handed over to the first who wants them.
+    Listing last;
 
     bool scanning = false;
     std::string rootPath;  // resolved
     std::set<platform::FileSystem::Identity> entered;
-    // The directory that was entered last. Its names are handed over to the first who wants them.
     std::string lastPath;
-    std::vector<std::string> lastDirectories, lastNames;
     bool namesAreLeft = false;
+    std::optional<ReadAhead> ahead;
 };
 
 }  // namespace kivu::library

@@ -20,6 +20,14 @@ class FileSystem {
  public:
     virtual ~FileSystem() = default;
 
+    // One value per directory, whatever path leads to it, so that a walk enters it once. 0:
+    // unknown.
+    struct Identity {
+        std::uint64_t device = 0;
+        std::uint64_t inode = 0;
+        auto operator<=>(const Identity&) const = default;
+    };
+
     struct Entry {
         std::string name;  // without its directory
         bool isDirectory = false;
@@ -30,18 +38,46 @@ class FileSystem {
     // Empty optional: the directory cannot be entered or read.
     virtual std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const = 0;
 
+    // The same for a walk through a tree, with little memory and time for each entry.
+    struct Listing {
+        struct Item {
+            std::uint32_t begin = 0, length = 0;  // of the name in `names`
+            bool isDirectory = false;
+            bool isLink = false;  // told of directories
+        };
+        std::string_view Name(const Item& item) const {
+            return std::string_view(names).substr(item.begin, item.length);
+        }
+        void Add(std::string_view name, bool isDirectory, bool isLink) {
+            items.push_back({static_cast<std::uint32_t>(names.size()),
+                             static_cast<std::uint32_t>(name.size()), isDirectory, isLink});
+            names += name;
+        }
+
+        std::string names;  // one behind the other
+        std::vector<Item> items;
+        std::optional<Identity> identity;  // of the directory
+    };
+    virtual std::optional<Listing> ReadDirectory(const std::string& path) const {
+        const auto entries = ListDirectory(path);
+        if (!entries) return std::nullopt;
+        Listing listing;
+        listing.identity = IdentityOf(path);
+        const bool closed = path.ends_with('/') || path.ends_with(Separator());
+        const std::string base = closed ? path : path + Separator();
+        for (const Entry& entry : *entries)
+            listing.Add(entry.name, entry.isDirectory,
+                        entry.isDirectory && IsLink(base + entry.name));
+        return listing;
+    }
+    // Whether other threads may call ReadDirectory at any time.
+    virtual bool ServesThreads() const { return false; }
+
     // A regular file of exactly this name. Empty or quoted text and directories are no files; "*"
     // and "?" are plain characters.
     virtual bool FileExists(const std::string& path) const = 0;
     virtual bool IsDirectory(const std::string& path) const = 0;
 
-    // One value per directory, whatever path leads to it, so that a walk enters it once. 0:
-    // unknown.
-    struct Identity {
-        std::uint64_t device = 0;
-        std::uint64_t inode = 0;
-        auto operator<=>(const Identity&) const = default;
-    };
     virtual std::optional<Identity> IdentityOf(const std::string& path) const = 0;
     virtual bool IsLink(const std::string& path) const = 0;
     // The path with every link on the way resolved; the path itself when it leads nowhere.

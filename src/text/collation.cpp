@@ -263,18 +263,37 @@ std::string SortKey(std::string_view text) {
     return key;
 }
 
-std::uint64_t SortRank(std::string_view text) {
-    constexpr std::size_t count = sizeof(std::uint64_t);
+namespace {
+
+constexpr std::size_t rankBytes = sizeof(std::uint64_t);
+
+// Mostly the first level of the key is longer, and the rest of it is not wanted.
+std::uint64_t RankBeyondAscii(std::string_view text) {
     std::uint64_t rank = 0;
-    for (std::size_t at = 0; at < count; ++at) {
+    std::size_t count = 0;
+    ElementReader primaries(text);
+    while (const std::uint32_t primary = primaries.NextPrimary()) {
+        const int bytes = (primary & 0xFFFFFF) == 0 ? 1 : 4;
+        for (int i = 0; i < bytes; ++i) {
+            rank = rank << 8 | (primary >> (24 - 8 * i) & 0xFF);
+            if (++count == rankBytes) return rank;
+        }
+    }
+    rank = 0;
+    const std::string key = SortKey(text);
+    for (std::size_t i = 0; i < rankBytes; ++i)
+        rank = rank << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+    return rank;
+}
+
+}  // namespace
+
+std::uint64_t SortRank(std::string_view text) {
+    std::uint64_t rank = 0;
+    for (std::size_t at = 0; at < rankBytes; ++at) {
         const std::uint8_t weight = at < text.size() ? AsciiWeight(text[at]) : std::uint8_t{0};
+        if (weight == 0 && at < text.size()) return RankBeyondAscii(text);
         rank = rank << 8 | weight;
-        if (weight != 0 || at >= text.size()) continue;
-        const std::string key = SortKey(text);
-        rank = 0;
-        for (std::size_t i = 0; i < count; ++i)
-            rank = rank << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
-        break;
     }
     return rank;
 }

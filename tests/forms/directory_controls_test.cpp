@@ -10,15 +10,17 @@ class FakeDirectories : public DirectorySource {
     struct Content {
         std::vector<std::string> directories, files;
     };
-    bool Read(const std::string& path, std::vector<std::string>* directories,
-              std::vector<std::string>* files) override {
+    bool Read(const std::string& path, std::vector<std::string_view>* directories,
+              std::vector<std::string_view>* files) override {
         const auto found = contents.find(path);
         if (found == contents.end()) return false;
-        if (directories) *directories = found->second.directories;
-        if (files) *files = found->second.files;
+        const Content& content = found->second;
+        if (directories)
+            directories->assign(content.directories.begin(), content.directories.end());
+        if (files) files->assign(content.files.begin(), content.files.end());
         return true;
     }
-    bool Matches(const std::string& pattern, const std::string& name) override {
+    bool Matches(const std::string& pattern, std::string_view name) override {
         return pattern == "*.*" || name.ends_with(pattern.substr(1));
     }
     std::map<std::string, Content> contents;

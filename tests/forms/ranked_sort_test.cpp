@@ -33,8 +33,9 @@ struct RankedSortTest : testing::Test {
         return rows;
     }
     std::vector<std::string> Sorted(const std::vector<std::string>& rows) const {
+        const std::vector<std::string_view> views(rows.begin(), rows.end());
         std::vector<std::string> sorted;
-        for (const std::uint32_t place : RankedSort(rows, collation).FindOrder())
+        for (const std::uint32_t place : RankedSort(views, collation).FindOrder())
             sorted.push_back(rows[place]);
         return sorted;
     }

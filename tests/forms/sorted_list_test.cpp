@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -55,6 +56,57 @@ TEST_F(SortedList, EqualRowsOfALongFillKeepTheirOrderOfArrival) {
             expected.push_back(all[i]);
     }
     EXPECT_EQ(list.Rows(), expected);
+}
+
+TEST_F(SortedList, RowsAddedInOrderFindTheirPlacesAmongOthers) {
+    std::mt19937 random(9);
+    for (int round = 0; round < 200; ++round) {
+        list.Clear();
+        std::vector<std::string> expected;
+        for (auto parts = random() % 9; parts > 0; --parts) {
+            std::vector<std::string> part;
+            for (auto count = random() % 40; count > 0; --count)
+                part.push_back(std::string(1 + random() % 2, "aAbB"[random() % 4]));
+            const auto before = [this](const std::string& a, const std::string& b) {
+                return collation.Compare(a, b) < 0;
+            };
+            const auto way = random() % 3;
+            if (way == 0) std::stable_sort(part.begin(), part.end(), before);
+            expected.insert(expected.end(), part.begin(), part.end());
+            std::stable_sort(expected.begin(), expected.end(), before);
+            if (way == 0) {
+                list.AddInOrder(part);
+            } else {
+                list.AddItems(part);
+            }
+            // A look in between settles what is there.
+            if (random() % 4 == 0) {
+                ASSERT_EQ(list.Rows(), expected);
+            }
+        }
+        ASSERT_EQ(list.Rows(), expected);
+    }
+}
+
+TEST_F(SortedList, RowsAddedInOrderCostFewComparisons) {
+    std::vector<std::string> part;
+    for (int i = 0; i < 1000; ++i)
+        part.push_back(" " + std::to_string(10000 + i));
+    for (char directory = 'z'; directory >= 'a'; --directory) {
+        std::vector<std::string> rows = part;
+        for (std::string& row : rows)
+            row.insert(0, 1, directory);
+        list.AddInOrder(std::move(rows));
+    }
+    EXPECT_EQ(list.List(0), "a 10000");
+    EXPECT_LE(collation.comparisons, 26 * 8);
+}
+
+TEST_F(SortedList, AListInItsOwnOrderTakesThemAsTheyCome) {
+    ListBox plain(&form, "List2", ListControl::Order::asAdded);
+    plain.AddInOrder({"b", "c"});
+    plain.AddInOrder({"a"});
+    EXPECT_THAT(RowsOf(plain), ElementsAre("b", "c", "a"));
 }
 
 TEST_F(SortedList, WithoutACollationRowsCompareByTheirBytes) {

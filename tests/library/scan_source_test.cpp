@@ -19,7 +19,7 @@ struct ScanSourceTest : ::testing::Test {
     }
     kivu::testing::MemoryFileSystem files;
     ScanSource source{files};
-    std::vector<std::string> directories, names;
+    std::vector<std::string_view> directories, names;
 };
 
 TEST_F(ScanSourceTest, GivesEitherListAlone) {

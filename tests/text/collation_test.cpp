@@ -151,6 +151,19 @@ TEST(CompareText, IsATotalOrderThatSortKeysShare) {
     }
 }
 
+TEST(SortRank, IsTheBeginningOfTheSortKey) {
+    std::vector<string> texts = RandomTexts();
+    for (const char* text : {"", "ä", "Über", "ßßßßßßßß", "abcdefg\xC3\xA4", "abc\xE4", "日本語"})
+        texts.emplace_back(text);
+    for (const string& text : texts) {
+        std::uint64_t expected = 0;
+        const string key = SortKey(text);
+        for (std::size_t i = 0; i < 8; ++i)
+            expected = expected << 8 | (i < key.size() ? static_cast<unsigned char>(key[i]) : 0U);
+        ASSERT_EQ(SortRank(text), expected) << text;
+    }
+}
+
 // Long enough for steps of several bytes, alike enough to be equal for many of them.
 TEST(CompareText, ComparesLongTextsAsTheirSortKeys) {
     const string_view pieces[] = {"Game", "gAME", "a", "A", "b", "1", "-", " ", "ä", "Ä", "\x7F"};

@@ -2,7 +2,6 @@
 
 #include <cerrno>
 #include <cstdlib>
-#include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <new>
@@ -38,57 +37,6 @@ std::optional<struct stat> Status(const std::string& path) {
     return status;
 }
 
-enum class Kind { File, Directory, Other };
-
-Kind KindOf(mode_t mode) {
-    if (S_ISREG(mode)) return Kind::File;
-    return S_ISDIR(mode) ? Kind::Directory : Kind::Other;
-}
-
-Kind KindOf(int directory, const dirent& entry) {
-    switch (entry.d_type) {
-        case DT_REG:
-            return Kind::File;
-        case DT_DIR:
-            return Kind::Directory;
-        case DT_LNK:
-        case DT_UNKNOWN: {
-            struct stat status {};
-            if (::fstatat(directory, entry.d_name, &status, 0) != 0) return Kind::Other;
-            return KindOf(status.st_mode);
-        }
-        default:
-            return Kind::Other;
-    }
-}
-
-bool IsShown(std::string_view name) {
-    // Lists of files are kept one name a line.
-    return name.front() != '.' && name.find('\n') == std::string_view::npos &&
-           name.find('\r') == std::string_view::npos;
-}
-
-class DirectoryStream {
- public:
-    explicit DirectoryStream(const std::string& path) : stream(::opendir(path.c_str())) {}
-    ~DirectoryStream() {
-        if (stream != nullptr) ::closedir(stream);
-    }
-    DirectoryStream(const DirectoryStream&) = delete;
-    DirectoryStream& operator=(const DirectoryStream&) = delete;
-
-    explicit operator bool() const { return stream != nullptr; }
-    int Descriptor() const { return ::dirfd(stream); }
-    // Null at the end; errno then tells an end from a failure.
-    const dirent* Next() {
-        errno = 0;
-        return ::readdir(stream);
-    }
-
- private:
-    DIR* stream;
-};
-
 // The first `size` bytes and whatever has been added behind them since the file was looked at.
 std::optional<std::string> ReadAll(int descriptor, std::size_t size) {
     std::string bytes(size + 1, '\0');
@@ -109,24 +57,6 @@ std::optional<std::string> ReadAll(int descriptor, std::size_t size) {
 }
 
 }  // namespace
-
-std::optional<std::vector<platform::FileSystem::Entry>> LinuxFileSystem::ListDirectory(
-    const std::string& path) const {
-    if (!Usable(path)) return std::nullopt;
-    DirectoryStream stream(path);
-    if (!stream) return std::nullopt;
-
-    std::vector<Entry> entries;
-    entries.reserve(128);
-    while (const dirent* entry = stream.Next()) {
-        const std::string_view name = entry->d_name;
-        if (!IsShown(name)) continue;
-        const Kind kind = KindOf(stream.Descriptor(), *entry);
-        if (kind != Kind::Other) entries.push_back({std::string(name), kind == Kind::Directory});
-    }
-    if (errno != 0) return std::nullopt;
-    return entries;
-}
 
 bool LinuxFileSystem::FileExists(const std::string& path) const {
     if (IsQuoted(path)) return false;

@@ -21,6 +21,8 @@ class LinuxFileSystem : public platform::FileSystem {
     // Asks for a file's type only where the directory itself does not tell it: for links, and on
     // file systems that leave it open.
     std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override;
+    std::optional<Listing> ReadDirectory(const std::string& path) const override;
+    bool ServesThreads() const override { return true; }
 
     bool FileExists(const std::string& path) const override;
     bool IsDirectory(const std::string& path) const override;

@@ -34,37 +34,53 @@ bool IsShown(const WIN32_FIND_DATAW& found) {
            name != L"." && name != L".." && name.find_first_of(L"\r\n") == std::wstring_view::npos;
 }
 
-DWORD AttributesOfFound(const std::wstring& directory, const WIN32_FIND_DATAW& found) {
-    const bool isLink = (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
-                        IsReparseTagNameSurrogate(found.dwReserved0);
-    return isLink ? AttributesOf(directory + found.cFileName) : found.dwFileAttributes;
+bool IsLink(const WIN32_FIND_DATAW& found) {
+    return (found.dwFileAttributes & FILE_ATTRIBUTE_REPARSE_POINT) != 0 &&
+           IsReparseTagNameSurrogate(found.dwReserved0);
+}
+
+void Add(const std::wstring& directory, const WIN32_FIND_DATAW& found,
+         platform::FileSystem::Listing& listing) {
+    const bool isLink = IsLink(found);
+    const DWORD attributes =
+        isLink ? AttributesOf(directory + found.cFileName) : found.dwFileAttributes;
+    if (attributes == INVALID_FILE_ATTRIBUTES) return;
+    const bool isDirectory = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
+    listing.Add(Narrow(found.cFileName), isDirectory, isDirectory && isLink);
 }
 
 }  // namespace
 
-std::optional<std::vector<platform::FileSystem::Entry>> WindowsFileSystem::ListDirectory(
+std::optional<platform::FileSystem::Listing> WindowsFileSystem::ReadDirectory(
     const std::string& path) const {
     const auto system = SystemPath(path);
     if (!system) return std::nullopt;
+    AskForNoDisk();
     const std::wstring directory = system->ends_with(L'\\') ? *system : *system + L"\\";
+    Listing listing;
+    listing.identity = IdentityOf(path);
     WIN32_FIND_DATAW found{};
     Search search(directory + L"*", found);
     if (!search) {
         // The root of an empty drive holds not even ".".
-        if (::GetLastError() == ERROR_FILE_NOT_FOUND && IsDirectory(path)) return {{}};
+        if (::GetLastError() == ERROR_FILE_NOT_FOUND && IsDirectory(path)) return listing;
         return std::nullopt;
     }
-
-    std::vector<Entry> entries;
-    entries.reserve(128);
     do {
-        if (!IsShown(found)) continue;
-        const DWORD attributes = AttributesOfFound(directory, found);
-        if (attributes != INVALID_FILE_ATTRIBUTES)
-            entries.push_back(
-                {Narrow(found.cFileName), (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0});
+        if (IsShown(found)) Add(directory, found, listing);
     } while (search.Next(found));
     if (::GetLastError() != ERROR_NO_MORE_FILES) return std::nullopt;
+    return listing;
+}
+
+std::optional<std::vector<platform::FileSystem::Entry>> WindowsFileSystem::ListDirectory(
+    const std::string& path) const {
+    const auto listing = ReadDirectory(path);
+    if (!listing) return std::nullopt;
+    std::vector<Entry> entries;
+    entries.reserve(listing->items.size());
+    for (const Listing::Item& item : listing->items)
+        entries.push_back({std::string(listing->Name(item)), item.isDirectory});
     return entries;
 }
 

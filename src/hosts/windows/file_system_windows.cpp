@@ -61,6 +61,10 @@ std::string NameForm(const std::string& path, NameCall call) {
 }  // namespace
 
 WindowsFileSystem::WindowsFileSystem() {
+    AskForNoDisk();
+}
+
+void WindowsFileSystem::AskForNoDisk() {
     ::SetThreadErrorMode(SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX, nullptr);
 }
 

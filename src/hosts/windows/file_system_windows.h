@@ -25,6 +25,9 @@ class WindowsFileSystem : public platform::FileSystem {
 
     // Hidden is what has the hidden attribute; a dot in front of a name means nothing here.
     std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override;
+    // As the constructor for the calling thread.
+    std::optional<Listing> ReadDirectory(const std::string& path) const override;
+    bool ServesThreads() const override { return true; }
 
     bool FileExists(const std::string& path) const override;
     bool IsDirectory(const std::string& path) const override;
@@ -67,6 +70,9 @@ class WindowsFileSystem : public platform::FileSystem {
     // In the system's ANSI code page, see code_page.h.
     std::string DecodeText(std::string_view bytes) const override;
     std::string EncodeText(std::string_view text) const override;
+
+ private:
+    static void AskForNoDisk();
 };
 
 }  // namespace kivu::hosts

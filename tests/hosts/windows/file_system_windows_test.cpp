@@ -191,6 +191,11 @@ TEST_F(FileSystemWindows, LinksAreFollowed) {
     EXPECT_TRUE(files.IsLink(directory.Path("linked")));
     EXPECT_TRUE(files.IsLink(directory.Path("dangling")));
     EXPECT_EQ(files.IdentityOf(directory.Path("linked")), files.IdentityOf(directory.Path("sub")));
+    const auto listing = files.ReadDirectory(directory.Root());
+    ASSERT_TRUE(listing);
+    EXPECT_EQ(listing->identity, files.IdentityOf(directory.Root()));
+    for (const auto& item : listing->items)
+        EXPECT_EQ(item.isLink, listing->Name(item) == "linked") << listing->Name(item);
     EXPECT_TRUE(files.FileExists(directory.Path("link")));
     EXPECT_FALSE(files.FileExists(directory.Path("linked")));
     EXPECT_FALSE(files.FileExists(directory.Path("dangling")));
