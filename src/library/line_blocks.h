@@ -12,7 +12,7 @@ namespace kivu::library {
 // longer than a block is counted and left out: nothing that the launcher writes comes near it.
 class LineBlocks {
  public:
-    static constexpr std::size_t blockSize = std::size_t{1} << 16;  // bytes
+    static constexpr std::size_t blockSize = std::size_t{1} << 18;  // bytes
 
     explicit LineBlocks(platform::FileSystem::Reader& reader, std::size_t size = blockSize)
         : reader(reader), buffer(size) {}
