@@ -20,6 +20,16 @@ bool IsAbsolute(const std::string& path) {
 
 }  // namespace
 
+bool TakeLogOption(std::vector<std::string>& arguments) {
+    const std::string option = "--log";
+    const std::size_t given = arguments.size();
+    while (!arguments.empty() && arguments.front() == option)
+        arguments.erase(arguments.begin());
+    while (!arguments.empty() && arguments.back() == option)
+        arguments.pop_back();
+    return arguments.size() < given;
+}
+
 std::string CommandLineText(std::vector<std::string> arguments, const std::string& directory,
                             const std::function<bool(const std::string&)>& fileExists) {
     const char separator = directory.find('\\') == std::string::npos ? '/' : '\\';

@@ -10,6 +10,7 @@
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
 #include "hosts/linux/locale_linux.h"
+#include "hosts/linux/log_linux.h"
 #include "hosts/linux/process_list_linux.h"
 #include "hosts/linux/program_directory_linux.h"
 #include "hosts/linux/program_starter_linux.h"
@@ -33,6 +34,7 @@ struct DesktopHost::Parts {
     hosts::LinuxProcessList processes{session};
     hosts::LinuxProgramStarter starter{session};
     hosts::LinuxClock clock;
+    hosts::LinuxLog log;
     hosts::LinuxLocale locale;
     hosts::LinuxUserStore userStore;
     hosts::LinuxInstance instance{hosts::ProgramName(programFile)};
@@ -45,8 +47,10 @@ struct DesktopHost::Parts {
 
 // The arguments byte for byte: a file name need not be text.
 DesktopHost::DesktopHost(int argc, char** argv) : parts(std::make_unique<Parts>()) {
+    std::vector<std::string> arguments(argv + 1, argv + argc);
+    if (TakeLogOption(arguments)) parts->log.AlsoToStandardError();
     parts->commandLine =
-        CommandLineText({argv + 1, argv + argc}, parts->files.CurrentDirectory(),
+        CommandLineText(std::move(arguments), parts->files.CurrentDirectory(),
                         [this](const std::string& path) { return parts->files.FileExists(path); });
 }
 

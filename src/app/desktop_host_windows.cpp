@@ -10,6 +10,7 @@
 #include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/instance_windows.h"
 #include "hosts/windows/locale_windows.h"
+#include "hosts/windows/log_windows.h"
 #include "hosts/windows/process_list_windows.h"
 #include "hosts/windows/program_directory_windows.h"
 #include "hosts/windows/program_starter_windows.h"
@@ -39,6 +40,7 @@ struct DesktopHost::Parts {
     hosts::WindowsProcessList processes;
     hosts::WindowsProgramStarter starter;
     hosts::WindowsClock clock;
+    hosts::WindowsLog log;
     hosts::WindowsLocale locale;
     hosts::WindowsUserStore userStore;
     hosts::WindowsInstance instance{hosts::ProgramName(programFile)};
@@ -49,8 +51,10 @@ struct DesktopHost::Parts {
 };
 
 DesktopHost::DesktopHost(int, char**) : parts(std::make_unique<Parts>()) {
+    std::vector<std::string> arguments = WideArguments();
+    if (TakeLogOption(arguments)) parts->log.AlsoToStandardError();
     parts->commandLine =
-        CommandLineText(WideArguments(), parts->files.CurrentDirectory(),
+        CommandLineText(std::move(arguments), parts->files.CurrentDirectory(),
                         [this](const std::string& path) { return parts->files.FileExists(path); });
 }
 

@@ -28,6 +28,7 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
     const core::Raised once(starting);
     const std::string path = EmulatorOf(EName);
     if (!services.files.FileExists(path)) {
+        services.log.Write("set-up of " + EName + ": no emulator at: " + path);
         SayMissing(EName, path);
         return;
     }
@@ -43,6 +44,7 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
     (void)services.files.ChangeDirectory(
         text::QuoteIfNeeded(support::ShortFileName(services.files, directory)));
     (void)services.files.ChangeDirectory(directory);
+    services.log.Write("set-up of " + EName + ": " + path + "; watched as: " + file);
     platform::StartRequest request;
     request.command = path;
     request.words = {path};

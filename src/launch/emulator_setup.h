@@ -8,6 +8,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/log.h"
 #include "platform/program_starter.h"
 #include "profile/ini.h"
 
@@ -26,6 +27,7 @@ class EmulatorSetup {
         platform::ProgramStarter& starter;
         platform::Clock& clock;
         platform::Dialogs& dialogs;
+        platform::Log& log;
     };
 
     EmulatorSetup(core::Form1& form, profile::Ini& ini, core::EventPacer& pacer, Services services)

@@ -50,6 +50,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     EnterEmulatorDirectory(run);
     ShowLoadingAndMount(run);
     form.CurrentRunninApplication = WatchedName(run.emulator);
+    LogRun(run);
     StartEmulatorProgram(run);
     (void)services.files.ChangeDirectory(form.AppDir);
     FinishStart(notedTitle);
@@ -133,6 +134,7 @@ void GameLaunch::AppendGame(Run& run) {
 
 bool GameLaunch::GameExists(const Run& run) {
     if (services.files.FileExists(run.path) || services.files.FileExists(run.argument)) return true;
+    services.log.Write("not launched, no such file: " + run.path);
     services.dialogs.MessageBox("File not found:\r" + run.argument, "Game - File not found!",
                                 platform::Buttons::Ok, platform::Icon::Information);
     return false;
@@ -171,10 +173,12 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
     const std::vector<std::string> words = HostWords(run, safe);
     if (run.companionFailed) {
         // What an earlier start has left there names another game.
+        LogRefusal(run);
         TellOfMissingStartFile(CompanionName());
         return false;
     }
     if (!safe) {
+        LogRefusal(run);
         services.dialogs.MessageBox(
             form.Say("Dieser Name kann einer Batch-Datei nicht sicher übergeben werden:\r",
                      "This name cannot be given to a batch file safely:\r") +
@@ -241,6 +245,24 @@ void GameLaunch::ShowLoadingAndMount(const Run& run) {
     form.LoadingBtn.SetCaption(noted);
 }
 
+// What the start file says, which is all that the host's starter is given.
+void GameLaunch::LogRun(const Run& run) const {
+    services.log.Write("launch: " + run.path);
+    services.log.Write("emulator: " + text::QuoteIfNeeded(run.emulator) + " " +
+                       std::string(text::Trim(run.parameters.Text())) +
+                       "; watched as: " + form.CurrentRunninApplication);
+    if (!services.files.FileExists(run.emulator))
+        services.log.Write("no emulator at: " + run.emulator);
+    if (run.direct)
+        services.log.Write("started without a start file, which could not take these names");
+}
+
+void GameLaunch::LogRefusal(const Run& run) const {
+    const std::string why = run.companionFailed ? "its batch file is not there: " + CompanionName()
+                                                : "no batch file can take this name: " + run.path;
+    services.log.Write("not launched, " + why);
+}
+
 void GameLaunch::StartEmulatorProgram(Run& run) {
     platform::StartRequest request;
     request.watched = true;
@@ -261,7 +283,11 @@ void GameLaunch::StartEmulatorProgram(Run& run) {
     if (services.starter.UsesShell()) request.words = HostWords(run, safe);
     const bool program = text::ToLower(run.emulator).find(".exe") != std::string::npos;
     request.style = program ? platform::WindowStyle::Maximized : platform::WindowStyle::Minimized;
-    if (safe && !run.companionFailed) (void)services.starter.Run(request);
+    if (safe && !run.companionFailed) {
+        (void)services.starter.Run(request);
+    } else {
+        LogRefusal(run);
+    }
 }
 
 void GameLaunch::FinishStart(const std::string& notedTitle) {

@@ -11,6 +11,7 @@
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
+#include "platform/log.h"
 #include "platform/program_starter.h"
 #include "profile/ini.h"
 
@@ -39,6 +40,7 @@ class GameLaunch {
         platform::Clock& clock;
         platform::Dialogs& dialogs;
         platform::Beeper& beeper;
+        platform::Log& log;
     };
 
     GameLaunch(core::Form1& form, profile::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
@@ -79,6 +81,8 @@ class GameLaunch {
     void BuildParameters(Run& run);
     void AppendGame(Run& run);
     bool GameExists(const Run& run);
+    void LogRun(const Run& run) const;
+    void LogRefusal(const Run& run) const;
     bool WriteStartFile(Run& run);
     std::string BatchDirectory(const Run& run, bool& safe) const;
     bool WriteShellStartFile(Run& run, const std::string& directory);

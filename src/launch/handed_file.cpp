@@ -24,11 +24,16 @@ std::string FileToHandOver(const std::string& commandLine, const platform::FileS
 }
 
 void HandedFile::StartHandedFile(const std::string& path) {
-    if (!IsAbsolute(path) || path.find('?') != std::string::npos) return;
+    if (!IsAbsolute(path) || path.find('?') != std::string::npos) {
+        log.Write("refused, handed over: " + path);
+        return;
+    }
     if (!IsFree()) {
+        log.Write("not started, no time for it, handed over: " + path);
         beeper.Beep();
         return;
     }
+    log.Write("handed over: " + path);
     hooks.LeaveEmulatorBox();
     hooks.SetToNormal();
     form.EmuListbox.SetVisible(false);

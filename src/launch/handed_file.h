@@ -6,6 +6,7 @@
 #include "core/hook.h"
 #include "platform/beeper.h"
 #include "platform/file_system.h"
+#include "platform/log.h"
 
 namespace kivu::launch {
 
@@ -23,7 +24,8 @@ class HandedFile {
         core::Hook<bool()> BoxIsOpen;
     };
 
-    HandedFile(core::Form1& form, platform::Beeper& beeper) : form(form), beeper(beeper) {}
+    HandedFile(core::Form1& form, platform::Beeper& beeper, platform::Log& log)
+        : form(form), beeper(beeper), log(log) {}
 
     // With the emulator that is loaded, as its own command line would. A beep and nothing else
     // while none is loaded, a game runs, a box is open or the launcher is busy. The text comes from
@@ -37,6 +39,7 @@ class HandedFile {
 
     core::Form1& form;
     platform::Beeper& beeper;
+    platform::Log& log;
 };
 
 }  // namespace kivu::launch

@@ -32,6 +32,10 @@ void RunningWatch::HideListsOfRunning() {
 }
 
 void RunningWatch::ShowRunning() {
+    if (seenRunning != form.CurrentRunninApplication) {
+        seenRunning = form.CurrentRunninApplication;
+        log.Write("came up: " + seenRunning);
+    }
     form.AppRunningPicture.SetVisible(true);
     // A change of emulator looks once, long after the last game: what it shows must go again.
     form.EmuActiveTimer.SetEnabled(true);
@@ -41,7 +45,18 @@ void RunningWatch::ShowRunning() {
                                    form.CurrentRunninApplication);
 }
 
+void RunningWatch::LogEnd() {
+    const std::string& name = form.CurrentRunninApplication;
+    if (seenRunning == name && !name.empty()) {
+        log.Write("ended: " + name);
+    } else if (form.EmuActiveTimer.Enabled()) {
+        log.Write("never came up: " + name);
+    }
+    seenRunning.clear();
+}
+
 void RunningWatch::EndOfGame() {
+    LogEnd();
     const bool visible = form.EmuListbox.Visible();
     form.EmuListbox.SetVisible(false);
     events.DoEvents();
@@ -83,11 +98,16 @@ void RunningWatch::EndEmulator() {
     }
     form.AppRunningPicture.SetVisible(false);
     form.AppRunningPicture.SetEnabled(false);
-    processes.KillProcess(id);
+    Kill(id, form.CurrentRunninApplication);
     form.AppRunningPicture.SetVisible(false);
     form.AppRunningPicture.SetEnabled(true);
     form.JoystickFocus = form.FavoritenListe.ListCount() > 0 ? 1 : 2;
     hooks.RefreshList();
+}
+
+void RunningWatch::Kill(std::int32_t id, const std::string& name) {
+    log.Write("killed: " + name + ", process " + std::to_string(id));
+    processes.KillProcess(id);
 }
 
 void RunningWatch::LoadingBtn_Click() {
@@ -106,7 +126,7 @@ void RunningWatch::LoadingBtn_Click() {
     const std::string text = form.Say("Emulator beenden?\r", "Kill Emulator - Program?\r") + name;
     const auto answer = dialogs.MessageBox(text, form.Say("Programm killen?", "Kill Task?"),
                                            platform::Buttons::YesNo, platform::Icon::Question);
-    if (answer == platform::Answer::Yes) processes.KillProcess(id);
+    if (answer == platform::Answer::Yes) Kill(id, name);
 }
 
 void RunningWatch::LoadingBtn_Change() {

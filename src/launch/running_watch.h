@@ -1,11 +1,15 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
+
 #include "core/busy_state.h"
 #include "core/form1.h"
 #include "core/hook.h"
 #include "launch/prozess.h"
 #include "platform/dialogs.h"
 #include "platform/event_pump.h"
+#include "platform/log.h"
 #include "profile/ini.h"
 
 namespace kivu::launch {
@@ -26,13 +30,14 @@ class RunningWatch {
     };
 
     RunningWatch(core::Form1& form, profile::Ini& ini, Prozess& processes, core::BusyState& busy,
-                 platform::EventPump& events, platform::Dialogs& dialogs)
+                 platform::EventPump& events, platform::Dialogs& dialogs, platform::Log& log)
         : form(form),
           ini(ini),
           processes(processes),
           busy(busy),
           events(events),
-          dialogs(dialogs) {}
+          dialogs(dialogs),
+          log(log) {}
 
     void EmuActiveTimer_Timer();
     // The user ends the emulator.
@@ -49,6 +54,8 @@ class RunningWatch {
  private:
     void ShowRunning();
     void EndOfGame();
+    void LogEnd();
+    void Kill(std::int32_t id, const std::string& name);
     void EndEmulator();
 
     core::Form1& form;
@@ -57,6 +64,8 @@ class RunningWatch {
     core::BusyState& busy;
     platform::EventPump& events;
     platform::Dialogs& dialogs;
+    platform::Log& log;
+    std::string seenRunning;  // what has come up, until it has gone
     bool looking = false;
 };
 

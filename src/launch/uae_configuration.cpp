@@ -29,11 +29,11 @@ void AddLine(std::string& text, std::string_view key, std::string_view value = {
     text.append(lineEnd).append(key).append(value);
 }
 
+}  // namespace
+
 bool FitsOneLine(std::string_view path) {
     return path.find_first_of(std::string_view("\r\n\0", 3)) == std::string_view::npos;
 }
-
-}  // namespace
 
 std::string DefaultMasterConfiguration() {
     std::string text;

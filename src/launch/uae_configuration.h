@@ -26,4 +26,7 @@ struct UaeStart {
 // of its own.
 std::string StartConfiguration(const UaeStart& start);
 
+// False: the path would become lines of its own, and is left out.
+bool FitsOneLine(std::string_view path);
+
 }  // namespace kivu::launch

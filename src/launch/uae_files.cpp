@@ -15,6 +15,10 @@ std::string UaeFiles::GetMasterConfig() {
     return path;
 }
 
+void UaeFiles::LogOddPath(const std::string& path) const {
+    if (!FitsOneLine(path)) log.Write("refused in the start configuration: " + path);
+}
+
 void UaeFiles::WriteStartConfiguration(bool windowsPaths) {
     const auto forEmulator = [windowsPaths](const std::string& path) {
         return windowsPaths ? text::ToWinePath(path) : path;
@@ -27,10 +31,12 @@ void UaeFiles::WriteStartConfiguration(bool windowsPaths) {
     start.fullscreen = form.FullscreenCheck.Value() == 1;
     const std::string& rom = form.TxtKickstartRomFile.Text();
     // Only the empty text means that there is no ROM.
+    LogOddPath(rom);
     if (!rom.empty()) start.rom = files.EncodeText(forEmulator(std::string(text::Trim(rom))));
     for (std::size_t drive = 0; drive < start.floppies.size(); ++drive) {
         std::string disk = form.DiskSlots[drive];
         if (disk.empty()) continue;
+        LogOddPath(disk);
         const std::string path = forEmulator(support::ShortFileName(files, disk));
         start.floppies[drive] = files.EncodeText(text::QuoteIfNeeded(path));
         hooks.Add_CURRENT_PROGRAM_STARTED(disk);

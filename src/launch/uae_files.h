@@ -5,6 +5,7 @@
 #include "core/form1.h"
 #include "core/hook.h"
 #include "platform/file_system.h"
+#include "platform/log.h"
 
 namespace kivu::launch {
 
@@ -18,7 +19,8 @@ class UaeFiles {
         core::Hook<void(std::string&)> Add_CURRENT_PROGRAM_STARTED;
     };
 
-    UaeFiles(core::Form1& form, platform::FileSystem& files) : form(form), files(files) {}
+    UaeFiles(core::Form1& form, platform::FileSystem& files, platform::Log& log)
+        : form(form), files(files), log(log) {}
 
     // The master's path; the file is made if it is missing.
     std::string GetMasterConfig();
@@ -28,8 +30,11 @@ class UaeFiles {
     Hooks hooks;
 
  private:
+    void LogOddPath(const std::string& path) const;
+
     core::Form1& form;
     platform::FileSystem& files;
+    platform::Log& log;
 };
 
 }  // namespace kivu::launch

@@ -10,6 +10,7 @@
 #include "platform/file_system.h"
 #include "platform/instance.h"
 #include "platform/locale.h"
+#include "platform/log.h"
 #include "platform/processes.h"
 #include "platform/program_starter.h"
 #include "platform/user_store.h"
@@ -29,6 +30,7 @@ struct Host {
     Locale& locale;
     UserStore& userStore;
     Instance& instance;
+    Log& log;
 
     std::string programDirectory;  // where Config lies, with or without a closing separator
     std::string programName;       // base name of the program file, without ".exe"
@@ -49,6 +51,7 @@ Host ServicesOf(Parts& parts, std::string programDirectory, std::string programN
             .locale = parts.locale,
             .userStore = parts.userStore,
             .instance = parts.instance,
+            .log = parts.log,
             .programDirectory = std::move(programDirectory),
             .programName = std::move(programName),
             .commandLine = std::move(commandLine)};

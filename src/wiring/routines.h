@@ -40,6 +40,7 @@
 #include "ui/window_surface.h"
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
+#include "wiring/logged_host.h"
 
 namespace kivu::wiring {
 
@@ -55,7 +56,8 @@ struct Launcher::Routines {
     Routines(platform::Host hostServices, const forms::TextMeasure* measure,
              std::function<void()> end);
 
-    platform::Host host;
+    LoggedHost logged;
+    platform::Host host;  // its failures stand in the log
     std::function<void()> endProgram;
     CountedDialogs dialogs;
     TextOrder order;

@@ -133,6 +133,10 @@ Json Kills(Session& session, const Json&) {
     return more;
 }
 
+Json Log(Session& session, const Json&) {
+    return Told("log", std::exchange(session.Host().log.lines, {}));
+}
+
 int ProcessId(const Json& value) {
     const int id = WholeFrom(value, "the id");
     if (id <= 0) throw CommandError("the id must be above 0");
@@ -272,6 +276,7 @@ const std::vector<Command>& HostCommands() {
         {"runs", 0, 0, false, Runs},
         {"beeps", 0, 0, false, Beeps},
         {"kills", 0, 0, false, Kills},
+        {"log", 0, 0, false, Log},
         {"process", 2, 3, false, Process},
         {"device", 1, 3, false, Device},
         {"time", 1, 1, false, Time},

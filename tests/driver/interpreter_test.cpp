@@ -212,6 +212,16 @@ TEST_F(InterpreterTest, ProcessesComeGoAndAreKilled) {
     EXPECT_EQ(Do("[\"call\",\"IsProcessRunning\",\"winuae.exe\"]")["value"], false);
 }
 
+TEST_F(InterpreterTest, LogGivesTheLinesSinceLastAsked) {
+    Do("[\"log\"]");
+    Do("[\"summon\",\"not absolute\\n\"]");
+    const Json answer = Do("[\"log\"]");
+    EXPECT_EQ(answer["value"], Json::array({"refused, handed over: not absolute<0A>"}));
+    EXPECT_EQ(answer["log"], answer["value"]);
+    EXPECT_EQ(Do("[\"log\"]")["value"], Json::array());
+    Refused("[\"log\",1]");
+}
+
 TEST_F(InterpreterTest, FilesComeAndGoBelowTheProgram) {
     EXPECT_EQ(Do("[\"file\",\"write\",\"Config/Alpha/a b.txt\",\"x\"]")["ok"], true);
     const auto place = std::filesystem::path(directory.Root()) / "Config" / "Alpha" / "a b.txt";

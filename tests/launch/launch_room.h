@@ -65,10 +65,14 @@ struct LaunchRoom {
     profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
-    GameLaunch launch{
-        form, ini, busy, pacer, {files, host.starter, host.clock, host.dialogs, host.beeper}};
-    EmulatorSetup setup{form, ini, pacer, {files, host.starter, host.clock, host.dialogs}};
-    UaeFiles uae{form, files};
+    GameLaunch launch{form,
+                      ini,
+                      busy,
+                      pacer,
+                      {files, host.starter, host.clock, host.dialogs, host.beeper, host.log}};
+    EmulatorSetup setup{
+        form, ini, pacer, {files, host.starter, host.clock, host.dialogs, host.log}};
+    UaeFiles uae{form, files, host.log};
 };
 
 }  // namespace kivu::launch

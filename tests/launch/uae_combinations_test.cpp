@@ -5,6 +5,7 @@
 
 #include "launch/uae_files.h"
 #include "testing/memory_file_system.h"
+#include "testing/scripted_host.h"
 #include "uae_reader.h"
 
 namespace kivu::launch {
@@ -157,7 +158,8 @@ class Room {
     const Case& made;
     kivu::testing::MemoryFileSystem files;
     core::Form1 form{forms::Toolkit{}};
-    UaeFiles uae{form, files};
+    kivu::testing::ScriptedLog log;
+    UaeFiles uae{form, files, log};
 };
 
 std::string MasterBytes(const Master& master) {

@@ -4,6 +4,7 @@
 
 #include "launch/uae_configuration.h"
 #include "testing/memory_file_system.h"
+#include "testing/scripted_host.h"
 
 namespace kivu::launch {
 namespace {
@@ -28,7 +29,8 @@ struct Room {
 
     kivu::testing::MemoryFileSystem files;
     core::Form1 form{forms::Toolkit{}};
-    UaeFiles uae{form, files};
+    kivu::testing::ScriptedLog log;
+    UaeFiles uae{form, files, log};
     std::vector<std::string> started;
 };
 

@@ -30,5 +30,20 @@ TEST_F(Launch, WindowsProgramRunsThroughWineWithItsPaths) {
     EXPECT_EQ(Get("CurrentRunninApplication"), "winuae.exe");
 }
 
+TEST_F(Launch, NameThatNoBatchFileCanTakeIsLoggedAsRefused) {
+    const std::string game = "Roms/Alpha/100%OS% & more.adf";
+    tree.Write("Emu/emu.bat", "");
+    tree.Write(game, "x");
+    tree.AddEmulator("Alpha", {{"EmulatorPath", "/Emu/emu.bat"},
+                               {"WinUAE_UseMasterConfig", "0"},
+                               {"EmulatorParameterAddDiskPath", "1"}});
+    Start();
+    Do("log");
+    Call("StartGame", tree.Path(game));
+    EXPECT_EQ(Do("log")["value"],
+              Json::array({"not launched, no batch file can take this name: " + tree.Path(game)}));
+    EXPECT_EQ(Do("runs")["value"], Json::array());
+}
+
 }  // namespace
 }  // namespace kivu::scenarios

@@ -6,6 +6,7 @@
 #include <deque>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,6 +15,7 @@
 #include <vector>
 
 #include "platform/host.h"
+#include "text/log_text.h"
 
 // A host that plays by a script: nothing in it waits, shows or starts anything. Each service can be
 // used by itself.
@@ -274,6 +276,18 @@ class ScriptedStarter : public platform::ProgramStarter {
     std::map<std::string, std::string> path;  // programs on the search path, by their bare names
 };
 
+// Keeps the lines as a file would have them, without their times.
+class ScriptedLog : public platform::Log {
+ public:
+    void Write(std::string_view text) override {
+        // For all of them, so that a host can be moved.
+        static std::mutex writing;
+        const std::scoped_lock one(writing);
+        lines.push_back(text::LogText(text));
+    }
+    std::vector<std::string> lines;
+};
+
 struct ScriptedHost {
     explicit ScriptedHost(platform::FileSystem& files) : files(files) {}
 
@@ -293,6 +307,7 @@ struct ScriptedHost {
     ScriptedLocale locale;
     ScriptedUserStore userStore;
     ScriptedInstance instance;
+    ScriptedLog log;
 };
 
 }  // namespace kivu::testing

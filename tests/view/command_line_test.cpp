@@ -28,6 +28,29 @@ TEST(CommandLine, PutsAFileNameTogetherThatAShellHasSplit) {
     EXPECT_EQ(Text({"My", "Game.adf"}, {"/home/u/My Game.adf"}), "/home/u/My Game.adf");
 }
 
+TEST(CommandLine, LogOptionIsTakenFromTheFrontAndFromBehind) {
+    using Words = std::vector<std::string>;
+    for (const Words& given :
+         {Words{"--log", "a", "b"}, Words{"a", "b", "--log"}, Words{"--log", "a", "b", "--log"}}) {
+        Words words = given;
+        EXPECT_TRUE(app::TakeLogOption(words));
+        EXPECT_EQ(words, (Words{"a", "b"}));
+    }
+    Words alone{"--log", "--log"};
+    EXPECT_TRUE(app::TakeLogOption(alone));
+    EXPECT_EQ(alone, Words{});
+}
+
+TEST(CommandLine, WhatOnlyLooksLikeTheLogOptionIsPartOfAName) {
+    using Words = std::vector<std::string>;
+    for (const Words& given : {Words{}, Words{"a", "--log", "b.adf"}, Words{"--logs"},
+                               Words{"./--log"}, Words{"--Log"}, Words{""}}) {
+        Words words = given;
+        EXPECT_FALSE(app::TakeLogOption(words));
+        EXPECT_EQ(words, given);
+    }
+}
+
 TEST(CommandLine, LeavesAbsolutePathsAlone) {
     EXPECT_EQ(Text({"/a.adf"}, {"/home/u//a.adf"}), "/a.adf");
     EXPECT_EQ(Text({"C:\\a.adf"}, {"/home/u/C:\\a.adf"}), "C:\\a.adf");

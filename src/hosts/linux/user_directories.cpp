@@ -50,6 +50,10 @@ std::string UserDataDirectory() {
     return Directory("XDG_DATA_HOME", "/.local/share");
 }
 
+std::string UserStateDirectory() {
+    return Directory("XDG_STATE_HOME", "/.local/state");
+}
+
 std::string UserRuntimeDirectory() {
     const std::string path = AbsoluteVariable("XDG_RUNTIME_DIR");
     struct stat status {};

@@ -9,6 +9,7 @@ namespace kivu::hosts {
 // relative variable means its default below the home directory. Empty: the user has no home.
 std::string UserConfigDirectory();  // $XDG_CONFIG_HOME
 std::string UserDataDirectory();    // $XDG_DATA_HOME
+std::string UserStateDirectory();   // $XDG_STATE_HOME
 // $XDG_RUNTIME_DIR, which has no default; empty unless it is a directory of the user's own.
 std::string UserRuntimeDirectory();
 

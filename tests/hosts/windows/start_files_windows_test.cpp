@@ -109,11 +109,12 @@ class RealLaunch : public ::testing::Test {
     kivu::testing::ScriptedDialogs dialogs;
     kivu::testing::ScriptedBeeper beeper;
     kivu::testing::ScriptedEvents events;
+    kivu::testing::ScriptedLog log;
     core::Form1 form{forms::Toolkit{}};
     profile::Ini ini{files};
     core::EventPacer pacer{events, clock};
     core::BusyState busy{form, events};
-    GameLaunch launch{form, ini, busy, pacer, {files, starter, clock, dialogs, beeper}};
+    GameLaunch launch{form, ini, busy, pacer, {files, starter, clock, dialogs, beeper, log}};
 };
 
 // Names that hold what the command processor might act upon, or split at. With a "trap" in them
@@ -274,7 +275,7 @@ TEST_F(RealLaunch, StartFileThatCannotBeWrittenTakesADirectStart) {
 TEST_F(RealLaunch, RunningEmulatorIsWatchedAndEndedByTheUser) {
     hosts::WindowsProcessList processes;
     Prozess prozess{processes};
-    RunningWatch watch{form, ini, prozess, busy, events, dialogs};
+    RunningWatch watch{form, ini, prozess, busy, events, dialogs, log};
     disk.MakeDirectory("my emu");
     const std::string name = "Emu " + std::to_string(::GetCurrentProcessId()) + ".exe";
     kivu::testing::CopyHelper(L"stay", disk.Path("my emu\\" + name));
@@ -296,7 +297,7 @@ TEST_F(RealLaunch, RunningEmulatorIsWatchedAndEndedByTheUser) {
 
 TEST_F(RealLaunch, SettingUpStartsTheEmulatorAlone) {
     Emulator("my emu & co", "the emu.exe");
-    EmulatorSetup setup{form, ini, pacer, {files, starter, clock, dialogs}};
+    EmulatorSetup setup{form, ini, pacer, {files, starter, clock, dialogs, log}};
     int looks = 0;
     setup.hooks.EmuActiveTimer_Timer = [&] { ++looks; };
     std::string watched;
