@@ -78,6 +78,14 @@ void EmulatorBox::Open() {
     form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
     // A letter typed here starts a search, so the box is there.
     if (!form.EmulatorRuns()) form.ShowSearchBox(true);
+    ShowMissingName();
+}
+
+void EmulatorBox::ShowMissingName() {
+    const bool marked = form.EmulatorLongListbox.ListIndex() >= 0;
+    if (!marked || !form.Current_ProgramNameFull.Caption().empty()) return;
+    form.Current_ProgramNameFull.SetVisible(true);
+    ShowNameOfRow();
 }
 
 // Only the favourites' tab goes with it, at the right edge.
@@ -177,6 +185,10 @@ void EmulatorBox::EmulatorLongListbox_Click() {
         form.EmuListLocked = false;
     }
     hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
+    ShowNameOfRow();
+}
+
+void EmulatorBox::ShowNameOfRow() {
     const std::string directory =
         text::AddPathSeparator(form.ConfigPath + form.EmuListbox.SelectedText());
     const std::string profile = directory + form.EXE + ".ini";
@@ -198,6 +210,7 @@ void EmulatorBox::EmulatorLongListbox_GotFocus() {
     form.DeLFav.SetVisible(false);
     hooks.RebuildLayout();
     PutChoiceInFront();
+    ShowMissingName();
 }
 
 void EmulatorBox::EmulatorLongListbox_KeyPress(forms::Character& character) {

@@ -64,6 +64,9 @@ class EmulatorBox {
     void Close();
     void PutChoiceInFront();
     void StartSearchWith(char32_t letter);
+    void ShowNameOfRow();
+    // Of the row marked in the list that has come to the front, as its click writes it.
+    void ShowMissingName();
 
     core::Form1& form;
     profile::Ini& ini;

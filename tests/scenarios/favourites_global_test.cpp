@@ -166,6 +166,36 @@ TEST_F(FavouritesGlobal, GamesComeBackWhenTheGameEnds) {
     EXPECT_TRUE(Visible("WIthoutDoubles"));
 }
 
+// Whichever way the game ends and whether it was ever seen.
+TEST_F(FavouritesGlobal, TabSaysTheEmulatorsFavouritesAfterAGame) {
+    options.language = "English";
+    Store();
+    for (const bool seen : {true, false}) {
+        for (const bool killed : {true, false}) {
+            for (const int row : {0, 1}) {
+                Start();
+                Show();
+                EXPECT_EQ(Get("Label1.Caption"), "Globale Favoriten: 2  ");
+                Do("dblclick", "Form1.FavoritenListeGlobal", row);
+                if (seen) {
+                    Do("process", "add", row == 0 ? "alpha" : "beta", 12);
+                    Do("tick", "Form1.EmuActiveTimer", 4);
+                    if (killed) {
+                        Do("click", "Form1.AppRunningPicture");
+                    } else {
+                        Do("process", "remove", 12);
+                    }
+                }
+                Do("tick", "Form1.EmuActiveTimer", 4);
+                EXPECT_EQ(Get("EmuActiveTimer.Enabled"), false);
+                EXPECT_TRUE(Visible("Label1"));
+                EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ") << seen << killed << row;
+                EXPECT_FALSE(Visible("FavoritenListeGlobal"));
+            }
+        }
+    }
+}
+
 TEST_F(FavouritesGlobal, RemoveButtonTakesTheSelectedOne) {
     Store();
     Start();

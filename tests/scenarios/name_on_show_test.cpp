@@ -44,6 +44,31 @@ TEST_F(NameOnShow, AfterTheChoiceHasBeenLeft) {
     EXPECT_EQ(Name(), bee);
 }
 
+TEST_F(NameOnShow, OverTheOpenChoiceOfEmulators) {
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    const std::string alpha = Name();
+    EXPECT_EQ(alpha.substr(0, 11), "Alpha(Roms:");
+    // Nothing else of the row's click is done.
+    EXPECT_EQ(Get("ListMode"), "5");
+    EXPECT_EQ(Get("Focus"), "Form1.EmuListbox");
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    EXPECT_EQ(Name().substr(0, 5), "Beta(");
+    Do("select", "Form1.EmulatorLongListbox", 0);
+    EXPECT_EQ(Name(), alpha);
+    Do("key", "Form1", "Escape");
+    EXPECT_EQ(Name(), ant);
+}
+
+TEST_F(NameOnShow, OverTheOpenChoiceWithNothingMarkedThereIsNone) {
+    tree.WriteProgramProfile({{"LastEmulator", "Gone"}});
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    EXPECT_TRUE(Visible("EmulatorLongListbox"));
+    EXPECT_EQ(Get("EmulatorLongListbox.ListIndex"), -1);
+    EXPECT_EQ(Get("Current_ProgramNameFull.Caption"), "");
+}
+
 TEST_F(NameOnShow, AfterAChangeOfEmulator) {
     Start();
     Do("focus", "Form1.EmuListbox");
