@@ -272,6 +272,16 @@ ComboBox::ComboBox(Container* parent, std::string name, Order order, int index)
     ComboBox::Remeasure();
 }
 
+void ComboBox::SetMostShownWidth(int twips) {
+    if (twips < 0 || twips == mostShownWidth) return;
+    mostShownWidth = twips;
+    Notify(Aspect::geometry);
+}
+
+int ComboBox::ShownWidth() const {
+    return mostShownWidth > 0 ? std::min(Width(), mostShownWidth) : Width();
+}
+
 void ComboBox::SetText(std::string value) {
     TextField changed = field;
     changed.SetText(std::move(value));

@@ -155,6 +155,12 @@ class ComboBox : public ListControl {
     bool IsChoice() const { return choice; }
     void SetChoice(bool value) { choice = value; }
 
+    // Twips that a view shows it wide at most, where its width leaves no room for others; 0: no
+    // such limit.
+    int MostShownWidth() const { return mostShownWidth; }
+    void SetMostShownWidth(int twips);
+    int ShownWidth() const;
+
     std::function<void()> onChange;
     // The user asks for the rows by the arrow, F4 or Alt+Down. With a handler no rows drop down:
     // the program shows them in a way of its own.
@@ -170,6 +176,7 @@ class ComboBox : public ListControl {
 
     TextField field;
     bool choice = false;
+    int mostShownWidth = 0;
 };
 
 }  // namespace kivu::forms

@@ -80,7 +80,9 @@ void Layout::PlaceBusySigns() {
     running.SetTop(lists.Top() + lists.Height() / 2 + 900);
     const forms::ComboBox& box = form.EmuListbox;
     // It shows beside a closed choice alone.
-    const int left = box.Left() + WidthOfEmuListbox() + tabGap;
+    const int most = box.MostShownWidth();
+    const int closed = most > 0 ? std::min(most, WidthOfEmuListbox()) : WidthOfEmuListbox();
+    const int left = box.Left() + closed + tabGap;
     form.Current_LoadingSmallBtn.Move(
         left, box.Top(), std::max(0, form.TopRightPic.Left() - left - tabGap), box.Height());
 }
@@ -179,12 +181,25 @@ void Layout::FitTabs(int left, bool choosing) {
     }
 }
 
+// A large font makes it wider than a small window can bear beside the words of its tabs. There it
+// is shown no wider than the lists, whichever of the tabs are there.
+void Layout::FitEmuListbox() {
+    forms::ComboBox& box = form.EmuListbox;
+    int tabs = 0;
+    for (const forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4})
+        tabs += tabGap + tab->WidthOf(WithoutCount(tab->Caption()));
+    const bool crowded = box.Left() + WidthOfEmuListbox() + tabs > form.Width();
+    constexpr int least = 1500;
+    box.SetMostShownWidth(crowded ? std::max(least, form.ListWidth) : 0);
+}
+
 void Layout::PlaceTabs() {
     // A width that is set comes back here.
     if (placingTabs) return;
     const core::Raised once(placingTabs);
     const bool choosing = form.Mode() == 5 || form.Mode() == 10;
-    int left = form.EmuListbox.Right() + tabGap;
+    FitEmuListbox();
+    int left = form.EmuListbox.Left() + form.EmuListbox.ShownWidth() + tabGap;
     FitTabs(left, choosing);
     for (forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4}) {
         tab->SetTop(form.EmuListbox.Top() + (form.EmuListbox.Height() - tab->Height()) / 2);

@@ -60,6 +60,7 @@ class Layout {
     void PlaceFavouriteButtons();
     void ShowListOfMode();
     int WidthOfEmuListbox() const;
+    void FitEmuListbox();
     void FitTabs(int left, bool choosing);
 
     core::Form1& form;

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "view/choice_box.h"
+#include "view/geometry.h"
 
 namespace kivu::view {
 
@@ -112,6 +113,10 @@ void ComboBoxMirror::Apply(forms::Aspect aspect) {
         default:
             break;
     }
+}
+
+QMargins ComboBoxMirror::Overhang() const {
+    return {0, 0, ToPixels(box.Left() + box.ShownWidth()) - ToPixels(box.Right()), 0};
 }
 
 void ComboBoxMirror::ShowText() {

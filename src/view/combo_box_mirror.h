@@ -21,6 +21,8 @@ class ComboBoxMirror : public Mirror {
     QLineEdit* Editor() const override { return combo ? combo->lineEdit() : nullptr; }
     bool HasRows() const override { return true; }
     bool UsesMouse() const override { return true; }
+    // Shown narrower than it is, it reaches less far.
+    QMargins Overhang() const override;
     bool IsOnArrow(QPoint global) const override;
     void ShowRows() override;
 

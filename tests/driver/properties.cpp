@@ -150,6 +150,7 @@ std::vector<Property> TextProperties() {
         {"Value", Reads<ValueButton, Slider>([](auto& c) { return c.Value(); }),
          Writes<ValueButton, Slider>(
              [](auto& c, const Json& v) { c.SetValue(WholeFrom(v, "Value")); })},
+        {"ShownWidth", Reads<ComboBox>([](auto& c) { return c.ShownWidth(); })},
         {"ShownText", Reads<Label>([](auto& c) { return c.ShownText(); })},
         {"Hint", Reads<Label, ListBox>([](auto& c) { return c.Hint(); })},
         {"Interval", Reads<Timer>([](auto& c) { return c.Interval(); }),

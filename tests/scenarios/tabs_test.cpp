@@ -77,6 +77,28 @@ TEST_F(Tabs, StandInARowRightOfTheDropDown) {
     }
 }
 
+TEST_F(Tabs, HaveRoomForTheirWordsBesideTheLargestFontInASmallWindow) {
+    Start();
+    Do("resize", "Form1", 12000, 9000);
+    Do("set", "Form1.FontSizeCombo.ListIndex", 64);
+    // The drop-down is as wide as its font asks for, and shown as wide as the lists.
+    EXPECT_EQ(Get("EmuListbox.Width"), 220 * 52);
+    EXPECT_EQ(Get("EmuListbox.ShownWidth"), Get("FavoritenListe.Width"));
+    const int end = Get("EmuListbox.Left").get<int>() + Get("EmuListbox.ShownWidth").get<int>();
+    for (const char* tab : {"Label1", "Label2", "Label3"}) {
+        Do("click", std::string("Form1.") + tab);
+        EXPECT_GT(Form().Label1.Left(), end);
+        EXPECT_GE(Form().Label1.Width(), Form().Label1.WidthOf("Favorites"));
+        EXPECT_LE(Form().Label3.Right(), Form().Width()) << tab;
+    }
+    // In a wide window it is shown as it is.
+    Do("resize", "Form1", 28800, 16200);
+    EXPECT_EQ(Get("EmuListbox.ShownWidth"), 220 * 52);
+    Do("resize", "Form1", 12000, 9000);
+    Do("set", "Form1.FontSizeCombo.ListIndex", 16);
+    EXPECT_EQ(Get("EmuListbox.ShownWidth"), 220 * 16);
+}
+
 TEST_F(Tabs, ClickInTheSimpleListSelectsTheFirstImageOfTheGame) {
     Start();
     Do("click", "Form1.Label2");

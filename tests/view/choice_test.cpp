@@ -152,5 +152,19 @@ TEST_F(ChoiceTest, SetsATextNarrowerBeforeItCutsIt) {
     QToolTip::hideText();
 }
 
+TEST_F(ChoiceTest, IsShownNoWiderThanTheProgramLetsIt) {
+    Show();
+    EXPECT_EQ(Choice()->width(), 200);
+    form.choice.SetMostShownWidth(1500);
+    EXPECT_EQ(Choice()->geometry(), QRect(20, 440, 100, Choice()->height()));
+    EXPECT_EQ(form.choice.Width(), 3000);
+    form.choice.SetWidth(1200);
+    EXPECT_EQ(Choice()->width(), 80);
+    form.choice.SetWidth(3000);
+    EXPECT_EQ(Choice()->width(), 100);
+    form.choice.SetMostShownWidth(0);
+    EXPECT_EQ(Choice()->width(), 200);
+}
+
 }  // namespace
 }  // namespace kivu::tests
