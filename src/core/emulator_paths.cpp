@@ -44,4 +44,8 @@ void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const s
     form.StartScriptName = form.StartPfad + form.EXE + "_StartScript.uaecfg";
 }
 
+profile::keys::Profiles ProfilesOf(const Form1& form) {
+    return {form.BaseIniName, form.IniPath, form.ColorsIniName};
+}
+
 }  // namespace kivu::core

@@ -4,6 +4,7 @@
 
 #include "core/form1.h"
 #include "platform/file_system.h"
+#include "profile/keys.h"
 
 namespace kivu::core {
 
@@ -16,5 +17,8 @@ std::string FindByName(const platform::FileSystem& files, const std::string& dir
 void AssignProgramPaths(Form1& form, const platform::FileSystem& files);
 // The files of the emulator of this name.
 void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const std::string& name);
+
+// The profiles that the window's settings stand in now.
+profile::keys::Profiles ProfilesOf(const Form1& form);
 
 }  // namespace kivu::core

@@ -6,9 +6,9 @@
 
 namespace kivu::core {
 
-namespace {
-constexpr const char* settings = "Settings";
-}
+namespace keys = profile::keys;
+
+static_assert(keys::TitleString.missing == defaultTitle);
 
 void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     if (form.Busy) return;
@@ -31,7 +31,7 @@ void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
 
     form.EmulatorLongListbox.SetVisible(false);
     form.EmuListbox.SetText(name);
-    ini.WriteIniValue(settings, "LastEmulator", form.EmuListbox.Text(), form.BaseIniName, true);
+    ini.Write(keys::LastEmulator, ProfilesOf(form), form.EmuListbox.Text());
     ShowLoadedLists();
     if (AddToGlobal) AppendToGlobalList();
     hooks.RebuildLayout();
@@ -104,7 +104,7 @@ void EmulatorSwitch::AppendToGlobalList() {
 void EmulatorSwitch::InitEmulatorView() {
     hooks.LoadSkinPictures();
     hooks.LoadFavoriten();
-    if (ini.ReadIniNumber(settings, "ResetScreenResolution", form.BaseIniName, "0", true) > 0) {
+    if (ini.Read(keys::ResetScreenResolution, ProfilesOf(form)) > 0) {
         hooks.SaveAndSetDisplayMode();
     }
     form.GamePictureVis.SetPicture({});
@@ -139,7 +139,7 @@ void EmulatorSwitch::ShowDefaultTitle() {
 }
 
 void EmulatorSwitch::PrepareMasterConfig() {
-    const int use = ini.ReadIniNumber(settings, "WinUAE_UseMasterConfig", form.IniPath, "1", true);
+    const int use = ini.Read(keys::WinUAE_UseMasterConfig, ProfilesOf(form));
     form.MasterConfigName.clear();
     if (use != 1) return;
     form.MasterConfigName = form.ConfigPath + form.EXE + "_Master.uaecfg";
@@ -155,9 +155,8 @@ void EmulatorSwitch::FillFontSizes() {
 }
 
 void EmulatorSwitch::ReadTitle() {
-    form.TitleString =
-        ini.ReadIniValue(settings, "TitleString", form.ColorsIniName, defaultTitle, true);
-    form.DownloadURL = ini.ReadIniValue(settings, "DownloadURL", form.ColorsIniName, "", true);
+    form.TitleString = ini.Read(keys::TitleString, ProfilesOf(form));
+    form.DownloadURL = ini.Read(keys::DownloadURL, ProfilesOf(form));
     form.SetCaption(form.TitleString);
     form.MyCaptionLabel.SetCaption(form.TitleString);
 }
@@ -186,8 +185,7 @@ void EmulatorSwitch::FinishView() {
     events.DoEvents();
     form.Current_ProgramNameFull.SetCaption("");
     form.LoadingBtn.SetCaption("Loading..");
-    form.TitleString =
-        ini.ReadIniValue(settings, "TitleString", form.ColorsIniName, defaultTitle, true);
+    form.TitleString = ini.Read(keys::TitleString, ProfilesOf(form));
     form.TitleStr.SetCaption(form.TitleString);
     form.MyCaptionLabel.SetCaption(form.TitleString);
     form.LoadingBtn.SetCaption(form.TitleString);

@@ -1,27 +1,23 @@
 #include "core/settings_loader.h"
 
+#include "core/emulator_paths.h"
 #include "text/paths.h"
 #include "text/stored_paths.h"
 
 namespace kivu::core {
 
-namespace {
-constexpr const char* settings = "Settings";
-}
+namespace keys = profile::keys;
 
 void SettingsLoader::LoadSettings() {
-    for (int i = 1; i <= 12; ++i) {
-        form.JoystickButtons[static_cast<std::size_t>(i - 1)] = ini.ReadIniNumber(
-            settings, "Button" + std::to_string(i), form.BaseIniName, std::to_string(i - 1), true);
-    }
+    for (std::size_t action = 0; action < keys::Buttons.size(); ++action)
+        form.JoystickButtons[action] = ini.Read(keys::Buttons[action], ProfilesOf(form));
     LoadPaths();
     LoadDrivesPanel();
     form.TmpBatName = form.StartPfad + form.EXE + "_tmp.bat";
     hooks.SetColors();
     LoadJoystick();
-    form.ExitButtonAction =
-        ini.ReadIniNumber(settings, "UseJoystickExitbutton", form.BaseIniName, "0", true);
-    const int smart = ini.ReadIniNumber(settings, "SmartRomSelection", form.IniPath, "1", true);
+    form.ExitButtonAction = ini.Read(keys::UseJoystickExitbutton, ProfilesOf(form));
+    const int smart = ini.Read(keys::SmartRomSelection, ProfilesOf(form));
     form.SettingsSubPicture.SetVisible(smart == 1);
 }
 
@@ -41,43 +37,31 @@ std::string SettingsLoader::EmulatorPath(const std::string& stored) const {
 }
 
 void SettingsLoader::LoadPaths() {
-    const auto read = [&](const char* key) {
-        return ini.ReadIniValue(settings, key, form.IniPath, "", true);
-    };
-    form.TxtRomPath.SetText(read("RomPath"));
+    form.TxtRomPath.SetText(ini.Read(keys::RomPath, ProfilesOf(form)));
     form.TxtRomPath.SetText(text::AddPathSeparator(AbsolutePath(form.TxtRomPath.Text())));
-    form.txtWinUAEExe.SetText(read("EmulatorPath"));
+    form.txtWinUAEExe.SetText(ini.Read(keys::EmulatorPath, ProfilesOf(form)));
     form.txtWinUAEExe.SetText(EmulatorPath(form.txtWinUAEExe.Text()));
-    form.FontSizeCombo.SetListIndex(
-        ini.ReadIniNumber(settings, "Fontsize", form.BaseIniName, "16", true));
-    form.TxtKickstartRomFile.SetText(read("KickstartRom"));
+    form.FontSizeCombo.SetListIndex(ini.Read(keys::Fontsize, ProfilesOf(form)));
+    form.TxtKickstartRomFile.SetText(ini.Read(keys::KickstartRom, ProfilesOf(form)));
     if (!form.TxtKickstartRomFile.Text().empty()) {
         form.TxtKickstartRomFile.SetText(AbsolutePath(form.TxtKickstartRomFile.Text()));
     }
-    form.FullscreenCheck.SetValue(
-        ini.ReadIniNumber(settings, "FullScreen", form.IniPath, "1", true));
+    form.FullscreenCheck.SetValue(ini.Read(keys::FullScreen, ProfilesOf(form)));
 }
 
 void SettingsLoader::LoadDrivesPanel() {
     forms::PictureBox& panel = form.SettingsSubPicture;
-    const auto place = [&](const char* key, int present) {
-        return ini.ReadIniWide(settings, key, form.IniPath, std::to_string(present), true)
-            .value_or(present);
-    };
-    panel.SetLeft(place("DrvWindowX", panel.Left()));
-    panel.SetTop(place("DrvWindowY", panel.Top()));
+    panel.SetLeft(ini.Read(keys::DrvWindowX, ProfilesOf(form), panel.Left()));
+    panel.SetTop(ini.Read(keys::DrvWindowY, ProfilesOf(form), panel.Top()));
     // A place from another size of the window, or of a profile that only took over the one that it
     // found, may lie anywhere by now.
-    const std::string docked =
-        ini.ReadIniValue(settings, "DrvWindowDocked", form.IniPath, "", false);
+    const std::string docked = ini.Read(keys::DrvWindowDocked, ProfilesOf(form));
     if (docked == "1" || (docked != "0" && hooks.DrivesCoverOthers && hooks.DrivesCoverOthers()))
         hooks.DockDrives();
 }
 
 void SettingsLoader::LoadJoystick() {
-    const auto wanted = [&] {
-        return ini.ReadIniNumber(settings, "UseJoystick", form.BaseIniName, "1", true);
-    };
+    const auto wanted = [&] { return ini.Read(keys::UseJoystick, ProfilesOf(form)); };
     hooks.JoystickEnable(wanted() > 0);
     // Until there is a device layer, nobody can say that no device was found.
     if (!hooks.JoystickCount || wanted() != 1 || hooks.JoystickCount() > 0) return;
@@ -91,7 +75,7 @@ void SettingsLoader::LoadJoystick() {
                            platform::Icon::Question) != platform::Answer::Yes) {
         return;
     }
-    ini.WriteIniValue(settings, "UseJoystick", "0", form.BaseIniName, true);
+    ini.Write(keys::UseJoystick, ProfilesOf(form), "0");
     hooks.JoystickEnable(true);
 }
 

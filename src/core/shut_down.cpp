@@ -1,30 +1,35 @@
 #include "core/shut_down.h"
 
+#include "core/emulator_paths.h"
+
 namespace kivu::core {
 
+namespace keys = profile::keys;
+
 void ShutDown::ExitBtn_Click() {
-    Store(form.IniPath, {{"DrvWindowX", form.SettingsSubPicture.Left()},
-                         {"DrvWindowY", form.SettingsSubPicture.Top()},
-                         {"DrvWindowDocked", DrivesAreHome && DrivesAreHome() ? 1 : 0}});
-    Values window{{"WindowState", static_cast<int>(form.State())}};
+    Store(keys::emulator, {{keys::DrvWindowX, form.SettingsSubPicture.Left()},
+                           {keys::DrvWindowY, form.SettingsSubPicture.Top()},
+                           {keys::DrvWindowDocked, DrivesAreHome && DrivesAreHome() ? 1 : 0}});
+    Values window{{keys::WindowState, static_cast<int>(form.State())}};
     // A maximised or tiny window never replaces the last good geometry.
     if (form.State() == forms::WindowState::normal && form.Width() > 2000 && form.Height() > 1000) {
-        window.insert(window.end(), {{"WindowX", form.Width()},
-                                     {"WindowY", form.Height()},
-                                     {"WindowTop", form.Top()},
-                                     {"WindowLeft", form.Left()}});
+        window.insert(window.end(), {{keys::WindowX, form.Width()},
+                                     {keys::WindowY, form.Height()},
+                                     {keys::WindowTop, form.Top()},
+                                     {keys::WindowLeft, form.Left()}});
     }
-    Store(form.BaseIniName, window);
+    Store(keys::program, window);
     form.Ended = true;
     EndProgram();
 }
 
 // Together: each write puts the whole file anew and waits for the disk.
-void ShutDown::Store(const std::string& file, const Values& values) {
+void ShutDown::Store(keys::Profile which, const Values& values) {
+    const std::string file = ProfilesOf(form).Of(which);
     auto profile = ini.LoadProfile(file);
     if (!profile) return;
     for (const auto& [key, value] : values)
-        profile->Set("Settings", key, std::to_string(value));
+        profile->Set(keys::section, key.name, std::to_string(value));
     ini.StoreProfile(*profile, file, true);
 }
 

@@ -22,8 +22,9 @@ class ShutDown {
     Hook<void()> EndProgram;
 
  private:
-    using Values = std::vector<std::pair<const char*, int>>;
-    void Store(const std::string& file, const Values& values);
+    using Values = std::vector<std::pair<profile::keys::Entry, int>>;
+    // All of one profile.
+    void Store(profile::keys::Profile which, const Values& values);
 
     Form1& form;
     profile::Ini& ini;

@@ -10,9 +10,7 @@
 
 namespace kivu::core {
 
-namespace {
-constexpr const char* settings = "Settings";
-}
+namespace keys = profile::keys;
 
 void StartUp::Form_Load() {
     form.EmulatorListColor = hooks.HexToLong("#F6F7D2");
@@ -58,21 +56,18 @@ void StartUp::MakeConfigDirectory() {
 }
 
 void StartUp::RestoreWindow() {
-    const auto read = [&](const char* key, int present) {
-        return ini.ReadIniWide(settings, key, form.BaseIniName, std::to_string(present), true)
-            .value_or(present);
-    };
-    const int state = read("WindowState", 0);
-    form.SetWidth(read("WindowX", form.Width()));
-    form.SetHeight(read("WindowY", form.Height()));
-    form.SetTop(read("WindowTop", form.Top()));
-    form.SetLeft(read("WindowLeft", form.Left()));
+    const keys::Profiles profiles = ProfilesOf(form);
+    const int state = ini.Read(keys::WindowState, profiles).value_or(0);
+    form.SetWidth(ini.Read(keys::WindowX, profiles, form.Width()));
+    form.SetHeight(ini.Read(keys::WindowY, profiles, form.Height()));
+    form.SetTop(ini.Read(keys::WindowTop, profiles, form.Top()));
+    form.SetLeft(ini.Read(keys::WindowLeft, profiles, form.Left()));
     // Behind the geometry, which a maximised window goes back to.
     if (state >= 0 && state <= 2) form.SetState(static_cast<forms::WindowState>(state));
 }
 
 void StartUp::SelectLastEmulator() {
-    const std::string last = ini.ReadIniValue(settings, "LastEmulator", form.BaseIniName, "", true);
+    const std::string last = ini.Read(keys::LastEmulator, ProfilesOf(form));
     if (last.empty()) {
         form.EmuListbox.SetText("Default");
         hooks.InitEmulatorView();
@@ -91,7 +86,7 @@ int StartUp::RowOfEmulator(const std::string& stored) const {
     std::vector<std::string> names{stored};
     // A directory named in bytes that are no text stands so in the profile.
     if (support::NamesAreBytes(files))
-        names.insert(names.begin(), ini.ReadIniBytes(settings, "LastEmulator", form.BaseIniName));
+        names.insert(names.begin(), ini.ReadBytes(keys::LastEmulator, ProfilesOf(form)));
     return FindStoredName(files, form.EmuListbox.Rows(), names);
 }
 

@@ -3,14 +3,13 @@
 #include <algorithm>
 #include <vector>
 
+#include "core/emulator_paths.h"
 #include "library/short_names.h"
 #include "text/paths.h"
 
 namespace kivu::launch {
 
 namespace {
-constexpr const char* settings = "Settings";
-constexpr const char* smartKey = "SmartRomSelection";
 constexpr int reachForward = 14;  // rows behind the selected one
 }  // namespace
 
@@ -94,11 +93,11 @@ void DriveSlots::Check_Dfx_KeyPress(int Index, forms::Character& character) {
 }
 
 bool DriveSlots::SelectsByHand() const {
-    return ini.ReadIniNumber(settings, smartKey, form.IniPath, "0", false) != 1;
+    return ini.Read(profile::keys::SmartRomSelectionAsked, core::ProfilesOf(form)) != 1;
 }
 
 int DriveSlots::SmartRomSelection() {
-    return ini.ReadIniNumber(settings, smartKey, form.IniPath, "0", true);
+    return ini.Read(profile::keys::SmartRomSelectionInList, core::ProfilesOf(form));
 }
 
 void DriveSlots::Empty() {

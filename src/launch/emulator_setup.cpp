@@ -10,8 +10,8 @@ namespace kivu::launch {
 
 std::string EmulatorSetup::EmulatorOf(const std::string& name) const {
     const platform::FileSystem& files = services.files;
-    const std::string profile = form.ConfigPath + name + files.Separator() + form.EXE + ".ini";
-    const std::string stored = ini.ReadIniValue("Settings", "EmulatorPath", profile, "", false);
+    const std::string file = form.ConfigPath + name + files.Separator() + form.EXE + ".ini";
+    const std::string stored = ini.Read(profile::keys::EmulatorPathInSetup, {.emulator = file});
     if (stored.empty()) return {};
     const std::string path =
         text::ProfilePath(form.BaseDirectory(), stored, [&](const std::string& candidate) {

@@ -1,5 +1,6 @@
 #include "launch/game_launch.h"
 
+#include "core/emulator_paths.h"
 #include "launch/emulator_program.h"
 #include "launch/wait.h"
 #include "library/find_game.h"
@@ -13,9 +14,7 @@
 
 namespace kivu::launch {
 
-namespace {
-constexpr const char* settings = "Settings";
-}
+namespace keys = profile::keys;
 
 void GameLaunch::LaunchBtn_Click() {
     const std::string path = form.UAE_FULL.List(form.UAE_Short.ListIndex());
@@ -71,18 +70,10 @@ void GameLaunch::ReturnToLists(forms::Control* focus) {
     }
 }
 
-int GameLaunch::Number(const char* key, const char* missing) const {
-    return ini.ReadIniNumber(settings, key, form.IniPath, missing, true);
-}
-
-std::string GameLaunch::Text(const char* key) const {
-    return ini.ReadIniValue(settings, key, form.IniPath, "", true);
-}
-
 void GameLaunch::Prepare(Run& run) {
     const platform::FileSystem& files = services.files;
     run.emulator = ResolveEmulator(form.txtWinUAEExe.Text(), form.AppDir, files, services.starter);
-    run.useQuote = Number("UseQuote", "0");
+    run.useQuote = ini.Read(keys::UseQuote, core::ProfilesOf(form));
     run.argument = text::QuoteIfNeeded(run.useQuote >= 1 ? support::LongFileName(files, run.path)
                                                          : support::ShortFileName(files, run.path));
     form.TmpBatName = text::RemoveQuotes(form.TmpBatName);
@@ -105,24 +96,24 @@ void GameLaunch::Prepare(Run& run) {
 void GameLaunch::BuildParameters(Run& run) {
     run.windowsPaths = services.starter.UsesShell() && text::IsWindowsProgram(run.emulator);
     run.parameters = StartParameters(run.windowsPaths);
-    run.parameters.AppendTyped(Text("WinUAE_ConfigParameter"));
+    run.parameters.AppendTyped(ini.Read(keys::WinUAE_ConfigParameter, core::ProfilesOf(form)));
     run.parameters.Pad();
-    run.useMasterConfig = Number("WinUAE_UseMasterConfig", "1") == 1;
+    run.useMasterConfig = ini.Read(keys::WinUAE_UseMasterConfig, core::ProfilesOf(form)) == 1;
     if (run.useMasterConfig) {
         const std::string configuration =
             support::ShortFileName(services.files, form.StartScriptName);
         run.parameters.AppendPath(configuration, configuration);
     }
     run.parameters.Pad();
-    run.parameters.AppendTyped(Text("EmulatorParameter"));
+    run.parameters.AppendTyped(ini.Read(keys::EmulatorParameter, core::ProfilesOf(form)));
     run.parameters.Pad();
     AppendGame(run);
     run.parameters.Pad();
 }
 
 void GameLaunch::AppendGame(Run& run) {
-    if (Number("EmulatorParameterAddDiskPath", "0") == 0) return;
-    if (Number("EmulatorParameterAddDiskPathWithoutPath", "0") == 0) {
+    if (ini.Read(keys::EmulatorParameterAddDiskPath, core::ProfilesOf(form)) == 0) return;
+    if (ini.Read(keys::EmulatorParameterAddDiskPathWithoutPath, core::ProfilesOf(form)) == 0) {
         run.parameters.AppendPath(run.argument, run.path);
         return;
     }
@@ -235,9 +226,9 @@ void GameLaunch::EnterEmulatorDirectory(const Run& run) {
 }
 
 void GameLaunch::ShowLoadingAndMount(const Run& run) {
-    form.SplashSeconds = Number("SplashTimer", "6");
+    form.SplashSeconds = ini.Read(keys::SplashTimer, core::ProfilesOf(form));
     if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
-    if (Number("AutoMountDeamonTool", "0") <= 0) return;
+    if (ini.Read(keys::AutoMountDeamonTool, core::ProfilesOf(form)) <= 0) return;
     const std::string noted = form.LoadingBtn.Caption();
     form.LoadingBtn.SetCaption("Deamon Tools..");
     pacer.DoEvents();
@@ -291,16 +282,15 @@ void GameLaunch::StartEmulatorProgram(Run& run) {
 }
 
 void GameLaunch::FinishStart(const std::string& notedTitle) {
-    const int exitButton =
-        ini.ReadIniNumber(settings, "UseJoystickExitbutton", form.BaseIniName, "1", true);
-    const int joystick = ini.ReadIniNumber(settings, "UseJoystick", form.BaseIniName, "0", true);
+    const int exitButton = ini.Read(keys::UseJoystickExitbuttonInLaunch, core::ProfilesOf(form));
+    const int joystick = ini.Read(keys::UseJoystickInLaunch, core::ProfilesOf(form));
     if (exitButton < 1 || joystick < 1) hooks.JoystickEnable(false);
     if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
     form.StartGraceTicks = 3;
     form.EmuListbox.SetVisible(false);
     form.EmuActiveTimer.SetEnabled(true);
     form.GameIsRunning = true;
-    if (ini.ReadIniNumber(settings, "RunVBS_Script", form.IniPath, "0", false) > 0) {
+    if (ini.Read(keys::RunVBS_Script, core::ProfilesOf(form)) > 0) {
         form.LoadingBtn.SetCaption("Gamestart..");
         WAIT(1, services.clock, pacer);
         form.LoadingBtn.SetCaption("Running Startscript.vbs");

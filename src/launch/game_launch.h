@@ -75,8 +75,6 @@ class GameLaunch {
         StartParameters parameters;
     };
 
-    int Number(const char* key, const char* missing) const;
-    std::string Text(const char* key) const;
     void Prepare(Run& run);
     void BuildParameters(Run& run);
     void AppendGame(Run& run);

@@ -1,13 +1,12 @@
 #include "launch/running_watch.h"
 
+#include "core/emulator_paths.h"
 #include "text/paths.h"
 #include "text/stored_paths.h"
 
 namespace kivu::launch {
 
-namespace {
-constexpr const char* settings = "Settings";
-}
+namespace keys = profile::keys;
 
 void RunningWatch::EmuActiveTimer_Timer() {
     if (looking) return;
@@ -70,8 +69,7 @@ void RunningWatch::EndOfGame() {
     form.MyCaptionLabel.SetVisible(false);
     busy.HideAll(true);
     hooks.RefreshList();
-    if (ini.ReadIniNumber(settings, "UseJoystick", form.BaseIniName, "1", true) >= 1)
-        hooks.JoystickEnable(true);
+    if (ini.Read(keys::UseJoystick, core::ProfilesOf(form)) >= 1) hooks.JoystickEnable(true);
     // In place of what ran, and of the count of joysticks.
     form.MyCaptionLabel.SetCaption(form.Caption());
     hooks.SetToTop();
@@ -93,7 +91,7 @@ void RunningWatch::EndEmulator() {
     const auto id = processes.FindProcessId(form.CurrentRunninApplication, Reach::andLaunch);
     if (id == 0) return;
     form.LoadingBtn.SetCaption(form.Say("Wird beendet..", "Killing process.."));
-    if (ini.ReadIniNumber(settings, "ResetScreenResolution", form.BaseIniName, "0", true) > 0) {
+    if (ini.Read(keys::ResetScreenResolution, core::ProfilesOf(form)) > 0) {
         hooks.RestoreDisplayMode();
     }
     form.AppRunningPicture.SetVisible(false);
@@ -116,8 +114,7 @@ void RunningWatch::LoadingBtn_Click() {
         return;
     }
     // The emulator may run since an earlier start of the launcher.
-    const std::string stored =
-        ini.ReadIniValue(settings, "EmulatorPath", form.IniPath, "*.exe", true);
+    const std::string stored = ini.Read(keys::EmulatorPathInKill, core::ProfilesOf(form));
     const std::string name =
         text::MakeAbsolutePath(form.BaseDirectory(), text::GetFileNameOnly(stored));
     if (name.empty()) return;

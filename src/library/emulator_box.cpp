@@ -191,12 +191,12 @@ void EmulatorBox::EmulatorLongListbox_Click() {
 void EmulatorBox::ShowNameOfRow() {
     const std::string directory =
         text::AddPathSeparator(form.ConfigPath + form.EmuListbox.SelectedText());
-    const std::string profile = directory + form.EXE + ".ini";
+    const std::string file = directory + form.EXE + ".ini";
     forms::Label& name = form.Current_ProgramNameFull;
     name.SetCaption(form.EmulatorLongListbox.SelectedText());
     name.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
-    if (!files.FileExists(profile)) return;
-    const int count = ini.ReadIniWide("Settings", "RomCount", profile, "-1", false).value_or(0);
+    if (!files.FileExists(file)) return;
+    const int count = ini.Read(profile::keys::RomCount, {.emulator = file}).value_or(0);
     // Behind the name as it has been broken to the label's width.
     name.SetCaption(name.Caption() + "\r (Roms: " + (count < 0 ? "?" : std::to_string(count)) +
                     ")");

@@ -18,8 +18,6 @@ namespace kivu::library {
 
 namespace {
 
-constexpr const char* settings = "Settings";
-
 // Paths and names in the order of the path list. A cache that another host or another language has
 // written is in another order; sorted by itself, the path list would then no longer fit the names.
 void SortPairs(const forms::ListBox& list, std::vector<std::string>& paths,
@@ -147,8 +145,7 @@ void GameLists::LoadBtn_Click() {
     busy.HideAll(false);
     pacer.DoEvents();
     form.StartPfad = text::AddPathSeparator(form.StartPfad);
-    const std::string patterns =
-        ini.ReadIniValue(settings, "Dir_Parameter", form.IniPath, "*.*", true);
+    const std::string patterns = ini.Read(profile::keys::Dir_Parameter, core::ProfilesOf(form));
     form.LoadingBtn.SetCaption("Scanning...");
     form.UAE_FULL.Clear();
     scanner.Result_list().Clear();
@@ -176,8 +173,8 @@ void GameLists::ShowRescannedList() {
     hooks.EmuListbox_Click();
     hooks.RefreshList();
     UpdateListCaptions();
-    ini.WriteIniValue(settings, "RomCount", std::to_string(form.UAE_FULL.ListCount()), form.IniPath,
-                      true);
+    ini.Write(profile::keys::RomCount, core::ProfilesOf(form),
+              std::to_string(form.UAE_FULL.ListCount()));
     busy.HideAll(true);
     // The list in front is the complete one: in the mode of an open emulator list, Escape would not
     // ask to quit and the next resize would open that list.

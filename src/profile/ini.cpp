@@ -7,6 +7,47 @@
 
 namespace kivu::profile {
 
+namespace {
+
+bool Stores(const keys::Entry& key) {
+    return key.writeBack == keys::WriteBack::on;
+}
+
+}  // namespace
+
+std::string Ini::Read(const keys::Text& key, const keys::Profiles& profiles) {
+    return ReadIniValue(keys::section, key.name, profiles.Of(key.profile), key.missing,
+                        Stores(key));
+}
+
+int Ini::Read(const keys::Number& key, const keys::Profiles& profiles) {
+    return ReadIniNumber(keys::section, key.name, profiles.Of(key.profile), key.missing,
+                         Stores(key));
+}
+
+std::optional<int> Ini::Read(const keys::Wide& key, const keys::Profiles& profiles) {
+    return ReadIniWide(keys::section, key.name, profiles.Of(key.profile), key.missing, Stores(key));
+}
+
+int Ini::Read(const keys::Present& key, const keys::Profiles& profiles, int present) {
+    return ReadIniWide(keys::section, key.name, profiles.Of(key.profile), std::to_string(present),
+                       Stores(key))
+        .value_or(present);
+}
+
+std::string Ini::Read(const keys::PresentText& key, const keys::Profiles& profiles,
+                      std::string_view present) {
+    return ReadIniValue(keys::section, key.name, profiles.Of(key.profile), present, Stores(key));
+}
+
+std::string Ini::ReadBytes(const keys::Text& key, const keys::Profiles& profiles) const {
+    return ReadIniBytes(keys::section, key.name, profiles.Of(key.profile));
+}
+
+void Ini::Write(const keys::Entry& key, const keys::Profiles& profiles, std::string_view value) {
+    WriteIniValue(keys::section, key.name, value, profiles.Of(key.profile), true);
+}
+
 std::string Ini::ReadIniValue(std::string_view section, std::string_view key,
                               const std::string& iniFile, std::string_view defaultText,
                               bool writeBack) {

@@ -7,6 +7,7 @@
 #include "platform/file_system.h"
 #include "profile/ini_document.h"
 #include "profile/ini_write_backs.h"
+#include "profile/keys.h"
 
 namespace kivu::profile {
 
@@ -35,6 +36,20 @@ class Ini {
     };
     // For who waits for the user, hands over to another program or ends this one.
     void StoreWriteBacks() { writeBacks.Store(); }
+
+    // The value of an entry of the table of keys, or its default.
+    std::string Read(const keys::Text& key, const keys::Profiles& profiles);
+    int Read(const keys::Number& key, const keys::Profiles& profiles);
+    std::optional<int> Read(const keys::Wide& key, const keys::Profiles& profiles);
+    int Read(const keys::Present& key, const keys::Profiles& profiles, int present);
+    std::string Read(const keys::PresentText& key, const keys::Profiles& profiles,
+                     std::string_view present);
+    std::string ReadBytes(const keys::Text& key, const keys::Profiles& profiles) const;
+    // Makes a missing profile.
+    void Write(const keys::Entry& key, const keys::Profiles& profiles, std::string_view value);
+
+    // What follows is for this store itself and for the favourites' keys, which have sections of
+    // their own; all others read and write by the table.
 
     // The value, or the default if the key is missing or its value is empty. With `writeBack` a
     // default that is not empty is stored as the key's value, and a missing file is made, at first

@@ -1,13 +1,14 @@
 #include "ui/window_surface.h"
 
+#include "core/emulator_paths.h"
+
 namespace kivu::ui {
 
 void WindowSurface::MyCaptionLabel_DblClick() {
-    const std::string stored =
-        ini.ReadIniValue("Settings", "TitleString", form.ColorsIniName, core::defaultTitle, true);
+    const std::string stored = ini.Read(profile::keys::TitleString, core::ProfilesOf(form));
     const std::string title = dialogs.InputBox("New Title", "Title", stored);
     if (title.empty()) return;
-    ini.WriteIniValue("Settings", "TitleString", title, form.ColorsIniName, true);
+    ini.Write(profile::keys::TitleString, core::ProfilesOf(form), title);
     hooks.MeCaption(title);
 }
 
