@@ -23,15 +23,6 @@ const std::string& Backing() {
     return blanks;
 }
 
-// A button's face: a little lighter than the window.
-forms::Color ButtonFace(forms::Color window) {
-    const auto lighter = [&](unsigned shift) {
-        const unsigned channel = window >> shift & 0xff;
-        return channel + (255 - channel) * 16 / 100;
-    };
-    return forms::Rgb(lighter(0), lighter(8), lighter(16));
-}
-
 std::string EmulatorOf(std::string_view row) {
     return std::string(text::Trim(row.substr(0, row.find(':'))));
 }
@@ -108,7 +99,7 @@ void AllEmulatorsSearch::DressList() {
     font.size = form.EmuListbox.FontSize();
     list.SetFont(font);
     form.Label4.SetForeColor(list.ForeColor());
-    list.SetBackColor(ButtonFace(form.FormBackColor));
+    list.SetBackColor(HitListColor(form.FormBackColor));
     form.SuchErgList.SetVisible(false);
 }
 

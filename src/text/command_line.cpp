@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "text/endings.h"
 #include "text/paths.h"
 #include "text/string_ops.h"
 #include "text/text.h"
@@ -13,11 +14,6 @@ namespace {
 
 bool IsGap(char c) {
     return c == ' ' || c == '\t';
-}
-
-bool EndsWith(std::string_view text, std::string_view ending) {
-    return text.size() >= ending.size() &&
-           EqualsNoCase(text.substr(text.size() - ending.size()), ending);
 }
 
 // Takes the arguments off the front of a command line, one at a time.
@@ -111,14 +107,14 @@ std::string ToWinePath(std::string_view path) {
 }
 
 bool IsProgramFile(std::string_view path) {
-    return EndsWith(path, ".exe") || EndsWith(path, ".com");
+    return EndsWithNoCase(path, ".exe") || EndsWithNoCase(path, ".com");
 }
 
 bool IsWindowsProgram(std::string_view path) {
     constexpr std::array<std::string_view, 3> kEndings = {".exe", ".bat", ".cmd"};
     const std::string_view bare = WithoutQuotes(path);
     return std::any_of(kEndings.begin(), kEndings.end(),
-                       [&](std::string_view ending) { return EndsWith(bare, ending); });
+                       [&](std::string_view ending) { return EndsWithNoCase(bare, ending); });
 }
 
 }  // namespace kivu::text

@@ -1,13 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "core/busy_state.h"
-#include "core/form1.h"
-#include "library/file_scan_recursive.h"
-#include "library/game_lists.h"
-#include "library/scan_source.h"
-#include "profile/ini.h"
-#include "testing/memory_file_system.h"
-#include "testing/scripted_host.h"
+#include "library/game_lists_fixture.h"
 
 namespace kivu::library {
 namespace {
@@ -16,21 +9,7 @@ using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::Not;
 
-// Every title that the window has had.
-class Titles : public forms::Observer {
- public:
-    explicit Titles(forms::Form& form) : form(form) { form.SetObserver(this); }
-    ~Titles() override { form.SetObserver(nullptr); }
-    void Changed(forms::Control& control, forms::Aspect aspect) override {
-        if (&control == &form && aspect == forms::Aspect::text) seen.push_back(form.Caption());
-    }
-    std::vector<std::string> seen;
-
- private:
-    forms::Form& form;
-};
-
-struct Aliases : ::testing::Test {
+struct Aliases : GameListsFixture {
     Aliases() {
         form.UAE_Short.AddItems({"Ant (1)", "Ant (2)", "Bee", "Ant (3)", "Cat", "Ant (4)"});
     }
@@ -39,16 +18,6 @@ struct Aliases : ::testing::Test {
         lists.ApplyAliasList("/AliasList.txt", separator);
     }
     const std::vector<std::string>& Names() { return form.UAE_Short.Rows(); }
-
-    kivu::testing::MemoryFileSystem files;
-    kivu::testing::ScriptedHost host{files};
-    ScanSource source{files};
-    core::Form1 form{forms::Toolkit{nullptr, nullptr, &source}};
-    profile::Ini ini{files};
-    core::EventPacer pacer{host.events, host.clock};
-    core::BusyState busy{form, host.events};
-    FileScanRecursive scanner{form, source, host.beeper, pacer};
-    GameLists lists{form, ini, files, busy, pacer, scanner};
 };
 
 TEST_F(Aliases, SecondRuleWithTheSameTextHitsTheNextDisk) {

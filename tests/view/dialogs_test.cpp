@@ -9,13 +9,11 @@
 
 #include "hosts/qt/dialogs_qt.h"
 #include "hosts/qt/event_pump_qt.h"
-#include "hosts/qt/pumping_clock.h"
 
 namespace kivu::tests {
 namespace {
 
 using namespace platform;
-using namespace std::chrono_literals;
 
 // Runs once the box of that name is on the screen.
 void WhenShown(const char* name, std::function<void(QDialog&)> then) {
@@ -199,23 +197,6 @@ TEST(EventPump, EndsTheDescentOfEventsThatPump) {
     };
     again();
     EXPECT_LT(deepest, 100);
-}
-
-class StandingClock : public Clock {
- public:
-    TimeOfDay Now() const override { return {1, 2, 3}; }
-    std::chrono::milliseconds Steady() const override { return 4ms; }
-    void Rest(std::chrono::milliseconds) override { FAIL(); }
-};
-
-TEST(PumpingClock, KeepsTheWindowAliveInItsRests) {
-    StandingClock inner;
-    hosts::PumpingClock clock(inner);
-    bool ran = false;
-    QTimer::singleShot(0, [&] { ran = true; });
-    clock.Rest(20ms);
-    EXPECT_TRUE(ran);
-    EXPECT_EQ(clock.Now().second, 3);
 }
 
 }  // namespace

@@ -3,16 +3,11 @@
 #include <algorithm>
 
 #include "hosts/windows/system_text.h"
-#include "text/text.h"
+#include "text/endings.h"
 
 namespace kivu::hosts {
 
 namespace {
-
-bool EndsWithNoCase(std::string_view text, std::string_view ending) {
-    return text.size() >= ending.size() &&
-           text::EqualsNoCase(text.substr(text.size() - ending.size()), ending);
-}
 
 // One argument as the command processor cuts it out: each quote opens or closes, "\" or not.
 struct Argument {
@@ -53,7 +48,7 @@ bool AppendHarmless(const Argument& argument, std::string& harmless) {
 bool IsBatchFile(std::string_view path) {
     const std::size_t last = path.find_last_not_of(" .");
     const std::string_view name = path.substr(0, last + 1);
-    return EndsWithNoCase(name, ".bat") || EndsWithNoCase(name, ".cmd");
+    return text::EndsWithNoCase(name, ".bat") || text::EndsWithNoCase(name, ".cmd");
 }
 
 std::optional<std::string> HarmlessArguments(std::string_view arguments) {
