@@ -145,7 +145,7 @@ TEST(KeysTest, NoKeyStandsTwice) {
         if (key->variant) continue;
         EXPECT_TRUE(names.insert(text::ToLower(key->name)).second) << key->name;
     }
-    EXPECT_EQ(names.size(), 42u);
+    EXPECT_EQ(names.size(), 46u);
 }
 
 TEST(KeysTest, VariantStandsBelowItsKeyAndDiffersFromIt) {

@@ -72,7 +72,7 @@ std::map<std::string, std::string> NamedOwners(std::string_view table) {
 
 std::string OwnerIn(std::string_view statement, const std::map<std::string, std::string>& named) {
     for (const auto& [name, owner] : named) {
-        if (HasWordBehind(statement, ", ", name)) return owner;
+        if (HasWordBehind(statement, " ", name)) return owner;
     }
     const auto literals = Literals(statement);
     return literals.empty() ? std::string() : literals.back();
@@ -125,6 +125,8 @@ Findings KeysPastTheTable(const SourceTree& tree) {
         std::size_t number = 0;
         for (const std::string_view line : LinesOf(file)) {
             const std::string place = file.path + ":" + std::to_string(++number) + ": ";
+            if (line.substr(std::min(line.find_first_not_of(' '), line.size())).starts_with("//"))
+                continue;
             for (const std::string& literal : Literals(line)) {
                 if (names.contains(literal)) findings.push_back(place + literal);
             }
