@@ -61,6 +61,10 @@ void Form1::DesignWindow() {
     SetCaption(defaultTitle);
     SetFont({"", 10, false});
     SetPicture({":/background", nullptr});
+    // Its lists lie at one place, and their buttons come right behind them.
+    SetTabOrder(forms::TabOrder::asCreated);
+    EmuActiveTimer.SetRestsBehindQuestions(true);
+    JoystickTimer.SetRestsBehindQuestions(true);
     ListLeft = 300;
 
     MyCaptionLabel.Move(ListLeft + 60, 110, 9000, 330);

@@ -39,7 +39,8 @@ bool Control::IsReachable() const {
         if (control->GetKind() == Kind::form) break;
         if (!control->visible || !control->enabled) return false;
     }
-    return true;
+    const Form* owner = GetKind() == Kind::form ? static_cast<const Form*>(this) : form;
+    return !owner || !owner->IsUnloaded();
 }
 
 void Control::Move(int newLeft, int newTop, int newWidth, int newHeight) {
@@ -94,10 +95,18 @@ void Control::SetPicture(Picture value) {
 }
 
 void Control::BringToFront() {
-    if (!parent || parent->children.back() == this) return;
+    if (parent) PlaceAt(parent->children.size() - 1);
+}
+
+void Control::SendToBack() {
+    if (parent) PlaceAt(0);
+}
+
+void Control::PlaceAt(std::size_t place) {
     auto& siblings = parent->children;
+    if (siblings[place] == this) return;
     siblings.erase(std::find(siblings.begin(), siblings.end(), this));
-    siblings.push_back(this);
+    siblings.insert(siblings.begin() + static_cast<std::ptrdiff_t>(place), this);
     Notify(Aspect::zOrder);
 }
 
@@ -117,6 +126,16 @@ void Control::Notify(Aspect aspect) {
     Form* owner = form;
     if (GetKind() == Kind::form) owner = static_cast<Form*>(this);
     if (owner && owner->observer) owner->observer->Changed(*this, aspect);
+    if (owner == this && aspect == Aspect::visible) owner->TellWindowHost();
+}
+
+HeldForm::HeldForm(Control& control)
+    : form(control.GetKind() == Kind::form ? static_cast<Form*>(&control) : control.ParentForm()) {
+    if (form) form->Hold();
+}
+
+HeldForm::~HeldForm() {
+    if (form) form->Release();
 }
 
 const Toolkit& Control::GetToolkit() const {

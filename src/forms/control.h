@@ -10,6 +10,7 @@
 namespace kivu::forms {
 
 class Container;
+class Control;
 class Form;
 
 enum class Kind {
@@ -29,6 +30,18 @@ enum class Kind {
     driveListBox,
     dirListBox,
     fileListBox,
+};
+
+// Keeps the form of a control, or a form itself, from being destroyed.
+class HeldForm {
+ public:
+    explicit HeldForm(Control& control);
+    ~HeldForm();
+    HeldForm(const HeldForm&) = delete;
+    HeldForm& operator=(const HeldForm&) = delete;
+
+ private:
+    Form* form;
 };
 
 // A control of a form: its state, and the handlers of what happens to it. No screen is involved; a
@@ -55,7 +68,7 @@ class Control {
     void SetVisible(bool value);
     bool Enabled() const { return enabled; }
     void SetEnabled(bool value);
-    // Visible and enabled, with all its containers.
+    // Visible and enabled, with all its containers, in a form that has not been unloaded.
     bool IsReachable() const;
 
     int Left() const { return left; }
@@ -85,6 +98,7 @@ class Control {
     const Picture& GetPicture() const { return picture; }
     void SetPicture(Picture value);
     void BringToFront();
+    void SendToBack();
     // What the program wants to know the control by, whatever its name.
     const std::string& Tag() const { return tag; }
     void SetTag(std::string value) { tag = std::move(value); }
@@ -129,17 +143,21 @@ class Control {
     const Toolkit& GetToolkit() const;
     // Measures that follow from the font or the text, for controls that have them.
     virtual void Remeasure() {}
-    // A copy is run, so that a handler may be replaced while it runs.
+    // A copy is run, so that a handler may be replaced while it runs. The form lasts until it
+    // returns.
     template <typename Handler, typename... Arguments>
-    static void Run(const Handler& handler, Arguments&&... arguments) {
+    void Run(const Handler& handler, Arguments&&... arguments) {
         if (!handler) return;
         const Handler copy = handler;
+        const HeldForm held(*this);
         copy(std::forward<Arguments>(arguments)...);
     }
 
  private:
     friend class Form;
     friend class UserInput;
+
+    void PlaceAt(std::size_t place);
 
     std::string name;
     int index;

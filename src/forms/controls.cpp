@@ -4,7 +4,9 @@
 #include <cstdint>
 #include <utility>
 
+#include "forms/access_keys.h"
 #include "forms/form.h"
+#include "forms/window_host.h"
 
 namespace kivu::forms {
 
@@ -87,7 +89,15 @@ void TextBox::SetField(TextField value) {
     if (changed) Run(onChange);
 }
 
+void TextBox::SetMultiLine(bool value) {
+    TextField changed = field;
+    changed.SetMultiLine(value);
+    SetField(std::move(changed));
+    Remeasure();
+}
+
 void TextBox::Remeasure() {
+    if (IsMultiLine()) return;
     SetHeight(LineHeight(GetToolkit(), GetFont()) + 10 * twipsPerPixel);
 }
 
@@ -121,6 +131,19 @@ void Label::SetOpaque(bool value) {
     if (opaque == value) return;
     opaque = value;
     Notify(Aspect::colors);
+}
+
+void Label::SetLink(bool value) {
+    if (link == value) return;
+    link = value;
+    Notify(Aspect::text);
+}
+
+void Label::SetMarksLetter(bool value) {
+    if (marksLetter == value) return;
+    marksLetter = value;
+    Notify(Aspect::text);
+    Remeasure();
 }
 
 void Label::SetShownText(std::string value) {
@@ -163,7 +186,7 @@ int Label::ShownLineHeight() const {
 }
 
 int Label::TextWidth() const {
-    return WidthOf(caption);
+    return WidthOf(marksLetter ? PlainCaption(caption) : caption);
 }
 
 int Label::WidthOf(std::string_view text) const {
@@ -244,6 +267,12 @@ void Slider::SetValue(int newValue) {
     Run(onChange);
 }
 
+void Image::SetKeepsProportions(bool value) {
+    if (keepsProportions == value) return;
+    keepsProportions = value;
+    Notify(Aspect::picture);
+}
+
 void Frame::SetCaption(std::string value) {
     if (caption == value) return;
     caption = std::move(value);
@@ -262,8 +291,10 @@ void Timer::SetInterval(int milliseconds) {
 }
 
 bool Timer::Tick() {
-    if (!Enabled() || interval == 0) return false;
-    if (ticking) return true;
+    const bool off = !Enabled() || interval == 0;
+    if (off || (ParentForm() && ParentForm()->IsUnloaded())) return false;
+    const WindowHost* windows = GetToolkit().windows;
+    if (ticking || (rests && windows && windows->Questions() > 0)) return true;
     ticking = true;
     Run(onTimer);
     ticking = false;

@@ -10,7 +10,7 @@
 
 namespace kivu::forms {
 
-// One line of text to edit.
+// Text to edit: one line, or several.
 class TextBox : public Control {
  public:
     TextBox(Container* parent, std::string name, int index = -1);
@@ -26,6 +26,10 @@ class TextBox : public Control {
     const TextField& Field() const { return field; }
     // Text and selection in one step, as typing changes them: the change handler finds both.
     void SetField(TextField value);
+    // Several lines, which end in CR LF however they were given, in a box of any height; Enter
+    // begins a new one. One line is as high as its font. Settled before a view is made.
+    bool IsMultiLine() const { return field.IsMultiLine(); }
+    void SetMultiLine(bool value);
 
     std::function<void()> onChange;
 
@@ -53,6 +57,14 @@ class Label : public Control {
     void SetAlignment(Alignment value);
     bool IsOpaque() const { return opaque; }
     void SetOpaque(bool value);
+    // A link takes the focus, and Enter and Space click it as the mouse does.
+    bool IsLink() const { return link; }
+    void SetLink(bool value);
+    bool TakesFocus() const override { return link; }
+    // True: "&" in the caption marks the letter that, with Alt, gives the focus to the control
+    // behind the label, and "&&" is the sign itself. False: all "&" are plain.
+    bool MarksLetter() const { return marksLetter; }
+    void SetMarksLetter(bool value);
     // Twips that the caption's longest line and all its lines take in the label's font.
     int TextWidth() const;
     int TextHeight() const;
@@ -83,6 +95,8 @@ class Label : public Control {
     std::string caption;
     bool autoSize = false;
     bool opaque = false;
+    bool link = false;
+    bool marksLetter = false;
     std::string shownText;
     std::string hint;
     double shownFontSize = 0;
@@ -93,12 +107,15 @@ class CommandButton : public Control {
  public:
     using Control::Control;
     Kind GetKind() const override { return Kind::commandButton; }
-    bool TakesFocus() const override { return true; }
+    bool TakesFocus() const override { return takesFocus; }
+    // False: a click leaves the focus where it is, and the Tab key passes it over.
+    void SetTakesFocus(bool value) { takesFocus = value; }
     const std::string& Caption() const { return caption; }  // "&" marks the access key
     void SetCaption(std::string value);
 
  private:
     std::string caption;
+    bool takesFocus = true;
 };
 
 // A box or a round button that holds a number: 0 off, 1 on, 2 greyed (boxes only). A different
@@ -132,7 +149,8 @@ class CheckBox : public ValueButton {
 };
 
 // One of the option buttons of a container is on: switching one on switches the others off, which
-// runs the click handler of the first alone.
+// runs the click handler of the first alone. The Tab key comes to the one that is on, and the arrow
+// keys go through them.
 class OptionButton : public ValueButton {
  public:
     using ValueButton::ValueButton;
@@ -171,6 +189,13 @@ class Image : public Control {
  public:
     using Control::Control;
     Kind GetKind() const override { return Kind::image; }
+    // True: the picture is as large as fits into the control without being distorted, in its
+    // middle.
+    bool KeepsProportions() const { return keepsProportions; }
+    void SetKeepsProportions(bool value);
+
+ private:
+    bool keepsProportions = false;
 };
 
 class Frame : public Container {
@@ -184,7 +209,8 @@ class Frame : public Container {
     std::string caption;
 };
 
-// Ticks while it is enabled and its interval is above 0. Who keeps the time calls Tick.
+// Ticks while it is enabled and its interval is above 0, in a form that has not been unloaded. Who
+// keeps the time calls Tick.
 class Timer : public Control {
  public:
     Timer(Container* parent, std::string name, int intervalMilliseconds, bool on);
@@ -193,12 +219,17 @@ class Timer : public Control {
     void SetInterval(int milliseconds);
     // False: the timer is off. A tick inside its own handler does nothing.
     bool Tick();
+    // True: it rests while a box or a modal window waits for the user, since what it does would
+    // start, switch or open something behind that.
+    bool RestsBehindQuestions() const { return rests; }
+    void SetRestsBehindQuestions(bool value) { rests = value; }
 
     std::function<void()> onTimer;
 
  private:
     int interval;
     bool ticking = false;
+    bool rests = false;
 };
 
 // Lines of a caption, split at CR LF, CR or LF.

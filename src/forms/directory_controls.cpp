@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "forms/form.h"
+#include "forms/names.h"
 #include "forms/sort_rows.h"
 
 namespace kivu::forms {
@@ -24,6 +25,22 @@ std::string WithoutClosingSeparator(std::string path) {
     const bool closed = !path.empty() && (path.back() == '/' || path.back() == SeparatorOf(path));
     if (closed && path.size() > 1 && !drive) path.pop_back();
     return path;
+}
+
+bool IsSeparator(char c) {
+    return c == '/' || c == '\\';
+}
+
+bool LiesOn(std::string_view path, std::string_view drive) {
+    while (!drive.empty() && IsSeparator(drive.back()))
+        drive.remove_suffix(1);
+    if (path.size() < drive.size()) return false;
+    const std::string_view begin = path.substr(0, drive.size());
+    const bool lettered = drive.size() == 2 && drive[1] == ':';
+    const bool begins = lettered ? SameName(begin, drive) : begin == drive;
+    // "//x" is a plain path of the root.
+    return begins &&
+           (path.size() == drive.size() ? !drive.empty() : IsSeparator(path[drive.size()]));
 }
 
 }  // namespace
@@ -49,9 +66,9 @@ void DirectoryControl::ClickRow(int row) {
     }
 }
 
-void DirectoryControl::ReplaceRows(std::vector<std::string> newRows) {
+void DirectoryControl::ReplaceRows(std::vector<std::string> newRows, int chosen) {
     rows = std::move(newRows);
-    selected = -1;
+    selected = chosen;
     Notify(Aspect::rows);
 }
 
@@ -62,6 +79,25 @@ void DirectoryControl::ShowRows(std::string_view start,
         rows[i].assign(start).append(names[i]);
     selected = -1;
     Notify(Aspect::rows);
+}
+
+void DriveListBox::Refresh() {
+    DirectorySource* source = GetToolkit().directories;
+    if (!source) return;
+    std::vector<std::string> drives = source->Drives();
+    const auto kept = std::find(drives.begin(), drives.end(), Drive());
+    const bool stays = kept != drives.end() && ListIndex() >= 0;
+    const int row = stays ? static_cast<int>(kept - drives.begin()) : -1;
+    ReplaceRows(std::move(drives), row);
+}
+
+void DriveListBox::SetDrive(std::string_view path) {
+    int best = -1;
+    for (int row = 0; row < ListCount(); ++row) {
+        const bool longer = best < 0 || List(row).size() > List(best).size();
+        if (longer && LiesOn(path, List(row))) best = row;
+    }
+    if (best >= 0) SetListIndex(best);
 }
 
 void DirListBox::SetPath(const std::string& given) {

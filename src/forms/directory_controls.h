@@ -28,7 +28,7 @@ class DirectoryControl : public Control {
     std::function<void()> onChange;
 
  protected:
-    void ReplaceRows(std::vector<std::string> newRows);
+    void ReplaceRows(std::vector<std::string> newRows, int chosen = -1);
     // Each row is `start` and a name. Rows keep their memory: a walk shows directory upon
     // directory.
     void ShowRows(std::string_view start, const std::vector<std::string_view>& names);
@@ -38,12 +38,18 @@ class DirectoryControl : public Control {
     int selected = -1;
 };
 
-// The drives or mount points to choose from, given by whoever knows them.
+// The drives or mount points to choose from, as the toolkit's source or the program knows them.
 class DriveListBox : public DirectoryControl {
  public:
     using DirectoryControl::DirectoryControl;
     Kind GetKind() const override { return Kind::driveListBox; }
     void SetDrives(std::vector<std::string> drives) { ReplaceRows(std::move(drives)); }
+    // Asks the toolkit's source anew. The chosen drive stays chosen as far as it is still there,
+    // and no handler runs.
+    void Refresh();
+    // Chooses the drive that the path lies on: the longest one that begins it. A different one runs
+    // the click handler; a path on none changes nothing.
+    void SetDrive(std::string_view path);
     const std::string& Drive() const { return List(ListIndex()); }
 };
 

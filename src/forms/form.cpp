@@ -3,25 +3,22 @@
 #include <algorithm>
 #include <utility>
 
+#include "forms/names.h"
+#include "forms/window_host.h"
+
 namespace kivu::forms {
-
-namespace {
-
-bool SameAsciiText(std::string_view a, std::string_view b) {
-    const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(),
-                      [&](char x, char y) { return lower(x) == lower(y); });
-}
-
-}  // namespace
 
 Form::Form(std::string name, Toolkit toolkit)
     : Container(nullptr, std::move(name)), toolkit(toolkit) {
 }
 
+Form::~Form() {
+    if (toolkit.windows) toolkit.windows->Gone(*this);
+}
+
 Control* Form::Find(std::string_view name, int index) const {
     const auto found = std::find_if(controls.begin(), controls.end(), [&](const Control* control) {
-        return control->Index() == index && SameAsciiText(control->Name(), name);
+        return control->Index() == index && SameName(control->Name(), name);
     });
     return found == controls.end() ? nullptr : *found;
 }
@@ -60,22 +57,34 @@ void Form::SetCornerRadius(int pixels) {
     Notify(Aspect::windowFrame);
 }
 
-void Form::SetHasFrame(bool value) {
-    if (hasFrame == value) return;
-    hasFrame = value;
+void Form::SetFrameFlag(bool& flag, bool value) {
+    if (flag == value) return;
+    flag = value;
     Notify(Aspect::windowFrame);
+}
+
+void Form::SetActivates(bool value) {
+    SetFrameFlag(activates, value);
+}
+
+void Form::SetAboveAll(bool value) {
+    SetFrameFlag(aboveAll, value);
+}
+
+void Form::SetResizable(bool value) {
+    SetFrameFlag(resizable, value);
+}
+
+void Form::SetHasFrame(bool value) {
+    SetFrameFlag(hasFrame, value);
 }
 
 void Form::SetToolWindow(bool value) {
-    if (toolWindow == value) return;
-    toolWindow = value;
-    Notify(Aspect::windowFrame);
+    SetFrameFlag(toolWindow, value);
 }
 
 void Form::SetTopmost(bool value) {
-    if (topmost == value) return;
-    topmost = value;
-    Notify(Aspect::windowFrame);
+    SetFrameFlag(topmost, value);
 }
 
 void Form::BeginDrag() {
@@ -91,6 +100,43 @@ bool Form::RequestClose() {
     bool cancel = false;
     Run(onQueryClose, cancel);
     return !cancel;
+}
+
+void Form::Load() {
+    if (life == Life::loaded) return;
+    life = Life::loaded;
+    if (toolkit.windows) {
+        visible = false;
+        toolkit.windows->Loaded(*this);
+    }
+    Run(onLoad);
+}
+
+void Form::Unload() {
+    if (life != Life::loaded || unloading) return;
+    const HeldForm whole(*this);
+    unloading = true;
+    Run(onUnload);
+    unloading = false;
+    life = Life::unloaded;
+    focus = entered = nullptr;
+    SetVisible(false);
+    if (toolkit.windows) toolkit.windows->Unloaded(*this);
+    if (const auto forget = std::exchange(onForget, {})) forget();
+}
+
+bool Form::Close() {
+    if (!RequestClose()) return false;
+    Unload();
+    return true;
+}
+
+void Form::Release() {
+    if (--held == 0 && IsUnloaded() && toolkit.windows) toolkit.windows->Released();
+}
+
+void Form::TellWindowHost() {
+    if (toolkit.windows) toolkit.windows->VisibilityChanged(*this);
 }
 
 }  // namespace kivu::forms

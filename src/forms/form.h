@@ -19,10 +19,23 @@ class Observer {
 
 enum class WindowState { normal = 0, minimized = 1, maximized = 2 };
 
-// A window. Its inner size is its size: the launcher's windows draw their own frame.
+// How the Tab key goes through a form.
+enum class TabOrder {
+    byPlace,    // line by line as the eye does, from left to right, container by container
+    asCreated,  // as the controls were made
+};
+
+class CommandButton;
+
+// A window. Its inner size is its size: the launcher's windows draw their own frame. A press of the
+// mouse on its surface that nobody listens to drags it.
+//
+// A window beside the main one is loaded, shown, hidden and unloaded through a WindowHost, and made
+// anew for each opening by an OnDemand.
 class Form : public Container {
  public:
     explicit Form(std::string name, Toolkit toolkit = {});
+    ~Form() override;
 
     Kind GetKind() const override { return Kind::form; }
     void SetObserver(Observer* value) { observer = value; }
@@ -64,16 +77,61 @@ class Form : public Container {
     // The window manager's close request. True: nobody objected.
     bool RequestClose();
 
+    // Runs onLoad, once until it is unloaded. A window is not seen before it is shown.
+    void Load();
+    // Runs onUnload, then hides the window for good: its timers and controls do nothing any more,
+    // and whoever made it forgets it.
+    void Unload();
+    // Unloads the window unless somebody objects. True: nobody did.
+    bool Close();
+    bool IsLoaded() const { return life == Life::loaded; }
+    bool IsUnloaded() const { return life == Life::unloaded; }
+    // Handlers of it are running, or somebody waits for it: it must not be destroyed.
+    bool IsHeld() const { return held > 0; }
+
+    // False: shown without taking the keyboard away from whoever has it.
+    bool Activates() const { return activates; }
+    void SetActivates(bool value);
+    // Above fullscreen programs, where staying on top of other windows is not enough.
+    bool IsAboveAll() const { return aboveAll; }
+    void SetAboveAll(bool value);
+    // True: the user may change the size of a window without a frame by its edges.
+    bool IsResizable() const { return resizable; }
+    void SetResizable(bool value);
+    // True: it stands where it was put, and else in the middle of the window that it is shown over.
+    bool KeepsPlace() const { return keepsPlace; }
+    void SetKeepsPlace(bool value) { keepsPlace = value; }
+
+    TabOrder GetTabOrder() const { return tabOrder; }
+    void SetTabOrder(TabOrder value) { tabOrder = value; }
+    // The buttons that Enter and Escape press where the control with the focus makes nothing of
+    // them; null for none. A key that is held down presses neither.
+    CommandButton* EnterButton() const { return enterButton; }
+    void SetEnterButton(CommandButton* value) { enterButton = value; }
+    CommandButton* EscapeButton() const { return escapeButton; }
+    void SetEscapeButton(CommandButton* value) { escapeButton = value; }
+
     // Window-level keys, before the control with the focus gets them.
     std::function<void(Key&)> onPreviewKeyDown;
     std::function<void(Character&)> onPreviewKeyPress;
     // Set `cancel` to keep the window open.
     std::function<void(bool& cancel)> onQueryClose;
+    std::function<void()> onLoad;
+    std::function<void()> onUnload;
+    // For who made the window: it has been unloaded and may be destroyed once it is not held.
+    std::function<void()> onForget;
 
  private:
     friend class Control;
+    friend class HeldForm;
     friend class UserInput;
+    enum class Life { fresh, loaded, unloaded };
+
     void DropUnreachableFocus();
+    void TellWindowHost();
+    void Hold() { ++held; }
+    void Release();
+    void SetFrameFlag(bool& flag, bool value);
     void SetDragged(Control* value);
     Point DraggedFrom() const { return draggedFrom; }
 
@@ -90,6 +148,16 @@ class Form : public Container {
     bool hasFrame = true;
     bool toolWindow = true;
     bool topmost = false;
+    bool activates = true;
+    bool aboveAll = false;
+    bool resizable = true;
+    bool keepsPlace = false;
+    Life life = Life::fresh;
+    bool unloading = false;
+    int held = 0;
+    TabOrder tabOrder = TabOrder::byPlace;
+    CommandButton* enterButton = nullptr;
+    CommandButton* escapeButton = nullptr;
 };
 
 }  // namespace kivu::forms

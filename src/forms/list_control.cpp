@@ -204,12 +204,20 @@ int ListControl::ListIndex() const {
     return selection.Current();
 }
 
-void ListControl::SetListIndex(int row) {
-    if (row < -1 || row >= ListCount() || row == ListIndex()) return;
+bool ListControl::ChooseRow(int row) {
+    if (row < -1 || row >= ListCount() || row == ListIndex()) return false;
     selection.Choose(row);
     TakeSelection();
     Notify(Aspect::selection);
-    Run(onClick);
+    return true;
+}
+
+void ListControl::SetListIndex(int row) {
+    if (ChooseRow(row)) Run(onClick);
+}
+
+void ListControl::SetListIndexQuietly(int row) {
+    ChooseRow(row);
 }
 
 void ListControl::ClickRow(int row, Choice choice) {

@@ -63,6 +63,8 @@ class ListControl : public Control {
     int ListIndex() const;
     // A different row in range (or -1) runs the click handler.
     void SetListIndex(int row);
+    // The same without the handler.
+    void SetListIndexQuietly(int row);
     // Text of the selected row.
     const std::string& SelectedText() const { return List(ListIndex()); }
     // The user's click on a row: runs the click handler on the selected row too. Other choices than
@@ -82,6 +84,8 @@ class ListControl : public Control {
     // Those that nobody has looked at yet.
     void MakeRows() const;
     void NoteCleared();
+    // False: the row is chosen already, or there is none of the number.
+    bool ChooseRow(int row);
 
     Order order;
     mutable std::vector<std::string> rows;

@@ -49,6 +49,7 @@ inline constexpr int left = 1, right = 2, middle = 4;
 struct Key {
     int code = 0;
     int shift = 0;
+    bool repeat = false;  // the key is held down and strikes by itself
     bool operator==(const Key&) const = default;
 };
 
@@ -63,6 +64,13 @@ struct Point {
     int x = 0;
     int y = 0;
     bool operator==(const Point&) const = default;
+};
+
+// Twips.
+struct Size {
+    int width = 0;
+    int height = 0;
+    bool operator==(const Size&) const = default;
 };
 
 struct Mouse {
@@ -102,7 +110,7 @@ enum class Aspect {
     timer,
     focus,
     windowState,
-    windowFrame,  // corner radius, frame, stay-on-top
+    windowFrame,  // corner radius, frame, stay-on-top, edges, how it is shown
 };
 
 // Where text is as wide as on the screen. Units are twips.
@@ -126,7 +134,7 @@ class Collation {
     virtual std::uint64_t Rank(std::string_view) const { return 0; }
 };
 
-// What directory and file list controls show.
+// What drive, directory and file list controls show.
 class DirectorySource {
  public:
     virtual ~DirectorySource() = default;
@@ -135,14 +143,19 @@ class DirectorySource {
     virtual bool Read(const std::string& path, std::vector<std::string_view>* directories,
                       std::vector<std::string_view>* files) = 0;
     virtual bool Matches(const std::string& pattern, std::string_view name) = 0;
+    // The drives or mount points that a user begins at, each by its path.
+    virtual std::vector<std::string> Drives() { return {}; }
 };
 
+class WindowHost;
+
 // What the controls ask of the world outside. All may be missing: then rows compare by their bytes,
-// and text is measured by a fixed width.
+// text is measured by a fixed width, and nobody keeps a list of the windows.
 struct Toolkit {
     const TextMeasure* measure = nullptr;
     const Collation* collation = nullptr;
     DirectorySource* directories = nullptr;
+    WindowHost* windows = nullptr;
 };
 
 }  // namespace kivu::forms

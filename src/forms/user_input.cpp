@@ -5,9 +5,11 @@
 #include <utility>
 #include <vector>
 
+#include "forms/access_keys.h"
 #include "forms/controls.h"
 #include "forms/directory_controls.h"
 #include "forms/list_control.h"
+#include "forms/tab_order.h"
 
 namespace kivu::forms {
 
@@ -72,6 +74,20 @@ bool MoveSlider(Slider& slider, int code) {
     return true;
 }
 
+// Round in the group, from the one with the focus. False: the key is no arrow.
+bool MoveOption(const OptionButton& option, int code) {
+    const bool forward = code == keys::right || code == keys::down;
+    if (!forward && code != keys::left && code != keys::up) return false;
+    const std::vector<OptionButton*> options = OptionsBeside(option);
+    const auto at = std::find(options.begin(), options.end(), &option);
+    if (at == options.end()) return true;
+    const auto place = static_cast<std::size_t>(at - options.begin());
+    OptionButton& next = *options[(place + (forward ? 1 : options.size() - 1)) % options.size()];
+    next.SetFocus();
+    if (next.HasFocus()) next.SetValue(1);
+    return true;
+}
+
 bool Edit(Control* control, const std::function<bool(TextField&)>& edit) {
     const auto apply = [&](auto& box) {
         TextField field = box.Field();
@@ -106,16 +122,19 @@ void UserInput::MouseDown(Control& control, const Mouse& mouse) {
     if (!control.IsReachable()) return;
     control.SetFocus();
     // A focus handler may have put the control away.
-    if (control.IsReachable()) Control::Run(control.onMouseDown, mouse);
+    if (!control.IsReachable()) return;
+    control.Run(control.onMouseDown, mouse);
+    const bool surface = control.GetKind() == Kind::form && !control.onMouseDown;
+    if (surface && mouse.button == buttons::left) form.BeginDrag();
 }
 
 void UserInput::MouseMove(Control& control, const Mouse& mouse) {
-    if (control.IsReachable()) Control::Run(control.onMouseMove, mouse);
+    if (control.IsReachable()) control.Run(control.onMouseMove, mouse);
 }
 
 void UserInput::MouseUp(Control& control, const Mouse& mouse) {
     CancelDrag();
-    if (control.IsReachable()) Control::Run(control.onMouseUp, mouse);
+    if (control.IsReachable()) control.Run(control.onMouseUp, mouse);
 }
 
 void UserInput::MouseLeave(Control* from, const Control* to) {
@@ -125,12 +144,12 @@ void UserInput::MouseLeave(Control* from, const Control* to) {
         return inner != nullptr;
     };
     for (Control* left = from; left && !holds(left, to); left = left->Parent())
-        Control::Run(left->onMouseLeave);
+        left->Run(left->onMouseLeave);
 }
 
 bool UserInput::DropDown(ComboBox& box) {
     if (!box.onDropDown || !box.IsReachable()) return false;
-    Control::Run(box.onDropDown);
+    box.Run(box.onDropDown);
     return true;
 }
 
@@ -156,7 +175,7 @@ void UserInput::Drag(Control& control, Point grip, Control& target, Point place)
     MouseDown(control, {buttons::left, 0, grip.x, grip.y});
     if (Control* dragged = form.Dragged()) {
         form.SetDragged(nullptr);
-        if (target.IsReachable()) Control::Run(target.onDragDrop, *dragged, place.x, place.y);
+        if (target.IsReachable()) target.Run(target.onDragDrop, *dragged, place.x, place.y);
         return;
     }
     const Point from = CornerInForm(control), to = CornerInForm(target);
@@ -179,7 +198,7 @@ void UserInput::DragOver(Point place) {
     Control* target = form.Dragged() ? DropTarget(place) : nullptr;
     if (!target) return;
     const Point corner = CornerInForm(*target);
-    Control::Run(target->onDragOver, *form.Dragged(), place.x - corner.x, place.y - corner.y);
+    target->Run(target->onDragOver, *form.Dragged(), place.x - corner.x, place.y - corner.y);
 }
 
 void UserInput::Drop(Point place) {
@@ -191,7 +210,7 @@ void UserInput::Drop(Point place) {
     }
     form.SetDragged(nullptr);
     const Point corner = CornerInForm(*target);
-    Control::Run(target->onDragDrop, *dragged, place.x - corner.x, place.y - corner.y);
+    target->Run(target->onDragDrop, *dragged, place.x - corner.x, place.y - corner.y);
 }
 
 void UserInput::CancelDrag() {
@@ -210,7 +229,7 @@ void UserInput::RightClick(Control& control, std::optional<int> row) {
     OnRows(control, [&](auto& list) {
         if (row.value_or(-1) >= 0) list.SetListIndex(*row);
     });
-    if (control.IsReachable()) Control::Run(control.onMouseDown, mouse);
+    if (control.IsReachable()) control.Run(control.onMouseDown, mouse);
     MouseUp(control, mouse);
 }
 
@@ -219,14 +238,16 @@ Key UserInput::KeyDown(Key key) {
         CancelDrag();
         return {};
     }
-    Control::Run(form.onPreviewKeyDown, key);
-    if (key.code != 0 && form.Focus()) Control::Run(form.Focus()->onKeyDown, key);
+    if (form.IsUnloaded()) return {};
+    form.Run(form.onPreviewKeyDown, key);
+    if (key.code != 0 && form.Focus()) form.Run(form.Focus()->onKeyDown, key);
     return key;
 }
 
 Character UserInput::KeyPress(Character character) {
-    Control::Run(form.onPreviewKeyPress, character);
-    if (character.code != 0 && form.Focus()) Control::Run(form.Focus()->onKeyPress, character);
+    if (form.IsUnloaded()) return {};
+    form.Run(form.onPreviewKeyPress, character);
+    if (character.code != 0 && form.Focus()) form.Run(form.Focus()->onKeyPress, character);
     return character;
 }
 
@@ -235,18 +256,55 @@ bool UserInput::DefaultKey(Key key) {
         FocusNext((key.shift & shifts::shift) == 0);
         return true;
     }
-    Control* control = form.Focus();
-    if (!control) return false;
-    auto* list = dynamic_cast<ListBox*>(control);
+    const bool used = form.Focus() && UseKey(*form.Focus(), key);
+    return used || UseAccessKey(key) || PressFormButton(key);
+}
+
+bool UserInput::UseKey(Control& control, Key key) {
+    auto* list = dynamic_cast<ListBox*>(&control);
     if (list && list->MultiSelect() && ChooseRow(*list, key)) return true;
     if (key.shift != 0) return false;
-    if (OnRows(*control, [](auto&) {})) return MoveRow(*control, key);
-    if (auto* slider = dynamic_cast<Slider*>(control)) return MoveSlider(*slider, key.code);
-    const bool command = control->GetKind() == Kind::commandButton;
-    const bool button = command || dynamic_cast<ValueButton*>(control);
+    if (OnRows(control, [](auto&) {})) return MoveRow(control, key);
+    if (auto* slider = dynamic_cast<Slider*>(&control)) return MoveSlider(*slider, key.code);
+    auto* option = dynamic_cast<OptionButton*>(&control);
+    if (option && MoveOption(*option, key.code)) return true;
+    const bool command =
+        control.GetKind() == Kind::commandButton || control.GetKind() == Kind::label;
+    const bool button = command || dynamic_cast<ValueButton*>(&control);
     const bool pressed = key.code == keys::space || (key.code == keys::enter && command);
     if (!button || !pressed) return false;
-    Press(*control);
+    Press(control);
+    return true;
+}
+
+bool UserInput::UseAccessKey(Key key) {
+    const bool capital = key.code >= 'A' && key.code <= 'Z';
+    const bool digit = key.code >= '0' && key.code <= '9';
+    if (key.shift != shifts::alt || !(capital || digit)) return false;
+    const char letter = static_cast<char>(capital ? key.code + 32 : key.code);
+    const std::vector<Control*> controls = form.Controls();
+    for (Control* control : controls) {
+        const std::string* caption = CaptionWithAccessKey(*control);
+        if (!caption || !control->IsReachable() || AccessKeyOf(*caption) != letter) continue;
+        const bool leads = control->GetKind() == Kind::label && !control->TakesFocus();
+        Control* target = leads ? StopBehind(*control) : control;
+        if (!target) continue;
+        leads ? target->SetFocus() : Click(*target);
+        return true;
+    }
+    return false;
+}
+
+bool UserInput::PressFormButton(Key key) {
+    const auto* box = dynamic_cast<const TextBox*>(form.Focus());
+    const bool newLine = key.code == keys::enter && box && box->IsMultiLine();
+    if (key.shift != 0 || newLine) return false;
+    CommandButton* button = key.code == keys::enter    ? form.EnterButton()
+                            : key.code == keys::escape ? form.EscapeButton()
+                                                       : nullptr;
+    if (!button || !button->IsReachable()) return false;
+    // A window that the key has opened must not take its repeats for an answer.
+    if (!key.repeat) button->Click();
     return true;
 }
 
@@ -321,10 +379,7 @@ void UserInput::Type(Control& control, std::string_view text) {
 }
 
 void UserInput::FocusNext(bool forward) {
-    std::vector<Control*> stops;
-    for (Control* control : form.Controls()) {
-        if (control->TakesFocus() && control->IsReachable()) stops.push_back(control);
-    }
+    const std::vector<Control*> stops = TabStops(form);
     if (stops.empty()) return;
     const auto found = std::find(stops.begin(), stops.end(), form.Focus());
     const auto count = static_cast<std::ptrdiff_t>(stops.size());

@@ -51,10 +51,12 @@ class UserInput {
     Key KeyDown(Key key);
     Character KeyPress(Character character);
     // What the control itself makes of a key that nobody swallowed: a list moves its selection and
-    // clicks, a button is pressed, a slider moves by one, Tab moves on. False: nothing. Where
-    // several rows can be chosen, Shift takes all from the row chosen last, Ctrl moves the current
-    // row alone, and Space turns that over. Text boxes edit on a screen by themselves; for the
-    // others see EditKey and EditCharacter.
+    // clicks, a button or a link is pressed, a slider moves by one, the arrow keys go through
+    // option buttons, Tab moves on. Where several rows can be chosen, Shift takes all from the row
+    // chosen last, Ctrl moves the current row alone, and Space turns that over. Then what the form
+    // makes of it: Alt with a letter does what the caption that marks it says, Enter and Escape
+    // press the form's buttons for them. False: nothing. Text boxes edit on a screen by themselves;
+    // for the others see EditKey and EditCharacter.
     bool DefaultKey(Key key);
     // Editing of a text box or of a combo box's field without a screen.
     bool EditKey(Key key);
@@ -75,6 +77,9 @@ class UserInput {
 
  private:
     void Stroke(Key key, Character typed);
+    bool UseKey(Control& control, Key key);
+    bool UseAccessKey(Key key);
+    bool PressFormButton(Key key);
     bool MoveRow(Control& control, Key key);
     bool ChooseRow(ListBox& list, Key key);
     Control* DropTarget(Point place) const;

@@ -25,6 +25,7 @@ class ScanSource : public forms::DirectorySource {
     bool Read(const std::string& path, std::vector<std::string_view>* directories,
               std::vector<std::string_view>* names) override;
     bool Matches(const std::string& pattern, std::string_view name) override;
+    std::vector<std::string> Drives() override { return files.Drives(); }
 
     void BeginScan(const std::string& root);
     // The scan will go on with these, the last one first.

@@ -119,6 +119,12 @@ class FileSystem {
     virtual std::string CurrentDirectory() const = 0;
     virtual std::error_code ChangeDirectory(const std::string& path) = 0;
 
+    // Where a user begins to look: the drives of the host ("C:\"), or the root, the home directory
+    // and what is mounted for the user.
+    virtual std::vector<std::string> Drives() const { return {}; }
+    // Without a closing separator. Empty: there is none.
+    virtual std::string HomeDirectory() const { return {}; }
+
     // The host's short (8.3) and long form of an existing path; empty when there is no answer. A
     // host without short names gives the path without enclosing quotes.
     virtual std::string ShortPathName(const std::string& path) const = 0;

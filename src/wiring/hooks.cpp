@@ -110,7 +110,7 @@ void Launcher::Routines::JoinLaunch() {
     handedFile.hooks.LeaveEmulatorBox = [this] { LeaveChoice(); };
     handedFile.hooks.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
     handedFile.hooks.StartGame = [this](const std::string& path) { gameLaunch.StartGame(path); };
-    handedFile.hooks.BoxIsOpen = [this] { return dialogs.IsOpen(); };
+    handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
 
     emulatorSetup.hooks.SetCurrentRunninApplication = [this](const std::string& name) {
         gameLaunch.SetCurrentRunninApplication(name);

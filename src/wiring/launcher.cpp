@@ -14,8 +14,9 @@ std::uint64_t TextOrder::Rank(std::string_view text) const {
 }
 
 Launcher::Launcher(platform::Host host, const forms::TextMeasure* measure,
-                   std::function<void()> endProgram)
-    : routines(std::make_unique<Routines>(std::move(host), measure, std::move(endProgram))) {
+                   std::function<void()> endProgram, forms::WindowHost* windows)
+    : routines(
+          std::make_unique<Routines>(std::move(host), measure, std::move(endProgram), windows)) {
     routines->JoinHooks();
     routines->JoinControls();
 }
@@ -38,13 +39,14 @@ void Launcher::StartHandedFile(const std::string& path) {
 }
 
 Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
-                             std::function<void()> end)
+                             std::function<void()> end, forms::WindowHost* windowHost)
     : logged(std::move(hostServices)),
       host(logged.Services()),
       endProgram(std::move(end)),
-      dialogs(host.dialogs),
+      windows(windowHost ? *windowHost : noWindows),
+      dialogs(host.dialogs, windows),
       scanSource(host.files),
-      form(forms::Toolkit{measure, &order, &scanSource}),
+      form(forms::Toolkit{measure, &order, &scanSource, &windows}),
       ini(host.files),
       pacer(host.events, host.clock),
       busy(form, host.events),

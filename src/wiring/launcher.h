@@ -15,9 +15,9 @@ namespace kivu::wiring {
 class Launcher {
  public:
     // `measure` may be null; `endProgram` is asked to end the process at once, and may return where
-    // a test plays the host.
+    // a test plays the host. Without `windows` a modal window is gone at once.
     Launcher(platform::Host host, const forms::TextMeasure* measure,
-             std::function<void()> endProgram);
+             std::function<void()> endProgram, forms::WindowHost* windows = nullptr);
     ~Launcher();
     Launcher(const Launcher&) = delete;
     Launcher& operator=(const Launcher&) = delete;

@@ -14,6 +14,7 @@
 #include "favourites/global_events.h"
 #include "favourites/global_favoriten.h"
 #include "favourites/repair_favoriten.h"
+#include "forms/window_host.h"
 #include "joystick/list_navigation.h"
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
@@ -51,14 +52,25 @@ class TextOrder : public forms::Collation {
     std::uint64_t Rank(std::string_view text) const override;
 };
 
+// No screen and nobody to serve a window: a modal one is gone at once.
+class NoWindows : public forms::WindowHost {
+ public:
+    forms::Size Room(const forms::Form*) const override { return {}; }
+
+ protected:
+    void Serve(forms::Form&, const std::function<bool()>&) override {}
+};
+
 // Every routine of the launcher, in the order in which they need one another.
 struct Launcher::Routines {
     Routines(platform::Host hostServices, const forms::TextMeasure* measure,
-             std::function<void()> end);
+             std::function<void()> end, forms::WindowHost* windowHost);
 
     LoggedHost logged;
     platform::Host host;  // its failures stand in the log
     std::function<void()> endProgram;
+    NoWindows noWindows;
+    forms::WindowHost& windows;
     CountedDialogs dialogs;
     TextOrder order;
     library::ScanSource scanSource;

@@ -2,6 +2,29 @@
 
 namespace kivu::driver {
 
+namespace {
+
+// What came of a command that a window held up, told by the answer to the one that closed it.
+void AddResult(Json& closing, const Json& heldUp) {
+    if (heldUp.contains("value")) closing["result"] = heldUp["value"];
+    if (heldUp.contains("changed")) closing["resultChanged"] = heldUp["changed"];
+    if (heldUp.contains("error")) closing["resultError"] = heldUp["error"];
+}
+
+}  // namespace
+
+Conversation::Conversation(Interpreter& interpreter, NextLine next, GiveAnswer give)
+    : interpreter(interpreter), next(std::move(next)), give(std::move(give)) {
+    interpreter.GetSession().Screen().onModal = [this](forms::Form& form,
+                                                       const std::function<bool()>& isOpen) {
+        ServeModal(form.Name(), isOpen);
+    };
+}
+
+Conversation::~Conversation() {
+    interpreter.GetSession().Screen().onModal = nullptr;
+}
+
 void Conversation::Run() {
     while (!interpreter.Quit()) {
         const auto line = next();
@@ -15,8 +38,12 @@ std::optional<Json> Conversation::Serve(const std::string& line) {
     Json own = interpreter.ExecuteLine(line);
     if (!owed) return {};
     owed = false;
-    Json answer = closing ? std::move(*closing) : std::move(own);
-    closing.reset();
+    Json answer = own;
+    if (closing) {
+        answer = std::move(*closing);
+        AddResult(answer, own);
+        closing.reset();
+    }
     if (interpreter.ProgramHasEnded()) answer["ended"] = true;
     return answer;
 }

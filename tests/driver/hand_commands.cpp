@@ -28,7 +28,10 @@ Control& ControlAt(Session& session, const Json& command, std::size_t place) {
 // A control that a hand can reach at the moment.
 Control& Reachable(Session& session, const Json& command, std::size_t place = 1) {
     Control& control = ControlAt(session, command, place);
-    if (!control.IsReachable()) throw CommandError(NameOf(control) + " cannot be reached");
+    const forms::Form& form = FormOf(control);
+    const bool inSight = session.Screen().IsOpen(form) && !session.Screen().IsBlocked(form);
+    if (!inSight || !control.IsReachable())
+        throw CommandError(NameOf(control) + " cannot be reached");
     return control;
 }
 
@@ -145,8 +148,10 @@ Json Type(Session& session, const Json& command) {
 
 Json Key(Session& session, const Json& command) {
     const std::string& name = TextFrom(command[2], "the key");
-    const auto key = forms::KeyByName(name);
+    auto key = forms::KeyByName(name);
     if (!key) throw CommandError("no key " + name);
+    key->repeat = command.size() > 3 && TextFrom(command[3], "the way") == "repeat";
+    if (command.size() > 3 && !key->repeat) throw CommandError("a key takes \"repeat\" at most");
     Control& control = Reachable(session, command);
     GiveFocus(control);
     UserInput(FormOf(control)).Stroke(*key);
@@ -183,9 +188,13 @@ Json State(Session& session, const Json& command) {
     return Json::object();
 }
 
-// The value says whether the window agrees to be closed.
+// The value says whether the window agrees to be closed. With the main one the program would end.
 Json Close(Session& session, const Json& command) {
-    return Value(session.OpenWindows().Window(TextFrom(command[1], "the window")).RequestClose());
+    forms::Form& form = session.OpenWindows().Window(TextFrom(command[1], "the window"));
+    if (session.Screen().IsBlocked(form) || !session.Screen().IsOpen(form))
+        throw CommandError(form.Name() + " cannot be reached");
+    const bool isMain = &form == static_cast<forms::Form*>(&session.MainWindow());
+    return Value(isMain ? form.RequestClose() : form.Close());
 }
 
 }  // namespace
@@ -203,7 +212,7 @@ const std::vector<Command>& HandCommands() {
         {"drag", 6, 6, true, Drag},
         {"focus", 1, 1, true, Focus},
         {"type", 2, 2, true, Type},
-        {"key", 2, 2, true, Key},
+        {"key", 2, 3, true, Key},
         {"tick", 1, 2, true, Tick},
         {"resize", 3, 3, true, Resize},
         {"state", 2, 2, true, State},

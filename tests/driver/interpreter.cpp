@@ -75,6 +75,7 @@ Json Interpreter::Serve(const Json& command) {
     } catch (const std::exception& error) {
         answer = Refusal(error.what());
     }
+    session.Screen().FreeUnloaded();
     if (session.ended) answer["ended"] = true;
     return answer;
 }

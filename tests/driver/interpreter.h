@@ -26,6 +26,9 @@ class Interpreter {
     // The conversation is over.
     bool Quit() const { return quit; }
     bool ProgramHasEnded() const { return session.ended; }
+    Session& GetSession() const { return session; }
+    // One more routine for "call".
+    void Add(Routine routine) { routines.push_back(std::move(routine)); }
 
     // Run in front of each command of a "meanwhile".
     std::function<void(const Json& command)> onMeanwhile;

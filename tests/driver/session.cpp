@@ -21,12 +21,15 @@ Session::Session(platform::FileSystem& files, const Options& options)
       files(files),
       disk(files),
       host(MakeHost(disk, options)),
-      launcher(host.Services(options.programDirectory, options.program, options.commandLine),
-               options.measure, [this] {
-                   ended = true;
-                   throw ProgramEnded{};
-               }) {
-    windows.Add(launcher.MainWindow());
+      launcher(
+          host.Services(options.programDirectory, options.program, options.commandLine),
+          options.measure,
+          [this] {
+              ended = true;
+              throw ProgramEnded{};
+          },
+          &screen) {
+    screen.Adopt(launcher.MainWindow());
 }
 
 }  // namespace kivu::driver

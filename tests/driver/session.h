@@ -7,6 +7,7 @@
 #include "driver/windows.h"
 #include "testing/faulty_file_system.h"
 #include "testing/scripted_host.h"
+#include "testing/scripted_windows.h"
 #include "wiring/launcher.h"
 
 namespace kivu::driver {
@@ -30,6 +31,7 @@ class Session {
     Session(platform::FileSystem& files, const Options& options);
 
     testing::ScriptedHost& Host() { return host; }
+    testing::ScriptedWindows& Screen() { return screen; }
     wiring::Launcher& Program() { return launcher; }
     wiring::Launcher::Routines& Routines() { return launcher.All(); }
     core::Form1& MainWindow() { return launcher.MainWindow(); }
@@ -45,8 +47,9 @@ class Session {
 
  private:
     testing::ScriptedHost host;
+    testing::ScriptedWindows screen;
     wiring::Launcher launcher;
-    Windows windows;
+    Windows windows{screen};
 };
 
 }  // namespace kivu::driver

@@ -43,6 +43,20 @@ Json Dump(Session& session, const Json& command) {
     return Value(std::move(controls));
 }
 
+// From the back to the front.
+Json OpenWindows(Session& session, const Json&) {
+    Json windows = Json::array();
+    for (const auto& window : session.Screen().OpenWindows()) {
+        Json shown = Json::object();
+        shown["name"] = window.form->Name();
+        shown["caption"] = window.form->Caption();
+        shown["over"] = window.over ? window.over->Name() : "";
+        shown["modal"] = window.modal;
+        windows.push_back(std::move(shown));
+    }
+    return Value(std::move(windows));
+}
+
 }  // namespace
 
 Json Value(Json value) {
@@ -56,6 +70,7 @@ const std::vector<Command>& StateCommands() {
         {"get", 1, 1, false, Get},
         {"set", 2, 2, true, Set},
         {"dump", 1, 1, false, Dump},
+        {"windows", 0, 0, false, OpenWindows},
     };
     return commands;
 }

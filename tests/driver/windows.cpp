@@ -44,9 +44,7 @@ std::string NameOf(const forms::Control& control) {
 }
 
 forms::Form& Windows::Window(std::string_view name) const {
-    for (forms::Form* form : open) {
-        if (SameName(form->Name(), name)) return *form;
-    }
+    if (forms::Form* form = host.Find(name)) return *form;
     throw CommandError("no window " + std::string(name));
 }
 

@@ -2,17 +2,16 @@
 
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "forms/form.h"
+#include "forms/window_host.h"
 
 namespace kivu::driver {
 
-// The launcher's windows, and their controls by name. Names count without regard to case.
+// The launcher's windows that are loaded, and their controls by name. Names count without regard to
+// case.
 class Windows {
  public:
-    void Add(forms::Form& form) { open.push_back(&form); }
-    void Remove(forms::Form& form) { std::erase(open, &form); }
+    explicit Windows(const forms::WindowHost& host) : host(host) {}
 
     // These throw CommandError when there is nothing of the name.
     forms::Form& Window(std::string_view name) const;
@@ -29,7 +28,7 @@ class Windows {
     Member FindMember(std::string_view name) const;
 
  private:
-    std::vector<forms::Form*> open;
+    const forms::WindowHost& host;
 };
 
 // "Form1.Check_Dfx(0)"; the window's own name for a window.

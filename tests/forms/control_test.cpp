@@ -109,5 +109,20 @@ TEST_F(ControlTest, HandlerThatRemovesItselfRunsToItsEnd) {
     EXPECT_THAT(log, ElementsAre("x"));
 }
 
+TEST(ControlOrder, SendToBackPutsItBehindItsSiblings) {
+    Log log;
+    LoggingObserver observer(log);
+    Form form{"Form1"};
+    Label a{&form, "A"}, b{&form, "B"}, c{&form, "C"};
+    form.SetObserver(&observer);
+    c.SendToBack();
+    EXPECT_THAT(form.Children(), ElementsAre(&c, &a, &b));
+    c.SendToBack();
+    EXPECT_THAT(log, ElementsAre("C zOrder"));
+    c.BringToFront();
+    EXPECT_THAT(form.Children(), ElementsAre(&a, &b, &c));
+    form.SetObserver(nullptr);
+}
+
 }  // namespace
 }  // namespace kivu::forms

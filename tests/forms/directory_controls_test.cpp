@@ -23,6 +23,8 @@ class FakeDirectories : public DirectorySource {
     bool Matches(const std::string& pattern, std::string_view name) override {
         return pattern == "*.*" || name.ends_with(pattern.substr(1));
     }
+    std::vector<std::string> Drives() override { return drives; }
+    std::vector<std::string> drives;
     std::map<std::string, Content> contents;
 };
 
@@ -167,6 +169,38 @@ TEST_F(DirectoryTest, SelectionFollowsTheRulesOfLists) {
     drives.SetDrives({"E:"});
     EXPECT_EQ(drives.ListIndex(), -1);
     EXPECT_EQ(drives.Drive(), "");
+}
+
+TEST_F(DirectoryTest, DrivesComeFromTheSourceAndTheChosenOneStays) {
+    source.drives = {"/", "/home/ann", "/media/ann/stick"};
+    drives.onClick = Writes(log, "click");
+    drives.Refresh();
+    EXPECT_THAT(Shown(drives), ElementsAre("/", "/home/ann", "/media/ann/stick"));
+    drives.SetListIndex(2);
+    source.drives = {"/", "/media/ann/stick"};
+    drives.Refresh();
+    EXPECT_EQ(drives.Drive(), "/media/ann/stick");
+    source.drives = {"/"};
+    drives.Refresh();
+    EXPECT_EQ(drives.ListIndex(), -1);
+    EXPECT_THAT(log, ElementsAre("click"));
+}
+
+TEST_F(DirectoryTest, LongestDriveThatBeginsAPathIsChosen) {
+    drives.SetDrives({"/", "/home/ann", "/home/ann/nas"});
+    const auto chosen = [&](const char* path) {
+        drives.SetDrive(path);
+        return drives.Drive();
+    };
+    EXPECT_EQ(chosen("/home/ann/roms"), "/home/ann");
+    EXPECT_EQ(chosen("/home/anna"), "/");
+    EXPECT_EQ(chosen("/home/ann/nas/"), "/home/ann/nas");
+    EXPECT_EQ(chosen("/home/ann"), "/home/ann");
+    EXPECT_EQ(chosen("relative"), "/home/ann");
+    drives.SetDrives({"C:\\", "D:\\"});
+    EXPECT_EQ(chosen("d:\\Roms"), "D:\\");
+    EXPECT_EQ(chosen("C:"), "C:\\");
+    EXPECT_EQ(chosen("\\\\server\\share"), "C:\\");
 }
 
 }  // namespace

@@ -208,5 +208,38 @@ TEST(FormWindow, CloseRequestCanBeRefused) {
     EXPECT_FALSE(form.RequestClose());
 }
 
+TEST(FormFrame, TellsOfEachNewFlagOnce) {
+    Log log;
+    LoggingObserver observer(log);
+    Form form{"Form1"};
+    form.SetObserver(&observer);
+    form.SetActivates(false);
+    form.SetAboveAll(true);
+    form.SetResizable(false);
+    EXPECT_EQ(log.size(), 3U);
+    form.SetActivates(false);
+    form.SetAboveAll(true);
+    form.SetResizable(false);
+    EXPECT_THAT(log, ElementsAre("Form1 windowFrame", "Form1 windowFrame", "Form1 windowFrame"));
+    form.SetObserver(nullptr);
+}
+
+TEST(FormSurface, IsDraggedByAPressThatNobodyListensTo) {
+    Log log;
+    LoggingObserver observer(log);
+    Form form{"Form1"};
+    Label label{&form, "Label1"};
+    form.SetObserver(&observer);
+    UserInput hands(form);
+    hands.MouseDown(form, {buttons::left, 0, 10, 10});
+    EXPECT_THAT(log, ElementsAre("drag"));
+    hands.MouseDown(form, {buttons::right, 0, 10, 10});
+    hands.MouseDown(label, {buttons::left, 0, 10, 10});
+    form.onMouseDown = Writes(log, "down");
+    hands.MouseDown(form, {buttons::left, 0, 10, 10});
+    EXPECT_THAT(log, ElementsAre("drag", "down"));
+    form.SetObserver(nullptr);
+}
+
 }  // namespace
 }  // namespace kivu::forms

@@ -191,5 +191,27 @@ TEST_F(ComboTest, CaretStaysWithinATextThatBecomesShorter) {
     EXPECT_EQ(combo.SelLength(), 0);
 }
 
+TEST(QuietSelection, RunsNoHandlerAndShowsTheRow) {
+    Log log;
+    Form form{"Form1"};
+    ListBox list{&form, "List", ListControl::Order::asAdded};
+    ComboBox combo{&form, "Combo"};
+    list.AddItems({"a", "b"});
+    combo.AddItems({"a", "b"});
+    for (ListControl* rows : {static_cast<ListControl*>(&list), static_cast<ListControl*>(&combo)})
+        rows->onClick = Writes(log, "click");
+    combo.onChange = Writes(log, "change");
+    LoggingObserver observer(log);
+    form.SetObserver(&observer);
+    list.SetListIndexQuietly(1);
+    combo.SetListIndexQuietly(1);
+    EXPECT_EQ(list.ListIndex(), 1);
+    EXPECT_EQ(combo.Text(), "b");
+    list.SetListIndexQuietly(2);
+    list.SetListIndexQuietly(1);
+    EXPECT_THAT(log, ElementsAre("List selection", "Combo text", "Combo selection"));
+    form.SetObserver(nullptr);
+}
+
 }  // namespace
 }  // namespace kivu::forms

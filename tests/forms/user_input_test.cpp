@@ -5,6 +5,7 @@ namespace {
 
 struct Hands : testing::Test {
     Hands() {
+        form.SetTabOrder(TabOrder::asCreated);
         list.AddItems({"a", "b", "c"});
         for (Control* control : form.Controls()) {
             const std::string name = control->Name();
@@ -152,11 +153,11 @@ TEST_F(Hands, ClickOnAnOptionButtonRunsItsHandlerAlsoWhenItIsOnAlready) {
 TEST_F(Hands, TabGoesOverTheReachableControlsInOrderOfCreation) {
     const auto focus = [this] { return form.Focus() ? form.Focus()->Name() : std::string(); };
     Log order;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 6; ++i) {
         user.Stroke({keys::tab, 0});
         order.push_back(focus());
     }
-    EXPECT_THAT(order, ElementsAre("L", "T", "Check", "First", "Second", "Button", "L"));
+    EXPECT_THAT(order, ElementsAre("L", "T", "Check", "First", "Button", "L"));
     text.SetEnabled(false);
     frame.SetVisible(false);
     order.clear();

@@ -88,6 +88,8 @@ class FaultyFileSystem : public platform::FileSystem {
     }
 
     std::string CurrentDirectory() const override { return inner.CurrentDirectory(); }
+    std::vector<std::string> Drives() const override { return inner.Drives(); }
+    std::string HomeDirectory() const override { return inner.HomeDirectory(); }
     std::error_code ChangeDirectory(const std::string& path) override {
         return inner.ChangeDirectory(path);
     }

@@ -26,6 +26,7 @@ class MemoryFileSystem : public platform::FileSystem, private MemoryTree {
         MakeNode({}).kind = Kind::Directory;
         current = separator == '/' ? "/" : "C:\\";
         AddDirectory(current);
+        drives = {current};
     }
 
     // ---- what a test puts there and looks up; none of it counts as the program's own access ----
@@ -54,6 +55,10 @@ class MemoryFileSystem : public platform::FileSystem, private MemoryTree {
         const Node* node = Find(path);
         return node != nullptr && node->kind == Kind::File ? node->bytes : "(no file)";
     }
+
+    // What Drives and HomeDirectory give.
+    std::vector<std::string> drives;
+    std::string home;
 
     // ---- faults ----
 
@@ -199,6 +204,8 @@ class MemoryFileSystem : public platform::FileSystem, private MemoryTree {
     }
 
     std::string CurrentDirectory() const override { return current; }
+    std::vector<std::string> Drives() const override { return drives; }
+    std::string HomeDirectory() const override { return home; }
 
     std::error_code ChangeDirectory(const std::string& path) override {
         const auto resolved = Resolve(path);

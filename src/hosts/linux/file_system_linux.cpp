@@ -9,6 +9,8 @@
 
 #include "hosts/linux/file_descriptor.h"
 #include "hosts/linux/file_writer.h"
+#include "hosts/linux/mounted_drives.h"
+#include "hosts/linux/user_directories.h"
 #include "text/text.h"
 
 namespace kivu::hosts {
@@ -164,6 +166,15 @@ std::string LinuxFileSystem::CurrentDirectory() const {
     std::free(found);
     // The kernel writes "(unreachable)" in front of a directory outside the process's root.
     return path.starts_with('/') ? path : std::string();
+}
+
+std::vector<std::string> LinuxFileSystem::Drives() const {
+    const auto table = ReadFile("/proc/self/mounts");
+    return DrivesOf(HomeDirectory(), table.value_or(""));
+}
+
+std::string LinuxFileSystem::HomeDirectory() const {
+    return UserHomeDirectory();
 }
 
 std::error_code LinuxFileSystem::ChangeDirectory(const std::string& path) {

@@ -48,6 +48,8 @@ class LinuxFileSystem : public platform::FileSystem {
     std::error_code MakeDirectory(const std::string& path) override;
 
     std::string CurrentDirectory() const override;
+    std::vector<std::string> Drives() const override;
+    std::string HomeDirectory() const override;
     std::error_code ChangeDirectory(const std::string& path) override;
 
     std::string ShortPathName(const std::string& path) const override;

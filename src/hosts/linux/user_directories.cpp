@@ -20,18 +20,9 @@ std::string AbsoluteVariable(const char* name) {
     return path;
 }
 
-std::string HomeDirectory() {
-    if (auto home = AbsoluteVariable("HOME"); !home.empty()) return home;
-    std::array<char, 16 * 1024> buffer{};
-    struct passwd entry {};
-    struct passwd* found = nullptr;
-    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0) return {};
-    return found != nullptr && found->pw_dir != nullptr ? found->pw_dir : std::string();
-}
-
 std::string Directory(const char* variable, const char* belowHome) {
     if (auto path = AbsoluteVariable(variable); !path.empty()) return path;
-    const std::string home = HomeDirectory();
+    const std::string home = UserHomeDirectory();
     return home.empty() ? home : home + belowHome;
 }
 
@@ -41,6 +32,15 @@ bool IsDirectory(const std::string& path) {
 }
 
 }  // namespace
+
+std::string UserHomeDirectory() {
+    if (auto home = AbsoluteVariable("HOME"); !home.empty()) return home;
+    std::array<char, 16 * 1024> buffer{};
+    struct passwd entry {};
+    struct passwd* found = nullptr;
+    if (::getpwuid_r(::getuid(), &entry, buffer.data(), buffer.size(), &found) != 0) return {};
+    return found != nullptr && found->pw_dir != nullptr ? found->pw_dir : std::string();
+}
 
 std::string UserConfigDirectory() {
     return Directory("XDG_CONFIG_HOME", "/.config");

@@ -7,6 +7,7 @@ namespace kivu::hosts {
 
 // The user's directories as freedesktop.org lays them out (XDG), without a closing "/". An unset or
 // relative variable means its default below the home directory. Empty: the user has no home.
+std::string UserHomeDirectory();    // $HOME, else as the system knows the user
 std::string UserConfigDirectory();  // $XDG_CONFIG_HOME
 std::string UserDataDirectory();    // $XDG_DATA_HOME
 std::string UserStateDirectory();   // $XDG_STATE_HOME

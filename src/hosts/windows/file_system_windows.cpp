@@ -153,6 +153,22 @@ std::string WindowsFileSystem::CurrentDirectory() const {
         [](wchar_t* buffer, DWORD size) { return ::GetCurrentDirectoryW(size, buffer); })));
 }
 
+std::vector<std::string> WindowsFileSystem::Drives() const {
+    std::vector<std::string> drives;
+    const DWORD present = ::GetLogicalDrives();
+    for (int letter = 0; letter < 26; ++letter) {
+        if ((present >> letter & 1) != 0)
+            drives.push_back({static_cast<char>('A' + letter), ':', '\\'});
+    }
+    return drives;
+}
+
+std::string WindowsFileSystem::HomeDirectory() const {
+    return Narrow(SystemText([](wchar_t* buffer, DWORD size) {
+        return ::GetEnvironmentVariableW(L"USERPROFILE", buffer, size);
+    }));
+}
+
 std::error_code WindowsFileSystem::ChangeDirectory(const std::string& path) {
     const auto system = SystemPath(path);
     if (!system) return Unusable();

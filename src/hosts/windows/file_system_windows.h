@@ -58,6 +58,8 @@ class WindowsFileSystem : public platform::FileSystem {
     std::error_code MakeDirectory(const std::string& path) override;
 
     std::string CurrentDirectory() const override;
+    std::vector<std::string> Drives() const override;
+    std::string HomeDirectory() const override;
     // Changes the drive as well. A path of more than 258 characters is an error where the system
     // knows no longer ones.
     std::error_code ChangeDirectory(const std::string& path) override;

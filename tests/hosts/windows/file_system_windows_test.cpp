@@ -304,5 +304,12 @@ TEST_F(FileSystemWindows, PathsMayBeLongerThan260Characters) {
     EXPECT_THAT(Names(directory.Path(deep)), IsEmpty());
 }
 
+TEST(FileSystemWindows, KnowsTheDrivesAndTheHomeDirectory) {
+    const WindowsFileSystem files;
+    const auto drives = files.Drives();
+    EXPECT_NE(std::find(drives.begin(), drives.end(), "C:\\"), drives.end());
+    EXPECT_TRUE(files.IsDirectory(files.HomeDirectory())) << files.HomeDirectory();
+}
+
 }  // namespace
 }  // namespace kivu::hosts
