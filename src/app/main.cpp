@@ -13,6 +13,7 @@
 #include "view/fit_into.h"
 #include "view/form_view.h"
 #include "view/pictures.h"
+#include "view/screen_windows.h"
 #include "view/style.h"
 #include "view/text_measure.h"
 #include "wiring/launcher.h"
@@ -53,7 +54,9 @@ int main(int argc, char** argv) {
 
     kivu::app::DesktopHost host(argc, argv);
     const kivu::view::TextMeasure measure;
-    kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce);
+    kivu::view::ScreenWindows windows;
+    windows.SetCompositing(kivu::hosts::IsComposited);
+    kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce, &windows);
     // A size that the user has left it in comes after this, whatever it is.
     if (const QScreen* screen = QApplication::primaryScreen())
         kivu::view::FitInto(launcher.MainWindow(), screen->availableGeometry());
@@ -63,11 +66,12 @@ int main(int argc, char** argv) {
     kivu::view::FormView view(launcher.MainWindow());
     view.SetCompositing(kivu::hosts::IsComposited);
     view.onClosed = EndAtOnce;
+    windows.AdoptView(launcher.MainWindow(), view);
     Reached("view");
     view.Show();
     Reached("shown");
     host.ListenForInstances([&](const std::string& file) {
-        view.Summon();
+        windows.Raise(launcher.MainWindow());
         if (!file.empty()) launcher.StartHandedFile(file);
     });
     // Behind the first frame.

@@ -6,6 +6,7 @@
 #include <QRadioButton>
 #include <QStyleOption>
 
+#include "forms/access_keys.h"
 #include "forms/form.h"
 #include "view/colors.h"
 #include "view/text.h"
@@ -37,25 +38,6 @@ QAbstractButton* MakeValueButton(const forms::ValueButton& control, QWidget* par
 
 }  // namespace
 
-QChar AccessKeyOf(const QString& caption) {
-    for (qsizetype i = 0; i + 1 < caption.size(); ++i) {
-        if (caption[i] != u'&') continue;
-        if (caption[i + 1] != u'&') return caption[i + 1].toLower();
-        ++i;
-    }
-    return {};
-}
-
-const std::string* CaptionWithAccessKey(const forms::Control& control) {
-    if (const auto* button = dynamic_cast<const forms::CommandButton*>(&control)) {
-        return &button->Caption();
-    }
-    if (const auto* button = dynamic_cast<const forms::ValueButton*>(&control)) {
-        return &button->Caption();
-    }
-    return nullptr;
-}
-
 ButtonMirror::ButtonMirror(forms::CommandButton& control, QWidget* parent, MirrorHost& host)
     : Mirror(control, host) {
     auto* push = new PushButton(parent);
@@ -83,7 +65,7 @@ void ButtonMirror::Take(QAbstractButton* newButton) {
 }
 
 const std::string& ButtonMirror::Caption() const {
-    return *CaptionWithAccessKey(control);
+    return *forms::CaptionWithAccessKey(control);
 }
 
 void ButtonMirror::Apply(forms::Aspect aspect) {

@@ -27,10 +27,4 @@ class ButtonMirror : public Mirror {
     QPointer<QAbstractButton> button;
 };
 
-// The letter behind "&" in a caption, in lower case; null for none. "&&" is the sign itself.
-QChar AccessKeyOf(const QString& caption);
-
-// The caption of a control that has an access key.
-const std::string* CaptionWithAccessKey(const forms::Control& control);
-
 }  // namespace kivu::view

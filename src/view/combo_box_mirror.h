@@ -18,7 +18,7 @@ class ComboBoxMirror : public Mirror {
 
     void Apply(forms::Aspect aspect) override;
     void Flush() override;
-    QLineEdit* Editor() const override { return combo ? combo->lineEdit() : nullptr; }
+    QWidget* Editor() const override { return combo ? combo->lineEdit() : nullptr; }
     bool HasRows() const override { return true; }
     bool UsesMouse() const override { return true; }
     // Shown narrower than it is, it reaches less far.

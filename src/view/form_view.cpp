@@ -1,7 +1,6 @@
 #include "view/form_view.h"
 
 #include <QCoreApplication>
-#include <QEventLoop>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
@@ -154,7 +153,7 @@ void FormView::Changed(forms::Control& control, forms::Aspect aspect) {
     Mirror* mirror = Find(control);
     if (!mirror) return;
     mirror->Apply(aspect);
-    if (aspect == forms::Aspect::zOrder) drag.ArrangeEdges();
+    if (aspect == forms::Aspect::zOrder) StackAmongOthers(control);
 }
 
 void FormView::FormChanged(forms::Aspect aspect) {
@@ -165,7 +164,7 @@ void FormView::FormChanged(forms::Aspect aspect) {
                 mirror->FocusMoved();
             break;
         case forms::Aspect::visible:
-            form.Visible() ? Show() : surface->hide();
+            if (!hosted) form.Visible() ? Show() : surface->hide();
             break;
         case forms::Aspect::enabled:
             surface->setEnabled(form.Enabled());
@@ -182,6 +181,7 @@ void FormView::FormChanged(forms::Aspect aspect) {
         default:
             sync.Apply(aspect);
             drag.ArrangeEdges();
+            if (aspect == forms::Aspect::windowFrame && onFrameChanged) onFrameChanged();
     }
 }
 
@@ -196,20 +196,24 @@ void FormView::Show() {
     drag.ArrangeEdges();
 }
 
-void FormView::ShowModal(QWidget* parent) {
-    QEventLoop loop;
-    surface->setWindowModality(Qt::ApplicationModal);
+void FormView::Hide() {
+    const bool active = surface->isActiveWindow();
+    surface->hide();
+    // The window manager might give the keyboard to another program.
+    if (active && owner && owner->surface->isVisible()) owner->surface->activateWindow();
+}
+
+void FormView::StandOver(FormView* newOwner, bool modal) {
+    owner = newOwner;
+    surface->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     surface->winId();
-    if (parent && parent->windowHandle()) {
-        surface->windowHandle()->setTransientParent(parent->windowHandle());
-    }
-    const QMetaObject::Connection hidden =
-        connect(surface->windowHandle(), &QWindow::visibleChanged, &loop,
-                [&loop](bool visible) { visible ? void() : loop.quit(); });
-    Show();
-    surface->activateWindow();
-    loop.exec(QEventLoop::DialogExec);
-    disconnect(hidden);
+    QWindow* below = owner ? owner->surface->windowHandle() : nullptr;
+    surface->windowHandle()->setTransientParent(below);
+    FollowOwner();
+}
+
+void FormView::FollowOwner() {
+    sync.SetAboveTopmost(owner && owner->sync.IsOnTop());
 }
 
 void FormView::SetCompositing(std::function<bool()> ask) {
@@ -276,6 +280,7 @@ bool FormView::eventFilter(QObject* object, QEvent* event) {
     Mirror& mirror = *found->second;
     if (object == surface.get() && event->type() == QEvent::UpdateRequest) return rest.Holds();
     const RepaintRest::Handler running(rest);
+    const forms::HeldForm held(form);
     if (object == surface.get() && WindowEvent(*event)) return true;
     return HandEvent(*object, mirror, *event);
 }
@@ -348,6 +353,10 @@ void FormView::Close(QEvent& request) {
         return;
     }
     request.accept();
+    if (hosted) {
+        form.Unload();
+        return;
+    }
     surface->hide();
     if (onClosed) onClosed();
 }

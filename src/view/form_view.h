@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QPointer>
 #include <functional>
 #include <memory>
 #include <unordered_map>
@@ -31,8 +32,15 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     // Shows the window in the form's state. The form's focus becomes the keyboard's without any
     // handler being run.
     void Show();
-    // Shows the window over `parent` and returns once it has been closed or hidden.
-    void ShowModal(QWidget* parent);
+    // For one of several windows: somebody else shows and hides it as the form's own flag says, and
+    // the form is unloaded where it is closed.
+    void SetHosted() { hosted = true; }
+    void Hide();
+    // It stands over another window: above one that stays on top of all, on its screen, and that is
+    // out of reach while this one is modal. Null: over none. To be settled while it is hidden.
+    void StandOver(FormView* owner, bool modal);
+    // Follows its owner's own flags.
+    void FollowOwner();
     // Asked now and whenever the window comes to the front: whether the screen can blend the window
     // into what lies behind it. Without this it is taken to.
     void SetCompositing(std::function<bool()> ask);
@@ -42,6 +50,8 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
 
     // A close request that nobody objected to; the window is hidden by then.
     std::function<void()> onClosed;
+    // The form has another frame, or no longer stays on top.
+    std::function<void()> onFrameChanged;
 
     bool eventFilter(QObject* object, QEvent* event) override;
     bool event(QEvent* event) override;
@@ -85,6 +95,8 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     bool flushPosted = false;
     bool movingFocus = false;
     bool sessionEnding = false;
+    bool hosted = false;
+    QPointer<FormView> owner;
 };
 
 }  // namespace kivu::view

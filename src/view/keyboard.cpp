@@ -1,10 +1,9 @@
 #include "view/keyboard.h"
 
-#include <QLineEdit>
 #include <QPointer>
 #include <utility>
 
-#include "view/button_mirror.h"
+#include "forms/controls.h"
 #include "view/keys.h"
 #include "view/text.h"
 
@@ -53,25 +52,11 @@ void Keyboard::Press(QWidget& widget, QKeyEvent& event) {
         return;
     }
     if (input.DefaultKey(left)) return;
-    if (UseAccessKey(left)) return;
     if (left.code == keys::f4 && left.shift == shifts::alt) {
         if (onCloseKey) onCloseKey();
         return;
     }
     if (receiver) Edit(*receiver, event, left, typed, characters);
-}
-
-bool Keyboard::UseAccessKey(forms::Key key) {
-    if (key.shift != shifts::alt) return false;
-    const QChar letter = QChar(static_cast<char16_t>(key.code)).toLower();
-    const std::vector<forms::Control*> controls = form.Controls();
-    for (forms::Control* control : controls) {
-        const std::string* caption = CaptionWithAccessKey(*control);
-        if (!caption || !control->IsReachable() || AccessKeyOf(ToQt(*caption)) != letter) continue;
-        input.Click(*control);
-        return true;
-    }
-    return false;
 }
 
 void Keyboard::Edit(QWidget& receiver, QKeyEvent& event, forms::Key key,
@@ -81,7 +66,8 @@ void Keyboard::Edit(QWidget& receiver, QKeyEvent& event, forms::Key key,
     Mirror* mirror = focus ? mirrorOf(*focus) : nullptr;
     if (!mirror || !mirror->Editor()) return;
     // Enter means nothing in one line of text, and the toolkit's combo box would choose a row.
-    if (key.code == keys::enter) return;
+    const auto* box = dynamic_cast<const forms::TextBox*>(focus);
+    if (key.code == keys::enter && !(box && box->IsMultiLine())) return;
     const bool own = mirror->Widget() == &receiver || mirror->Editor() == &receiver;
     if (own && typed == left && key == KeyOf(event)) {
         // Not through the toolkit's own ways, which would offer the key to the windows behind.

@@ -24,7 +24,6 @@ class Keyboard {
  private:
     // The characters that the handlers let through; false: they swallowed one.
     bool PressCharacters(std::vector<forms::Character>& characters);
-    bool UseAccessKey(forms::Key key);
     bool OpensPopup(forms::Key key) const;
     void Edit(QWidget& receiver, QKeyEvent& event, forms::Key key,
               const std::vector<forms::Character>& typed,

@@ -99,7 +99,7 @@ int ButtonBit(Qt::MouseButton button) {
 }
 
 forms::Key KeyOf(const QKeyEvent& event) {
-    return {CodeOf(event), ShiftState(event.modifiers())};
+    return {CodeOf(event), ShiftState(event.modifiers()), event.isAutoRepeat()};
 }
 
 std::vector<forms::Character> CharactersOf(const QKeyEvent& event, forms::Key key) {

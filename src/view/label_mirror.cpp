@@ -3,6 +3,7 @@
 #include <QEvent>
 #include <QPainter>
 
+#include "forms/access_keys.h"
 #include "forms/form.h"
 #include "view/colors.h"
 #include "view/fonts.h"
@@ -39,7 +40,7 @@ class LabelWidget : public QWidget {
         QPainter painter(this);
         const QColor back = ToQt(label.BackColor());
         const QColor window = ToQt(label.ParentForm()->BackColor());
-        const bool tab = bool(label.onClick);
+        const bool tab = label.onClick && !label.IsLink();
         const bool marked = tab && (label.IsOpaque() || back != window);
         QColor text = ToQt(label.ForeColor());
         if (marked) {
@@ -59,6 +60,7 @@ class LabelWidget : public QWidget {
             const QColor ground = label.IsOpaque() || marked ? back : window;
             text = MixFor(3.5, ground, Readable(text, ground, 3.5), 0.5);
         }
+        if (label.IsLink()) MarkLink(painter);
         painter.setPen(text);
         DrawLines(painter);
     }
@@ -67,6 +69,27 @@ class LabelWidget : public QWidget {
     void resizeEvent(QResizeEvent*) override { Forget(); }
 
  private:
+    // A link is underlined, and in a frame while it has the focus.
+    void MarkLink(QPainter& painter) {
+        QFont underlined = font();
+        underlined.setUnderline(true);
+        painter.setFont(underlined);
+        if (underMouse() && isEnabled()) {
+            FillRounded(painter, rect(), cornerRadius, QColor(255, 255, 255, 34));
+        }
+        if (hasFocus()) FillRounded(painter, rect(), cornerRadius, Qt::transparent, accent);
+    }
+
+    // The text as it is read, and with the letter that Alt wants underlined.
+    QString ReadText() const {
+        const std::string& shown = TextOf(label);
+        return ToQt(label.MarksLetter() ? forms::PlainCaption(shown) : shown);
+    }
+    bool UnderlinesLetter() const {
+        return label.MarksLetter() && lines.size() == 1 && lines.front() == ReadText() &&
+               forms::AccessKeyOf(TextOf(label)) != '\0';
+    }
+
     void DrawLines(QPainter& painter) {
         const std::string& shown = TextOf(label);
         // Blanks that do not fit leave nothing to tell of.
@@ -74,18 +97,20 @@ class LabelWidget : public QWidget {
         const QRect place = rect().marginsRemoved(mirror.Overhang()).adjusted(1, 0, -1, 0);
         if (brokenFor != place.size()) {
             brokenFor = place.size();
-            lines = BreakText(ToQt(shown), font(), place.width(), place.height());
+            lines = BreakText(ReadText(), font(), place.width(), place.height());
         }
         static constexpr Qt::Alignment sides[] = {Qt::AlignLeft, Qt::AlignHCenter, Qt::AlignRight};
         const Qt::Alignment side = sides[static_cast<int>(label.GetAlignment())];
         const double step = QFontMetricsF(font()).height();
         QRectF line(place.left(), place.top(), place.width(), step);
+        const bool letter = UnderlinesLetter();
+        const int flags = letter ? Qt::TextShowMnemonic : 0;
         for (const QString& text : lines) {
             // Nothing is cut that was measured to fit.
             painter.drawText(line,
                              int(side | Qt::AlignVCenter) | Qt::TextSingleLine | Qt::TextDontClip |
-                                 Qt::TextIncludeTrailingSpaces,
-                             text);
+                                 Qt::TextIncludeTrailingSpaces | flags,
+                             letter ? ToQt(shown) : text);
             line.translate(0, step);
         }
         DrawHint(painter, line.top());
@@ -120,14 +145,15 @@ LabelMirror::LabelMirror(forms::Label& control, QWidget* parent, MirrorHost& hos
 }
 
 QMargins LabelMirror::Overhang() const {
-    return label.onClick ? tabAir : QMargins();
+    return label.onClick && !label.IsLink() ? tabAir : QMargins();
 }
 
 void LabelMirror::Apply(forms::Aspect aspect) {
     Mirror::Apply(aspect);
     if (!widget) return;
     if (aspect == forms::Aspect::geometry) {
-        widget->setCursor(label.onClick ? Qt::PointingHandCursor : Qt::ArrowCursor);
+        widget->setCursor(label.onClick || label.IsLink() ? Qt::PointingHandCursor
+                                                          : Qt::ArrowCursor);
     }
     if (aspect == forms::Aspect::font) widget->setFont(ToQt(label.ShownFont()));
     if (aspect == forms::Aspect::text || aspect == forms::Aspect::font) {

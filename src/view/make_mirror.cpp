@@ -8,6 +8,7 @@
 #include "view/panel_mirror.h"
 #include "view/slider_mirror.h"
 #include "view/text_box_mirror.h"
+#include "view/text_lines_mirror.h"
 #include "view/timer_mirror.h"
 
 namespace kivu::view {
@@ -28,9 +29,11 @@ std::unique_ptr<Mirror> MakeMirror(forms::Control& control, QWidget* parent, Mir
         case forms::Kind::comboBox:
             return std::make_unique<ComboBoxMirror>(static_cast<forms::ComboBox&>(control), parent,
                                                     host);
-        case forms::Kind::textBox:
-            return std::make_unique<TextBoxMirror>(static_cast<forms::TextBox&>(control), parent,
-                                                   host);
+        case forms::Kind::textBox: {
+            auto& box = static_cast<forms::TextBox&>(control);
+            if (box.IsMultiLine()) return std::make_unique<TextLinesMirror>(box, parent, host);
+            return std::make_unique<TextBoxMirror>(box, parent, host);
+        }
         case forms::Kind::label:
             return std::make_unique<LabelMirror>(static_cast<forms::Label&>(control), parent, host);
         case forms::Kind::commandButton:

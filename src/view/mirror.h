@@ -8,8 +8,6 @@
 #include "forms/user_input.h"
 #include "view/repaint_rest.h"
 
-class QLineEdit;
-
 namespace kivu::view {
 
 class Mirror;
@@ -41,7 +39,7 @@ class Mirror {
     // Null for a control that is not to be seen, such as a timer.
     QWidget* Widget() const { return widget; }
     // Where the focus goes and text is edited.
-    virtual QLineEdit* Editor() const { return nullptr; }
+    virtual QWidget* Editor() const { return nullptr; }
 
     virtual void Apply(forms::Aspect aspect);
     // Puts off changes that come in great numbers.

@@ -40,15 +40,26 @@ class PanelWidget : public QWidget {
         if (const auto* frame = dynamic_cast<const forms::Frame*>(&control)) {
             if (!frame->Caption().empty()) DrawCaption(painter, ToQt(frame->Caption()));
         }
-        const auto fit = PictureCache::Fit::stretch;
-        const QPixmap& pixels = picture.Scaled(size() * devicePixelRatioF(), fit);
-        if (!pixels.isNull()) {
-            if (!isEnabled()) painter.setOpacity(0.5);
-            painter.drawPixmap(QRectF(rect()), pixels, QRectF(pixels.rect()));
-        }
+        DrawPicture(painter);
     }
 
  private:
+    void DrawPicture(QPainter& painter) {
+        const auto* image = dynamic_cast<const forms::Image*>(&control);
+        const bool kept = image && image->KeepsProportions();
+        const auto fit = kept ? PictureCache::Fit::contain : PictureCache::Fit::stretch;
+        const double ratio = devicePixelRatioF();
+        const QPixmap& pixels = picture.Scaled(size() * ratio, fit);
+        if (pixels.isNull()) return;
+        if (!isEnabled()) painter.setOpacity(0.5);
+        QRectF place(rect());
+        if (kept) {
+            place.setSize(QSizeF(pixels.size()) / ratio);
+            place.moveCenter(QRectF(rect()).center());
+        }
+        painter.drawPixmap(place, pixels, QRectF(pixels.rect()));
+    }
+
     // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose
     // rows must not show through.
     void DrawPlate(QPainter& painter) {

@@ -121,6 +121,9 @@ const QPixmap& PictureCache::Scaled(QSize size, Fit fit) {
         Load();
         if (!original.isNull()) TakeDense(size);
     }
+    if (fit == Fit::contain && !original.isNull()) {
+        size = original.size().scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    }
     if (original.isNull() || size.isEmpty()) {
         scaled = {};
     } else if (scaled.size() != size) {

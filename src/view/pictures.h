@@ -16,6 +16,7 @@ class PictureCache {
     enum class Fit {
         stretch,  // fills the place
         cover,    // fills the place and keeps its proportions; what sticks out is cut
+        contain,  // as large as fits into the place with its proportions
     };
 
     void Set(const forms::Picture& picture);

@@ -12,7 +12,7 @@ class TextBoxMirror : public Mirror {
     TextBoxMirror(forms::TextBox& box, QWidget* parent, MirrorHost& host);
 
     void Apply(forms::Aspect aspect) override;
-    QLineEdit* Editor() const override { return line; }
+    QWidget* Editor() const override { return line; }
     bool UsesMouse() const override { return true; }
 
  private:

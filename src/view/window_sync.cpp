@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QScreen>
 #include <QWindow>
+#include <utility>
 
 #include "view/geometry.h"
 #include "view/text.h"
@@ -16,6 +17,10 @@ using forms::WindowState;
 
 // Milliseconds in which a window manager answers a request; what it tells before may be older.
 constexpr int patience = 400;
+
+bool IsX11() {
+    return QGuiApplication::platformName() == QLatin1String("xcb");
+}
 
 bool HasPositions() {
     return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
@@ -134,18 +139,26 @@ Qt::WindowFlags WindowSync::Flags() const {
     // A tool window has no place in the task bar.
     Qt::WindowFlags flags = form.IsToolWindow() ? Qt::Tool : Qt::Window;
     if (!form.HasFrame()) flags |= Qt::FramelessWindowHint;
-    if (form.IsTopmost()) flags |= Qt::WindowStaysOnTopHint;
+    if (IsOnTop()) flags |= Qt::WindowStaysOnTopHint;
+    // Where windows are stacked by a manager, a fullscreen one lies above those that stay on top.
+    if (form.IsAboveAll() && IsX11()) flags |= Qt::BypassWindowManagerHint;
     return flags;
 }
 
+void WindowSync::SetAboveTopmost(bool value) {
+    if (std::exchange(aboveTopmost, value) != value) ApplyFrame();
+}
+
 void WindowSync::ApplyFrame() {
+    window.setAttribute(Qt::WA_ShowWithoutActivating, !form.Activates());
     QWindow* native = window.windowHandle();
     if (!native) {
         window.setWindowFlags(Flags());
         return;
     }
     // The widget's own setter would hide the window to change them.
-    for (const Qt::WindowType flag : {Qt::FramelessWindowHint, Qt::WindowStaysOnTopHint}) {
+    for (const Qt::WindowType flag :
+         {Qt::FramelessWindowHint, Qt::WindowStaysOnTopHint, Qt::BypassWindowManagerHint}) {
         const bool on = Flags().testFlag(flag);
         if (native->flags().testFlag(flag) != on) native->setFlag(flag, on);
     }
@@ -196,7 +209,7 @@ void WindowSync::TakeGeometry() {
 }
 
 bool WindowSync::HasEdges() const {
-    return !form.HasFrame() && form.State() == WindowState::normal;
+    return !form.HasFrame() && form.IsResizable() && form.State() == WindowState::normal;
 }
 
 }  // namespace kivu::view

@@ -24,6 +24,9 @@ class WindowSync {
     void TakeGeometry();
     // True: the user may resize it by its edges.
     bool HasEdges() const;
+    // It stands over a window that stays on top of all others, and so must it.
+    void SetAboveTopmost(bool value);
+    bool IsOnTop() const { return form.IsTopmost() || form.IsAboveAll() || aboveTopmost; }
 
  private:
     struct Place {
@@ -45,6 +48,7 @@ class WindowSync {
     QRect normalPixels;
     forms::WindowState last = forms::WindowState::normal;
     bool shown = false;
+    bool aboveTopmost = false;
 };
 
 }  // namespace kivu::view

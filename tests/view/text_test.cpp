@@ -3,7 +3,6 @@
 #include <QFontMetricsF>
 
 #include "forms/controls.h"
-#include "view/button_mirror.h"
 #include "view/colors.h"
 #include "view/fonts.h"
 #include "view/geometry.h"
@@ -85,13 +84,6 @@ TEST(ViewText, ShowsTheFirstLineInAPlaceThatIsTooLow) {
     const QStringList lines = view::BreakText("one\rtwo", ToQt(forms::Font{}), 400, 2);
     EXPECT_EQ(lines.size(), 1);
     EXPECT_TRUE(lines[0].startsWith("one"));
-}
-
-TEST(ViewText, KnowsTheAccessKey) {
-    EXPECT_EQ(view::AccessKeyOf("&Exit"), QChar(u'e'));
-    EXPECT_EQ(view::AccessKeyOf("Save && &Go"), QChar(u'g'));
-    EXPECT_TRUE(view::AccessKeyOf("Rock && Roll").isNull());
-    EXPECT_TRUE(view::AccessKeyOf("End&").isNull());
 }
 
 TEST(ViewText, FindsAColourThatCanBeRead) {

@@ -201,19 +201,5 @@ TEST_F(WindowTest, EndsWithItsFormStillThere) {
     EXPECT_EQ(later.list.ListCount(), 6);
 }
 
-TEST_F(WindowTest, RunsAModalFormUntilItIsHidden) {
-    Show();
-    SampleForm second;
-    view::FormView box(second);
-    bool shown = false;
-    QTimer::singleShot(0, [&] {
-        shown = box.Window().isVisible() && box.Window().isModal();
-        second.SetVisible(false);
-    });
-    box.ShowModal(&view.Window());
-    EXPECT_TRUE(shown);
-    EXPECT_FALSE(box.Window().isVisible());
-}
-
 }  // namespace
 }  // namespace kivu::tests
