@@ -1,10 +1,7 @@
 #include "driver/fields.h"
 
-#include <array>
-#include <functional>
-#include <vector>
-
-#include "driver/properties.h"
+#include "core/form1.h"
+#include "driver/field_table.h"
 #include "driver/windows.h"
 
 namespace kivu::driver {
@@ -13,63 +10,9 @@ namespace {
 
 using core::Form1;
 
-struct Field {
-    const char* name;
-    std::function<Json(const Form1&)> get;
-    std::function<void(Form1&, const Json&)> set;
-};
-
-Json Shown(const std::string& value) {
-    return value;
-}
-Json Shown(int value) {
-    return value;
-}
-Json Shown(bool value) {
-    return value;
-}
-Json Shown(forms::Color value) {
-    return ColorText(value);
-}
-template <typename Value, std::size_t count>
-Json Shown(const std::array<Value, count>& values) {
-    Json shown = Json::array();
-    for (const Value& value : values)
-        shown.push_back(Shown(value));
-    return shown;
-}
-
-void Take(std::string& field, const Json& value, const std::string& name) {
-    field = TextFrom(value, name);
-}
-void Take(int& field, const Json& value, const std::string& name) {
-    field = WholeFrom(value, name);
-}
-void Take(bool& field, const Json& value, const std::string& name) {
-    field = FlagFrom(value, name);
-}
-void Take(forms::Color& field, const Json& value, const std::string& name) {
-    field = ColorFrom(value, name);
-}
-template <typename Value, std::size_t count>
-void Take(std::array<Value, count>& field, const Json& value, const std::string& name) {
-    if (!value.is_array() || value.size() != count)
-        throw CommandError(name + " must be an array of " + std::to_string(count));
-    std::array<Value, count> taken = field;
-    for (std::size_t i = 0; i < count; ++i)
-        Take(taken[i], value[i], name);
-    field = taken;
-}
-
-template <typename Value>
-Field Of(const char* name, Value Form1::*member) {
-    return {name, [member](const Form1& form) { return Shown(form.*member); },
-            [member, name](Form1& form, const Json& value) { Take(form.*member, value, name); }};
-}
-
-const std::vector<Field>& Fields() {
-#define KIVU_FIELD(name) Of(#name, &Form1::name)
-    static const std::vector<Field> fields{
+const FieldTable& MainWindowFields() {
+#define KIVU_FIELD(name) FieldOf(#name, &Form1::name)
+    static const FieldTable fields{
         KIVU_FIELD(AppDir),
         KIVU_FIELD(EXE),
         KIVU_FIELD(ConfigPath),
@@ -131,8 +74,15 @@ const std::vector<Field>& Fields() {
     return fields;
 }
 
-const Field* Find(const std::string& name) {
-    for (const Field& field : Fields()) {
+// One table a window.
+const FieldTable& FieldsOf(const forms::Form& form) {
+    static const FieldTable none;
+    if (dynamic_cast<const Form1*>(&form)) return MainWindowFields();
+    return none;
+}
+
+const Field* Find(const forms::Form& form, const std::string& name) {
+    for (const Field& field : FieldsOf(form)) {
         if (SameName(field.name, name)) return &field;
     }
     return nullptr;
@@ -140,14 +90,14 @@ const Field* Find(const std::string& name) {
 
 }  // namespace
 
-std::optional<Json> GetField(const Form1& form, const std::string& name) {
-    const Field* field = Find(name);
+std::optional<Json> GetField(const forms::Form& form, const std::string& name) {
+    const Field* field = Find(form, name);
     if (!field) return {};
     return field->get(form);
 }
 
-bool SetField(Form1& form, const std::string& name, const Json& value) {
-    const Field* field = Find(name);
+bool SetField(forms::Form& form, const std::string& name, const Json& value) {
+    const Field* field = Find(form, name);
     if (field) field->set(form, value);
     return field != nullptr;
 }

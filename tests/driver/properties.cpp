@@ -151,6 +151,7 @@ std::vector<Property> TextProperties() {
          Writes<ValueButton, Slider>(
              [](auto& c, const Json& v) { c.SetValue(WholeFrom(v, "Value")); })},
         {"ShownWidth", Reads<ComboBox>([](auto& c) { return c.ShownWidth(); })},
+        {"MultiLine", Reads<TextBox>([](auto& c) { return c.IsMultiLine(); })},
         {"ShownText", Reads<Label>([](auto& c) { return c.ShownText(); })},
         {"Hint", Reads<Label, ListBox>([](auto& c) { return c.Hint(); })},
         {"Interval", Reads<Timer>([](auto& c) { return c.Interval(); }),
@@ -185,7 +186,8 @@ std::vector<Property> ListProperties() {
              [](auto& c, const Json& v) { c.SetPath(TextFrom(v, "Path")); })},
         {"Pattern", Reads<FileListBox>([](auto& c) { return c.Pattern(); }),
          Writes<FileListBox>([](auto& c, const Json& v) { c.SetPattern(TextFrom(v, "Pattern")); })},
-        {"Drive", Reads<DriveListBox>([](auto& c) { return c.Drive(); })},
+        {"Drive", Reads<DriveListBox>([](auto& c) { return c.Drive(); }),
+         Writes<DriveListBox>([](auto& c, const Json& v) { c.SetDrive(TextFrom(v, "Drive")); })},
     };
 }
 
@@ -202,6 +204,8 @@ std::vector<Property> WindowProperties() {
         {"HasFrame", Reads<Form>([](auto& c) { return c.HasFrame(); })},
         {"ToolWindow", Reads<Form>([](auto& c) { return c.IsToolWindow(); })},
         {"Topmost", Reads<Form>([](auto& c) { return c.IsTopmost(); })},
+        {"AboveAll", Reads<Form>([](auto& c) { return c.IsAboveAll(); })},
+        {"Activates", Reads<Form>([](auto& c) { return c.Activates(); })},
     };
 }
 

@@ -8,18 +8,18 @@ namespace kivu::driver {
 
 namespace {
 
-bool IsMainWindow(Session& session, const Windows::Member& member) {
-    return &member.owner == static_cast<forms::Control*>(&session.MainWindow());
+bool IsOfWindow(const Windows::Member& member) {
+    return &member.owner == static_cast<forms::Control*>(&member.window);
 }
 
 Json Get(Session& session, const Json& command) {
     const auto member = session.OpenWindows().FindMember(TextFrom(command[1], "the name"));
-    if (&member.owner == &member.window && SameName(member.name, "Focus")) {
+    if (IsOfWindow(member) && SameName(member.name, "Focus")) {
         const forms::Control* focus = member.window.Focus();
         return Value(focus ? NameOf(*focus) : "");
     }
-    if (IsMainWindow(session, member)) {
-        if (auto field = GetField(session.MainWindow(), member.name)) return Value(*field);
+    if (IsOfWindow(member)) {
+        if (auto field = GetField(member.window, member.name)) return Value(*field);
     }
     return Value(GetProperty(member.owner, member.name));
 }
@@ -27,8 +27,7 @@ Json Get(Session& session, const Json& command) {
 Json Set(Session& session, const Json& command) {
     const auto member = session.OpenWindows().FindMember(TextFrom(command[1], "the name"));
     const Json& value = command[2];
-    if (IsMainWindow(session, member) && SetField(session.MainWindow(), member.name, value))
-        return Json::object();
+    if (IsOfWindow(member) && SetField(member.window, member.name, value)) return Json::object();
     SetProperty(member.owner, member.name, value);
     return Json::object();
 }
