@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "core/form1.h"
 #include "hosts/linux/file_system_linux.h"
 #include "launch/drive_slots.h"
 #include "ratio/ratio.h"

@@ -4,6 +4,8 @@
 #include <utility>
 #include <vector>
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "favourites/favoriten.h"
 #include "library/find_game.h"
 #include "platform/dialogs.h"

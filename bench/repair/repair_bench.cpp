@@ -10,10 +10,12 @@
 #include <stdexcept>
 #include <string>
 
+#include "core/form1.h"
 #include "favourites/repair_favoriten.h"
 #include "hosts/linux/file_system_linux.h"
 #include "ratio/ratio.h"
 #include "repair/plain_repair.h"
+#include "testing/quiet_ports.h"
 
 namespace {
 
@@ -91,7 +93,8 @@ double Repair(const Directory& directory, Outcome& outcome, Run run) {
     profile::Ini ini(files);
     core::EventPacer pacer(host, host);
     core::BusyState busy(form, host);
-    favourites::Favoriten favourites(form, ini, files);
+    testing::QuietGames lists;
+    favourites::Favoriten favourites(form, ini, files, lists);
     for (int number = 0; number < games; ++number)
         form.UAE_FULL.AddItem(form.AppDir + "Roms/" + GameName(number) + ".adf");
     favourites.LoadFavoriten();

@@ -1,5 +1,7 @@
 #include "core/busy_state.h"
 
+#include "core/form1.h"
+
 namespace kivu::core {
 
 void EventPacer::DoEventsWhenDue() {

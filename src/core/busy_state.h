@@ -3,11 +3,12 @@
 #include <chrono>
 #include <string>
 
-#include "core/form1.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
 
 namespace kivu::core {
+
+struct Form1;
 
 // Lets events run inside long loops, but not more often than a screen can follow.
 class EventPacer {

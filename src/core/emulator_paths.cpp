@@ -17,31 +17,40 @@ std::string FindByName(const platform::FileSystem& files, const std::string& dir
     return exact;
 }
 
-void AssignProgramPaths(Form1& form, const platform::FileSystem& files) {
-    form.BaseIniName = form.ConfigPath + form.EXE + ".ini";
-    form.FavoritenGlobalIni = FindByName(files, form.ConfigPath, "Favoriten_Global.ini");
-    form.GlobalListName = form.ConfigPath + form.EXE + "_Global.txt";
-    form.MasterConfigName.clear();
-    form.IniPath = form.StartPfad + form.EXE + ".ini";
-    form.CacheName = form.StartPfad + form.EXE + "_Cache.txt";
-    form.TmpBatName = form.StartPfad + form.EXE + "_tmp.bat";
-    form.StartScriptName = form.StartPfad + form.EXE + "_StartScript.uaecfg";
-    form.VBSFilename = form.StartPfad + "Startscript.vbs";
-    form.FavoritenIni = FindByName(files, form.StartPfad, "Favoriten.ini");
-    // Without an emulator the skin's profile lies beside the others, in no directory of its own.
-    form.ColorsIniName = FindByName(files, form.StartPfad, "Skin.ini");
+void AssignProgram(ProgramFiles& program, const platform::FileSystem& files,
+                   const std::string& directory, const std::string& name) {
+    const char separator = files.Separator();
+    program.AppDir = directory;
+    if (program.AppDir.empty() || program.AppDir.back() != separator) program.AppDir += separator;
+    program.EXE = name;
 }
 
-void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const std::string& name) {
-    form.StartPfad = text::AddPathSeparator(form.ConfigPath + name);
-    form.VBSFilename = form.StartPfad + "Startscript.vbs";
-    form.FavoritenIni = FindByName(files, form.StartPfad, "Favoriten.ini");
-    form.IniPath = form.StartPfad + form.EXE + ".ini";
-    const std::string skin = FindByName(files, form.StartPfad, "Skin") + files.Separator();
-    form.ColorsIniName = FindByName(files, skin, "Skin.ini");
-    form.TmpBatName = form.StartPfad + form.EXE + "_tmp.bat";
-    form.CacheName = form.StartPfad + form.EXE + "_Cache.txt";
-    form.StartScriptName = form.StartPfad + form.EXE + "_StartScript.uaecfg";
+void AssignProgramPaths(ProgramFiles& program, const platform::FileSystem& files) {
+    program.BaseIniName = program.ConfigPath + program.EXE + ".ini";
+    program.FavoritenGlobalIni = FindByName(files, program.ConfigPath, "Favoriten_Global.ini");
+    program.GlobalListName = program.ConfigPath + program.EXE + "_Global.txt";
+    program.MasterConfigName.clear();
+    program.IniPath = program.StartPfad + program.EXE + ".ini";
+    program.CacheName = program.StartPfad + program.EXE + "_Cache.txt";
+    program.TmpBatName = program.StartPfad + program.EXE + "_tmp.bat";
+    program.StartScriptName = program.StartPfad + program.EXE + "_StartScript.uaecfg";
+    program.VBSFilename = program.StartPfad + "Startscript.vbs";
+    program.FavoritenIni = FindByName(files, program.StartPfad, "Favoriten.ini");
+    // Without an emulator the skin's profile lies beside the others, in no directory of its own.
+    program.ColorsIniName = FindByName(files, program.StartPfad, "Skin.ini");
+}
+
+void AssignEmulatorPaths(ProgramFiles& program, const platform::FileSystem& files,
+                         const std::string& name) {
+    program.StartPfad = text::AddPathSeparator(program.ConfigPath + name);
+    program.VBSFilename = program.StartPfad + "Startscript.vbs";
+    program.FavoritenIni = FindByName(files, program.StartPfad, "Favoriten.ini");
+    program.IniPath = program.StartPfad + program.EXE + ".ini";
+    const std::string skin = FindByName(files, program.StartPfad, "Skin") + files.Separator();
+    program.ColorsIniName = FindByName(files, skin, "Skin.ini");
+    program.TmpBatName = program.StartPfad + program.EXE + "_tmp.bat";
+    program.CacheName = program.StartPfad + program.EXE + "_Cache.txt";
+    program.StartScriptName = program.StartPfad + program.EXE + "_StartScript.uaecfg";
 }
 
 profile::keys::Profiles ProfilesOf(const Form1& form) {

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "core/form1.h"
+#include "core/program_files.h"
 #include "platform/file_system.h"
 #include "profile/keys.h"
 
@@ -13,10 +13,14 @@ namespace kivu::core {
 std::string FindByName(const platform::FileSystem& files, const std::string& directory,
                        const std::string& name);
 
+// Where the program lies, with or without a closing separator, and the base name of its file.
+void AssignProgram(ProgramFiles& program, const platform::FileSystem& files,
+                   const std::string& directory, const std::string& name);
 // The program's own files, and those of the state in which no emulator has been selected.
-void AssignProgramPaths(Form1& form, const platform::FileSystem& files);
+void AssignProgramPaths(ProgramFiles& program, const platform::FileSystem& files);
 // The files of the emulator of this name.
-void AssignEmulatorPaths(Form1& form, const platform::FileSystem& files, const std::string& name);
+void AssignEmulatorPaths(ProgramFiles& program, const platform::FileSystem& files,
+                         const std::string& name);
 
 // The profiles that the window's settings stand in now.
 profile::keys::Profiles ProfilesOf(const Form1& form);

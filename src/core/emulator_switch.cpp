@@ -1,6 +1,10 @@
 #include "core/emulator_switch.h"
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
+#include "core/raised.h"
+#include "core/settings_loader.h"
+#include "core/shut_down.h"
 #include "text/stored_paths.h"
 #include "text/text.h"
 
@@ -16,7 +20,7 @@ void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     const profile::Ini::GatheredWriteBacks gathered(ini);
     form.Label4.SetCaption(" Suchergebnisse (0) ");
     form.Label4.SetVisible(false);
-    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    form.EmuListbox.SetWidth(form.EmuListboxWidth());
     form.Current_LoadingSmallBtn.SetVisible(true);
     if (form.EmuListbox.ListIndex() == form.CurrentEmuIndex) {
         ReturnToLoadedEmulator();
@@ -34,31 +38,31 @@ void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     ini.Write(keys::LastEmulator, ProfilesOf(form), form.EmuListbox.Text());
     ShowLoadedLists();
     if (AddToGlobal) AppendToGlobalList();
-    hooks.RebuildLayout();
+    ports.front->RefreshList();
     form.Current_LoadingSmallBtn.SetVisible(false);
     form.EmuListbox.SetVisible(true);
     if (!form.EmulatorLongListbox.Visible()) PutLoadedListInFront();
-    hooks.HideListsOfRunning();
+    ports.watch->HideListsOfRunning();
 }
 
 void EmulatorSwitch::PutLoadedListInFront() {
     if (form.FavoritenListe.ListCount() > 0) {
-        hooks.Label1_Click();
+        ports.front->Label1_Click();
     } else {
-        hooks.Label2_Click();
+        ports.front->Label2_Click();
     }
 }
 
 void EmulatorSwitch::ReturnToLoadedEmulator() {
     form.EmulatorLongListbox.SetVisible(false);
     form.EmuListbox.SetVisible(false);
-    hooks.ShowEmulatorBox(false);
-    form.ListMode = "1";
-    hooks.RebuildLayout();
+    ports.choice->ShowEmulatorBox(false);
+    form.SetMode(Front::favourites);
+    ports.front->RefreshList();
     form.EmuListbox.SetVisible(true);
     events.DoEvents();
     form.Current_LoadingSmallBtn.SetVisible(false);
-    hooks.LeaveEmulatorBox();
+    ports.choice->LeaveEmulatorBox();
 }
 
 // False: the switch is locked and stops here.
@@ -77,27 +81,27 @@ bool EmulatorSwitch::ClearForSwitch() {
     form.UAE_Short.Clear();
     form.UAE_FULL.Clear();
     form.SuchErgList.Clear();
-    hooks.ShowEmulatorBox(false);
+    ports.choice->ShowEmulatorBox(false);
     return true;
 }
 
 void EmulatorSwitch::ShowLoadedLists() {
     const bool favourites = form.FavoritenListe.ListCount() > 0;
     if (favourites) {
-        hooks.Label1_Click();
+        ports.front->Label1_Click();
         form.FavoritenListe.SetListIndex(0);
     } else {
-        hooks.Label2_Click();
+        ports.front->Label2_Click();
         form.WIthoutDoubles.SetListIndex(0);
     }
     busy.HideAll(true);
-    form.ListMode = form.FavoritenListe.ListCount() > 0 ? "1" : "2";
+    form.SetMode(form.FavoritenListe.ListCount() > 0 ? Front::favourites : Front::simple);
 }
 
 void EmulatorSwitch::AppendToGlobalList() {
     const std::string kept = form.Label1.Caption();
     form.Label1.SetCaption("Global List: " + form.EmuListbox.SelectedText());
-    hooks.AddToALL_LIST();
+    ports.games->AddToALL_LIST();
     form.Label1.SetCaption(kept);
 }
 
@@ -109,7 +113,7 @@ void EmulatorSwitch::InitEmulatorView() {
     }
     form.GamePictureVis.SetPicture({});
     form.GamePicture.SetPicture({});
-    hooks.SetVorschau();
+    ports.layout->SetVorschau();
     form.CurrentEmuIndex = form.EmuListbox.ListIndex();
     form.LoadBtn.SetEnabled(form.CurrentEmuIndex >= 0);
     ShowDefaultTitle();
@@ -119,10 +123,10 @@ void EmulatorSwitch::InitEmulatorView() {
     form.FavoritenListe.Clear();
     form.TopRightPic.SetTop(20);
     PrepareMasterConfig();
-    hooks.ArrangeWindow();
+    ports.layout->Form_Resize();
     FillFontSizes();
-    hooks.SetToTop();
-    hooks.LoadSettings();
+    alwaysOnTop.SetToTop();
+    settingsLoader.LoadSettings();
     hooks.LoadFavoriten();
     form.EmulatorLongListbox.SetVisible(false);
     ReadTitle();
@@ -168,10 +172,9 @@ bool EmulatorSwitch::ServeCommandLine() {
         dialogs.MessageBox("Command Parameter: Not full supported yet!  *.adf Files should work!",
                            defaultTitle, platform::Buttons::Ok, platform::Icon::None);
     } else {
-        hooks.StartGame(text::QuoteIfNeeded(text::Trim(commandLine)));
+        ports.launching->StartGame(text::QuoteIfNeeded(text::Trim(commandLine)));
     }
-    form.Ended = true;
-    hooks.EndProgram();
+    shutDown.EndProgram();
     return true;
 }
 
@@ -180,8 +183,8 @@ void EmulatorSwitch::FinishView() {
     form.LoadingBtn.SetCaption(form.Say("Liste wird geladen...", "Loading list..."));
     busy.HideAll(false);
     events.DoEvents();
-    hooks.LoadCacheList();
-    hooks.ArrangeWindow();
+    ports.games->LoadCacheList();
+    ports.layout->Form_Resize();
     events.DoEvents();
     form.Current_ProgramNameFull.SetCaption("");
     form.LoadingBtn.SetCaption("Loading..");
@@ -190,8 +193,8 @@ void EmulatorSwitch::FinishView() {
     form.MyCaptionLabel.SetCaption(form.TitleString);
     form.LoadingBtn.SetCaption(form.TitleString);
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
-    hooks.BuildDoublesList();
-    hooks.WatchOnce();
+    ports.games->BuildDoublesList();
+    ports.watch->WatchOnce();
     busy.HideAll(false);
     form.SettingsBtn.SetVisible(true);
     form.SettingsShortBtn.SetVisible(false);

@@ -1,58 +1,70 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "platform/dialogs.h"
 #include "platform/event_pump.h"
 #include "platform/file_system.h"
 #include "profile/ini.h"
+#include "support/always_on_top.h"
 
 namespace kivu::core {
 
+struct Form1;
+class SettingsLoader;
+class ShutDown;
+
 // Makes an emulator the current one and brings every control into line with its files.
-class EmulatorSwitch {
+class EmulatorSwitch : public EmulatorSwitching {
  public:
     struct Hooks {
-        Hook<void(bool)> ShowEmulatorBox;
-        Hook<void()> LeaveEmulatorBox;
-        Hook<void()> HideListsOfRunning;
-        Hook<void()> RebuildLayout;  // the list in front, the tabs and their counts
-        Hook<void()> ArrangeWindow;  // what a resize does
-        Hook<void()> SetVorschau;
-        Hook<void()> Label1_Click;
-        Hook<void()> Label2_Click;
-        Hook<void()> AddToALL_LIST;
-        Hook<void()> LoadSkinPictures;
-        Hook<void()> LoadFavoriten;
-        Hook<void()> SaveAndSetDisplayMode;
-        Hook<void()> GetMasterConfig;
-        Hook<void()> SetToTop;
-        Hook<void()> LoadSettings;
-        Hook<void(const std::string&)> StartGame;
-        Hook<void()> LoadCacheList;
-        Hook<void()> BuildDoublesList;
-        Hook<void()> WatchOnce;
-        Hook<void()> EndProgram;
+        Hook<void()> LoadSkinPictures{"EmulatorSwitch.LoadSkinPictures"};
+        Hook<void()> LoadFavoriten{"EmulatorSwitch.LoadFavoriten"};
+        Hook<void()> SaveAndSetDisplayMode{"EmulatorSwitch.SaveAndSetDisplayMode"};
+        Hook<void()> GetMasterConfig{"EmulatorSwitch.GetMasterConfig"};
+    };
+    struct Ports {
+        Port<EmulatorChoice> choice{"EmulatorSwitch.choice"};
+        Port<ListFront> front{"EmulatorSwitch.front"};
+        Port<LoadedGames> games{"EmulatorSwitch.games"};
+        Port<Launching> launching{"EmulatorSwitch.launching"};
+        Port<RunningEmulator> watch{"EmulatorSwitch.watch"};
+        Port<WindowLayout> layout{"EmulatorSwitch.layout"};
+    };
+    struct Services {
+        platform::FileSystem& files;
+        platform::EventPump& events;
+        platform::Dialogs& dialogs;
+    };
+    struct Routines {
+        BusyState& busy;
+        SettingsLoader& settings;
+        ShutDown& shutDown;
+        support::AlwaysOnTop& alwaysOnTop;
     };
 
-    EmulatorSwitch(Form1& form, profile::Ini& ini, platform::FileSystem& files,
-                   platform::EventPump& events, platform::Dialogs& dialogs, BusyState& busy,
+    EmulatorSwitch(Form1& form, profile::Ini& ini, Services services, Routines routines,
                    std::string commandLine)
         : form(form),
           ini(ini),
-          files(files),
-          events(events),
-          dialogs(dialogs),
-          busy(busy),
+          files(services.files),
+          events(services.events),
+          dialogs(services.dialogs),
+          busy(routines.busy),
+          settingsLoader(routines.settings),
+          shutDown(routines.shutDown),
+          alwaysOnTop(routines.alwaysOnTop),
           commandLine(std::move(commandLine)) {}
 
-    void SelectEmulator(bool AddToGlobal);
-    void InitEmulatorView();
+    void SelectEmulator(bool AddToGlobal) override;
+    void InitEmulatorView() override;
 
     Hooks hooks;
+    Ports ports;
 
  private:
     void ReturnToLoadedEmulator();
@@ -74,6 +86,9 @@ class EmulatorSwitch {
     platform::EventPump& events;
     platform::Dialogs& dialogs;
     BusyState& busy;
+    SettingsLoader& settingsLoader;
+    ShutDown& shutDown;
+    support::AlwaysOnTop& alwaysOnTop;
     std::string commandLine;
 };
 

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "text/text.h"
-
 namespace kivu::core {
 
 using forms::Rgb;
@@ -34,13 +32,8 @@ Form1::Form1(forms::Toolkit toolkit) : forms::Form("Form1", toolkit) {
     DesignCorner();
 }
 
-int Form1::Mode() const {
-    return text::ToNumber(ListMode).value_or(0);
-}
-
 bool Form1::ChoiceInFront() const {
-    const bool choosing = Mode() == 5 || Mode() == 10;
-    return choosing && EmulatorLongListbox.Visible() && !FavoritenListeGlobal.Visible();
+    return ModeIsChoice() && EmulatorLongListbox.Visible() && !FavoritenListeGlobal.Visible();
 }
 
 void Form1::ShowSearchBox(bool show) {
@@ -49,11 +42,14 @@ void Form1::ShowSearchBox(bool show) {
     SearchAllBtn.SetVisible(show);
 }
 
-std::string Form1::BaseDirectory() const {
-    std::string directory = AppDir;
-    if (!directory.empty() && (directory.back() == '\\' || directory.back() == '/'))
-        directory.pop_back();
-    return directory;
+void Form1::OfferFavourites() {
+    AddToFavorit.SetVisible(true);
+    AddToFavorit_Global.SetVisible(true);
+}
+
+int Form1::EmuListboxWidth() const {
+    constexpr int twipsPerPoint = 220;
+    return static_cast<int>(twipsPerPoint * EmuListbox.FontSize());
 }
 
 void Form1::DesignWindow() {
@@ -155,6 +151,9 @@ void Form1::DesignFrame() {
         // One of the first two always shows.
         button->SetVisible(button == &SettingsBtn);
     }
+    // Nothing opens them yet.
+    SettingsBtn.SetEnabled(false);
+    SettingsShortBtn.SetEnabled(false);
     DonateBtn.SetCaption("Spenden");
     ExitBtn.SetCaption("&Exit");
     ExitBtn.Move(0, 0, 1050, 420);

@@ -3,6 +3,13 @@
 #include <array>
 #include <string>
 
+#include "core/joystick_state.h"
+#include "core/launch_state.h"
+#include "core/layout_numbers.h"
+#include "core/list_state.h"
+#include "core/program_files.h"
+#include "core/program_state.h"
+#include "core/window_looks.h"
 #include "forms/controls.h"
 #include "forms/directory_controls.h"
 #include "forms/form.h"
@@ -10,7 +17,6 @@
 
 namespace kivu::core {
 
-inline constexpr const char* defaultTitle = "Kivu 1.4b";
 // The caption of the drives panel's handle, and the sign that it shows.
 inline constexpr const char* unfoldedHandle = "          ";
 inline constexpr const char* foldSign = "<";
@@ -32,9 +38,17 @@ struct TitleLine final : forms::Label {
     void SetCaption(std::string value) override;
 };
 
-// The main window: its controls and the fields that its routines share. Design values are set here;
-// what happens on an event is joined in wiring/.
-struct Form1 : forms::Form {
+// The main window: its controls, and by inheritance the groups of fields that its routines share; a
+// routine that needs one group takes that. Design values are set here; what happens on an event is
+// joined in wiring/.
+struct Form1 : forms::Form,
+               ProgramFiles,
+               ProgramState,
+               ListState,
+               JoystickState,
+               LaunchState,
+               WindowLooks,
+               LayoutNumbers {
     explicit Form1(forms::Toolkit toolkit);
 
     // Behind the lists: what the window is busy with, and the running emulator.
@@ -120,82 +134,16 @@ struct Form1 : forms::Form {
     forms::Timer EmuActiveTimer{this, "EmuActiveTimer", 1000, false};
     forms::Timer JoystickTimer{this, "JoystickTimer", 140, false};
 
-    // Where the program lies, with a closing separator, and the base name of its file.
-    std::string AppDir;
-    std::string EXE;
-
-    // Files of the program and of the emulator of the moment.
-    std::string ConfigPath, StartPfad, IniPath, BaseIniName, ColorsIniName, FavoritenIni,
-        FavoritenGlobalIni, VBSFilename, CacheName, GlobalListName, TmpBatName, StartScriptName,
-        MasterConfigName;
-
-    // Which list or control is in front: 1 favourites, 2 simple, 3 complete, 4 search results, 5
-    // emulator list open, 7 search box focused, 10 long emulator list focused.
-    std::string ListMode = "2";
-    int CurrentLanguage = 1;     // 1 German, 2 English
-    int CurrentEmuIndex = -1;    // row of the emulator whose data is loaded
-    int EmuBoxIndexSaved = -1;   // row to go back to when the long list closes
-    bool ListsVisible = true;    // what HideAll was last told
-    bool EmuListLocked = false;  // SelectEmulator does nothing
-    bool Busy = false;           // a switch, a rescan or a launch is under way
-    bool WindowReady = false;    // the Load event is through
-    bool Ended = false;          // the program has ended; whoever called stops
-
-    forms::Color FavouritesColor = 0;    // back colour of FavoritenListe
-    forms::Color EmulatorListColor = 0;  // back colour of EmulatorLongListbox
-    // The drop-down's own colours while the choice is open.
-    forms::Color EmuListboxBackColor = 0;
-    forms::Color EmuListboxForeColor = 0;
-    forms::Color FormBackColor = forms::Rgb(0x00, 0x52, 0xbc);
-    forms::Color FormForeColor = forms::Rgb(0xff, 0xff, 0xff);
-    std::string TitleString = defaultTitle;
-    std::string DownloadURL;
-
-    // List that arrow keys and joystick drive: 1 FavoritenListe, 2 WIthoutDoubles, 3 UAE_Short,
-    // 4 SuchErgList, 5 EmuListbox.
-    int JoystickFocus = 2;
-    bool EmuListBrowsing = false;
-    std::array<int, 13> JoystickButtons{0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12};
-    int ExitButtonAction = 0;
-
-    bool ShortListHasFocus = false, DoublesListHasFocus = false, DoublesListBusy = false;
-    bool FavouritesListBusy = false;
-
-    // The running launch.
-    std::string CurrentRunninApplication;
-    std::string CURRENT_PROGRAM_STARTED;  // lines split by CR
-    int StartGraceTicks = 0;
-    int SplashSeconds = 0;
-    bool GameIsRunning = false;
-    std::array<std::string, 6> DiskSlots;
-
-    // Layout numbers in twips, made anew at each resize.
-    int ListLeft = 0, ListWidth = 0, Col2Left = 0, Col2Width = 0, Col3Left = 0, Col3Width = 0,
-        ListHeight = 0, DriveBoxHeight = 0;
-    int ThirdWidth = 0, QuarterWidth = 0, HalfWidth = 0;
-
-    const std::string& GetStartPfad() const { return StartPfad; }
-    const std::string& GetIniPath() const { return IniPath; }
-    const std::string& getBaseIniName() const { return BaseIniName; }
-    const std::string& GetFavortitenIni() const { return FavoritenIni; }
-    const std::string& GetColorsIniName() const { return ColorsIniName; }
-    const std::string& GetVBSFilename() const { return VBSFilename; }
-    int Get_Current_Language() const { return CurrentLanguage; }
-
-    // ListMode as the number that it spells.
-    int Mode() const;
     // A game has been started, or an emulator alone is seen running.
     bool EmulatorRuns() const { return GameIsRunning || AppRunningPicture.Visible(); }
     // The choice of emulators is in front, with no search and no favourites over it.
     bool ChoiceInFront() const;
-    // One of the two wordings of a message.
-    const char* Say(const char* german, const char* english) const {
-        return CurrentLanguage == 1 ? german : english;
-    }
     // The search box with what belongs to it.
     void ShowSearchBox(bool show);
-    // The program's directory as path routines want it: without a closing separator.
-    std::string BaseDirectory() const;
+    // A game that is selected can be made a favourite.
+    void OfferFavourites();
+    // Beside the tabs; over its list the open choice is as wide as that.
+    int EmuListboxWidth() const;
 
  private:
     void DesignWindow();

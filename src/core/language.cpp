@@ -1,5 +1,6 @@
 #include "core/language.h"
 
+#include "core/form1.h"
 #include "text/text.h"
 
 namespace kivu::core {

@@ -2,10 +2,11 @@
 
 #include <string>
 
-#include "core/form1.h"
 #include "platform/locale.h"
 
 namespace kivu::core {
+
+struct Form1;
 
 // The kind of locale text that GetLocaleString can give: the language's English name.
 inline constexpr int LOCALE_SENGLANGUAGE = 4097;

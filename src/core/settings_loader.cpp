@@ -1,6 +1,7 @@
 #include "core/settings_loader.h"
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
 #include "text/paths.h"
 #include "text/stored_paths.h"
 
@@ -56,8 +57,8 @@ void SettingsLoader::LoadDrivesPanel() {
     // A place from another size of the window, or of a profile that only took over the one that it
     // found, may lie anywhere by now.
     const std::string docked = ini.Read(keys::DrvWindowDocked, ProfilesOf(form));
-    if (docked == "1" || (docked != "0" && hooks.DrivesCoverOthers && hooks.DrivesCoverOthers()))
-        hooks.DockDrives();
+    if (docked == "1" || (docked != "0" && ports.layout->DrivesCoverOthers()))
+        ports.layout->DockDrives();
 }
 
 void SettingsLoader::LoadJoystick() {

@@ -2,24 +2,27 @@
 
 #include <string>
 
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "profile/ini.h"
 
 namespace kivu::core {
 
+struct Form1;
+
 // Brings the emulator's profile, and what of the program's belongs to the window, into the
 // controls.
 class SettingsLoader {
  public:
     struct Hooks {
-        Hook<void()> SetColors;
-        Hook<void(bool)> JoystickEnable;
-        Hook<int()> JoystickCount;
-        Hook<bool()> DrivesCoverOthers;  // the drives panel, at its place
-        Hook<void()> DockDrives;
+        Hook<void()> SetColors{"SettingsLoader.SetColors"};
+        Hook<void(bool)> JoystickEnable{"SettingsLoader.JoystickEnable"};
+        Hook<int()> JoystickCount{"SettingsLoader.JoystickCount"};
+    };
+    struct Ports {
+        Port<WindowLayout> layout{"SettingsLoader.layout"};
     };
 
     SettingsLoader(Form1& form, profile::Ini& ini, const platform::FileSystem& files,
@@ -29,6 +32,7 @@ class SettingsLoader {
     void LoadSettings();
 
     Hooks hooks;
+    Ports ports;
 
  private:
     // A stored path as an absolute one. A path written by hand may be absolute already.

@@ -1,6 +1,7 @@
 #include "core/shut_down.h"
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
 
 namespace kivu::core {
 
@@ -9,7 +10,7 @@ namespace keys = profile::keys;
 void ShutDown::ExitBtn_Click() {
     Store(keys::emulator, {{keys::DrvWindowX, form.SettingsSubPicture.Left()},
                            {keys::DrvWindowY, form.SettingsSubPicture.Top()},
-                           {keys::DrvWindowDocked, DrivesAreHome && DrivesAreHome() ? 1 : 0}});
+                           {keys::DrvWindowDocked, ports.layout->DrivesAreHome() ? 1 : 0}});
     Values window{{keys::WindowState, static_cast<int>(form.State())}};
     // A maximised or tiny window never replaces the last good geometry.
     if (form.State() == forms::WindowState::normal && form.Width() > 2000 && form.Height() > 1000) {
@@ -19,8 +20,13 @@ void ShutDown::ExitBtn_Click() {
                                      {keys::WindowLeft, form.Left()}});
     }
     Store(keys::program, window);
-    form.Ended = true;
     EndProgram();
+}
+
+void ShutDown::EndProgram() {
+    form.Ended = true;
+    ini.StoreWriteBacks();
+    hooks.EndProcess();
 }
 
 // Together: each write puts the whole file anew and waits for the disk.

@@ -4,17 +4,19 @@
 #include <vector>
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
 #include "core/language.h"
 #include "core/stored_names.h"
 #include "support/path_forms.h"
+#include "support/window_handling.h"
 
 namespace kivu::core {
 
 namespace keys = profile::keys;
 
 void StartUp::Form_Load() {
-    form.EmulatorListColor = hooks.HexToLong("#F6F7D2");
-    form.FavouritesColor = hooks.HexToLong("#E0FFF1");
+    form.EmulatorListColor = forms::Rgb(0xf6, 0xf7, 0xd2);
+    form.FavouritesColor = forms::Rgb(0xe0, 0xff, 0xf1);
     form.CurrentLanguage = 1;
     hooks.KeepDesignPictures();
     form.CurrentEmuIndex = -1;
@@ -27,15 +29,15 @@ void StartUp::Form_Load() {
     const profile::Ini::GatheredWriteBacks gathered(ini);
     MakeConfigDirectory();
     AssignProgramPaths(form, files);
-    hooks.ChangeBorderstyle();
+    support::ChangeBorderstyle(form, 3);
     form.EmuListbox.Clear();
     form.EmulatorLongListbox.Clear();
-    hooks.FillEmulatorLists();
+    ports.choice->FillEmulatorLists();
     RestoreWindow();
     SelectLastEmulator();
     if (form.Ended) return;
     form.Current_LoadingSmallBtn.SetVisible(false);
-    WritePrompt();
+    ports.choice->WritePrompt();
     form.Current_ProgramNameFull.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
     form.WindowReady = true;
 }
@@ -70,16 +72,16 @@ void StartUp::SelectLastEmulator() {
     const std::string last = ini.Read(keys::LastEmulator, ProfilesOf(form));
     if (last.empty()) {
         form.EmuListbox.SetText("Default");
-        hooks.InitEmulatorView();
+        emulators.InitEmulatorView();
         return;
     }
     if (const int row = RowOfEmulator(last); row >= 0) {
         form.EmuListbox.SetListIndex(row);
-        hooks.SelectEmulator(false);
+        emulators.SelectEmulator(false);
         return;
     }
     // The emulator has gone. Nothing is loaded, and nothing else would lay the window out.
-    hooks.ArrangeWindow();
+    ports.layout->Form_Resize();
 }
 
 int StartUp::RowOfEmulator(const std::string& stored) const {
@@ -88,14 +90,6 @@ int StartUp::RowOfEmulator(const std::string& stored) const {
     if (support::NamesAreBytes(files))
         names.insert(names.begin(), ini.ReadBytes(keys::LastEmulator, ProfilesOf(form)));
     return FindStoredName(files, form.EmuListbox.Rows(), names);
-}
-
-void StartUp::WritePrompt() {
-    if (form.EmuListbox.ListCount() == 0) {
-        form.EmuListbox.SetText("No Emulator found");
-    } else {
-        form.EmuListbox.SetText(form.Say("Emulator auswählen:", "Select Emulator:"));
-    }
 }
 
 }  // namespace kivu::core

@@ -2,9 +2,8 @@
 
 #include <string>
 
-#include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "platform/clock.h"
 #include "platform/file_system.h"
 #include "platform/locale.h"
@@ -12,31 +11,32 @@
 
 namespace kivu::core {
 
+struct Form1;
+
 // The main window's Load event: from nothing to a window with the last emulator's games.
 class StartUp {
  public:
     struct Hooks {
-        Hook<forms::Color(const std::string&)> HexToLong;
-        Hook<void()> KeepDesignPictures;
-        Hook<bool()> PreviousInstance;  // true: an earlier one runs, and this one has ended
-        Hook<void()> ChangeBorderstyle;
-        Hook<void()> FillEmulatorLists;
-        Hook<void(bool)> SelectEmulator;
-        Hook<void()> InitEmulatorView;
-        Hook<void()> ArrangeWindow;  // what a resize does
+        Hook<void()> KeepDesignPictures{"StartUp.KeepDesignPictures"};
+        // True: an earlier one runs, and this one has ended.
+        Hook<bool()> PreviousInstance{"StartUp.PreviousInstance"};
+    };
+    struct Ports {
+        Port<EmulatorChoice> choice{"StartUp.choice"};
+        Port<WindowLayout> layout{"StartUp.layout"};
     };
 
     StartUp(Form1& form, profile::Ini& ini, platform::FileSystem& files,
-            const platform::Locale& locale, const platform::Clock& clock)
-        : form(form), ini(ini), files(files), locale(locale), clock(clock) {}
+            const platform::Locale& locale, const platform::Clock& clock,
+            EmulatorSwitching& emulators)
+        : form(form), ini(ini), files(files), locale(locale), clock(clock), emulators(emulators) {}
 
     void Form_Load();
     // Writes the clock's hours and minutes into TimeString.
     void Uhrzeit_Timer();
-    // Into the drop-down, which shows no emulator.
-    void WritePrompt();
 
     Hooks hooks;
+    Ports ports;
 
  private:
     void MakeConfigDirectory();
@@ -50,6 +50,7 @@ class StartUp {
     platform::FileSystem& files;
     const platform::Locale& locale;
     const platform::Clock& clock;
+    EmulatorSwitching& emulators;
 };
 
 }  // namespace kivu::core

@@ -1,5 +1,8 @@
 #include "core/window_keys.h"
 
+#include "core/form1.h"
+#include "core/shut_down.h"
+
 namespace kivu::core {
 
 namespace keys = forms::keys;
@@ -25,13 +28,13 @@ void WindowKeys::Form_KeyDown(forms::Key& key) {
 // Over the hits of all emulators the mode is that of the results, and turning the tabs would lose
 // them all.
 bool WindowKeys::MovesInSearchText() const {
-    const bool searching =
-        form.Mode() == 7 || (form.GlobalSearchList.Visible() && form.SearchDblsTxt.HasFocus());
+    const bool searching = form.Mode() == Front::searchBox ||
+                           (form.GlobalSearchList.Visible() && form.SearchDblsTxt.HasFocus());
     return searching && !form.SearchDblsTxt.Text().empty();
 }
 
 void WindowKeys::CloseKey() {
-    if (form.AppRunningPicture.Visible()) hooks.AppRunningPicture_Click();
+    if (form.AppRunningPicture.Visible()) ports.watch->AppRunningPicture_Click();
     beeper.Beep();
 }
 
@@ -57,14 +60,14 @@ void WindowKeys::ResizeBy(int keyCode) {
 }
 
 void WindowKeys::Form_KeyPress(forms::Character& character) {
-    if (character.code != keys::escape || form.Mode() == 5) return;
+    if (character.code != keys::escape || form.Mode() == Front::choice) return;
     const std::string text = form.CurrentLanguage == 1 ? form.EXE + " jetzt wirklich beenden?"
                                                        : "Quit " + form.EXE + " now?";
     const std::string title =
         form.CurrentLanguage == 1 ? form.EXE + " beenden?" : "Exit " + form.EXE + "?";
     const auto answer =
         dialogs.MessageBox(text, title, platform::Buttons::OkCancel, platform::Icon::Question);
-    if (answer == platform::Answer::Ok) hooks.ExitBtn_Click();
+    if (answer == platform::Answer::Ok) shutDown.ExitBtn_Click();
 }
 
 void WindowKeys::Form_QueryClose(bool& cancel) {

@@ -1,23 +1,29 @@
 #pragma once
 
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
+#include "forms/types.h"
 #include "platform/beeper.h"
 #include "platform/dialogs.h"
 
 namespace kivu::core {
 
+struct Form1;
+class ShutDown;
+
 // Keys that belong to the window as a whole; they come here before any control.
 class WindowKeys {
  public:
     struct Hooks {
-        Hook<void()> ExitBtn_Click;
-        Hook<void()> AppRunningPicture_Click;
-        Hook<void(int)> JoystickDirection;
+        Hook<void(int)> JoystickDirection{"WindowKeys.JoystickDirection"};
+    };
+    struct Ports {
+        Port<RunningEmulator> watch{"WindowKeys.watch"};
     };
 
-    WindowKeys(Form1& form, platform::Dialogs& dialogs, platform::Beeper& beeper)
-        : form(form), dialogs(dialogs), beeper(beeper) {}
+    WindowKeys(Form1& form, platform::Dialogs& dialogs, platform::Beeper& beeper,
+               ShutDown& shutDown)
+        : form(form), dialogs(dialogs), beeper(beeper), shutDown(shutDown) {}
 
     void Form_KeyDown(forms::Key& key);
     void Form_KeyPress(forms::Character& character);
@@ -25,6 +31,7 @@ class WindowKeys {
     void Form_QueryClose(bool& cancel);
 
     Hooks hooks;
+    Ports ports;
 
  private:
     void CloseKey();
@@ -34,6 +41,7 @@ class WindowKeys {
     Form1& form;
     platform::Dialogs& dialogs;
     platform::Beeper& beeper;
+    ShutDown& shutDown;
 };
 
 }  // namespace kivu::core

@@ -4,12 +4,12 @@
 
 namespace kivu::favourites {
 
-std::string EditAliasName(const std::string& EName, const core::Form1& form,
+std::string EditAliasName(const std::string& EName, const core::ProgramState& program,
                           platform::Dialogs& dialogs) {
     const std::string prompt =
-        form.Say("Vergeben sie einen neuen Namen für: ", "Please enter a new title for: ");
+        program.Say("Vergeben sie einen neuen Namen für: ", "Please enter a new title for: ");
     const std::string given = dialogs.InputBox(
-        prompt + "\r\r" + EName, form.Say("Anzeigenamen anpassen", "Change alias"), EName);
+        prompt + "\r\r" + EName, program.Say("Anzeigenamen anpassen", "Change alias"), EName);
     return IsStorable(given) ? given : EName;
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "favourites/stored_texts.h"
 #include "text/stored_paths.h"
 #include "text/text.h"
@@ -129,7 +131,7 @@ void Favoriten::FillFavoritenListe() {
     }
     form.FavoritenListe.AddItems(std::move(names));
     if (row >= 0 && row < form.FavoritenListe.ListCount()) form.FavoritenListe.SetListIndex(row);
-    hooks.UpdateListCaptions();
+    games.UpdateListCaptions();
 }
 
 int Favoriten::RecordOfRow(int row) const {
@@ -153,7 +155,7 @@ void Favoriten::TakeOver(const StoreInMemory& memory) {
     const core::Raised once(filling);
     form.FavoritenListe.Clear();
     form.FavoritenListe.AddItems(memory.Rows());
-    hooks.UpdateListCaptions();
+    games.UpdateListCaptions();
 }
 
 void Favoriten::Write(const StoreInMemory& memory) {

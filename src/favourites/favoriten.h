@@ -6,13 +6,16 @@
 #include <utility>
 #include <vector>
 
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
 #include "favourites/favorit_entry.h"
 #include "favourites/store_in_memory.h"
 #include "platform/file_system.h"
 #include "profile/ini.h"
 #include "profile/ini_document.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::favourites {
 
@@ -20,12 +23,9 @@ namespace kivu::favourites {
 // with one parse and replaced in one step; a store that could not be read is not written either.
 class Favoriten {
  public:
-    struct Hooks {
-        core::Hook<void()> UpdateListCaptions;
-    };
-
-    Favoriten(core::Form1& form, profile::Ini& ini, const platform::FileSystem& files)
-        : form(form), ini(ini), files(files) {}
+    Favoriten(core::Form1& form, profile::Ini& ini, const platform::FileSystem& files,
+              core::LoadedGames& games)
+        : form(form), ini(ini), files(files), games(games) {}
 
     void LoadFavoriten();
     void SaveFavoriten();
@@ -63,8 +63,6 @@ class Favoriten {
     // The list is being filled and takes its selection back.
     bool IsFilling() const { return filling; }
 
-    Hooks hooks;
-
  private:
     bool IsRecord(int record) const;
     void Write(profile::IniDocument& profile, std::size_t number, std::string_view name,
@@ -73,6 +71,7 @@ class Favoriten {
     core::Form1& form;
     profile::Ini& ini;
     const platform::FileSystem& files;
+    core::LoadedGames& games;
     std::vector<FavoritEntry> entries;
     bool unread = false;  // the store is there, but could not be read
     bool filling = false;

@@ -1,5 +1,6 @@
 #include "favourites/favoriten_events.h"
 
+#include "core/form1.h"
 #include "favourites/edit_alias_name.h"
 #include "library/find_game.h"
 #include "text/paths.h"
@@ -63,14 +64,14 @@ bool FavoritenEvents::AskForRepair(const FavoritEntry& favourite) {
 void FavoritenEvents::ShowGame(int row) {
     form.UAE_Short.SetListIndex(row);
     form.UAE_FULL.SetListIndex(row);
-    if (form.SettingsSubPicture.Visible()) hooks.SelectSimilarDisks(row, 4, 14, 2);
+    if (form.SettingsSubPicture.Visible()) ports.drives->SelectSimilarDisks(row, 4, 14, 2);
     form.Check_Dfx[0].SetToolTipText(text::GetFileNameOnly(form.UAE_FULL.List(row)));
     form.Check_Dfx[0].SetValue(1);
 }
 
 void FavoritenEvents::FavoritenListe_DblClick() {
     // With no game of its own the click has left another one selected, and has asked already.
-    if (gameFound && SelectGame()) hooks.LaunchBtn_Click();
+    if (gameFound && SelectGame()) ports.launching->LaunchBtn_Click();
 }
 
 bool FavoritenEvents::SelectGame() {
@@ -123,14 +124,14 @@ void FavoritenEvents::FavoritenListe_KeyDown(forms::Key& key) {
 
 void FavoritenEvents::FavoritenListe_KeyPress(forms::Character& character) {
     if (character.code == keys::enter) {
-        if (SelectGame()) hooks.LaunchBtn_Click();
+        if (SelectGame()) ports.launching->LaunchBtn_Click();
     } else if (character.code != keys::space) {
-        hooks.EmuListbox_KeyPress(character);
+        routines.choice.EmuListbox_KeyPress(character);
     }
 }
 
 void FavoritenEvents::AddToFavorit_Click() {
-    if (repair.IsRunning() || hooks.MarkedGameHasGone()) return;
+    if (repair.IsRunning() || !routines.marked.SelectToStore()) return;
     const int row = form.UAE_Short.ListIndex();
     const std::string name = form.UAE_Short.List(row);
     const std::string path = form.UAE_FULL.List(row);
@@ -145,7 +146,7 @@ void FavoritenEvents::AddToFavorit_Click() {
     } else {
         services.beeper.Beep();
     }
-    hooks.RefreshList();
+    routines.front.RefreshList();
 }
 
 void FavoritenEvents::DeLFav_Click() {

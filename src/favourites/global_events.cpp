@@ -1,5 +1,7 @@
 #include "favourites/global_events.h"
 
+#include "core/form1.h"
+
 namespace kivu::favourites {
 
 namespace keys = forms::keys;
@@ -30,9 +32,9 @@ void GlobalEvents::FavoritenListeGlobal_DblClick() {
     }
     if (!SwitchTo(row)) return;
     SearchFor(favourite.Name);
-    hooks.SetToNormal();
+    routines.alwaysOnTop.SetToNormal();
     form.EmuListbox.SetVisible(false);
-    hooks.StartGame(favourite.FullPath);
+    ports.launching->StartGame(favourite.FullPath);
     if (form.Ended) return;
     form.EmuListbox.SetVisible(true);
     busy.HideAll(false);
@@ -50,7 +52,7 @@ int GlobalEvents::RowOfEmulator(const std::string& name) const {
 
 bool GlobalEvents::SwitchTo(int row) {
     form.EmuListbox.SetListIndex(row);
-    hooks.SelectEmulator(false);
+    routines.emulators.SelectEmulator(false);
     return !form.Ended && form.CurrentEmuIndex == row;
 }
 
@@ -67,7 +69,7 @@ void GlobalEvents::SearchFor(const std::string& name) {
 void GlobalEvents::FavoritenListeGlobal_KeyDown(forms::Key& key) {
     if (key.code != keys::back && key.code != keys::escape) return;
     key.code = 0;
-    hooks.LeaveEmulatorBox();
+    routines.choice.LeaveEmulatorBox();
 }
 
 void GlobalEvents::FavoritenListeGlobal_KeyPress(forms::Character& character) {
@@ -76,7 +78,7 @@ void GlobalEvents::FavoritenListeGlobal_KeyPress(forms::Character& character) {
 
 void GlobalEvents::AddToFavorit_Global_Click() {
     services.events.DoEvents();
-    if (hooks.MarkedGameHasGone()) {
+    if (!routines.marked.SelectToStore()) {
         FocusListInFront();
         return;
     }
@@ -107,9 +109,9 @@ bool GlobalEvents::ShowGlobalFavourites() {
     store.LoadGlobalFavoriten();
     store.ShowHeading();
     // The open choice has made the drop-down as wide as the lists; the tabs stand beside it.
-    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
-    hooks.RestoreColours();
-    hooks.ArrangeLists();
+    form.EmuListbox.SetWidth(form.EmuListboxWidth());
+    routines.choice.RestoreColours();
+    ports.layout->ArrangeLists();
     form.DeLFav.SetVisible(true);
     // The choice of a font size leaves this list out.
     form.FavoritenListeGlobal.SetFontSize(form.FavoritenListe.FontSize());
@@ -122,7 +124,7 @@ bool GlobalEvents::ShowGlobalFavourites() {
 
 void GlobalEvents::LeaveGlobalFavourites() {
     if (!form.FavoritenListeGlobal.Visible()) return;
-    hooks.ShowEmulatorBox(false);
+    routines.choice.ShowEmulatorBox(false);
     form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
     busy.HideAll(true);
 }

@@ -3,29 +3,34 @@
 #include <string>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "favourites/global_favoriten.h"
+#include "forms/types.h"
+#include "library/marked_game.h"
 #include "platform/beeper.h"
 #include "platform/event_pump.h"
+#include "support/always_on_top.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::favourites {
 
 // What happens on FavoritenListeGlobal and on the button AddToFavorit_Global, and how the list
 // comes up and goes.
-class GlobalEvents {
+class GlobalEvents : public core::GlobalFavourites {
  public:
-    struct Hooks {
-        core::Hook<void(bool)> SelectEmulator;
-        core::Hook<void(const std::string&)> StartGame;
-        // The game of the row marked in the list in front becomes the selected one. True: that has
-        // gone.
-        core::Hook<bool()> MarkedGameHasGone;
-        core::Hook<void()> SetToNormal;   // the window is no longer kept on top
-        core::Hook<void()> ArrangeLists;  // the list in front, and the tabs
-        core::Hook<void()> LeaveEmulatorBox;
-        core::Hook<void()> RestoreColours;  // the drop-down's, that the open choice has changed
-        core::Hook<void(bool)> ShowEmulatorBox;
+    struct Ports {
+        core::Port<core::Launching> launching{"GlobalEvents.launching"};
+        core::Port<core::WindowLayout> layout{"GlobalEvents.layout"};
+    };
+    struct Routines {
+        core::EmulatorSwitching& emulators;
+        core::EmulatorChoice& choice;
+        library::MarkedGame& marked;
+        support::AlwaysOnTop& alwaysOnTop;
     };
     struct Services {
         platform::Beeper& beeper;
@@ -33,8 +38,8 @@ class GlobalEvents {
     };
 
     GlobalEvents(core::Form1& form, GlobalFavoriten& store, core::BusyState& busy,
-                 Services services)
-        : form(form), store(store), busy(busy), services(services) {}
+                 Services services, Routines routines)
+        : form(form), store(store), busy(busy), services(services), routines(routines) {}
 
     void FavoritenListeGlobal_Click();
     void FavoritenListeGlobal_DblClick();
@@ -42,13 +47,10 @@ class GlobalEvents {
     void FavoritenListeGlobal_KeyPress(forms::Character& character);
     void AddToFavorit_Global_Click();
 
-    // While the choice of emulators is open, the favourites are the global ones. False: it is not,
-    // and the emulator's own are to be shown.
-    bool ShowGlobalFavourites();
-    // Closes the choice and puts the global list away, if it is on show.
-    void LeaveGlobalFavourites();
+    bool ShowGlobalFavourites() override;
+    void LeaveGlobalFavourites() override;
 
-    Hooks hooks;
+    Ports ports;
 
  private:
     int RowOfEmulator(const std::string& name) const;
@@ -61,6 +63,7 @@ class GlobalEvents {
     GlobalFavoriten& store;
     core::BusyState& busy;
     Services services;
+    Routines routines;
 };
 
 }  // namespace kivu::favourites

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "core/form1.h"
 #include "core/stored_names.h"
 
 namespace kivu::favourites {

@@ -4,10 +4,13 @@
 #include <string>
 #include <vector>
 
-#include "core/form1.h"
 #include "favourites/stored_texts.h"
 #include "platform/file_system.h"
 #include "profile/ini.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::favourites {
 

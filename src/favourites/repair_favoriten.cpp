@@ -1,5 +1,7 @@
 #include "favourites/repair_favoriten.h"
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "text/paths.h"
 
 namespace kivu::favourites {

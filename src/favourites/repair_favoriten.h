@@ -3,11 +3,14 @@
 #include <string>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "favourites/favoriten.h"
 #include "favourites/store_in_memory.h"
 #include "library/game_index.h"
 #include "platform/dialogs.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::favourites {
 

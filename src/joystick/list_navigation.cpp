@@ -2,6 +2,9 @@
 
 #include <array>
 
+#include "core/form1.h"
+#include "core/raised.h"
+
 namespace kivu::joystick {
 
 namespace keys = forms::keys;
@@ -47,20 +50,20 @@ void ListNavigation::Turn(int focus, bool right) {
 
 void ListNavigation::GoTo(int focus) {
     // Behind a start that ended in a box they stand alone in front, and would cover the list.
-    hooks.LeaveGlobalFavourites();
+    globalFavourites.LeaveGlobalFavourites();
     switch (focus) {
         case 1:
             form.FavouritesListBusy = false;
-            hooks.FavoritenListe_GotFocus();
+            front.FavoritenListe_GotFocus();
             break;
         case 2:
-            hooks.WIthoutDoubles_GotFocus();
+            front.WIthoutDoubles_GotFocus();
             break;
         case 3:
-            hooks.UAE_Short_GotFocus();
+            front.UAE_Short_GotFocus();
             break;
         case 4:
-            hooks.SuchErgList_GotFocus();
+            front.SuchErgList_GotFocus();
             break;
         default:
             break;
@@ -79,7 +82,7 @@ void ListNavigation::MoveEmulator(int step) {
             form.EmuListbox.SetText(form.EmuListbox.SelectedText());
             form.EmuListbox.SetFocus();
         } else {
-            hooks.EmuListbox_GotFocus();
+            choice.EmuListbox_GotFocus();
         }
     }
     form.JoystickFocus = 5;

@@ -1,7 +1,11 @@
 #pragma once
 
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
+#include "forms/list_control.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::joystick {
 
@@ -9,21 +13,12 @@ namespace kivu::joystick {
 // four game lists; up and down move the row.
 class ListNavigation {
  public:
-    struct Hooks {
-        core::Hook<void()> LeaveGlobalFavourites;
-        core::Hook<void()> FavoritenListe_GotFocus;
-        core::Hook<void()> WIthoutDoubles_GotFocus;
-        core::Hook<void()> UAE_Short_GotFocus;
-        core::Hook<void()> SuchErgList_GotFocus;
-        core::Hook<void()> EmuListbox_GotFocus;
-    };
-
-    explicit ListNavigation(core::Form1& form) : form(form) {}
+    ListNavigation(core::Form1& form, core::ListFront& front, core::EmulatorChoice& choice,
+                   core::GlobalFavourites& globalFavourites)
+        : form(form), front(front), choice(choice), globalFavourites(globalFavourites) {}
 
     // 37 left, 38 up, 39 right, 40 down.
     void JoystickDirection(int KeyValue);
-
-    Hooks hooks;
 
  private:
     void MoveRow(forms::ListBox& list, int step);
@@ -32,6 +27,9 @@ class ListNavigation {
     void MoveEmulator(int step);
 
     core::Form1& form;
+    core::ListFront& front;
+    core::EmulatorChoice& choice;
+    core::GlobalFavourites& globalFavourites;
 };
 
 }  // namespace kivu::joystick

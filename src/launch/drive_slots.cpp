@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
 #include "library/short_names.h"
 #include "text/paths.h"
 
@@ -46,7 +47,7 @@ void DriveSlots::FillFromFile() {
     } else {
         FillByHand();
     }
-    hooks.OfferFavouriteButtons();
+    form.OfferFavourites();
     if (!smart) return;
     form.DiskSlots[0] = form.UAE_FULL.SelectedText();
     SelectSimilarDisks(form.UAE_Short.ListIndex(), 4, reachForward, 5);

@@ -1,20 +1,20 @@
 #pragma once
 
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
+#include "forms/types.h"
 #include "platform/beeper.h"
 #include "profile/ini.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::launch {
 
 // Which disks lie in the five drives. DiskSlots is what a launch goes by; the panel's boxes show
 // it, and are nothing but a display.
-class DriveSlots {
+class DriveSlots : public core::Drives {
  public:
-    struct Hooks {
-        core::Hook<void()> OfferFavouriteButtons;
-    };
-
     DriveSlots(core::Form1& form, profile::Ini& ini, platform::Beeper& beeper)
         : form(form), ini(ini), beeper(beeper) {}
 
@@ -22,24 +22,19 @@ class DriveSlots {
     // places from that of UAE_FULL's row: in list order, from `RowsBack` rows before `FromRow` to
     // 14 behind UAE_Short's row. `RowsForward` has no effect. Drives that no disk is found for keep
     // theirs.
-    void SelectSimilarDisks(int FromRow, int RowsBack, int RowsForward, int Limit);
+    void SelectSimilarDisks(int FromRow, int RowsBack, int RowsForward, int Limit) override;
 
     // The user's click in UAE_Short, once UAE_FULL's row has followed it: one disk and those like
     // it, or with hand selection the rows that the user has chosen.
-    void FillFromFile();
-    // A click in WIthoutDoubles. `row`: the game's row in UAE_Short, -1 for none.
-    void FillFromGame(int row);
-    // What the boxes show for a game found from a wide WIthoutDoubles.
-    void ShowOneDisk();
+    void FillFromFile() override;
+    void FillFromGame(int row) override;
+    void ShowOneDisk() override;
 
     // A box cannot be ticked for an empty drive, neither by the mouse nor by a key.
     void Check_Dfx_MouseUp(int Index);
     void Check_Dfx_KeyPress(int Index, forms::Character& character);
 
-    // Disks are chosen row by row by the user.
-    bool SelectsByHand() const;
-
-    Hooks hooks;
+    bool SelectsByHand() const override;
 
  private:
     int SmartRomSelection();

@@ -1,5 +1,7 @@
 #include "launch/emulator_setup.h"
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "launch/emulator_program.h"
 #include "launch/wait.h"
 #include "support/path_forms.h"
@@ -52,9 +54,9 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
     request.style = platform::WindowStyle::Normal;
     request.watched = true;
     (void)services.starter.Run(request);
-    hooks.SetCurrentRunninApplication(file);
+    form.CurrentRunninApplication = file;
     WAIT(1, services.clock, pacer);
-    hooks.EmuActiveTimer_Timer();
+    watch.EmuActiveTimer_Timer();
     form.EmuActiveTimer.SetEnabled(true);
 }
 

@@ -3,8 +3,7 @@
 #include <string>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
 #include "platform/clock.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
@@ -12,16 +11,15 @@
 #include "platform/program_starter.h"
 #include "profile/ini.h"
 
+namespace kivu::core {
+struct Form1;
+}
+
 namespace kivu::launch {
 
 // Opens an emulator alone, without a game, to set it up.
 class EmulatorSetup {
  public:
-    struct Hooks {
-        core::Hook<void(const std::string&)> SetCurrentRunninApplication;
-        core::Hook<void()> EmuActiveTimer_Timer;
-    };
-
     struct Services {
         platform::FileSystem& files;
         platform::ProgramStarter& starter;
@@ -30,12 +28,11 @@ class EmulatorSetup {
         platform::Log& log;
     };
 
-    EmulatorSetup(core::Form1& form, profile::Ini& ini, core::EventPacer& pacer, Services services)
-        : form(form), ini(ini), pacer(pacer), services(services) {}
+    EmulatorSetup(core::Form1& form, profile::Ini& ini, core::EventPacer& pacer, Services services,
+                  core::RunningEmulator& watch)
+        : form(form), ini(ini), pacer(pacer), services(services), watch(watch) {}
 
     void StartEmulator(const std::string& EName, bool ConfirmationMessagebox);
-
-    Hooks hooks;
 
  private:
     std::string EmulatorOf(const std::string& name) const;
@@ -45,6 +42,7 @@ class EmulatorSetup {
     profile::Ini& ini;
     core::EventPacer& pacer;
     Services services;
+    core::RunningEmulator& watch;
     bool starting = false;
 };
 

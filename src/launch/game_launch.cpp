@@ -1,7 +1,10 @@
 #include "launch/game_launch.h"
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
+#include "core/raised.h"
 #include "launch/emulator_program.h"
+#include "launch/uae_files.h"
 #include "launch/wait.h"
 #include "library/find_game.h"
 #include "library/short_names.h"
@@ -18,7 +21,8 @@ namespace keys = profile::keys;
 
 void GameLaunch::LaunchBtn_Click() {
     const std::string path = form.UAE_FULL.List(form.UAE_Short.ListIndex());
-    hooks.SetToNormal();
+    // An emulator's window must not come up behind the launcher's.
+    routines.alwaysOnTop.SetToNormal();
     form.EmuListbox.SetVisible(false);
     StartGame(path);
     form.EmuListbox.SetVisible(true);
@@ -38,7 +42,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     BuildParameters(run);
     library::FindGameInFullList(form, busy, pacer, run.path);
     if (!GameExists(run)) return ReturnToLists(focus);
-    if (run.useMasterConfig) hooks.WriteStartConfiguration(run.windowsPaths);
+    if (run.useMasterConfig) routines.uaeFiles.WriteStartConfiguration(run.windowsPaths);
     if (!WriteStartFile(run)) return ReturnToLists(focus);
     busy.MeCaption("Spiel Läuft");
     pacer.DoEvents();
@@ -59,9 +63,9 @@ void GameLaunch::StartGame(const std::string& GamePath) {
 void GameLaunch::ReturnToLists(forms::Control* focus) {
     // Of another game that runs the window goes on telling.
     if (form.EmulatorRuns()) return;
-    hooks.LeaveChoice();
+    routines.choice.LeaveChoice();
     busy.HideAll(true);
-    hooks.RefreshList();
+    routines.front.RefreshList();
     if (focus) focus->SetFocus();
     if (form.Focus()) return;
     for (forms::ListBox* list :
@@ -77,7 +81,7 @@ void GameLaunch::Prepare(Run& run) {
     run.argument = text::QuoteIfNeeded(run.useQuote >= 1 ? support::LongFileName(files, run.path)
                                                          : support::ShortFileName(files, run.path));
     form.TmpBatName = text::RemoveQuotes(form.TmpBatName);
-    hooks.SetToNormal();
+    routines.alwaysOnTop.SetToNormal();
     busy.HideAll(false);
     // The one tab that the busy state leaves; it would stand there alone.
     form.Label4.SetVisible(false);
@@ -86,7 +90,7 @@ void GameLaunch::Prepare(Run& run) {
     std::string entry = run.argument;
     Add_CURRENT_PROGRAM_STARTED(entry);
     form.LoadingBtn.SetCaption(run.argument + "...");
-    hooks.SetWindowBackToNormal();
+    routines.alwaysOnTop.SetWindowBackToNormal();
     std::string title = text::GetFileNameOnly(run.path);
     const std::size_t length = text::CodePointCount(title);
     if (length > 4) title.resize(text::CodePointOffset(title, length - 4));
@@ -314,6 +318,10 @@ std::string GameLaunch::Add_CURRENT_PROGRAM_STARTED(std::string& name) {
     if (!first) form.CURRENT_PROGRAM_STARTED += '\r';
     form.CURRENT_PROGRAM_STARTED += name;
     return {};
+}
+
+const std::string& GameLaunch::Get_CURRENT_PROGRAM_STARTED() const {
+    return form.CURRENT_PROGRAM_STARTED;
 }
 
 std::string GameLaunch::FindStartFile(const std::string& path) {

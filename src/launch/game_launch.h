@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "launch/start_parameters.h"
 #include "platform/beeper.h"
 #include "platform/clock.h"
@@ -14,24 +14,28 @@
 #include "platform/log.h"
 #include "platform/program_starter.h"
 #include "profile/ini.h"
+#include "support/always_on_top.h"
+
+namespace kivu::forms {
+class Control;
+}
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::launch {
 
+class UaeFiles;
+
 // From a chosen game to a running emulator: parameters, start file, start. Nothing waits for the
 // emulator; from then on the watch knows about it by its name.
-class GameLaunch {
+class GameLaunch : public core::Launching {
  public:
     struct Hooks {
-        core::Hook<void()> SetToNormal;            // the window is no longer kept on top
-        core::Hook<void()> SetWindowBackToNormal;  // nor is it to be
-        // `windowsPaths`: the emulator takes Z:\ paths.
-        core::Hook<void(bool windowsPaths)> WriteStartConfiguration;
-        core::Hook<void()> ShowLoadingInfo;
-        core::Hook<void(const std::string&)> MountGameImage;
-        core::Hook<void()> RunStartScript;
-        core::Hook<void(bool)> JoystickEnable;
-        core::Hook<void()> LeaveChoice;  // of an emulator, whose row has not been loaded
-        core::Hook<void()> RefreshList;  // the list in front, the tabs and their counts
+        core::Hook<void()> ShowLoadingInfo{"GameLaunch.ShowLoadingInfo"};
+        core::Hook<void(const std::string&)> MountGameImage{"GameLaunch.MountGameImage"};
+        core::Hook<void()> RunStartScript{"GameLaunch.RunStartScript"};
+        core::Hook<void(bool)> JoystickEnable{"GameLaunch.JoystickEnable"};
     };
 
     struct Services {
@@ -43,18 +47,25 @@ class GameLaunch {
         platform::Log& log;
     };
 
+    struct Routines {
+        core::EmulatorChoice& choice;
+        core::ListFront& front;
+        support::AlwaysOnTop& alwaysOnTop;
+        UaeFiles& uaeFiles;
+    };
+
     GameLaunch(core::Form1& form, profile::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
-               Services services)
-        : form(form), ini(ini), busy(busy), pacer(pacer), services(services) {}
+               Services services, Routines routines)
+        : form(form), ini(ini), busy(busy), pacer(pacer), services(services), routines(routines) {}
 
     // The row of UAE_FULL at the selected row of UAE_Short.
-    void LaunchBtn_Click();
-    void StartGame(const std::string& GamePath);
+    void LaunchBtn_Click() override;
+    void StartGame(const std::string& GamePath) override;
 
     void SetCurrentRunninApplication(const std::string& NewAppPAth);
     // Appends one entry; the name becomes the short one that stands in the list.
     std::string Add_CURRENT_PROGRAM_STARTED(std::string& name);
-    const std::string& Get_CURRENT_PROGRAM_STARTED() const { return form.CURRENT_PROGRAM_STARTED; }
+    const std::string& Get_CURRENT_PROGRAM_STARTED() const;
     std::string FindStartFile(const std::string& path);
 
     Hooks hooks;
@@ -82,7 +93,6 @@ class GameLaunch {
     void LogRun(const Run& run) const;
     void LogRefusal(const Run& run) const;
     bool WriteStartFile(Run& run);
-    std::string BatchDirectory(const Run& run, bool& safe) const;
     bool WriteShellStartFile(Run& run, const std::string& directory);
     std::vector<std::string> HostWords(Run& run, bool& safe);
     std::string CompanionName() const;
@@ -98,6 +108,7 @@ class GameLaunch {
     core::BusyState& busy;
     core::EventPacer& pacer;
     Services services;
+    Routines routines;
     bool launching = false;
 };
 

@@ -1,5 +1,7 @@
 #include "launch/handed_file.h"
 
+#include "core/form1.h"
+#include "core/shut_down.h"
 #include "text/paths.h"
 
 namespace kivu::launch {
@@ -23,21 +25,29 @@ std::string FileToHandOver(const std::string& commandLine, const platform::FileS
     return directory + path;
 }
 
+bool HandedFile::HandOver() {
+    const std::string file = FileToHandOver(commandLine, services.files);
+    if (!services.instance.HandOver(form.Caption(), file)) return false;
+    routines.shutDown.EndProgram();
+    return true;
+}
+
 void HandedFile::StartHandedFile(const std::string& path) {
     if (!IsAbsolute(path) || path.find('?') != std::string::npos) {
-        log.Write("refused, handed over: " + path);
+        services.log.Write("refused, handed over: " + path);
         return;
     }
     if (!IsFree()) {
-        log.Write("not started, no time for it, handed over: " + path);
-        beeper.Beep();
+        services.log.Write("not started, no time for it, handed over: " + path);
+        services.beeper.Beep();
         return;
     }
-    log.Write("handed over: " + path);
-    hooks.LeaveEmulatorBox();
-    hooks.SetToNormal();
+    services.log.Write("handed over: " + path);
+    // The loaded emulator starts it, whatever row of the choice has been looked at.
+    routines.choice.LeaveChoice();
+    routines.alwaysOnTop.SetToNormal();
     form.EmuListbox.SetVisible(false);
-    hooks.StartGame(path);
+    routines.launching.StartGame(path);
     form.EmuListbox.SetVisible(true);
 }
 

@@ -1,12 +1,20 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "platform/beeper.h"
 #include "platform/file_system.h"
+#include "platform/instance.h"
 #include "platform/log.h"
+#include "support/always_on_top.h"
+
+namespace kivu::core {
+struct Form1;
+class ShutDown;
+}  // namespace kivu::core
 
 namespace kivu::launch {
 
@@ -14,18 +22,32 @@ namespace kivu::launch {
 // the current directory. Empty where there is none to start (a text with "?" asks for help).
 std::string FileToHandOver(const std::string& commandLine, const platform::FileSystem& files);
 
-// Starts a file that a later instance of the launcher has handed over. The launcher stays open.
+// Hands the command line's file over to an earlier instance of the launcher, and starts one that a
+// later instance has handed over. The launcher stays open.
 class HandedFile {
  public:
     struct Hooks {
-        core::Hook<void()> LeaveEmulatorBox;
-        core::Hook<void()> SetToNormal;
-        core::Hook<void(const std::string&)> StartGame;
-        core::Hook<bool()> BoxIsOpen;
+        core::Hook<bool()> BoxIsOpen{"HandedFile.BoxIsOpen"};
+    };
+    struct Services {
+        const platform::FileSystem& files;
+        platform::Beeper& beeper;
+        platform::Instance& instance;
+        platform::Log& log;
+    };
+    struct Routines {
+        core::EmulatorChoice& choice;
+        core::Launching& launching;
+        core::ShutDown& shutDown;
+        support::AlwaysOnTop& alwaysOnTop;
     };
 
-    HandedFile(core::Form1& form, platform::Beeper& beeper, platform::Log& log)
-        : form(form), beeper(beeper), log(log) {}
+    HandedFile(core::Form1& form, Services services, Routines routines, std::string commandLine)
+        : form(form), services(services), routines(routines), commandLine(std::move(commandLine)) {}
+
+    // True: an earlier instance runs. It comes to the front and has been handed the file of this
+    // one's command line; this one has ended.
+    bool HandOver();
 
     // With the emulator that is loaded, as its own command line would. A beep and nothing else
     // while none is loaded, a game runs, a box is open or the launcher is busy. The text comes from
@@ -38,8 +60,9 @@ class HandedFile {
     bool IsFree() const;
 
     core::Form1& form;
-    platform::Beeper& beeper;
-    platform::Log& log;
+    Services services;
+    Routines routines;
+    std::string commandLine;
 };
 
 }  // namespace kivu::launch

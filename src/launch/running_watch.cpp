@@ -1,12 +1,18 @@
 #include "launch/running_watch.h"
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
+#include "core/raised.h"
 #include "text/paths.h"
 #include "text/stored_paths.h"
 
 namespace kivu::launch {
 
 namespace keys = profile::keys;
+
+void RunningWatch::Tick() {
+    if (!form.Busy) EmuActiveTimer_Timer();
+}
 
 void RunningWatch::EmuActiveTimer_Timer() {
     if (looking) return;
@@ -60,29 +66,29 @@ void RunningWatch::EndOfGame() {
     form.EmuListbox.SetVisible(false);
     events.DoEvents();
     form.EmuListbox.SetVisible(visible);
-    hooks.CloseChoice();
-    hooks.WIthoutDoubles_GotFocus();
+    routines.choice.CloseChoice();
+    routines.front.WIthoutDoubles_GotFocus();
     form.EmuActiveTimer.SetEnabled(false);
     form.EmuListbox.SetVisible(true);
     form.GameIsRunning = false;
     form.AppRunningPicture.SetVisible(false);
     form.MyCaptionLabel.SetVisible(false);
     busy.HideAll(true);
-    hooks.RefreshList();
+    routines.front.RefreshList();
     if (ini.Read(keys::UseJoystick, core::ProfilesOf(form)) >= 1) hooks.JoystickEnable(true);
     // In place of what ran, and of the count of joysticks.
     form.MyCaptionLabel.SetCaption(form.Caption());
-    hooks.SetToTop();
+    routines.alwaysOnTop.SetToTop();
 }
 
 void RunningWatch::AppRunningPicture_Click() {
     EndEmulator();
     // An emulator that was to be set up has been started out of the choice.
-    hooks.CloseChoice();
+    routines.choice.CloseChoice();
     if (form.FavoritenListe.ListCount() > 0) {
-        hooks.Label1_Click();
+        routines.front.Label1_Click();
     } else {
-        hooks.Label2_Click();
+        routines.front.Label2_Click();
     }
 }
 
@@ -100,7 +106,7 @@ void RunningWatch::EndEmulator() {
     form.AppRunningPicture.SetVisible(false);
     form.AppRunningPicture.SetEnabled(true);
     form.JoystickFocus = form.FavoritenListe.ListCount() > 0 ? 1 : 2;
-    hooks.RefreshList();
+    routines.front.RefreshList();
 }
 
 void RunningWatch::Kill(std::int32_t id, const std::string& name) {

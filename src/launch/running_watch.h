@@ -4,50 +4,56 @@
 #include <string>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
 #include "launch/prozess.h"
 #include "platform/dialogs.h"
 #include "platform/event_pump.h"
 #include "platform/log.h"
 #include "profile/ini.h"
+#include "support/always_on_top.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::launch {
 
 // Looks for the started emulator once a second, shows that it runs, ends it on request, and brings
 // the list back when it has gone. The launcher holds no handle to it: its name is all there is.
-class RunningWatch {
+class RunningWatch : public core::RunningEmulator {
  public:
     struct Hooks {
-        core::Hook<void()> CloseChoice;
-        core::Hook<void()> WIthoutDoubles_GotFocus;
-        core::Hook<void()> RefreshList;
-        core::Hook<void()> Label1_Click;
-        core::Hook<void()> Label2_Click;
-        core::Hook<void(bool)> JoystickEnable;
-        core::Hook<void()> SetToTop;
-        core::Hook<void()> RestoreDisplayMode;
+        core::Hook<void(bool)> JoystickEnable{"RunningWatch.JoystickEnable"};
+        core::Hook<void()> RestoreDisplayMode{"RunningWatch.RestoreDisplayMode"};
+    };
+    struct Routines {
+        core::EmulatorChoice& choice;
+        core::ListFront& front;
+        support::AlwaysOnTop& alwaysOnTop;
     };
 
     RunningWatch(core::Form1& form, profile::Ini& ini, Prozess& processes, core::BusyState& busy,
-                 platform::EventPump& events, platform::Dialogs& dialogs, platform::Log& log)
+                 platform::EventPump& events, platform::Dialogs& dialogs, platform::Log& log,
+                 Routines routines)
         : form(form),
           ini(ini),
           processes(processes),
           busy(busy),
           events(events),
           dialogs(dialogs),
-          log(log) {}
+          log(log),
+          routines(routines) {}
 
-    void EmuActiveTimer_Timer();
-    // The user ends the emulator.
-    void AppRunningPicture_Click();
+    // The timer's tick: a look, unless a switch, a rescan or a launch is under way. The end of a
+    // game would bring lists back that it is filling.
+    void Tick();
+    void EmuActiveTimer_Timer() override;
+    void AppRunningPicture_Click() override;
     void LoadingBtn_Click();
     void LoadingBtn_Change();
-    // A list that another routine has brought up meanwhile goes again, while an emulator runs.
-    void HideListsOfRunning();
-    // The one look that a change of emulator takes; nothing to do until something has been started.
-    void WatchOnce();
+    void HideListsOfRunning() override;
+    void WatchOnce() override;
 
     Hooks hooks;
 
@@ -65,6 +71,7 @@ class RunningWatch {
     platform::EventPump& events;
     platform::Dialogs& dialogs;
     platform::Log& log;
+    Routines routines;
     std::string seenRunning;  // what has come up, until it has gone
     bool looking = false;
 };

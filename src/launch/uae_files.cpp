@@ -1,5 +1,6 @@
 #include "launch/uae_files.h"
 
+#include "core/form1.h"
 #include "launch/uae_configuration.h"
 #include "support/path_forms.h"
 #include "text/command_line.h"

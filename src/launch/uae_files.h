@@ -2,10 +2,13 @@
 
 #include <string>
 
-#include "core/form1.h"
 #include "core/hook.h"
 #include "platform/file_system.h"
 #include "platform/log.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::launch {
 
@@ -16,7 +19,8 @@ class UaeFiles {
  public:
     struct Hooks {
         // One more entry of what has been started; the name may come back shortened.
-        core::Hook<void(std::string&)> Add_CURRENT_PROGRAM_STARTED;
+        core::Hook<void(std::string&)> Add_CURRENT_PROGRAM_STARTED{
+            "UaeFiles.Add_CURRENT_PROGRAM_STARTED"};
     };
 
     UaeFiles(core::Form1& form, platform::FileSystem& files, platform::Log& log)

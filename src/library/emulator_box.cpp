@@ -1,5 +1,7 @@
 #include "library/emulator_box.h"
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "library/list_search.h"
 #include "text/paths.h"
 #include "text/text.h"
@@ -7,6 +9,7 @@
 namespace kivu::library {
 
 namespace keys = forms::keys;
+using core::Front;
 
 void EmulatorBox::FillEmulatorLists() {
     const auto entries = files.ListDirectory(form.ConfigPath);
@@ -18,6 +21,14 @@ void EmulatorBox::FillEmulatorLists() {
     }
 }
 
+void EmulatorBox::WritePrompt() {
+    if (form.EmuListbox.ListCount() == 0) {
+        form.EmuListbox.SetText("No Emulator found");
+    } else {
+        form.EmuListbox.SetText(form.Say("Emulator auswählen:", "Select Emulator:"));
+    }
+}
+
 void EmulatorBox::ShowEmulatorBox(bool Show) {
     if (showing) return;
     const core::Raised once(showing);
@@ -26,13 +37,13 @@ void EmulatorBox::ShowEmulatorBox(bool Show) {
     } else {
         Close();
     }
-    form.ListMode = "5";
+    form.SetMode(Front::choice);
 }
 
 void EmulatorBox::Close() {
-    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    form.EmuListbox.SetWidth(form.EmuListboxWidth());
     form.EmuListLocked = true;
-    hooks.SetVorschau();
+    ports.layout->SetVorschau();
     if (form.EmuListbox.ListIndex() != form.EmuBoxIndexSaved)
         form.EmuListbox.SetListIndex(form.EmuBoxIndexSaved);
     form.EmuListLocked = false;
@@ -41,7 +52,7 @@ void EmulatorBox::Close() {
     if (form.EmuListbox.ListIndex() >= 0) {
         form.EmuListbox.SetText(form.EmuListbox.SelectedText());
     } else {
-        hooks.WritePrompt();
+        WritePrompt();
     }
     busy.HideAll(false);
     form.EmulatorLongListbox.SetVisible(false);
@@ -62,7 +73,7 @@ void EmulatorBox::Open() {
     // Opened once more, the drop-down stands on whatever row has been looked at meanwhile.
     if (!choiceOpen) form.EmuBoxIndexSaved = form.EmuListbox.ListIndex();
     form.EmuListLocked = false;
-    form.ListMode = "5";
+    form.SetMode(Front::choice);
     PutChoiceInFront();
     hooks.ShowEmulatorPreview(form.EmulatorLongListbox.ListIndex());
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
@@ -91,7 +102,7 @@ void EmulatorBox::ShowMissingName() {
 // Only the favourites' tab goes with it, at the right edge.
 void EmulatorBox::PutChoiceInFront() {
     form.EmuListbox.SetWidth(form.EmulatorLongListbox.Width());
-    hooks.ArrangeTabs();
+    ports.layout->ArrangeTabs();
     form.Label1.SetVisible(true);
     form.Label1.SetLeft(form.Width() - form.Label1.Width() - 400);
     // The tab stands on the corner's picture now.
@@ -107,32 +118,47 @@ void EmulatorBox::LeaveEmulatorBox() {
     busy.HideAll(false);
     CloseChoice();
     const bool favourites = form.FavoritenListe.ListCount() > 0;
-    form.ListMode = favourites ? "1" : "2";
+    form.SetMode(favourites ? Front::favourites : Front::simple);
     busy.HideAll(true);
-    hooks.RebuildLayout();
+    ports.front->RefreshList();
     // The focus goes on to the list in front: a drop-down that kept it could not be opened again.
     if (favourites) {
-        hooks.Label1_Click();
+        ports.front->Label1_Click();
     } else {
-        hooks.Label2_Click();
+        ports.front->Label2_Click();
     }
-    hooks.HideListsOfRunning();
+    ports.watch->HideListsOfRunning();
+}
+
+void EmulatorBox::LeaveOpenChoice() {
+    if (choiceOpen) LeaveEmulatorBox();
+}
+
+void EmulatorBox::LeaveChoice() {
+    if (choiceOpen) {
+        LeaveEmulatorBox();
+        return;
+    }
+    // A row that is chosen there counts as a click, which opens the choice.
+    const std::string mode = form.ListMode;
+    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
+    form.ListMode = mode;
 }
 
 void EmulatorBox::EmuListbox_Click() {
     form.EmulatorLongListbox.SetListIndex(form.EmuListbox.ListIndex());
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
-    form.ListMode = "5";
+    form.SetMode(Front::choice);
 }
 
 void EmulatorBox::EmuListbox_DblClick() {
-    hooks.SelectEmulator(false);
+    emulators.SelectEmulator(false);
 }
 
 void EmulatorBox::EmuListbox_GotFocus() {
     if (takingFocus || !form.EmuListbox.Visible()) return;
     const core::Raised once(takingFocus);
-    form.ListMode = "5";
+    form.SetMode(Front::choice);
     busy.HideAll(false);
     ShowEmulatorBox(true);
 }
@@ -159,7 +185,7 @@ void EmulatorBox::EmuListbox_KeyDown(forms::Key& key) {
 
 void EmulatorBox::EmuListbox_KeyPress(forms::Character& character) {
     if (character.code == keys::enter || character.code == keys::space) {
-        hooks.SelectEmulator(false);
+        emulators.SelectEmulator(false);
         return;
     }
     if (!BeginsSearch(character)) return;
@@ -177,7 +203,7 @@ void EmulatorBox::StartSearchWith(char32_t letter) {
 }
 
 void EmulatorBox::EmulatorLongListbox_Click() {
-    form.ListMode = "10";
+    form.SetMode(Front::longList);
     form.Current_ProgramNameFull.SetVisible(true);
     if (form.EmulatorLongListbox.ListIndex() != form.EmuListbox.ListIndex()) {
         form.EmuListLocked = true;
@@ -203,12 +229,12 @@ void EmulatorBox::ShowNameOfRow() {
 }
 
 void EmulatorBox::EmulatorLongListbox_GotFocus() {
-    form.ListMode = "10";
+    form.SetMode(Front::longList);
     if (!choiceOpen) return;
     // A search or the favourites of all emulators may have been over it.
     form.FavoritenListeGlobal.SetVisible(false);
     form.DeLFav.SetVisible(false);
-    hooks.RebuildLayout();
+    ports.front->RefreshList();
     PutChoiceInFront();
     ShowMissingName();
 }

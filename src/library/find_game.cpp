@@ -1,5 +1,6 @@
 #include "library/find_game.h"
 
+#include "core/form1.h"
 #include "text/paths.h"
 
 namespace kivu::library {

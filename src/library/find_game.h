@@ -5,7 +5,10 @@
 #include <string_view>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::library {
 

@@ -1,5 +1,6 @@
 #include "library/game_index.h"
 
+#include "core/form1.h"
 #include "library/find_game.h"
 #include "library/first_rows.h"
 #include "text/paths.h"

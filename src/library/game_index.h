@@ -6,7 +6,10 @@
 #include <vector>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::library {
 

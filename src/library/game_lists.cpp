@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
+#include "core/raised.h"
+#include "library/file_scan_recursive.h"
 #include "library/find_list_item.h"
 #include "library/list_cache.h"
 #include "library/short_names.h"
@@ -134,7 +137,7 @@ void GameLists::LoadBtn_Click() {
     // With no emulator loaded there is no directory to look into but the program's own.
     if (form.Busy || form.CurrentEmuIndex < 0) return;
     const core::Raised working(form.Busy);
-    hooks.LeaveChoice();
+    emulators.choice.LeaveChoice();
     const std::string noted = form.Caption();
     const std::string sign = form.LoadingBtn.Caption(), titleLine = form.MyCaptionLabel.Caption();
     form.LoadBtn.SetEnabled(false);
@@ -164,22 +167,28 @@ void GameLists::LoadBtn_Click() {
     // The window goes on telling about the emulator that runs.
     form.LoadingBtn.SetCaption(sign);
     form.MyCaptionLabel.SetCaption(titleLine);
-    hooks.HideListsOfRunning();
+    ports.watch->HideListsOfRunning();
+}
+
+void GameLists::RescanByButton() {
+    LoadBtn_Click();
+    // The button was off meanwhile and has lost the focus; the fresh list takes it.
+    if (!form.Focus()) form.UAE_Short.SetFocus();
 }
 
 void GameLists::ShowRescannedList() {
     form.UAE_Short.SetVisible(true);
     form.LoadingBtn.SetCaption("Loading...");
-    hooks.EmuListbox_Click();
-    hooks.RefreshList();
+    emulators.choice.EmuListbox_Click();
+    ports.front->RefreshList();
     UpdateListCaptions();
     ini.Write(profile::keys::RomCount, core::ProfilesOf(form),
               std::to_string(form.UAE_FULL.ListCount()));
     busy.HideAll(true);
     // The list in front is the complete one: in the mode of an open emulator list, Escape would not
     // ask to quit and the next resize would open that list.
-    form.ListMode = "3";
-    hooks.RefreshList();
+    form.SetMode(core::Front::complete);
+    ports.front->RefreshList();
     form.EmuListbox.SetVisible(true);
     form.LoadBtn.SetEnabled(true);
 }
@@ -341,13 +350,13 @@ void GameLists::ReloadEmulatorsAll() {
             form.ListMode = mode;
             continue;
         }
-        hooks.SelectEmulator(true);
+        emulators.switching.SelectEmulator(true);
         if (form.Ended) return;
         LoadBtn_Click();
         pacer.DoEvents();
     }
     // The reserved name may have been the last row.
-    hooks.LeaveChoice();
+    emulators.choice.LeaveChoice();
     form.SetCaption(noted);
 }
 

@@ -7,46 +7,60 @@
 #include <vector>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
-#include "library/file_scan_recursive.h"
+#include "core/ports.h"
 #include "library/list_cache.h"
 #include "platform/file_system.h"
 #include "profile/ini.h"
 
+namespace kivu::core {
+struct Form1;
+}
+
 namespace kivu::library {
 
+class FileScanRecursive;
+
 // The three lists of the current emulator's games, their cache and their rescan.
-class GameLists {
+class GameLists : public core::LoadedGames {
  public:
-    struct Hooks {
-        core::Hook<void()> EmuListbox_Click;
-        core::Hook<void()> RefreshList;  // the list in front, the tabs and their counts
-        core::Hook<void()> LeaveChoice;  // of an emulator, whose row has not been loaded
-        core::Hook<void()> HideListsOfRunning;
-        core::Hook<void(bool)> SelectEmulator;
+    struct Ports {
+        core::Port<core::ListFront> front{"GameLists.front"};
+        core::Port<core::RunningEmulator> watch{"GameLists.watch"};
+    };
+    struct Emulators {
+        core::EmulatorChoice& choice;
+        core::EmulatorSwitching& switching;
     };
 
     GameLists(core::Form1& form, profile::Ini& ini, platform::FileSystem& files,
-              core::BusyState& busy, core::EventPacer& pacer, FileScanRecursive& scanner)
-        : form(form), ini(ini), files(files), busy(busy), pacer(pacer), scanner(scanner) {}
+              core::BusyState& busy, core::EventPacer& pacer, FileScanRecursive& scanner,
+              Emulators emulators)
+        : form(form),
+          ini(ini),
+          files(files),
+          busy(busy),
+          pacer(pacer),
+          scanner(scanner),
+          emulators(emulators) {}
 
     // Fills the lists from the cache. A cache that exists is used, whatever has become of its
     // files.
-    void LoadCacheList();
+    void LoadCacheList() override;
     // Full rescan of the current emulator's directory.
     void LoadBtn_Click();
-    // Row counts into the tabs.
-    void UpdateListCaptions();
+    // By the button itself, which takes the focus.
+    void RescanByButton();
+    void UpdateListCaptions() override;
     // Fills WIthoutDoubles: runs of equal display names become one row.
-    void BuildDoublesList();
+    void BuildDoublesList() override;
     // Display names by the user's own rules. A missing file or an empty separator changes nothing.
     void ApplyAliasList(const std::string& IniFile, const std::string& TRENNZ);
     // Appends the current cache to the collected list, which nobody ever reads.
-    void AddToALL_LIST();
+    void AddToALL_LIST() override;
     void ReloadEmulatorsAll();
 
-    Hooks hooks;
+    Ports ports;
 
  private:
     void FillFromCache(std::string bytes);
@@ -71,6 +85,7 @@ class GameLists {
     core::BusyState& busy;
     core::EventPacer& pacer;
     FileScanRecursive& scanner;
+    Emulators emulators;
 
     // What the rows of UAE_Short are made of, while they are those of the cache.
     std::weak_ptr<const LoadedCache> loaded;

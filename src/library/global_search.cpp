@@ -4,6 +4,8 @@
 #include <deque>
 #include <utility>
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "library/list_search.h"
 #include "library/search_colors.h"
 #include "text/string_ops.h"
@@ -42,6 +44,11 @@ std::string GlobalSearchRow(std::string_view emulator, std::string_view name) {
 }
 
 void AllEmulatorsSearch::SearchAllBtn_Click() {
+    SearchForBox();
+    hooks.RefreshHints();
+}
+
+void AllEmulatorsSearch::SearchForBox() {
     if (form.Busy) return;
     const core::Raised working(form.Busy);
     const bool fromBox = form.SearchDblsTxt.HasFocus();
@@ -75,16 +82,16 @@ void AllEmulatorsSearch::SearchAllBtn_Click() {
 
 void AllEmulatorsSearch::ArrangeForSearch() {
     // The row that was chosen there so far has not been loaded.
-    if (form.EmulatorLongListbox.Visible()) hooks.CloseEmulatorChoice();
+    if (form.EmulatorLongListbox.Visible()) choice.CloseChoice();
     busy.HideAll(false);
     // It tells what is searched for, and takes the next search.
     form.ShowSearchBox(true);
     form.SearchAllBtn.SetBackColor(allEmulatorsColor);
-    form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
+    form.EmuListbox.SetWidth(form.EmuListboxWidth());
     PlaceLabel4();
     CoverTabs();
-    form.ListMode = "4";
-    hooks.RebuildLayout();
+    form.SetMode(core::Front::results);
+    ports.front->RefreshList();
 }
 
 void AllEmulatorsSearch::DressList() {
@@ -139,14 +146,14 @@ void AllEmulatorsSearch::ShowResults() {
 // Nothing has been searched for, so the window goes back to the current emulator's results.
 void AllEmulatorsSearch::LeaveWithoutResults(bool backToBox) {
     busy.HideAll(true);
-    hooks.RebuildLayout();
+    ports.front->RefreshList();
     // The button that was clicked may have gone, and the focus with it.
     if (backToBox || !form.Focus()) form.SearchDblsTxt.SetFocus();
 }
 
 void AllEmulatorsSearch::LeaveForOtherList() {
     busy.HideAll(true);
-    hooks.RebuildLayout();
+    ports.front->RefreshList();
 }
 
 void AllEmulatorsSearch::LeaveResults() {
@@ -160,7 +167,7 @@ void AllEmulatorsSearch::LeaveResults() {
 }
 
 void AllEmulatorsSearch::SearchDblsTxt_Change() {
-    if (!restoring) hooks.SearchDblsTxt_Change();
+    if (!restoring) search.SearchDblsTxt_Change();
 }
 
 void AllEmulatorsSearch::GlobalSearch(const std::string& Text) {
@@ -301,19 +308,19 @@ void AllEmulatorsSearch::GlobalSearchList_DblClick() {
 // The game itself is not looked for: its emulator's results for the same text come up.
 void AllEmulatorsSearch::OpenHit(int row) {
     form.EmuListbox.SetEnabled(true);
-    hooks.EmuListbox_GotFocus();
+    choice.EmuListbox_GotFocus();
     form.EmuListbox.SetListIndex(row);
     form.GlobalSearchList.SetVisible(false);
-    hooks.EmuListbox_DblClick();
+    choice.EmuListbox_DblClick();
     if (form.Ended) return;
     // The same text again would not run the change routine by itself.
     const std::string text = std::exchange(GlobalSearchText, {});
     const bool same = form.SearchDblsTxt.Text() == text;
     form.SearchDblsTxt.SetText(text);
-    if (same) hooks.SearchDblsTxt_Change();
+    if (same) search.SearchDblsTxt_Change();
     form.SuchErgList.SetVisible(false);
     form.SuchErgList.SetListIndex(0);
-    hooks.Label4_Click();
+    ports.front->Label4_Click();
     form.SuchErgList.SetFocus();
 }
 
@@ -323,7 +330,7 @@ void AllEmulatorsSearch::GlobalSearchList_KeyPress(forms::Character& character) 
     if (character.code == forms::keys::enter) {
         GlobalSearchList_DblClick();
     } else if (BeginsSearch(character)) {
-        hooks.EmuListbox_KeyPress(character);
+        choice.EmuListbox_KeyPress(character);
     }
 }
 

@@ -7,14 +7,21 @@
 #include <string_view>
 
 #include "core/busy_state.h"
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
+#include "forms/types.h"
 #include "library/cache_crew.h"
 #include "library/cache_search.h"
 #include "library/search_words.h"
 #include "platform/file_system.h"
 
+namespace kivu::core {
+struct Form1;
+}
+
 namespace kivu::library {
+
+class ListSearch;
 
 // The row of GlobalSearchList for a hit: the emulator, then the game's title, padded with blanks to
 // 21, 41 or 61 characters.
@@ -25,22 +32,19 @@ std::string GlobalSearchRow(std::string_view emulator, std::string_view name);
 class AllEmulatorsSearch {
  public:
     struct Hooks {
-        core::Hook<void()> RebuildLayout;  // the list in front, the tabs and their counts
-        core::Hook<void()> CloseEmulatorChoice;
-        core::Hook<void(int)> ShowEmulatorPreview;
-        core::Hook<void()> EmuListbox_GotFocus;
-        core::Hook<void()> EmuListbox_DblClick;
-        core::Hook<void()> SearchDblsTxt_Change;
-        core::Hook<void()> Label4_Click;
-        core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
+        core::Hook<void(int)> ShowEmulatorPreview{"AllEmulatorsSearch.ShowEmulatorPreview"};
+        core::Hook<void()> RefreshHints{"AllEmulatorsSearch.RefreshHints"};
+    };
+    struct Ports {
+        core::Port<core::ListFront> front{"AllEmulatorsSearch.front"};
     };
 
     // The scan stops when it has more hits.
     static constexpr std::int32_t limit = 32000;
 
     AllEmulatorsSearch(core::Form1& form, const platform::FileSystem& files, core::BusyState& busy,
-                       core::EventPacer& pacer)
-        : form(form), files(files), busy(busy), pacer(pacer) {}
+                       core::EventPacer& pacer, ListSearch& search, core::EmulatorChoice& choice)
+        : form(form), files(files), busy(busy), pacer(pacer), search(search), choice(choice) {}
 
     // Searches for the box's text. Does nothing while another long routine runs.
     void SearchAllBtn_Click();
@@ -57,10 +61,12 @@ class AllEmulatorsSearch {
     void LeaveResults();
 
     Hooks hooks;
+    Ports ports;
 
  private:
     enum class Outcome { through, left };
 
+    void SearchForBox();
     Outcome Search(const std::string& text);
     void ArrangeForSearch();
     void DressList();
@@ -87,6 +93,8 @@ class AllEmulatorsSearch {
     const platform::FileSystem& files;
     core::BusyState& busy;
     core::EventPacer& pacer;
+    ListSearch& search;
+    core::EmulatorChoice& choice;
 
     std::string GlobalSearchText;
     std::string GlobalLastName;  // lower-case title of the last hit, held from search to search

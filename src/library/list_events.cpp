@@ -1,10 +1,24 @@
 #include "library/list_events.h"
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "library/find_list_item.h"
+#include "library/global_search.h"
+#include "library/marked_game.h"
 #include "text/paths.h"
 #include "text/text.h"
 
 namespace kivu::library {
+
+using core::Front;
+
+void ListEvents::RefreshList() {
+    routines.search.LeaveResults();
+    ports.layout->ArrangeLists();
+    routines.games.UpdateListCaptions();
+    marked.ShowName();
+    hooks.RefreshHints();
+}
 
 void ListEvents::UAE_FULL_Click() {
     form.Current_ProgramNameFull.SetCaption(text::GetFileNameOnly(form.UAE_FULL.SelectedText()));
@@ -16,7 +30,7 @@ void ListEvents::UAE_Short_Click() {
     // The lists are often moved by the program itself; only the user's click goes on.
     if (!form.ShortListHasFocus) return;
     form.UAE_FULL.SetListIndex(form.UAE_Short.ListIndex());
-    hooks.FillDrivesFromFile(form.UAE_Short.ListIndex());
+    ports.drives->FillFromFile();
 }
 
 void ListEvents::UAE_Short_DblClick() {
@@ -25,18 +39,18 @@ void ListEvents::UAE_Short_DblClick() {
 
 void ListEvents::Launch(forms::ListBox& list) {
     if (!marked.Select(list)) return;
-    hooks.LaunchBtn_Click();
+    ports.launching->LaunchBtn_Click();
     form.SetCaption(core::defaultTitle);
     form.MyCaptionLabel.SetCaption(core::defaultTitle);
 }
 
 void ListEvents::UAE_Short_GotFocus() {
-    form.ListMode = "3";
+    form.SetMode(Front::complete);
     form.DeLFav.SetVisible(false);
     form.JoystickFocus = 3;
     form.ShortListHasFocus = true;
     form.UAE_Short.SetVisible(true);
-    hooks.RefreshList();
+    RefreshList();
     form.UAE_Short.SetListIndex(form.UAE_Short.ListIndex());
     form.UAE_Short.SetFocus();
 }
@@ -47,11 +61,11 @@ void ListEvents::UAE_Short_LostFocus() {
 
 void ListEvents::UAE_Short_KeyPress(forms::Character& character) {
     // There the list itself takes the blank, to choose a row or no longer.
-    if (character.code == forms::keys::space && hooks.SelectsByHand()) return;
+    if (character.code == forms::keys::space && ports.drives->SelectsByHand()) return;
     if (character.code == forms::keys::enter) {
         UAE_Short_DblClick();
     } else {
-        hooks.EmuListbox_KeyPress(character);
+        routines.choice.EmuListbox_KeyPress(character);
     }
 }
 
@@ -65,13 +79,13 @@ void ListEvents::WIthoutDoubles_Click() {
         name, form.UAE_Short.ListCount(),
         [this](int at) -> std::string_view { return form.UAE_Short.List(at); }, false, start);
     if (row >= 0) {
-        hooks.ShowOneDisk();
+        ports.drives->ShowOneDisk();
         form.UAE_Short.SetListIndex(row);
         form.UAE_FULL.SetListIndex(row);
         form.DeLFav.SetVisible(false);
-        hooks.OfferFavouriteButtons();
+        form.OfferFavourites();
     }
-    hooks.FillDrivesFromGame(row);
+    ports.drives->FillFromGame(row);
 }
 
 void ListEvents::WIthoutDoubles_DblClick() {
@@ -79,7 +93,7 @@ void ListEvents::WIthoutDoubles_DblClick() {
 }
 
 void ListEvents::WIthoutDoubles_GotFocus() {
-    form.ListMode = "2";
+    form.SetMode(Front::simple);
     if (form.DoublesListBusy) return;
     {
         const core::Raised busy(form.DoublesListBusy);
@@ -87,9 +101,9 @@ void ListEvents::WIthoutDoubles_GotFocus() {
         form.Current_ProgramNameFull.SetVisible(true);
         form.WIthoutDoubles.SetVisible(true);
         form.JoystickFocus = 2;
-        hooks.RefreshList();
+        RefreshList();
         form.DeLFav.SetVisible(false);
-        hooks.OfferFavouriteButtons();
+        form.OfferFavourites();
         // There and back, so that the row does not sit at the bottom edge.
         const int row = form.WIthoutDoubles.ListIndex();
         form.WIthoutDoubles.SetListIndex(row + 4);
@@ -106,19 +120,21 @@ void ListEvents::WIthoutDoubles_KeyPress(forms::Character& character) {
     if (character.code == forms::keys::enter) {
         WIthoutDoubles_DblClick();
     } else {
-        hooks.EmuListbox_KeyPress(character);
+        routines.choice.EmuListbox_KeyPress(character);
     }
 }
 
 void ListEvents::FavoritenListe_GotFocus() {
-    form.ListMode = "1";
+    form.SetMode(Front::favourites);
     if (form.FavouritesListBusy) return;
     {
         const core::Raised busy(form.FavouritesListBusy);
         form.FavoritenListe.SetVisible(true);
-        if (hooks.ShowGlobalFavourites()) return;
+        if (ports.globalFavourites->ShowGlobalFavourites()) return;
+        // A favourite that is still chosen can be removed at once.
+        if (form.FavoritenListe.ListIndex() >= 0) ports.favourite->OfferButtons();
         form.JoystickFocus = 1;
-        hooks.RefreshList();
+        RefreshList();
     }
     form.FavoritenListe.SetFocus();
 }
@@ -128,17 +144,21 @@ void ListEvents::FavoritenListe_LostFocus() {
 }
 
 void ListEvents::SuchErgList_GotFocus() {
-    form.ListMode = "4";
+    form.SetMode(Front::results);
     form.JoystickFocus = 4;
     form.SuchErgList.SetMeantRow(-1);
     form.SuchErgList.SetVisible(true);
-    hooks.RefreshList();
+    RefreshList();
     form.SuchErgList.SetFocus();
 }
 
-void ListEvents::PutInFront(forms::ListBox& list, const char* mode) {
-    if (&list != &form.FavoritenListe) hooks.LeaveGlobalFavourites();
-    form.ListMode = mode;
+void ListEvents::Current_ProgramNameFull_DblClick() {
+    if (marked.SelectInFront()) ports.launching->LaunchBtn_Click();
+}
+
+void ListEvents::PutInFront(forms::ListBox& list, Front front) {
+    if (&list != &form.FavoritenListe) ports.globalFavourites->LeaveGlobalFavourites();
+    form.SetMode(front);
     list.SetVisible(true);
     // A list that has the focus already still has to come forward.
     if (list.HasFocus()) {
@@ -150,19 +170,19 @@ void ListEvents::PutInFront(forms::ListBox& list, const char* mode) {
 }
 
 void ListEvents::Label1_Click() {
-    PutInFront(form.FavoritenListe, "1");
+    PutInFront(form.FavoritenListe, Front::favourites);
 }
 
 void ListEvents::Label2_Click() {
-    PutInFront(form.WIthoutDoubles, "2");
+    PutInFront(form.WIthoutDoubles, Front::simple);
 }
 
 void ListEvents::Label3_Click() {
-    PutInFront(form.UAE_Short, "3");
+    PutInFront(form.UAE_Short, Front::complete);
 }
 
 void ListEvents::Label4_Click() {
-    PutInFront(form.SuchErgList, "4");
+    PutInFront(form.SuchErgList, Front::results);
 }
 
 }  // namespace kivu::library

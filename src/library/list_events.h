@@ -1,64 +1,77 @@
 #pragma once
 
-#include <string>
-
-#include "core/form1.h"
 #include "core/hook.h"
-#include "library/marked_game.h"
-#include "platform/file_system.h"
+#include "core/ports.h"
+#include "forms/list_control.h"
+#include "forms/types.h"
+
+namespace kivu::core {
+struct Form1;
+enum class Front : int;
+}  // namespace kivu::core
 
 namespace kivu::library {
 
+class AllEmulatorsSearch;
+class MarkedGame;
+
 // Clicks, keys and focus of the game lists and of their tabs. The selected row of UAE_FULL is what
 // a list hands on to a launch.
-class ListEvents {
+class ListEvents : public core::ListFront {
  public:
     struct Hooks {
-        core::Hook<void()> RefreshList;  // the list in front, the tabs and their counts
-        core::Hook<void()> LaunchBtn_Click;
-        core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
-        core::Hook<void(int)> ShowGamePreview;
-        core::Hook<void(int)> FillDrivesFromFile;  // a click of the user on this row of UAE_Short
-        core::Hook<void()> ShowOneDisk;            // WIthoutDoubles: a game has been found
-        core::Hook<void(int)>
-            FillDrivesFromGame;  // WIthoutDoubles: the row found in UAE_Short, or -1
-        // True: the global favourites have come up in place of the emulator's own.
-        core::Hook<bool()> ShowGlobalFavourites;
-        core::Hook<void()> LeaveGlobalFavourites;
-        core::Hook<void()> OfferFavouriteButtons;
-        core::Hook<bool()> SelectsByHand;  // the user chooses disks row by row
+        core::Hook<void(int)> ShowGamePreview{"ListEvents.ShowGamePreview"};
+        core::Hook<void()> RefreshHints{"ListEvents.RefreshHints"};
+    };
+    struct Ports {
+        core::Port<core::Launching> launching{"ListEvents.launching"};
+        core::Port<core::Drives> drives{"ListEvents.drives"};
+        core::Port<core::MarkedFavourite> favourite{"ListEvents.favourite"};
+        core::Port<core::GlobalFavourites> globalFavourites{"ListEvents.globalFavourites"};
+        core::Port<core::WindowLayout> layout{"ListEvents.layout"};
+    };
+    struct Routines {
+        core::EmulatorChoice& choice;
+        core::LoadedGames& games;
+        AllEmulatorsSearch& search;
     };
 
-    ListEvents(core::Form1& form, MarkedGame& marked) : form(form), marked(marked) {}
+    ListEvents(core::Form1& form, MarkedGame& marked, Routines routines)
+        : form(form), marked(marked), routines(routines) {}
 
+    void RefreshList() override;
     void UAE_FULL_Click();
     void UAE_Short_Click();
     void UAE_Short_DblClick();
-    void UAE_Short_GotFocus();
+    void UAE_Short_GotFocus() override;
     void UAE_Short_LostFocus();
     void UAE_Short_KeyPress(forms::Character& character);
     void WIthoutDoubles_Click();
     void WIthoutDoubles_DblClick();
-    void WIthoutDoubles_GotFocus();
+    void WIthoutDoubles_GotFocus() override;
     void WIthoutDoubles_LostFocus();
     void WIthoutDoubles_KeyPress(forms::Character& character);
-    void FavoritenListe_GotFocus();
+    void FavoritenListe_GotFocus() override;
     void FavoritenListe_LostFocus();
-    void SuchErgList_GotFocus();
-    // The tabs: each puts its list in front and gives it the focus.
-    void Label1_Click();
-    void Label2_Click();
+    void SuchErgList_GotFocus() override;
+    void Label1_Click() override;
+    void Label2_Click() override;
     void Label3_Click();
-    void Label4_Click();
+    void Label4_Click() override;
+
+    // By the name at the right, which is that of the marked row's game.
+    void Current_ProgramNameFull_DblClick();
 
     Hooks hooks;
+    Ports ports;
 
  private:
     void Launch(forms::ListBox& list);
-    void PutInFront(forms::ListBox& list, const char* mode);
+    void PutInFront(forms::ListBox& list, core::Front front);
 
     core::Form1& form;
     MarkedGame& marked;
+    Routines routines;
 };
 
 }  // namespace kivu::library

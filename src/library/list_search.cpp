@@ -4,6 +4,7 @@
 #include <utility>
 #include <vector>
 
+#include "core/form1.h"
 #include "library/search_colors.h"
 #include "text/text.h"
 
@@ -32,6 +33,10 @@ bool BeginsSearch(const forms::Character& character) {
     return (character.code >= 'a' && character.code <= 'z') ||
            (character.code >= 'A' && character.code <= 'Z') ||
            (character.code >= '0' && character.code <= '9');
+}
+
+ListSearch::ListSearch(core::Form1& form, MarkedGame& marked, core::EmulatorChoice& choice)
+    : form(form), marked(marked), choice(choice), titles(form.WIthoutDoubles, form.SuchErgList) {
 }
 
 void ListSearch::SearchInList(const std::string& Text, int StartRow) {
@@ -144,7 +149,7 @@ void ListSearch::ShowTab() {
 
 void ListSearch::SearchDblsTxt_GotFocus() {
     form.Current_ProgramNameFull.SetFontSize(form.EmulatorLongListbox.FontSize() + 4);
-    form.ListMode = "4";
+    form.SetMode(core::Front::results);
     // As in every text box, the window's two colours change places.
     form.SearchDblsTxt.SetBackColor(form.FormForeColor);
     form.SearchDblsTxt.SetForeColor(form.FormBackColor);
@@ -154,13 +159,13 @@ void ListSearch::SearchDblsTxt_GotFocus() {
     // From the list of emulators a search goes through them all, so it stays in front. The tabs
     // stand beside the drop-down, which the open choice has made as wide as the list.
     const bool choosing = form.EmulatorLongListbox.Visible();
-    if (choosing) form.EmuListbox.SetWidth(static_cast<int>(220 * form.EmuListbox.FontSize()));
-    hooks.RebuildLayout();
+    if (choosing) form.EmuListbox.SetWidth(form.EmuListboxWidth());
+    ports.front->RefreshList();
     if (choosing) {
         form.EmulatorLongListbox.BringToFront();
         form.SuchErgList.SetVisible(false);
     }
-    form.ListMode = "7";
+    form.SetMode(core::Front::searchBox);
     ShowMeantRow(true);
     if (IsIdleText(form.SearchDblsTxt.Text())) form.SearchDblsTxt.SetText("");
 }
@@ -231,26 +236,25 @@ void ListSearch::SuchErg_Click() {
     form.Label2.SetFontSize(form.Label1.FontSize());
     form.Label4.SetCaption(form.Say(" Suchergebnisse (", " Search results: (") +
                            std::to_string(form.SuchErgList.ListCount()) + ") ");
-    hooks.SuchErgList_GotFocus();
+    ports.front->SuchErgList_GotFocus();
 }
 
 void ListSearch::SuchErgList_Click() {
     const std::vector<std::string>& rows = form.WIthoutDoubles.Rows();
     const auto found = std::find(rows.begin(), rows.end(), form.SuchErgList.SelectedText());
     if (found != rows.end()) SelectGame(static_cast<int>(found - rows.begin()));
-    form.AddToFavorit.SetVisible(true);
-    form.AddToFavorit_Global.SetVisible(true);
+    form.OfferFavourites();
 }
 
 void ListSearch::SuchErgList_DblClick() {
-    if (marked.Select(form.SuchErgList)) hooks.LaunchBtn_Click();
+    if (marked.Select(form.SuchErgList)) ports.launching->LaunchBtn_Click();
 }
 
 void ListSearch::SuchErgList_KeyPress(forms::Character& character) {
     if (character.code == keys::enter) {
         SuchErgList_DblClick();
     } else if (BeginsSearch(character)) {
-        hooks.EmuListbox_KeyPress(character);
+        choice.EmuListbox_KeyPress(character);
     }
 }
 

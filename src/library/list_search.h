@@ -3,10 +3,15 @@
 #include <string>
 #include <string_view>
 
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
+#include "forms/types.h"
 #include "library/marked_game.h"
 #include "library/title_search.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::library {
 
@@ -22,15 +27,14 @@ bool BeginsSearch(const forms::Character& character);
 class ListSearch {
  public:
     struct Hooks {
-        core::Hook<void()> RebuildLayout;  // the list in front, the tabs and their counts
-        core::Hook<void()> SearchAllBtn_Click;
-        core::Hook<void()> LaunchBtn_Click;
-        core::Hook<void()> SuchErgList_GotFocus;
-        core::Hook<void(forms::Character&)> EmuListbox_KeyPress;
+        core::Hook<void()> SearchAllBtn_Click{"ListSearch.SearchAllBtn_Click"};
+    };
+    struct Ports {
+        core::Port<core::ListFront> front{"ListSearch.front"};
+        core::Port<core::Launching> launching{"ListSearch.launching"};
     };
 
-    ListSearch(core::Form1& form, MarkedGame& marked)
-        : form(form), marked(marked), titles(form.WIthoutDoubles, form.SuchErgList) {}
+    ListSearch(core::Form1& form, MarkedGame& marked, core::EmulatorChoice& choice);
 
     // Fills SuchErgList with the rows of WIthoutDoubles, from `StartRow` on, that contain every
     // word of `Text`, and selects the first of them there.
@@ -50,6 +54,7 @@ class ListSearch {
     void ShowCount();
 
     Hooks hooks;
+    Ports ports;
 
  private:
     void SelectGame(int row);
@@ -63,6 +68,7 @@ class ListSearch {
 
     core::Form1& form;
     MarkedGame& marked;
+    core::EmulatorChoice& choice;
     TitleSearch titles;
 };
 

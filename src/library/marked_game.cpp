@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "core/form1.h"
 #include "library/find_list_item.h"
 #include "text/paths.h"
 
@@ -14,10 +15,11 @@ forms::ListBox* MarkedGame::ListInFront() const {
         return nullptr;
     const std::array<forms::ListBox*, 4> lists{&form.FavoritenListe, &form.WIthoutDoubles,
                                                &form.UAE_Short, &form.SuchErgList};
-    // The search box counts as its results.
-    const int mode = form.Mode() == 7 ? 4 : form.Mode();
-    if (mode >= 1 && mode <= 4 && lists[static_cast<std::size_t>(mode - 1)]->Visible())
-        return lists[static_cast<std::size_t>(mode - 1)];
+    const core::Front front = form.ListOfMode();
+    if (core::IsGameList(front)) {
+        forms::ListBox* const list = lists[static_cast<std::size_t>(core::IndexOf(front))];
+        if (list->Visible()) return list;
+    }
     const auto shown = std::find_if(lists.begin(), lists.end(),
                                     [](const forms::ListBox* list) { return list->Visible(); });
     return shown == lists.end() ? nullptr : *shown;
@@ -26,7 +28,7 @@ forms::ListBox* MarkedGame::ListInFront() const {
 bool MarkedGame::Select(forms::ListBox& list) {
     if (list.ListIndex() < 0) return false;
     if (IsInStep(list)) return true;
-    if (&list == &form.FavoritenListe) return hooks.SelectFavourite();
+    if (&list == &form.FavoritenListe) return ports.favourite->SelectGame();
     if (RowOf(list) >= 0) {
         ClickMarkedRow(list);
         if (IsInStep(list)) return true;
@@ -61,7 +63,7 @@ void MarkedGame::ShowName() {
 }
 
 int MarkedGame::RowOf(const forms::ListBox& list) const {
-    if (&list == &form.FavoritenListe) return hooks.RowOfFavourite();
+    if (&list == &form.FavoritenListe) return ports.favourite->RowOfGame();
     if (&list == &form.UAE_Short) return list.ListIndex();
     int start = 0;
     return FindListItem(list.SelectedText(), form.UAE_Short.Rows(), false, start);

@@ -2,9 +2,14 @@
 
 #include <string>
 
-#include "core/form1.h"
 #include "core/hook.h"
+#include "core/ports.h"
+#include "forms/list_control.h"
 #include "platform/dialogs.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::library {
 
@@ -13,11 +18,8 @@ namespace kivu::library {
 // the marked row brings them into step first.
 class MarkedGame {
  public:
-    struct Hooks {
-        // Selects the game of FavoritenListe's row. False: there is none, and the user knows.
-        core::Hook<bool()> SelectFavourite;
-        // The row of UAE_FULL of that game; -1 for none.
-        core::Hook<int()> RowOfFavourite;
+    struct Ports {
+        core::Port<core::MarkedFavourite> favourite{"MarkedGame.favourite"};
     };
 
     MarkedGame(core::Form1& form, platform::Dialogs& dialogs) : form(form), dialogs(dialogs) {}
@@ -41,7 +43,7 @@ class MarkedGame {
     // does nothing else that the click does.
     void ShowName();
 
-    Hooks hooks;
+    Ports ports;
 
  private:
     // The row of UAE_Short that a game's shown name stands for; -1 for none.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/form1.h"
+
 namespace kivu::ui {
 
 void FontSize::FontSizeCombo_Click() {
@@ -17,7 +19,7 @@ void FontSize::FontSizeCombo_Click() {
     }
     form.Current_ProgramNameFull.SetFontSize(form.EmulatorLongListbox.FontSize() - 1);
     form.EmuListbox.SetFontSize(std::min(row, 52));
-    Form_Resize();
+    layout.Form_Resize();
 }
 
 }  // namespace kivu::ui

@@ -1,19 +1,22 @@
 #pragma once
 
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::ui {
 
 // The row of FontSizeCombo sets the size of the lists and of the emulator box.
 class FontSize {
  public:
-    explicit FontSize(core::Form1& form) : form(form) {}
+    FontSize(core::Form1& form, core::WindowLayout& layout) : form(form), layout(layout) {}
     void FontSizeCombo_Click();
-    core::Hook<void()> Form_Resize;
 
  private:
     core::Form1& form;
+    core::WindowLayout& layout;
 };
 
 }  // namespace kivu::ui

@@ -1,5 +1,6 @@
 #include "ui/hints.h"
 
+#include "core/form1.h"
 #include "library/list_search.h"
 #include "text/text.h"
 

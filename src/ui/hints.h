@@ -2,7 +2,9 @@
 
 #include <string>
 
-#include "core/form1.h"
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::ui {
 

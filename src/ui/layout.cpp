@@ -3,6 +3,9 @@
 #include <algorithm>
 #include <array>
 
+#include "core/form1.h"
+#include "core/raised.h"
+#include "support/window_handling.h"
 #include "text/text.h"
 #include "ui/layout_numbers.h"
 
@@ -23,10 +26,11 @@ void Layout::Form_Resize() {
     if (form.State() == forms::WindowState::minimized) return;
     const bool normal = form.State() == forms::WindowState::normal;
     form.SetCornerRadius(normal ? cornerRadius : 0);
-    if (!normal) hooks.ChangeBorderstyle(0);
+    if (!normal) support::ChangeBorderstyle(form, 0);
     // A new top of the lists changes their height, which comes before it.
     for (int round = 0; round < 2; ++round) {
-        Compute();
+        static_cast<core::LayoutNumbers&>(form) =
+            ComputeLayout(form.Width(), form.Height(), form.ListLeft, form.FavoritenListe.Top());
         PlaceLists();
         // In the busy state no list comes up, whatever the window's size does.
         if (form.ListsVisible || form.EmulatorLongListbox.Visible()) ArrangeLists();
@@ -35,28 +39,13 @@ void Layout::Form_Resize() {
         SetVorschau();
         // The open choice keeps it as wide as its list.
         form.EmuListbox.SetWidth(form.ChoiceInFront() ? form.EmulatorLongListbox.Width()
-                                                      : WidthOfEmuListbox());
+                                                      : form.EmuListboxWidth());
         const int top = form.EmuListbox.Bottom() + 150;
         if (top == form.FavoritenListe.Top()) break;
         form.FavoritenListe.SetTop(top);
     }
     PlaceBusySigns();
     ResizeSettingsWindow();
-}
-
-void Layout::Compute() {
-    const LayoutNumbers numbers =
-        ComputeLayout(form.Width(), form.Height(), form.ListLeft, form.FavoritenListe.Top());
-    form.ListWidth = numbers.ListWidth;
-    form.Col2Left = numbers.Col2Left;
-    form.Col2Width = numbers.Col2Width;
-    form.Col3Left = numbers.Col3Left;
-    form.Col3Width = numbers.Col3Width;
-    form.ListHeight = numbers.ListHeight;
-    form.DriveBoxHeight = numbers.DriveBoxHeight;
-    form.ThirdWidth = numbers.ThirdWidth;
-    form.QuarterWidth = numbers.QuarterWidth;
-    form.HalfWidth = numbers.HalfWidth;
 }
 
 void Layout::PlaceLists() {
@@ -68,10 +57,6 @@ void Layout::PlaceLists() {
     }
 }
 
-int Layout::WidthOfEmuListbox() const {
-    return static_cast<int>(220 * form.EmuListbox.FontSize());
-}
-
 void Layout::PlaceBusySigns() {
     const forms::ListBox& lists = form.FavoritenListe;
     form.LoadingBtn.Move(lists.Left(), lists.Top(), lists.Width(), lists.Height());
@@ -81,7 +66,8 @@ void Layout::PlaceBusySigns() {
     const forms::ComboBox& box = form.EmuListbox;
     // It shows beside a closed choice alone.
     const int most = box.MostShownWidth();
-    const int closed = most > 0 ? std::min(most, WidthOfEmuListbox()) : WidthOfEmuListbox();
+    const int closed =
+        most > 0 ? std::min(most, form.EmuListboxWidth()) : form.EmuListboxWidth();
     const int left = box.Left() + closed + tabGap;
     form.Current_LoadingSmallBtn.Move(
         left, box.Top(), std::max(0, form.TopRightPic.Left() - left - tabGap), box.Height());
@@ -111,13 +97,13 @@ void Layout::ArrangeLists() {
 }
 
 void Layout::ShowListOfMode() {
-    const int mode = form.Mode() == 7 ? 4 : form.Mode();
-    const bool emulators = mode == 5 || mode == 10;
+    const core::Front mode = form.ListOfMode();
+    const bool emulators = form.ModeIsChoice();
     const bool globalFavourites = form.FavoritenListeGlobal.Visible();
     const std::array<forms::ListBox*, 4> lists{&form.FavoritenListe, &form.WIthoutDoubles,
                                                &form.UAE_Short, &form.SuchErgList};
     for (int i = 0; i < 4; ++i) {
-        const bool kept = (mode == i + 1 && !globalFavourites) ||
+        const bool kept = (IndexOf(mode) == i && !globalFavourites) ||
                           (emulators && lists[static_cast<std::size_t>(i)] == &form.UAE_Short);
         if (!kept) lists[static_cast<std::size_t>(i)]->SetVisible(false);
     }
@@ -128,25 +114,27 @@ void Layout::ShowListOfMode() {
         form.EmulatorLongListbox.SetFont(form.Label4.GetFont());
         form.EmulatorLongListbox.SetVisible(true);
         form.EmulatorLongListbox.BringToFront();
-    } else if (form.Mode() == 7 && form.EmulatorLongListbox.Visible()) {
+    } else if (form.Mode() == core::Front::searchBox && form.EmulatorLongListbox.Visible()) {
         // A search typed over the open choice goes through all emulators, which stay in front.
         return;
-    } else if (mode >= 1 && mode <= 4 && !globalFavourites) {
-        lists[static_cast<std::size_t>(mode - 1)]->SetVisible(true);
+    } else if (IsGameList(mode) && !globalFavourites) {
+        lists[static_cast<std::size_t>(IndexOf(mode))]->SetVisible(true);
     }
 }
 
 void Layout::ArrangeTabs() {
-    const int mode = form.Mode() == 7 ? 4 : form.Mode();
+    const core::Front mode = form.ListOfMode();
     const bool running = form.AppRunningPicture.Visible();
     const std::array<forms::Label*, 4> tabs{&form.Label1, &form.Label2, &form.Label3, &form.Label4};
     for (int i = 0; i < 4; ++i) {
         forms::Label& tab = *tabs[static_cast<std::size_t>(i)];
         tab.SetBackColor(form.FormBackColor);
         tab.SetForeColor(form.FormForeColor);
-        tab.SetOpaque(mode == i + 1);
-        const bool favouritesAtRight = i == 0 && (mode == 5 || mode == 10);
-        tab.SetVisible(!running && (mode < 3 ? i < 3 : mode <= 4 || favouritesAtRight));
+        tab.SetOpaque(IndexOf(mode) == i);
+        const bool favouritesAtRight = i == 0 && form.ModeIsChoice();
+        tab.SetVisible(!running && (mode < core::Front::complete
+                                        ? i < 3
+                                        : mode <= core::Front::results || favouritesAtRight));
     }
     PlaceTabs();
 }
@@ -188,7 +176,7 @@ void Layout::FitEmuListbox() {
     int tabs = 0;
     for (const forms::Label* tab : {&form.Label1, &form.Label2, &form.Label3, &form.Label4})
         tabs += tabGap + tab->WidthOf(WithoutCount(tab->Caption()));
-    const bool crowded = box.Left() + WidthOfEmuListbox() + tabs > form.Width();
+    const bool crowded = box.Left() + form.EmuListboxWidth() + tabs > form.Width();
     constexpr int least = 1500;
     box.SetMostShownWidth(crowded ? std::max(least, form.ListWidth) : 0);
 }
@@ -197,7 +185,7 @@ void Layout::PlaceTabs() {
     // A width that is set comes back here.
     if (placingTabs) return;
     const core::Raised once(placingTabs);
-    const bool choosing = form.Mode() == 5 || form.Mode() == 10;
+    const bool choosing = form.ModeIsChoice();
     FitEmuListbox();
     int left = form.EmuListbox.Left() + form.EmuListbox.ShownWidth() + tabGap;
     FitTabs(left, choosing);

@@ -2,31 +2,26 @@
 
 #include <string>
 
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::ui {
 
 // Arranges the main window by formula. All measures are in twips.
-class Layout {
+class Layout : public core::WindowLayout {
  public:
-    struct Hooks {
-        core::Hook<void(int)> ChangeBorderstyle;
-    };
-
     explicit Layout(core::Form1& form) : form(form) {}
 
-    void Form_Resize();
-    // The panel under the picture; brings the drives panel back into the window.
-    void ResizeSettingsWindow();
-    // The list of the mode in front, and the tabs.
-    void ArrangeLists();
-    // The tabs alone, as the mode has them.
-    void ArrangeTabs();
+    void Form_Resize() override;
+    void ResizeSettingsWindow() override;
+    void ArrangeLists() override;
+    void ArrangeTabs() override;
     // The tabs in their row; a new count makes one wider.
     void PlaceTabs();
-    // The place of the preview picture.
-    void SetVorschau();
+    void SetVorschau() override;
 
     // A click folds the drives panel and unfolds it.
     void DrivesResizeLabel_Click();
@@ -34,18 +29,12 @@ class Layout {
     void Current_ProgramNameFull_Change();
     void Current_ProgramNameFull_FontChange();
 
-    // The drives panel lies in its place in the right column, and goes with it at each size.
-    bool DrivesAreHome() const;
-    void DockDrives();
-    // Dropped within some pixels of its home, it is meant to lie there.
-    void DockDrivesNearHome();
-    // It lies on something that has a place of its own.
-    bool DrivesCoverOthers() const;
-
-    Hooks hooks;
+    bool DrivesAreHome() const override;
+    void DockDrives() override;
+    void DockDrivesNearHome() override;
+    bool DrivesCoverOthers() const override;
 
  private:
-    void Compute();
     void PlaceLists();
     void PlaceBusySigns();
     bool Stacked(int frameWidth) const;
@@ -59,7 +48,6 @@ class Layout {
     void PlaceDrivesHome();
     void PlaceFavouriteButtons();
     void ShowListOfMode();
-    int WidthOfEmuListbox() const;
     void FitEmuListbox();
     void FitTabs(int left, bool choosing);
 

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/form1.h"
+#include "core/raised.h"
 #include "library/short_names.h"
 #include "text/string_ops.h"
 #include "ui/column_grid.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "core/form1.h"
 #include "ui/column_grid.h"
 #include "ui/layout.h"
 

@@ -17,6 +17,7 @@ int Floor(double value) {
 
 LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int listTop) {
     LayoutNumbers numbers;
+    numbers.ListLeft = listLeft;
     numbers.ListWidth = Floor((innerWidth - 400) / 6.0 * 4) - 300;
     numbers.Col2Left = listLeft + numbers.ListWidth + 100;
     // Halves go to the even neighbour.

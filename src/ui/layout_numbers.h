@@ -3,23 +3,11 @@
 #include <cstddef>
 #include <vector>
 
+#include "core/layout_numbers.h"
+
 namespace kivu::ui {
 
-// The columns of the main window, in twips: the lists in the left two thirds, two narrow columns
-// beside them.
-struct LayoutNumbers {
-    int ListWidth = 0;
-    int Col2Left = 0;
-    int Col2Width = 0;
-    int Col3Left = 0;
-    int Col3Width = 0;
-    int ListHeight = 0;
-    int DriveBoxHeight = 0;  // at most ListHeight
-    // For the search lists.
-    int ThirdWidth = 0;
-    int QuarterWidth = 0;
-    int HalfWidth = 0;
-};
+using core::LayoutNumbers;
 
 // From the window's inner size, the left edge of the lists and their top. Measures of a tiny window
 // come out negative; a control takes none of those.

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+#include "core/form1.h"
+
 namespace kivu::ui {
 
 namespace {
@@ -59,8 +61,9 @@ void PanelDrag::DragOver(const Target& target, const forms::Control& source, int
 void PanelDrag::DragDrop(const Target& target, const forms::Control& source, int x, int y) {
     if (source.Tag() != tag) return;
     DragOver(target, source, x, y);
-    DockNearHome();
-    KeepInside();
+    layout.DockDrivesNearHome();
+    // A panel that was let go of at the edge must not be out of reach.
+    layout.ResizeSettingsWindow();
 }
 
 }  // namespace kivu::ui

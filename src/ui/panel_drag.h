@@ -2,8 +2,12 @@
 
 #include <vector>
 
-#include "core/form1.h"
-#include "core/hook.h"
+#include "core/ports.h"
+#include "forms/control.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::ui {
 
@@ -19,7 +23,7 @@ class PanelDrag {
     // The controls that the panel goes by while it is dragged.
     static constexpr const char* tag = "Pic";
 
-    explicit PanelDrag(core::Form1& form) : form(form) {}
+    PanelDrag(core::Form1& form, core::WindowLayout& layout) : form(form), layout(layout) {}
 
     std::vector<Target> Targets() const;
     void SettingsSubPicture_MouseDown(const forms::Mouse& mouse);
@@ -27,12 +31,9 @@ class PanelDrag {
     void DragOver(const Target& target, const forms::Control& source, int x, int y);
     void DragDrop(const Target& target, const forms::Control& source, int x, int y);
 
-    // Brings a panel back that lies outside of the window.
-    core::Hook<void()> KeepInside;
-    core::Hook<void()> DockNearHome;
-
  private:
     core::Form1& form;
+    core::WindowLayout& layout;
     // From the panel's edges to where it was grabbed.
     double grabX = 0, grabY = 0;
 };

@@ -1,6 +1,7 @@
 #include "ui/window_surface.h"
 
 #include "core/emulator_paths.h"
+#include "core/form1.h"
 
 namespace kivu::ui {
 
@@ -9,7 +10,7 @@ void WindowSurface::MyCaptionLabel_DblClick() {
     const std::string title = dialogs.InputBox("New Title", "Title", stored);
     if (title.empty()) return;
     ini.Write(profile::keys::TitleString, core::ProfilesOf(form), title);
-    hooks.MeCaption(title);
+    busy.MeCaption(title);
 }
 
 void WindowSurface::Surface_MouseDown(const forms::Mouse& mouse) {
@@ -21,7 +22,7 @@ void WindowSurface::Form_DblClick() {
 }
 
 void WindowSurface::Form_Click() {
-    hooks.ApplyAlwaysOnTop();
+    alwaysOnTop.SetToTop();
 }
 
 void WindowSurface::NormalMaxCapt_Click() {

@@ -1,9 +1,15 @@
 #pragma once
 
-#include "core/form1.h"
+#include "core/busy_state.h"
 #include "core/hook.h"
+#include "forms/types.h"
 #include "platform/dialogs.h"
 #include "profile/ini.h"
+#include "support/always_on_top.h"
+
+namespace kivu::core {
+struct Form1;
+}
 
 namespace kivu::ui {
 
@@ -11,13 +17,12 @@ namespace kivu::ui {
 class WindowSurface {
  public:
     struct Hooks {
-        core::Hook<void(const std::string&)> MeCaption;
-        core::Hook<void()> ApplyAlwaysOnTop;
-        core::Hook<void()> OpenProjectPage;
+        core::Hook<void()> OpenProjectPage{"WindowSurface.OpenProjectPage"};
     };
 
-    WindowSurface(core::Form1& form, profile::Ini& ini, platform::Dialogs& dialogs)
-        : form(form), ini(ini), dialogs(dialogs) {}
+    WindowSurface(core::Form1& form, profile::Ini& ini, platform::Dialogs& dialogs,
+                  core::BusyState& busy, support::AlwaysOnTop& alwaysOnTop)
+        : form(form), ini(ini), dialogs(dialogs), busy(busy), alwaysOnTop(alwaysOnTop) {}
 
     void MyCaptionLabel_DblClick();
     // The surface follows the mouse.
@@ -33,6 +38,8 @@ class WindowSurface {
     core::Form1& form;
     profile::Ini& ini;
     platform::Dialogs& dialogs;
+    core::BusyState& busy;
+    support::AlwaysOnTop& alwaysOnTop;
 };
 
 }  // namespace kivu::ui

@@ -1,55 +1,20 @@
-// What the favourites ask of the other rooms and these of them, and what their controls run.
+// The favourites of the loaded emulator, and those of all.
 
 #include "wiring/routines.h"
 
 namespace kivu::wiring {
 
 void Launcher::Routines::JoinFavourites() {
-    favoriten.hooks.UpdateListCaptions = [this] { gameLists.UpdateListCaptions(); };
-    emulatorSwitch.hooks.LoadFavoriten = [this] { favoriten.LoadFavoriten(); };
-
-    auto& own = favoritenEvents.hooks;
-    own.LaunchBtn_Click = [this] { gameLaunch.LaunchBtn_Click(); };
-    own.MarkedGameHasGone = [this] { return !markedGame.SelectToStore(); };
-    own.RefreshList = [this] { RefreshList(); };
-    // Letters typed in a game list go where those typed in the emulator list go.
-    own.EmuListbox_KeyPress = [this](forms::Character& key) {
-        emulatorBox.EmuListbox_KeyPress(key);
-    };
-
-    auto& global = globalEvents.hooks;
-    global.SelectEmulator = [this](bool add) { emulatorSwitch.SelectEmulator(add); };
-    global.StartGame = [this](const std::string& path) { gameLaunch.StartGame(path); };
-    global.MarkedGameHasGone = own.MarkedGameHasGone;
-    global.SetToNormal = [this] { alwaysOnTop.SetToNormal(); };
-    global.ArrangeLists = [this] { layout.ArrangeLists(); };
-    global.RestoreColours = [this] { emulatorBox.RestoreColours(); };
-    global.LeaveEmulatorBox = [this] { emulatorBox.LeaveEmulatorBox(); };
-    global.ShowEmulatorBox = [this](bool show) { emulatorBox.ShowEmulatorBox(show); };
-
-    auto& lists = listEvents.hooks;
-    lists.ShowGlobalFavourites = [this] {
-        if (globalEvents.ShowGlobalFavourites()) return true;
-        // A favourite that is still chosen can be removed at once.
-        if (form.FavoritenListe.ListIndex() >= 0) favoritenEvents.OfferButtons();
-        return false;
-    };
-    lists.LeaveGlobalFavourites = [this] { globalEvents.LeaveGlobalFavourites(); };
-    // A game that is selected can be made a favourite.
-    lists.OfferFavouriteButtons = [this] {
-        form.AddToFavorit.SetVisible(true);
-        form.AddToFavorit_Global.SetVisible(true);
-    };
-
-    markedGame.hooks.SelectFavourite = [this] { return favoritenEvents.SelectGame(); };
-    markedGame.hooks.RowOfFavourite = [this] { return favoritenEvents.RowOfGame(); };
+    favoritenEvents.ports.launching = gameLaunch;
+    favoritenEvents.ports.drives = driveSlots;
+    globalEvents.ports.launching = gameLaunch;
+    globalEvents.ports.layout = layout;
 
     forms::ListBox& list = form.FavoritenListe;
-    list.onClick = [this] {
-        favoritenEvents.FavoritenListe_Click();
-        markedGame.ShowName();
-    };
+    list.onClick = [this] { favoritenEvents.FavoritenListe_Click(), markedGame.ShowName(); };
     list.onDblClick = [this] { favoritenEvents.FavoritenListe_DblClick(); };
+    list.onGotFocus = [this] { listEvents.FavoritenListe_GotFocus(); };
+    list.onLostFocus = [this] { listEvents.FavoritenListe_LostFocus(); };
     list.onMouseDown = [this](const forms::Mouse& mouse) {
         favoritenEvents.FavoritenListe_MouseDown(mouse);
     };

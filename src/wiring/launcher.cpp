@@ -1,5 +1,6 @@
 #include "wiring/launcher.h"
 
+#include "core/emulator_paths.h"
 #include "text/collation.h"
 #include "wiring/routines.h"
 
@@ -17,8 +18,6 @@ Launcher::Launcher(platform::Host host, const forms::TextMeasure* measure,
                    std::function<void()> endProgram, forms::WindowHost* windows)
     : routines(
           std::make_unique<Routines>(std::move(host), measure, std::move(endProgram), windows)) {
-    routines->JoinHooks();
-    routines->JoinControls();
 }
 
 Launcher::~Launcher() = default;
@@ -42,7 +41,6 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
                              std::function<void()> end, forms::WindowHost* windowHost)
     : logged(std::move(hostServices)),
       host(logged.Services()),
-      endProgram(std::move(end)),
       windows(windowHost ? *windowHost : noWindows),
       dialogs(host.dialogs, windows),
       scanSource(host.files),
@@ -51,67 +49,53 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       pacer(host.events, host.clock),
       busy(form, host.events),
       alwaysOnTop(form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore),
-      startUp(form, ini, host.files, host.locale, host.clock),
-      emulatorSwitch(form, ini, host.files, host.events, dialogs, busy, host.commandLine),
-      settingsLoader(form, ini, host.files, dialogs),
       shutDown(form, ini),
-      windowKeys(form, dialogs, host.beeper),
+      settingsLoader(form, ini, host.files, dialogs),
+      emulatorSwitch(form, ini, {host.files, host.events, dialogs},
+                     {busy, settingsLoader, shutDown, alwaysOnTop}, host.commandLine),
+      startUp(form, ini, host.files, host.locale, host.clock, emulatorSwitch),
+      windowKeys(form, dialogs, host.beeper, shutDown),
       scanner(form, scanSource, host.beeper, pacer),
-      gameLists(form, ini, host.files, busy, pacer, scanner),
-      emulatorBox(form, ini, host.files, busy),
+      emulatorBox(form, ini, host.files, busy, emulatorSwitch),
+      gameLists(form, ini, host.files, busy, pacer, scanner, {emulatorBox, emulatorSwitch}),
       markedGame(form, dialogs),
-      listEvents(form, markedGame),
-      listSearch(form, markedGame),
-      globalSearch(form, host.files, busy, pacer),
-      favoriten(form, ini, host.files),
+      listSearch(form, markedGame, emulatorBox),
+      globalSearch(form, host.files, busy, pacer, listSearch, emulatorBox),
+      listEvents(form, markedGame, {emulatorBox, gameLists, globalSearch}),
+      favoriten(form, ini, host.files, gameLists),
       globalFavoriten(form, ini, host.files),
       repair(form, favoriten, busy, pacer, dialogs),
-      favoritenEvents(form, favoriten, globalFavoriten, repair, busy, pacer,
-                      {dialogs, host.beeper}),
-      globalEvents(form, globalFavoriten, busy, {host.beeper, host.events}),
+      favoritenEvents(form, favoriten, globalFavoriten, repair, busy, pacer, {dialogs, host.beeper},
+                      {emulatorBox, listEvents, markedGame}),
+      globalEvents(form, globalFavoriten, busy, {host.beeper, host.events},
+                   {emulatorSwitch, emulatorBox, markedGame, alwaysOnTop}),
       prozess(host.processes),
-      watch(form, ini, prozess, busy, host.events, dialogs, host.log),
-      gameLaunch(form, ini, busy, pacer,
-                 {host.files, host.starter, host.clock, dialogs, host.beeper, host.log}),
-      handedFile(form, host.beeper, host.log),
-      emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, dialogs, host.log}),
+      watch(form, ini, prozess, busy, host.events, dialogs, host.log,
+            {emulatorBox, listEvents, alwaysOnTop}),
       uaeFiles(form, host.files, host.log),
+      gameLaunch(form, ini, busy, pacer,
+                 {host.files, host.starter, host.clock, dialogs, host.beeper, host.log},
+                 {emulatorBox, listEvents, alwaysOnTop, uaeFiles}),
+      handedFile(form, {host.files, host.beeper, host.instance, host.log},
+                 {emulatorBox, gameLaunch, shutDown, alwaysOnTop}, host.commandLine),
+      emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, dialogs, host.log},
+                    watch),
       driveSlots(form, ini, host.beeper),
       layout(form),
-      fontSize(form),
+      fontSize(form, layout),
       hints(form),
-      surface(form, ini, dialogs),
-      panelDrag(form),
-      navigation(form) {
-    const char separator = host.files.Separator();
-    form.AppDir = host.programDirectory;
-    if (form.AppDir.empty() || form.AppDir.back() != separator) form.AppDir += separator;
-    form.EXE = host.programName;
-}
-
-void Launcher::Routines::EndProgram() {
-    form.Ended = true;
-    ini.StoreWriteBacks();
-    if (endProgram) endProgram();
-}
-
-void Launcher::Routines::LeaveChoice() {
-    if (emulatorBox.ChoiceIsOpen()) {
-        emulatorBox.LeaveEmulatorBox();
-        return;
-    }
-    // A row that is chosen there counts as a click, which opens the choice.
-    const std::string mode = form.ListMode;
-    form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
-    form.ListMode = mode;
-}
-
-void Launcher::Routines::RefreshList() {
-    globalSearch.LeaveResults();
-    layout.ArrangeLists();
-    gameLists.UpdateListCaptions();
-    markedGame.ShowName();
-    hints.Refresh();
+      surface(form, ini, dialogs, busy, alwaysOnTop),
+      panelDrag(form, layout),
+      navigation(form, listEvents, emulatorBox, globalEvents) {
+    core::AssignProgram(form, host.files, host.programDirectory, host.programName);
+    shutDown.hooks.EndProcess = std::move(end);
+    JoinWindow();
+    JoinEmulators();
+    JoinLists();
+    JoinSearch();
+    JoinFavourites();
+    JoinLaunch();
+    JoinDrives();
 }
 
 }  // namespace kivu::wiring

@@ -68,7 +68,6 @@ struct Launcher::Routines {
 
     LoggedHost logged;
     platform::Host host;  // its failures stand in the log
-    std::function<void()> endProgram;
     NoWindows noWindows;
     forms::WindowHost& windows;
     CountedDialogs dialogs;
@@ -81,19 +80,19 @@ struct Launcher::Routines {
     core::BusyState busy;
     support::AlwaysOnTop alwaysOnTop;
 
-    core::StartUp startUp;
-    core::EmulatorSwitch emulatorSwitch;
-    core::SettingsLoader settingsLoader;
     core::ShutDown shutDown;
+    core::SettingsLoader settingsLoader;
+    core::EmulatorSwitch emulatorSwitch;
+    core::StartUp startUp;
     core::WindowKeys windowKeys;
 
     library::FileScanRecursive scanner;
-    library::GameLists gameLists;
     library::EmulatorBox emulatorBox;
+    library::GameLists gameLists;
     library::MarkedGame markedGame;
-    library::ListEvents listEvents;
     library::ListSearch listSearch;
     library::AllEmulatorsSearch globalSearch;
+    library::ListEvents listEvents;
 
     favourites::Favoriten favoriten;
     favourites::GlobalFavoriten globalFavoriten;
@@ -103,10 +102,10 @@ struct Launcher::Routines {
 
     launch::Prozess prozess;
     launch::RunningWatch watch;
+    launch::UaeFiles uaeFiles;
     launch::GameLaunch gameLaunch;
     launch::HandedFile handedFile;
     launch::EmulatorSetup emulatorSetup;
-    launch::UaeFiles uaeFiles;
     launch::DriveSlots driveSlots;
 
     ui::Layout layout;
@@ -117,28 +116,15 @@ struct Launcher::Routines {
 
     joystick::ListNavigation navigation;
 
-    void JoinHooks();
-    void JoinControls();
-    void EndProgram();
-    // The list in front, the tabs and their counts.
-    void RefreshList();
-    // No choice of an emulator is open, and the drop-down stands on the one that is loaded.
-    void LeaveChoice();
-    void SearchAll();
-
  private:
-    void JoinCore();
-    void JoinLibrary();
+    // One topic a file: what its events run, and what its routines ask of later ones.
+    void JoinWindow();
+    void JoinEmulators();
+    void JoinLists();
     void JoinSearch();
     void JoinFavourites();
     void JoinLaunch();
     void JoinDrives();
-    void JoinPanelDrag();
-    void JoinUi();
-    void JoinWindow();
-    void JoinLists();
-    void LaunchInFront();
-    void JoinButtons();
 };
 
 }  // namespace kivu::wiring

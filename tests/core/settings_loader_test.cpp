@@ -2,7 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include "core/form1.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
 #include "testing/scripted_host.h"
 
 namespace kivu::core {
@@ -23,6 +25,7 @@ struct SettingsLoaderTest : ::testing::Test {
         files.AddDirectory("/k/Config/Alpha");
         for (int size = 8; size <= 80; ++size)
             form.FontSizeCombo.AddItem(std::to_string(size));
+        loader.ports.layout = layout;
         loader.hooks.JoystickEnable = [this](bool on) { enabled.push_back(on); };
     }
     // The loader finds so many controllers.
@@ -40,6 +43,7 @@ struct SettingsLoaderTest : ::testing::Test {
     kivu::testing::ScriptedHost host{files};
     Form1 form{forms::Toolkit{}};
     profile::Ini ini{files};
+    kivu::testing::QuietLayout layout;
     SettingsLoader loader{form, ini, files, host.dialogs};
     std::vector<bool> enabled;
 };

@@ -2,13 +2,19 @@
 
 #include <gmock/gmock.h>
 
+#include "core/form1.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
 
 namespace kivu::core {
 namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+
+struct DrivesAtHome : kivu::testing::QuietLayout {
+    bool DrivesAreHome() const override { return true; }
+};
 
 struct ShutDownTest : ::testing::Test {
     ShutDownTest() {
@@ -17,8 +23,8 @@ struct ShutDownTest : ::testing::Test {
         files.AddDirectory("/k/Config/Alpha");
         form.Move(150, 300, 15000, 12000);
         form.SettingsSubPicture.Move(1200, 3400, 4560, 480);
-        shutDown.EndProgram = [this] { ++ends; };
-        shutDown.DrivesAreHome = [] { return true; };
+        shutDown.hooks.EndProcess = [this] { ++ends; };
+        shutDown.ports.layout = layout;
     }
 
     const std::string panel = "DrvWindowX=1200\r\nDrvWindowY=3400\r\nDrvWindowDocked=1\r\n";
@@ -28,6 +34,7 @@ struct ShutDownTest : ::testing::Test {
     kivu::testing::MemoryFileSystem files;
     Form1 form{forms::Toolkit{}};
     profile::Ini ini{files};
+    DrivesAtHome layout;
     ShutDown shutDown{form, ini};
     int ends = 0;
 };
@@ -63,6 +70,17 @@ TEST_F(ShutDownTest, EndsThoughNothingCanBeWritten) {
     files.AddDirectory(form.BaseIniName);
     shutDown.ExitBtn_Click();
     EXPECT_THAT(files.changes, IsEmpty());
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(ShutDownTest, EndOfAnotherKindWritesWhatHasGatheredAndNothingElse) {
+    files.AddFile(form.BaseIniName, "[Settings]\r\n");
+    const profile::Ini::GatheredWriteBacks gathered(ini);
+    (void)ini.ReadIniValue("Settings", "Fontsize", form.BaseIniName, "16", true);
+    EXPECT_THAT(files.changes, IsEmpty());
+    shutDown.EndProgram();
+    EXPECT_EQ(files.BytesOf(form.BaseIniName), "[Settings]\r\nFontsize=16\r\n");
+    EXPECT_TRUE(form.Ended);
     EXPECT_EQ(ends, 1);
 }
 

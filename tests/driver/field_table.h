@@ -66,8 +66,8 @@ void Take(std::array<Value, count>& field, const Json& value, const std::string&
 
 }  // namespace detail
 
-template <typename Window, typename Value>
-Field FieldOf(const char* name, Value Window::*member) {
+template <typename Window, typename Group, typename Value>
+Field FieldOf(const char* name, Value Group::*member) {
     return {name,
             [member](const forms::Form& form) {
                 return detail::Shown(static_cast<const Window&>(form).*member);

@@ -11,7 +11,7 @@ namespace {
 using core::Form1;
 
 const FieldTable& MainWindowFields() {
-#define KIVU_FIELD(name) FieldOf(#name, &Form1::name)
+#define KIVU_FIELD(name) FieldOf<Form1>(#name, &Form1::name)
     static const FieldTable fields{
         KIVU_FIELD(AppDir),
         KIVU_FIELD(EXE),

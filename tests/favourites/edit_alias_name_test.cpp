@@ -11,15 +11,15 @@ class EditAliasNameTest : public ::testing::Test {
  protected:
     std::string Edit(const std::string& name, const std::string& input) {
         dialogs.inputs = {input};
-        return EditAliasName(name, form, dialogs);
+        return EditAliasName(name, program, dialogs);
     }
 
-    core::Form1 form{forms::Toolkit{}};
+    core::ProgramState program;
     testing::ScriptedDialogs dialogs;
 };
 
 TEST_F(EditAliasNameTest, AsksInGermanWithTheNameAsDefault) {
-    form.CurrentLanguage = 1;
+    program.CurrentLanguage = 1;
     EXPECT_EQ(Edit("Zool", "Zool 2"), "Zool 2");
     ASSERT_EQ(dialogs.shown.size(), 1U);
     EXPECT_TRUE(dialogs.shown[0].isInput);
@@ -29,7 +29,7 @@ TEST_F(EditAliasNameTest, AsksInGermanWithTheNameAsDefault) {
 }
 
 TEST_F(EditAliasNameTest, AnyOtherLanguageIsAskedInEnglish) {
-    form.CurrentLanguage = 3;
+    program.CurrentLanguage = 3;
     Edit("Zool", "x");
     EXPECT_EQ(dialogs.shown[0].title, "Change alias");
     EXPECT_EQ(dialogs.shown[0].text, "Please enter a new title for: \r\rZool");

@@ -20,20 +20,12 @@ class GlobalEventsTest : public ::testing::Test {
         room.global.AddGlobalFavorit("Zool", "Amiga", "/k/G/Zool.adf");
         room.global.AddGlobalFavorit("Lost", "Vectrex", "/k/V/Lost.vec");
         room.global.LoadGlobalFavoriten();
-        auto& hooks = room.globalEvents.hooks;
-        hooks.SelectEmulator = [this](bool add) {
+        room.onSelect = [this](bool add) {
             steps.push_back("switch to " + room.form.EmuListbox.SelectedText() +
                             (add ? " and add" : ""));
             room.form.CurrentEmuIndex = room.form.EmuListbox.ListIndex();
         };
-        hooks.SetToNormal = [this] { steps.push_back("normal"); };
-        hooks.StartGame = [this](const std::string& path) {
-            steps.push_back(room.form.EmuListbox.Visible() ? "box visible" : "box hidden");
-            steps.push_back("start " + path);
-        };
-        hooks.ArrangeLists = [this] { steps.push_back("arrange"); };
-        hooks.LeaveEmulatorBox = [this] { steps.push_back("leave"); };
-        hooks.ShowEmulatorBox = [this](bool show) { steps.push_back(show ? "open" : "close"); };
+        room.form.SetTopmost(true);
         room.form.SearchDblsTxt.onChange = [this] {
             steps.push_back("search " + room.form.SearchDblsTxt.Text());
         };
@@ -51,7 +43,7 @@ class GlobalEventsTest : public ::testing::Test {
 
     testing::MemoryFileSystem disk;
     Room room{disk};
-    Texts steps;
+    Texts& steps = room.steps;
 };
 
 TEST_F(GlobalEventsTest, ClickSetsTheRowOfTheEmulatorAndSwitchesNothing) {
@@ -112,7 +104,7 @@ TEST_F(GlobalEventsTest, DoubleClickWithoutARecordOrAnEmulatorStartsNothing) {
 }
 
 TEST_F(GlobalEventsTest, SwitchThatDoesNotComeThroughStartsNothing) {
-    room.globalEvents.hooks.SelectEmulator = [](bool) {};
+    room.onSelect = [](bool) {};
     room.hands.DoubleClick(room.form.FavoritenListeGlobal, 0);
     EXPECT_TRUE(steps.empty());
     room.form.Busy = true;
@@ -121,7 +113,7 @@ TEST_F(GlobalEventsTest, SwitchThatDoesNotComeThroughStartsNothing) {
 }
 
 TEST_F(GlobalEventsTest, RecordSurvivesALoadDuringTheSwitch) {
-    room.globalEvents.hooks.SelectEmulator = [this](bool) {
+    room.onSelect = [this](bool) {
         room.form.CurrentEmuIndex = room.form.EmuListbox.ListIndex();
         disk.Remove(room.form.FavoritenGlobalIni);
         room.global.LoadGlobalFavoriten();

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/form1.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
 
@@ -20,7 +21,6 @@ struct Drives : ::testing::Test {
         form.CurrentLanguage = 2;
         form.QuarterWidth = 1000;
         form.WIthoutDoubles.SetWidth(2000);
-        drives.hooks.OfferFavouriteButtons = [this] { ++offers; };
     }
     void Smart(const char* value) {
         files.AddFile(profile, std::string("[Settings]\r\nSmartRomSelection=") + value + "\r\n");
@@ -76,7 +76,6 @@ struct Drives : ::testing::Test {
     core::Form1 form{forms::Toolkit{}};
     profile::Ini ini{files};
     DriveSlots drives{form, ini, beeper};
-    int offers = 0;
 };
 
 TEST_F(Drives, SecondDiskIsFilledInListOrderBehindTheFirst) {
@@ -87,7 +86,8 @@ TEST_F(Drives, SecondDiskIsFilledInListOrderBehindTheFirst) {
     EXPECT_THAT(Ticks(), ElementsAre(1, 1, 0, 0, 0));
     EXPECT_EQ(form.Check_Dfx[0].ToolTipText(), "Game (Disk 1 of 2).adf");
     EXPECT_EQ(form.Check_Dfx[1].ToolTipText(), "Game (Disk 2 of 2).adf");
-    EXPECT_EQ(offers, 1);
+    EXPECT_TRUE(form.AddToFavorit.Visible());
+    EXPECT_TRUE(form.AddToFavorit_Global.Visible());
 }
 
 TEST_F(Drives, ClickInTheFirstRowsBeginsAtRowZero) {
@@ -251,7 +251,8 @@ TEST_F(Drives, HandSelectionTicksBoxesAndLeavesTheDrivesEmpty) {
     EXPECT_EQ(form.Check_Dfx[0].ToolTipText(), "b.adf");
     EXPECT_EQ(form.Check_Dfx[1].ToolTipText(), "e.adf");
     EXPECT_THAT(Slots(), ElementsAre(-1, -1, -1, -1, -1));
-    EXPECT_EQ(offers, 2);
+    EXPECT_TRUE(form.AddToFavorit.Visible());
+    EXPECT_TRUE(form.AddToFavorit_Global.Visible());
 }
 
 TEST_F(Drives, FiveRowsByHandFitAndTheSixthSaysThatNoDriveIsLeft) {

@@ -2,10 +2,12 @@
 
 #include <string>
 
+#include "core/form1.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/uae_files.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
 #include "testing/scripted_host.h"
 
 namespace kivu::launch {
@@ -37,9 +39,6 @@ struct LaunchRoom {
         form.TmpBatName = form.StartPfad + "Kivu_tmp.bat";
         form.StartScriptName = form.StartPfad + "Kivu_StartScript.uaecfg";
         Profile("");
-        launch.hooks.WriteStartConfiguration = [this](bool windowsPaths) {
-            uae.WriteStartConfiguration(windowsPaths);
-        };
         uae.hooks.Add_CURRENT_PROGRAM_STARTED = [this](std::string& name) {
             launch.Add_CURRENT_PROGRAM_STARTED(name);
         };
@@ -65,14 +64,20 @@ struct LaunchRoom {
     profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
+    support::AlwaysOnTop alwaysOnTop{
+        form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore};
+    kivu::testing::QuietChoice choice;
+    kivu::testing::QuietFront front;
+    kivu::testing::QuietWatch watch;
+    UaeFiles uae{form, files, host.log};
     GameLaunch launch{form,
                       ini,
                       busy,
                       pacer,
-                      {files, host.starter, host.clock, host.dialogs, host.beeper, host.log}};
+                      {files, host.starter, host.clock, host.dialogs, host.beeper, host.log},
+                      {choice, front, alwaysOnTop, uae}};
     EmulatorSetup setup{
-        form, ini, pacer, {files, host.starter, host.clock, host.dialogs, host.log}};
-    UaeFiles uae{form, files, host.log};
+        form, ini, pacer, {files, host.starter, host.clock, host.dialogs, host.log}, watch};
 };
 
 }  // namespace kivu::launch

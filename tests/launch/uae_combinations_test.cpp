@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/form1.h"
 #include "launch/uae_files.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"

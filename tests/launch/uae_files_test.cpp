@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/form1.h"
 #include "launch/uae_configuration.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "core/form1.h"
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
 

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 #include <random>
 
+#include "core/form1.h"
 #include "library/find_game.h"
 #include "library/first_rows.h"
 #include "testing/memory_file_system.h"

@@ -11,6 +11,7 @@
 #include "library/scan_source.h"
 #include "profile/ini.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
 #include "testing/scripted_host.h"
 
 namespace kivu::library {
@@ -39,7 +40,9 @@ struct GameListsFixture : ::testing::Test {
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
     FileScanRecursive scanner{form, source, host.beeper, pacer};
-    GameLists lists{form, ini, files, busy, pacer, scanner};
+    kivu::testing::QuietChoice choice;
+    kivu::testing::QuietSwitching switching;
+    GameLists lists{form, ini, files, busy, pacer, scanner, {choice, switching}};
 };
 
 }  // namespace kivu::library

@@ -9,6 +9,7 @@
 #include "library/scan_source.h"
 #include "profile/ini.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
 #include "testing/scripted_host.h"
 #include "text/collation.h"
 
@@ -25,7 +26,10 @@ class TextOrder : public forms::Collation {
 };
 
 struct ListFilling : ::testing::Test {
-    explicit ListFilling(char separator = '/') : files(separator) {}
+    explicit ListFilling(char separator = '/') : files(separator) {
+        lists.ports.front = front;
+        lists.ports.watch = watch;
+    }
 
     kivu::testing::MemoryFileSystem files;
     kivu::testing::ScriptedHost host{files};
@@ -36,7 +40,11 @@ struct ListFilling : ::testing::Test {
     core::EventPacer pacer{host.events, host.clock};
     core::BusyState busy{form, host.events};
     FileScanRecursive scanner{form, source, host.beeper, pacer};
-    GameLists lists{form, ini, files, busy, pacer, scanner};
+    kivu::testing::QuietFront front;
+    kivu::testing::QuietWatch watch;
+    kivu::testing::QuietChoice choice;
+    kivu::testing::QuietSwitching switching;
+    GameLists lists{form, ini, files, busy, pacer, scanner, {choice, switching}};
 
     void LoadCache(const std::string& text) {
         form.AppDir = files.Separator() == '/' ? "/kivu/" : "C:\\kivu\\";
@@ -89,6 +97,17 @@ TEST_F(ListFilling, BytesThatAreNoTextStayWhereBothNamesAreThere) {
     files.AddFile("/kivu/\xC3\xA4.adf", "");
     LoadCache("/\xE4.adf\r\n\xE4\r\n");
     EXPECT_THAT(form.UAE_FULL.Rows(), ElementsAre("/kivu/\xE4.adf"));
+}
+
+TEST_F(ListFilling, ARescanByItsButtonLeavesTheFocusOnTheFreshList) {
+    form.CurrentEmuIndex = 0;
+    form.LoadBtn.SetEnabled(true);
+    form.LoadBtn.SetFocus();
+    lists.RescanByButton();
+    EXPECT_TRUE(form.UAE_Short.HasFocus());
+    form.ExitBtn.SetFocus();
+    lists.RescanByButton();
+    EXPECT_TRUE(form.ExitBtn.HasFocus());
 }
 
 TEST_F(ListFilling, APathOfAWindowsHostIsInItsCodePage) {

@@ -61,6 +61,19 @@ bool EndsAfterOneOf(std::string_view rest, const std::vector<std::string_view>& 
     });
 }
 
+bool Decides(std::string_view line) {
+    line = line.substr(0, line.find("//"));
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        const std::string_view rest = line.substr(i);
+        if (rest[0] == '?' || rest.starts_with("&&") || rest.starts_with("||") ||
+            rest.starts_with("return !"))
+            return true;
+        if (i > 0 && IsWordByte(line[i - 1])) continue;
+        if (EndsAfterOneOf(rest, {"if", "else", "while", "switch"})) return true;
+    }
+    return false;
+}
+
 bool IsChapter(std::string_view rest) {
     const auto digit = [](char c) { return c >= '1' && c <= '8'; };
     if (rest.starts_with('s')) rest.remove_prefix(1);
@@ -86,6 +99,19 @@ bool NameMentions(std::string path) {
 }
 
 }  // namespace
+
+Findings DecidingJoins(const SourceTree& tree) {
+    Findings findings;
+    for (const SourceFile& file : tree) {
+        if (!file.path.starts_with("src/wiring/join_")) continue;
+        std::size_t number = 0;
+        for (const std::string_view line : LinesOf(file)) {
+            ++number;
+            if (Decides(line)) findings.push_back(file.path + ":" + std::to_string(number));
+        }
+    }
+    return findings;
+}
 
 Findings UnreadableReferences(const SourceTree& tree) {
     Findings findings;

@@ -13,6 +13,10 @@ Findings LongFiles(const SourceTree& tree, const std::vector<std::string>& gener
 // Headers without "#pragma once" as their first directive.
 Findings UnguardedHeaders(const SourceTree& tree);
 
+// Decisions in the files that join events and wishes to the routines, where none belongs: a routine
+// takes them, which can be tested by itself.
+Findings DecidingJoins(const SourceTree& tree);
+
 // Mentions of papers that a reader of the tree does not have, in texts and file names. The code is
 // to be understood by itself.
 Findings UnreadableReferences(const SourceTree& tree);

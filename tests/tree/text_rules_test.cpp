@@ -52,6 +52,21 @@ TEST(UnguardedHeadersTest, GuardComesBeforeAnyOtherDirective) {
                 ElementsAre("src/a/b.h", "src/a/c.h", "src/a/d.h", "tests/a/f.h"));
 }
 
+TEST(DecidingJoinsTest, RoutinesTakeTheDecisions) {
+    const SourceTree tree{File("src/wiring/join_a.cpp",
+                               "// If it is open?\n"
+                               "form.A.onClick = [this] { one.A_Click(), two.Show(); };\n"
+                               "for (auto& tab : tabs) tab.onClick = drift;\n"
+                               "if (one.IsOpen()) one.Close();\n"
+                               "all.Has = [this] { return !marked.Select(); };\n"
+                               "all.Row = [this] { return one.IsOpen() ? 1 : 2; };\n"
+                               "one.IsOpen() && one.Close();\n"),
+                          File("src/wiring/launcher.cpp", "if (a) b();\n")};
+    EXPECT_THAT(DecidingJoins(tree),
+                ElementsAre("src/wiring/join_a.cpp:4", "src/wiring/join_a.cpp:5",
+                            "src/wiring/join_a.cpp:6", "src/wiring/join_a.cpp:7"));
+}
+
 TEST(UnreadableReferencesTest, TextsAndNamesThatMentionThemAreFound) {
     const std::string word = std::string("spe") + "c";
     const std::string part = std::string("Par") + "t";
@@ -114,6 +129,7 @@ TEST_F(TextsOfThisTree, FilesFitIntoAReadersHead) {
 
 TEST_F(TextsOfThisTree, HeadersAreGuarded) {
     EXPECT_EQ(Joined(UnguardedHeaders(tree)), "");
+    EXPECT_EQ(Joined(DecidingJoins(tree)), "");
 }
 
 TEST_F(TextsOfThisTree, NothingRefersToPapersThatAReaderDoesNotHave) {

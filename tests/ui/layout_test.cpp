@@ -5,6 +5,8 @@
 #include <gtest/gtest.h>
 #include <vector>
 
+#include "core/form1.h"
+
 namespace kivu::ui {
 namespace {
 

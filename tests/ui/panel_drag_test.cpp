@@ -3,10 +3,18 @@
 #include <algorithm>
 #include <gtest/gtest.h>
 
+#include "core/form1.h"
+#include "testing/quiet_ports.h"
+
 namespace kivu::ui {
 namespace {
 
-struct PanelDragTest : testing::Test {
+struct Arranging : kivu::testing::QuietLayout {
+    void ResizeSettingsWindow() override { ++kept; }
+    int kept = 0;
+};
+
+struct PanelDragTest : ::testing::Test {
     PanelDragTest() {
         form.Move(600, 300, 14400, 10200);
         form.SettingsSubPicture.Move(9000, 7500, 4560, 480);
@@ -15,7 +23,6 @@ struct PanelDragTest : testing::Test {
         form.TopRightPic.Move(10900, 60, 3270, 960);
         form.TimeString.Move(1500, 75, 1290, 420);
         form.UAE_Short.Move(300, 1300, 9033, 8600);
-        panel.KeepInside = [this] { ++kept; };
     }
     void Grab(int x, int y) { panel.SettingsSubPicture_MouseDown({forms::buttons::left, 0, x, y}); }
     void Drop(forms::Control& on, int x, int y) {
@@ -35,8 +42,8 @@ struct PanelDragTest : testing::Test {
     static constexpr int besideY = (7500 + 300) / 15;
 
     core::Form1 form{forms::Toolkit{}};
-    PanelDrag panel{form};
-    int kept = 0;
+    Arranging layout;
+    PanelDrag panel{form, layout};
 };
 
 TEST_F(PanelDragTest, PressGivesThePanelToTheMouseAndBringsItForward) {
@@ -54,7 +61,7 @@ TEST_F(PanelDragTest, PlaceInTheWindowIsThePlaceItself) {
     Grab(30, 40);
     Drop(form, 5000, 6000);
     ExpectPlace(5000 - 30 + besideX, 6000 - 40 + besideY);
-    EXPECT_EQ(kept, 1);
+    EXPECT_EQ(layout.kept, 1);
 }
 
 TEST_F(PanelDragTest, ListsAndLabelsAddTheirOwnPlace) {
@@ -108,7 +115,7 @@ TEST_F(PanelDragTest, OtherControlsThanThePanelMoveNothing) {
     panel.DragDrop(target, form.TopRightPic, 5, 6);
     panel.DragOver(target, form.TopRightPic, 5, 6);
     ExpectPlace(9000, 7500);
-    EXPECT_EQ(kept, 0);
+    EXPECT_EQ(layout.kept, 0);
 }
 
 TEST_F(PanelDragTest, PanelLiesUnderTheMouseAsItWillWhenItIsDropped) {

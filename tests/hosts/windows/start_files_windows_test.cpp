@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "core/form1.h"
 #include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/process_list_windows.h"
 #include "hosts/windows/program_starter_windows.h"
@@ -11,6 +12,8 @@
 #include "launch/game_launch.h"
 #include "launch/prozess.h"
 #include "launch/running_watch.h"
+#include "launch/uae_files.h"
+#include "testing/quiet_ports.h"
 #include "testing/scripted_host.h"
 
 namespace kivu::launch {
@@ -114,7 +117,18 @@ class RealLaunch : public ::testing::Test {
     profile::Ini ini{files};
     core::EventPacer pacer{events, clock};
     core::BusyState busy{form, events};
-    GameLaunch launch{form, ini, busy, pacer, {files, starter, clock, dialogs, beeper, log}};
+    kivu::testing::ScriptedUserStore userStore;
+    support::AlwaysOnTop alwaysOnTop{
+        form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, userStore};
+    kivu::testing::QuietChoice choice;
+    kivu::testing::QuietFront front;
+    UaeFiles uae{form, files, log};
+    GameLaunch launch{form,
+                      ini,
+                      busy,
+                      pacer,
+                      {files, starter, clock, dialogs, beeper, log},
+                      {choice, front, alwaysOnTop, uae}};
 };
 
 // Names that hold what the command processor might act upon, or split at. With a "trap" in them
@@ -275,7 +289,8 @@ TEST_F(RealLaunch, StartFileThatCannotBeWrittenTakesADirectStart) {
 TEST_F(RealLaunch, RunningEmulatorIsWatchedAndEndedByTheUser) {
     hosts::WindowsProcessList processes;
     Prozess prozess{processes};
-    RunningWatch watch{form, ini, prozess, busy, events, dialogs, log};
+    RunningWatch watch{form,   ini,     prozess, busy,
+                       events, dialogs, log,     {choice, front, alwaysOnTop}};
     disk.MakeDirectory("my emu");
     const std::string name = "Emu " + std::to_string(::GetCurrentProcessId()) + ".exe";
     kivu::testing::CopyHelper(L"stay", disk.Path("my emu\\" + name));
@@ -295,13 +310,15 @@ TEST_F(RealLaunch, RunningEmulatorIsWatchedAndEndedByTheUser) {
     EXPECT_FALSE(form.EmuActiveTimer.Enabled());
 }
 
+struct CountedLooks : kivu::testing::QuietWatch {
+    void EmuActiveTimer_Timer() override { ++looks; }
+    int looks = 0;
+};
+
 TEST_F(RealLaunch, SettingUpStartsTheEmulatorAlone) {
     Emulator("my emu & co", "the emu.exe");
-    EmulatorSetup setup{form, ini, pacer, {files, starter, clock, dialogs, log}};
-    int looks = 0;
-    setup.hooks.EmuActiveTimer_Timer = [&] { ++looks; };
-    std::string watched;
-    setup.hooks.SetCurrentRunninApplication = [&](const std::string& name) { watched = name; };
+    CountedLooks watch;
+    EmulatorSetup setup{form, ini, pacer, {files, starter, clock, dialogs, log}, watch};
     EXPECT_FALSE(files.WriteFile(form.IniPath, "[Settings]\r\nEmulatorPath=" + emulator + "\r\n"));
     setup.StartEmulator("Amiga 500", false);
     const auto told = telling.Wait();
@@ -310,8 +327,8 @@ TEST_F(RealLaunch, SettingUpStartsTheEmulatorAlone) {
     EXPECT_EQ(LongForm(told->program), emulator);
     EXPECT_EQ(LongForm(told->directory), disk.Path("my emu & co"));
     EXPECT_EQ(told->show, std::to_string(SW_SHOWNORMAL));
-    EXPECT_EQ(watched, "the emu.exe");
-    EXPECT_EQ(looks, 1);
+    EXPECT_EQ(form.CurrentRunninApplication, "the emu.exe");
+    EXPECT_EQ(watch.looks, 1);
 }
 
 }  // namespace

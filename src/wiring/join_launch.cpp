@@ -1,0 +1,20 @@
+// The start of a game, the emulator that runs, and the file of a later instance.
+
+#include "wiring/routines.h"
+
+namespace kivu::wiring {
+
+void Launcher::Routines::JoinLaunch() {
+    // The loading screen names each disk.
+    uaeFiles.hooks.Add_CURRENT_PROGRAM_STARTED = [this](std::string& name) {
+        gameLaunch.Add_CURRENT_PROGRAM_STARTED(name);
+    };
+    handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
+
+    form.EmuActiveTimer.onTimer = [this] { watch.Tick(); };
+    form.LoadingBtn.onClick = [this] { watch.LoadingBtn_Click(); };
+    form.LoadingBtn.onChange = [this] { watch.LoadingBtn_Change(); };
+    form.AppRunningPicture.onClick = [this] { watch.AppRunningPicture_Click(); };
+}
+
+}  // namespace kivu::wiring

@@ -1,0 +1,59 @@
+#include "launch/running_watch.h"
+
+#include <gtest/gtest.h>
+
+#include "core/form1.h"
+#include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
+#include "testing/scripted_host.h"
+
+namespace kivu::launch {
+namespace {
+
+struct RunningWatchTest : ::testing::Test {
+    kivu::testing::MemoryFileSystem files;
+    kivu::testing::ScriptedHost host{files};
+    core::Form1 form{forms::Toolkit{}};
+    profile::Ini ini{files};
+    core::BusyState busy{form, host.events};
+    support::AlwaysOnTop alwaysOnTop{
+        form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore};
+    kivu::testing::QuietChoice choice;
+    kivu::testing::QuietFront front;
+    Prozess prozess{host.processes};
+    RunningWatch watch{
+        form, ini, prozess, busy, host.events, host.dialogs, {choice, front, alwaysOnTop}};
+};
+
+// The lists that the end of the game would bring back are being filled.
+TEST_F(RunningWatchTest, TickRestsWhileASwitchOrARescanIsUnderWay) {
+    form.CurrentRunninApplication = "game.exe";
+    form.GameIsRunning = true;
+    form.StartGraceTicks = 2;
+    form.EmuActiveTimer.SetEnabled(true);
+    form.Busy = true;
+    for (int second = 0; second < 5; ++second)
+        watch.Tick();
+    EXPECT_TRUE(form.GameIsRunning);
+    EXPECT_EQ(form.StartGraceTicks, 2);
+    form.Busy = false;
+    watch.Tick();
+    EXPECT_EQ(form.StartGraceTicks, 1);
+    watch.Tick();
+    EXPECT_FALSE(form.GameIsRunning);
+    EXPECT_FALSE(form.EmuActiveTimer.Enabled());
+}
+
+// The change itself looks, while it is under way.
+TEST_F(RunningWatchTest, ChangeOfEmulatorLooksAtOnce) {
+    form.Busy = true;
+    host.processes.Add("game.exe", 7);
+    watch.WatchOnce();
+    EXPECT_FALSE(form.AppRunningPicture.Visible());
+    form.CurrentRunninApplication = "game.exe";
+    watch.WatchOnce();
+    EXPECT_TRUE(form.AppRunningPicture.Visible());
+}
+
+}  // namespace
+}  // namespace kivu::launch
