@@ -66,8 +66,7 @@ void Layout::PlaceBusySigns() {
     const forms::ComboBox& box = form.EmuListbox;
     // It shows beside a closed choice alone.
     const int most = box.MostShownWidth();
-    const int closed =
-        most > 0 ? std::min(most, form.EmuListboxWidth()) : form.EmuListboxWidth();
+    const int closed = most > 0 ? std::min(most, form.EmuListboxWidth()) : form.EmuListboxWidth();
     const int left = box.Left() + closed + tabGap;
     form.Current_LoadingSmallBtn.Move(
         left, box.Top(), std::max(0, form.TopRightPic.Left() - left - tabGap), box.Height());

@@ -20,6 +20,7 @@ struct SampleForm : forms::Form {
         SetToolWindow(false);
         SetCornerRadius(30);
         SetCaption("Sample");
+        SetTabOrder(forms::TabOrder::asCreated);
         Move(1500, 1500, 12000, 9000);
         list.Move(300, 300, 4500, 4500);
         other.Move(5100, 300, 3000, 3000);
