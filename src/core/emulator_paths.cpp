@@ -53,8 +53,8 @@ void AssignEmulatorPaths(ProgramFiles& program, const platform::FileSystem& file
     program.StartScriptName = program.StartPfad + program.EXE + "_StartScript.uaecfg";
 }
 
-profile::keys::Profiles ProfilesOf(const Form1& form) {
-    return {form.BaseIniName, form.IniPath, form.ColorsIniName};
+profile::keys::Profiles ProfilesOf(const ProgramFiles& program) {
+    return {program.BaseIniName, program.IniPath, program.ColorsIniName};
 }
 
 }  // namespace kivu::core

@@ -22,7 +22,7 @@ void AssignProgramPaths(ProgramFiles& program, const platform::FileSystem& files
 void AssignEmulatorPaths(ProgramFiles& program, const platform::FileSystem& files,
                          const std::string& name);
 
-// The profiles that the window's settings stand in now.
-profile::keys::Profiles ProfilesOf(const Form1& form);
+// The profiles that the settings stand in now.
+profile::keys::Profiles ProfilesOf(const ProgramFiles& program);
 
 }  // namespace kivu::core

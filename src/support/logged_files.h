@@ -47,6 +47,8 @@ class LoggedFiles : public platform::FileSystem {
     std::error_code ChangeDirectory(const std::string& path) override {
         return files.ChangeDirectory(path);
     }
+    std::vector<std::string> Drives() const override { return files.Drives(); }
+    std::string HomeDirectory() const override { return files.HomeDirectory(); }
     std::string ShortPathName(const std::string& path) const override {
         return files.ShortPathName(path);
     }

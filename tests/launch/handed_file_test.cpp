@@ -27,7 +27,7 @@ struct HandedFileTest : ::testing::Test {
     kivu::testing::QuietChoice choice;
     kivu::testing::QuietLaunching launching;
     HandedFile handed{form,
-                      {files, host.beeper, host.instance},
+                      {files, host.beeper, host.instance, host.log},
                       {choice, launching, shutDown, alwaysOnTop},
                       "\"/games/Zool.adf\""};
     int ends = 0;

@@ -21,8 +21,8 @@ struct RunningWatchTest : ::testing::Test {
     kivu::testing::QuietChoice choice;
     kivu::testing::QuietFront front;
     Prozess prozess{host.processes};
-    RunningWatch watch{
-        form, ini, prozess, busy, host.events, host.dialogs, {choice, front, alwaysOnTop}};
+    RunningWatch watch{form,        ini,          prozess,  busy,
+                       host.events, host.dialogs, host.log, {choice, front, alwaysOnTop}};
 };
 
 // The lists that the end of the game would bring back are being filled.

@@ -53,15 +53,15 @@ TEST(UnguardedHeadersTest, GuardComesBeforeAnyOtherDirective) {
 }
 
 TEST(DecidingJoinsTest, RoutinesTakeTheDecisions) {
-    const SourceTree tree{File("src/wiring/join_a.cpp",
-                               "// If it is open?\n"
-                               "form.A.onClick = [this] { one.A_Click(), two.Show(); };\n"
-                               "for (auto& tab : tabs) tab.onClick = drift;\n"
-                               "if (one.IsOpen()) one.Close();\n"
-                               "all.Has = [this] { return !marked.Select(); };\n"
-                               "all.Row = [this] { return one.IsOpen() ? 1 : 2; };\n"
-                               "one.IsOpen() && one.Close();\n"),
-                          File("src/wiring/launcher.cpp", "if (a) b();\n")};
+    const SourceTree tree{SourceFile{"src/wiring/join_a.cpp",
+                                     "// If it is open?\n"
+                                     "form.A.onClick = [this] { one.A_Click(), two.Show(); };\n"
+                                     "for (auto& tab : tabs) tab.onClick = drift;\n"
+                                     "if (one.IsOpen()) one.Close();\n"
+                                     "all.Has = [this] { return !marked.Select(); };\n"
+                                     "all.Row = [this] { return one.IsOpen() ? 1 : 2; };\n"
+                                     "one.IsOpen() && one.Close();\n"},
+                          SourceFile{"src/wiring/launcher.cpp", "if (a) b();\n"}};
     EXPECT_THAT(DecidingJoins(tree),
                 ElementsAre("src/wiring/join_a.cpp:4", "src/wiring/join_a.cpp:5",
                             "src/wiring/join_a.cpp:6", "src/wiring/join_a.cpp:7"));
