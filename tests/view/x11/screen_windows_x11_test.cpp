@@ -127,6 +127,15 @@ TEST_F(X11Windows, OneAboveAllLiesOverAFullscreenWindowAndTakesNoFocus) {
     EXPECT_TRUE(full.isActiveWindow());
 }
 
+TEST_F(X11Windows, OneThatTakesNoFocusLeavesItWhereItIs) {
+    main.text.SetFocus();
+    box.Get().SetActivates(false);
+    windows.Show(box.Get(), &main);
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&WindowOf(box.Get()), patience));
+    Xdo({"type", "--delay", "5", "here"});
+    EXPECT_TRUE(Wait([&] { return main.text.Text() == "here"; })) << main.text.Text();
+}
+
 TEST_F(X11Windows, IsDraggedByItsSurface) {
     windows.Show(box.Get(), &main);
     QWidget& window = WindowOf(box.Get());
