@@ -206,10 +206,12 @@ void FormView::Hide() {
 void FormView::StandOver(FormView* newOwner, bool modal) {
     owner = newOwner;
     surface->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    // With its flags from the beginning: the toolkit would make a hidden native window anew for
+    // others, and its widget would know the old one.
+    FollowOwner();
     surface->winId();
     QWindow* below = owner ? owner->surface->windowHandle() : nullptr;
     surface->windowHandle()->setTransientParent(below);
-    FollowOwner();
 }
 
 void FormView::FollowOwner() {
