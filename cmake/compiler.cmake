@@ -2,7 +2,11 @@
 
 add_library(kivu_options INTERFACE)
 target_include_directories(kivu_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(kivu_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
+target_compile_options(kivu_options INTERFACE -Wall -Wextra -Wpedantic -Werror -Wconversion)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+  # What clang does not know.
+  target_compile_options(kivu_options INTERFACE -Wshadow=local -Wuseless-cast)
+endif()
 # At -O3 GCC 12 takes the assignment of a literal to a string for an overflow (its bugs 105329, 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   foreach(warning array-bounds restrict stringop-overflow)
@@ -59,7 +63,7 @@ endfunction()
 # in an emulator of Windows, whose start costs more than most tests, the program is one test.
 function(kivu_add_tests name seconds)
   # They take long to build and not to run.
-  target_compile_options(${name} PRIVATE -O0)
+  target_compile_options(${name} PRIVATE -O0 $<$<CONFIG:RelWithDebInfo>:-g1>)
   if(CMAKE_CROSSCOMPILING)
     add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:Z:${CMAKE_BINARY_DIR}/reports/${name}.xml)
     math(EXPR seconds "${seconds} * 5")

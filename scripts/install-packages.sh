@@ -7,6 +7,7 @@ run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cu
 screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
+tidy=(clang-tidy)
 wine=(wine wine64 googletest nlohmann-json3-dev fonts-dejavu-core)
 fuzz=(clang libclang-rt-14-dev)
 bench=(libbenchmark-dev libxcb1-dev libpng-dev zlib1g-dev libdeflate-dev dpkg-dev findutils grep)

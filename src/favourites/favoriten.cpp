@@ -63,9 +63,9 @@ void Favoriten::SaveFavoriten() {
     if (count == 0) Write(*profile, 0, "", "");
     // As many keys behind the last one as there are live ones, less one: the last of two favourites
     // leaves its keys behind, and comes back with the next load.
-    const int last = count - 1 - skipped;
-    for (int j = 1; j <= last; ++j)
-        Write(*profile, static_cast<std::size_t>(last + j), "", "");
+    const std::size_t last = static_cast<std::size_t>(std::max(count - 1 - skipped, 0));
+    for (std::size_t j = 1; j <= last; ++j)
+        Write(*profile, last + j, "", "");
     ini.StoreProfile(*profile, form.FavoritenIni, true);
 }
 

@@ -141,6 +141,7 @@ void ListControl::AddOnDemand(int count, RowMaker make) {
     if (count <= 0) return;
     if (!rows.empty()) {
         std::vector<std::string> texts;
+        texts.reserve(static_cast<std::size_t>(count));
         for (int row = 0; row < count; ++row)
             texts.push_back(make(row));
         AddItems(std::move(texts));

@@ -1,7 +1,7 @@
 #pragma once
 
 #include <string>
-#include <utility>
+#include <string_view>
 
 #include "platform/beeper.h"
 #include "platform/clock.h"
@@ -39,8 +39,8 @@ struct Host {
 
 // What a host's parts are called is what the members of Host are called.
 template <typename Parts>
-Host ServicesOf(Parts& parts, std::string programDirectory, std::string programName,
-                std::string commandLine) {
+Host ServicesOf(Parts& parts, std::string_view programDirectory, std::string_view programName,
+                std::string_view commandLine) {
     return {.files = parts.files,
             .processes = parts.processes,
             .starter = parts.starter,
@@ -52,9 +52,9 @@ Host ServicesOf(Parts& parts, std::string programDirectory, std::string programN
             .userStore = parts.userStore,
             .instance = parts.instance,
             .log = parts.log,
-            .programDirectory = std::move(programDirectory),
-            .programName = std::move(programName),
-            .commandLine = std::move(commandLine)};
+            .programDirectory = std::string(programDirectory),
+            .programName = std::string(programName),
+            .commandLine = std::string(commandLine)};
 }
 
 }  // namespace kivu::platform

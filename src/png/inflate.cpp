@@ -53,7 +53,7 @@ Inflater::Inflated Inflater::Inflate(std::span<const std::uint8_t> input,
                                      std::uint64_t expectedSize, bool extended) {
     std::uint64_t limit = expectedSize + outputReserve;
     if (!extended) limit = std::min(limit, greatestRatio * input.size());
-    ByteBuffer bytes(static_cast<std::size_t>(limit));
+    ByteBuffer bytes(limit);
     const Outcome outcome = Inflate(input, bytes.Span(), extended);
     bytes.CutTo(outcome.written);
     return {outcome.result, std::move(bytes)};

@@ -43,7 +43,7 @@ std::error_code OpenRegularFile(std::ifstream& file, const std::filesystem::path
 }
 
 ByteBuffer ReadAll(std::ifstream& file, std::uintmax_t size) {
-    ByteBuffer bytes(static_cast<std::size_t>(size));
+    ByteBuffer bytes(size);
     file.read(reinterpret_cast<char*>(bytes.Data()), static_cast<std::streamsize>(size));
     bytes.CutTo(static_cast<std::size_t>(file.gcount()));
     return bytes;

@@ -291,10 +291,10 @@ class ScriptedLog : public platform::Log {
 struct ScriptedHost {
     explicit ScriptedHost(platform::FileSystem& files) : files(files) {}
 
-    platform::Host Services(std::string programDirectory, std::string programName = "Kivu",
-                            std::string commandLine = {}) {
-        return platform::ServicesOf(*this, std::move(programDirectory), std::move(programName),
-                                    std::move(commandLine));
+    platform::Host Services(std::string_view programDirectory,
+                            std::string_view programName = "Kivu",
+                            std::string_view commandLine = {}) {
+        return platform::ServicesOf(*this, programDirectory, programName, commandLine);
     }
 
     platform::FileSystem& files;

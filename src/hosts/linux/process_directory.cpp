@@ -38,7 +38,7 @@ std::string_view NextField(std::string_view& rest) {
 class EntryPath {
  public:
     EntryPath(pid_t id, const char* name) {
-        std::snprintf(path.data(), path.size(), "%d/%s", static_cast<int>(id), name);
+        std::snprintf(path.data(), path.size(), "%d/%s", id, name);
     }
     const char* Get() const { return path.data(); }
 

@@ -95,8 +95,8 @@ Place Find(const std::vector<std::string>& lines, const std::string& section,
             inside = !place.sectionEnd && SameName(*name, section);
             if (inside) place.sectionEnd = i + 1;
         } else if (inside) {
-            const auto name = KeyName(lines[i]);
-            if (name && SameName(*name, key)) {
+            const auto entry = KeyName(lines[i]);
+            if (entry && SameName(*entry, key)) {
                 place.entry = i;
                 return place;
             }
