@@ -10,9 +10,9 @@
 
 #include "app/desktop_host.h"
 #include "hosts/qt/compositing_qt.h"
+#include "view/cover_picture.h"
 #include "view/fit_into.h"
 #include "view/form_view.h"
-#include "view/pictures.h"
 #include "view/screen_windows.h"
 #include "view/style.h"
 #include "view/text_measure.h"

@@ -8,8 +8,14 @@
 #include <utility>
 
 #include "view/colors.h"
+#include "view/geometry.h"
 
 namespace kivu::view {
+
+namespace {
+// A window that is being dragged larger has a new face more often.
+constexpr int restAfter = 3000;  // ms
+}  // namespace
 
 QRegion RoundedRegion(QSize size, int radius) {
     const int r = std::min({radius, size.width() / 2, size.height() / 2});
@@ -28,13 +34,20 @@ FormSurface::FormSurface(const forms::Form& form) : form(form) {
     // Corners that blend into what lies behind the window, where the screen can do that.
     setAttribute(Qt::WA_TranslucentBackground);
     setMouseTracking(true);
+    rest.setSingleShot(true);
+    rest.setInterval(restAfter);
+    QObject::connect(&rest, &QTimer::timeout, this, [this] { picture.Rest(); });
     TakePicture();
 }
 
 void FormSurface::TakePicture() {
     picture.Set(form.GetPicture());
-    picture.Prefetch();
+    picture.Prefetch(DevicePixels(isVisible() ? size() : PixelRect(form).size()));
     Renew();
+}
+
+QSize FormSurface::DevicePixels(QSize pixels) const {
+    return (QSizeF(pixels) * devicePixelRatioF()).toSize();
 }
 
 void FormSurface::Renew() {
@@ -65,35 +78,39 @@ void FormSurface::CutCorners() {
     }
 }
 
+QImage FormSurface::Gradient(QSize pixels) const {
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    const QColor back = ToQt(form.BackColor());
+    QLinearGradient gradient(0, 0, 0, pixels.height());
+    gradient.setColorAt(0, Mix(back, Qt::white, 0.07));
+    gradient.setColorAt(0.25, back);
+    gradient.setColorAt(1, Mix(back, Qt::black, 0.42));
+    QPainter painter(&image);
+    painter.setCompositionMode(QPainter::CompositionMode_Source);
+    painter.fillRect(image.rect(), gradient);
+    return image;
+}
+
 void FormSurface::Paint() {
-    const double ratio = devicePixelRatioF();
-    face = QPixmap((QSizeF(size()) * ratio).toSize());
-    face.setDevicePixelRatio(ratio);
-    face.fill(Qt::transparent);
+    // So many pixels are worth to be there once: all is painted into those of the picture.
+    const QSize wanted = DevicePixels(size());
+    face = picture.Take(wanted);
+    if (face.isNull()) face = Gradient(wanted);
+    if (picture.KeepsWhole()) rest.start();
+    face.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&face);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF whole(rect());
-    const QColor back = ToQt(form.BackColor());
-    const QPixmap& pixels = picture.Scaled(face.size(), PictureCache::Fit::cover);
-    QBrush brush;
-    if (pixels.isNull()) {
-        QLinearGradient gradient(whole.topLeft(), whole.bottomLeft());
-        gradient.setColorAt(0, Mix(back, Qt::white, 0.07));
-        gradient.setColorAt(0.25, back);
-        gradient.setColorAt(1, Mix(back, Qt::black, 0.42));
-        brush = gradient;
-    } else {
-        brush.setTexture(pixels);
-        brush.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
-    }
     const double radius = Radius();
     painter.setPen(Qt::NoPen);
-    painter.setBrush(brush);
-    if (composited) {
-        painter.drawRoundedRect(whole, radius, radius);
-    } else {
-        // The window's mask cuts the corners.
-        painter.drawRect(whole);
+    // Otherwise the window's mask cuts the corners.
+    if (composited && radius > 0) {
+        QPainterPath outside;
+        outside.addRect(whole);
+        outside.addRoundedRect(whole, radius, radius);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        painter.fillPath(outside, Qt::black);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
     if (form.HasFrame() || form.State() == forms::WindowState::maximized) return;
     // A hairline sets the window off from what lies behind it.
@@ -103,14 +120,13 @@ void FormSurface::Paint() {
 }
 
 void FormSurface::paintEvent(QPaintEvent* event) {
-    const QSize wanted = (QSizeF(size()) * devicePixelRatioF()).toSize();
-    if (face.size() != wanted) Paint();
+    if (face.size() != DevicePixels(size())) Paint();
     QPainter painter(this);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     const double ratio = face.devicePixelRatio();
     for (const QRect& part : event->region()) {
         const QRectF source(QPointF(part.topLeft()) * ratio, QSizeF(part.size()) * ratio);
-        painter.drawPixmap(QRectF(part), face, source);
+        painter.drawImage(QRectF(part), face, source);
     }
 }
 

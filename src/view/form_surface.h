@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QImage>
+#include <QTimer>
 #include <QWidget>
 
 #include "forms/form.h"
-#include "view/pictures.h"
+#include "view/cover_picture.h"
 
 namespace kivu::view {
 
@@ -24,13 +26,16 @@ class FormSurface : public QWidget {
 
  private:
     int Radius() const;
+    QSize DevicePixels(QSize size) const;
+    QImage Gradient(QSize size) const;
     void Paint();
     void CutCorners();
 
     const forms::Form& form;
-    PictureCache picture;
+    CoverPicture picture;
+    QTimer rest;  // since the last new face
     bool composited = true;
-    QPixmap face;  // the whole surface in device pixels
+    QImage face;  // the whole surface in device pixels
 };
 
 // The pixels of a rounded rectangle that its line touches at all.

@@ -69,7 +69,7 @@ class PanelWidget : public QWidget {
         line.setAlphaF(0.3F);
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
         FillRounded(painter, QRectF(rect()), cornerRadius, plate, line);
-        if (!picture.Scaled(size(), PictureCache::Fit::stretch).isNull()) return;
+        if (!picture.Scaled(size()).isNull()) return;
         constexpr int step = 5;  // pixels
         const int rows = qBound(1, (height() - 6) / step, 4);
         const int top = (height() - (rows - 1) * step) / 2;

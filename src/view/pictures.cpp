@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstring>
 #include <fstream>
-#include <iterator>
 
 #include "view/text.h"
 
@@ -32,19 +31,6 @@ QByteArray ReadSource(const std::string& source) {
     return bytes;
 }
 
-QImage FromBitmap(const forms::Bitmap& bitmap) {
-    const auto needed = static_cast<std::size_t>(std::max(0, bitmap.width)) *
-                        static_cast<std::size_t>(std::max(0, bitmap.height));
-    if (needed == 0 || bitmap.pixels.size() < needed) return {};
-    QImage image(bitmap.width, bitmap.height, QImage::Format_ARGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        const auto width = static_cast<std::size_t>(bitmap.width);
-        std::memcpy(image.scanLine(y), bitmap.pixels.data() + static_cast<std::size_t>(y) * width,
-                    width * sizeof(std::uint32_t));
-    }
-    return image;
-}
-
 }  // namespace
 
 QImage LoadPicture(const std::string& source) {
@@ -60,56 +46,36 @@ QImage LoadPicture(const std::string& source) {
     return reader.read();
 }
 
-namespace {
-
-struct Preloaded {
-    std::string source;
-    std::future<QImage> image;
-};
-
-Preloaded& ThePreloaded() {
-    static Preloaded preloaded;
-    return preloaded;
+std::string DenseEnough(const std::string& source, int width) {
+    std::string dense = source + "@2x";
+    if (!source.starts_with(":") || !QFile::exists(ToQt(dense))) return source;
+    // A picture gets soft late.
+    return width > QImageReader(ToQt(source)).size().width() * 1.3 ? dense : source;
 }
 
-}  // namespace
-
-void PreloadPicture(const std::string& source) {
-    ThePreloaded() = {source, std::async(std::launch::async, LoadPicture, source)};
+QImage FromBitmap(const forms::Bitmap& bitmap) {
+    const auto needed = static_cast<std::size_t>(std::max(0, bitmap.width)) *
+                        static_cast<std::size_t>(std::max(0, bitmap.height));
+    if (needed == 0 || bitmap.pixels.size() < needed) return {};
+    QImage image(bitmap.width, bitmap.height, QImage::Format_ARGB32);
+    for (int y = 0; y < image.height(); ++y) {
+        const auto width = static_cast<std::size_t>(bitmap.width);
+        std::memcpy(image.scanLine(y), bitmap.pixels.data() + static_cast<std::size_t>(y) * width,
+                    width * sizeof(std::uint32_t));
+    }
+    return image;
 }
 
 void PictureCache::Set(const forms::Picture& value) {
     picture = value;
     loaded = false;
-    coming = {};
     original = {};
     scaled = {};
 }
 
-void PictureCache::Prefetch() {
-    if (loaded || picture.pixels || picture.source.empty() || coming.valid()) return;
-    Preloaded& preloaded = ThePreloaded();
-    if (preloaded.image.valid() && preloaded.source == picture.source) {
-        coming = std::move(preloaded.image);
-    } else {
-        coming = std::async(std::launch::async, LoadPicture, picture.source);
-    }
-}
-
-void PictureCache::TakeDense(QSize wanted) {
-    // Resources may come with twice the pixels as well; soft pictures need them late.
-    const bool coarse = wanted.width() > original.width() * 1.3;
-    const std::string dense = picture.source + "@2x";
-    if (!coarse || !picture.source.starts_with(":") || !QFile::exists(ToQt(dense))) return;
-    picture.source = dense;
-    original = LoadPicture(dense);
-}
-
 void PictureCache::Load() {
     loaded = true;
-    if (coming.valid()) {
-        original = coming.get();
-    } else if (picture.pixels) {
+    if (picture.pixels) {
         original = FromBitmap(*picture.pixels);
     } else if (!picture.source.empty()) {
         original = LoadPicture(picture.source);
@@ -118,8 +84,8 @@ void PictureCache::Load() {
 
 const QPixmap& PictureCache::Scaled(QSize size, Fit fit) {
     if (!loaded) {
+        if (!picture.pixels) picture.source = DenseEnough(picture.source, size.width());
         Load();
-        if (!original.isNull()) TakeDense(size);
     }
     if (fit == Fit::contain && !original.isNull()) {
         size = original.size().scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
@@ -128,12 +94,6 @@ const QPixmap& PictureCache::Scaled(QSize size, Fit fit) {
         scaled = {};
     } else if (scaled.size() != size) {
         QImage image = original;
-        if (fit == Fit::cover && image.size() != size) {
-            // The part that is seen is cut out first, so that no more than that is scaled.
-            const QSize part = size.scaled(image.size(), Qt::KeepAspectRatio);
-            image = image.copy((image.width() - part.width()) / 2,
-                               (image.height() - part.height()) / 2, part.width(), part.height());
-        }
         if (image.size() != size) {
             image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         }

@@ -20,16 +20,10 @@ forms::Picture TwoByOne() {
 TEST(Pictures, StretchAControlsPixels) {
     PictureCache cache;
     cache.Set(TwoByOne());
-    const QImage image = cache.Scaled(QSize(20, 10), PictureCache::Fit::stretch).toImage();
+    const QImage image = cache.Scaled(QSize(20, 10)).toImage();
     ASSERT_EQ(image.size(), QSize(20, 10));
     EXPECT_EQ(image.pixelColor(0, 0), QColor(Qt::red));
     EXPECT_EQ(image.pixelColor(19, 9), QColor(Qt::blue));
-}
-
-TEST(Pictures, CoverAPlaceOfOtherProportions) {
-    PictureCache cache;
-    cache.Set(TwoByOne());
-    EXPECT_EQ(cache.Scaled(QSize(30, 30), PictureCache::Fit::cover).size(), QSize(30, 30));
 }
 
 TEST(Pictures, AreNullForPixelsThatAreMissing) {
@@ -39,7 +33,7 @@ TEST(Pictures, AreNullForPixelsThatAreMissing) {
     bitmap->pixels = {1, 2, 3};
     PictureCache cache;
     cache.Set({"", bitmap});
-    EXPECT_TRUE(cache.Scaled(QSize(10, 10), PictureCache::Fit::stretch).isNull());
+    EXPECT_TRUE(cache.Scaled(QSize(10, 10)).isNull());
 }
 
 TEST(Pictures, AreReadFromAFileWithAnyBytesInItsName) {
