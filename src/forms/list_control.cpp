@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <tuple>
 #include <utility>
 
 #include "forms/form.h"
@@ -27,7 +28,7 @@ bool ListControl::Precedes(std::string_view a, std::string_view b) const {
 }
 
 void ListControl::Settle() const {
-    if (settled == rows.size()) return;
+    if (maker || settled == rows.size()) return;
     if (order == Order::asAdded) {
         settled = rows.size();
         return;
@@ -73,10 +74,21 @@ void ListControl::PlaceNewRows() const {
 
 const std::string& ListControl::List(int row) const {
     if (row < 0 || row >= ListCount()) return noText;
+    const auto place = static_cast<std::size_t>(row);
+    if (maker) {
+        std::string& text = RowInPieces(place);
+        if (text.empty()) text = maker(row);
+        return text;
+    }
     Settle();
-    std::string& text = rows[static_cast<std::size_t>(row)];
-    if (maker && text.empty()) text = maker(row);
-    return text;
+    return rows[place];
+}
+
+std::string& ListControl::RowInPieces(std::size_t row) const {
+    constexpr std::size_t length = std::tuple_size_v<Piece>;
+    std::unique_ptr<Piece>& piece = pieces[row / length];
+    if (!piece) piece = std::make_unique<Piece>();
+    return (*piece)[row % length];
 }
 
 const std::vector<std::string>& ListControl::Rows() const {
@@ -87,10 +99,15 @@ const std::vector<std::string>& ListControl::Rows() const {
 
 void ListControl::MakeRows() const {
     if (!maker) return;
-    const RowMaker make = std::exchange(maker, {});
-    for (std::size_t row = 0; row < rows.size(); ++row) {
-        if (rows[row].empty()) rows[row] = make(static_cast<int>(row));
+    std::vector<std::string> made;
+    made.reserve(demanded);
+    for (std::size_t row = 0; row < demanded; ++row) {
+        const bool looked = pieces[row / std::tuple_size_v<Piece>] && !RowInPieces(row).empty();
+        made.push_back(looked ? RowInPieces(row) : maker(static_cast<int>(row)));
     }
+    rows = std::move(made);
+    settled = rows.size();
+    maker = {};
 }
 
 void ListControl::AddItem(std::string text) {
@@ -115,11 +132,11 @@ void ListControl::AddItems(std::vector<std::string> texts) {
 
 void ListControl::AddInOrder(std::vector<std::string> texts) {
     if (texts.empty()) return;
+    MakeRows();
     if (order == Order::sorted) {
         const auto begin = static_cast<std::uint32_t>(rows.size());
         ordered.push_back({begin, begin + static_cast<std::uint32_t>(texts.size())});
     }
-    MakeRows();
     rows.insert(rows.end(), std::make_move_iterator(texts.begin()),
                 std::make_move_iterator(texts.end()));
     ++changes;
@@ -127,7 +144,7 @@ void ListControl::AddInOrder(std::vector<std::string> texts) {
 }
 
 void ListControl::AddSorted(std::vector<std::string> texts) {
-    if (!rows.empty() || texts.empty()) {
+    if (ListCount() > 0 || texts.empty()) {
         AddItems(std::move(texts));
         return;
     }
@@ -139,7 +156,7 @@ void ListControl::AddSorted(std::vector<std::string> texts) {
 
 void ListControl::AddOnDemand(int count, RowMaker make) {
     if (count <= 0) return;
-    if (!rows.empty()) {
+    if (ListCount() > 0) {
         std::vector<std::string> texts;
         texts.reserve(static_cast<std::size_t>(count));
         for (int row = 0; row < count; ++row)
@@ -147,8 +164,9 @@ void ListControl::AddOnDemand(int count, RowMaker make) {
         AddItems(std::move(texts));
         return;
     }
-    rows.resize(static_cast<std::size_t>(count));
-    settled = rows.size();
+    demanded = static_cast<std::size_t>(count);
+    pieces.clear();
+    pieces.resize((demanded - 1) / std::tuple_size_v<Piece> + 1);
     maker = std::move(make);
     ++changes;
     Notify(Aspect::rows);
@@ -176,13 +194,13 @@ void ListControl::RemoveItem(int row) {
 }
 
 void ListControl::Clear() {
-    if (rows.empty()) return;
+    if (ListCount() == 0) return;
     rows.clear();
     NoteCleared();
 }
 
 std::vector<std::string> ListControl::TakeRows() {
-    if (rows.empty()) return {};
+    if (ListCount() == 0) return {};
     MakeRows();
     Settle();
     std::vector<std::string> taken = std::exchange(rows, {});
@@ -194,6 +212,7 @@ void ListControl::NoteCleared() {
     settled = 0;
     ordered.clear();
     maker = {};
+    pieces.clear();
     const bool deselected = selection.Clear();
     ++changes;
     Notify(Aspect::rows);

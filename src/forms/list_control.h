@@ -1,7 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,7 +28,7 @@ class ListControl : public Control {
     ListControl(Container* parent, std::string name, Order order, int index = -1);
 
     bool Sorted() const { return order == Order::sorted; }
-    int ListCount() const { return static_cast<int>(rows.size()); }
+    int ListCount() const { return static_cast<int>(maker ? demanded : rows.size()); }
     const std::string& List(int row) const;
     // How often rows have been added, changed or taken away: who keeps something made of them sees
     // by it when to make it anew.
@@ -81,15 +83,21 @@ class ListControl : public Control {
  private:
     void Settle() const;
     void PlaceNewRows() const;
-    // Those that nobody has looked at yet.
+    // All that are made on demand.
     void MakeRows() const;
+    std::string& RowInPieces(std::size_t row) const;
     void NoteCleared();
     // False: the row is chosen already, or there is none of the number.
     bool ChooseRow(int row);
 
     Order order;
     mutable std::vector<std::string> rows;
-    mutable RowMaker maker;  // of the rows that are empty; null: all are made
+    // Rows on demand that somebody has looked at. They stay until the list is cleared, since their
+    // texts have been handed out; so few are ever looked at that no others get a place at all.
+    using Piece = std::array<std::string, 64>;
+    mutable std::vector<std::unique_ptr<Piece>> pieces;
+    mutable RowMaker maker;  // of all rows; null: they are in `rows`
+    std::size_t demanded = 0;
     std::uint64_t changes = 0;
     mutable std::size_t settled = 0;           // so many rows at the front are in order
     mutable std::vector<OrderedRows> ordered;  // of those behind

@@ -37,6 +37,39 @@ TEST_F(RowsOnDemand, AreAllMadeForWhoLooksAtThemAll) {
     EXPECT_THAT(made, ElementsAre(1, 0, 2));
 }
 
+TEST_F(RowsOnDemand, KeepTheTextsThatWereHandedOut) {
+    Fill(300);
+    const std::string& early = list.List(7);
+    const std::string& late = list.List(299);
+    EXPECT_EQ(list.Rows()[299], "row 299");
+    EXPECT_THAT(list.Rows(), testing::SizeIs(300));
+    EXPECT_EQ(early, "row 7");
+    EXPECT_EQ(late, "row 299");
+    EXPECT_EQ(list.List(128), "row 128");
+    EXPECT_EQ(made.size(), 300U);
+}
+
+TEST_F(RowsOnDemand, ComeAnewAfterTheListIsCleared) {
+    Fill(65);
+    EXPECT_EQ(list.List(64), "row 64");
+    list.Clear();
+    EXPECT_EQ(list.List(0), "");
+    list.AddOnDemand(70, [](int row) { return "other " + std::to_string(row); });
+    EXPECT_EQ(list.ListCount(), 70);
+    EXPECT_EQ(list.List(64), "other 64");
+    EXPECT_EQ(list.List(69), "other 69");
+}
+
+TEST_F(RowsOnDemand, TakeRowsThatAreInOrder) {
+    Fill(3);
+    list.AddInOrder({"row 0a", "row 1a"});
+    EXPECT_THAT(RowsOf(list), ElementsAre("row 0", "row 0a", "row 1", "row 1a", "row 2"));
+    list.Clear();
+    Fill(2);
+    list.AddSorted({"row 0b"});
+    EXPECT_THAT(RowsOf(list), ElementsAre("row 0", "row 0b", "row 1"));
+}
+
 TEST_F(RowsOnDemand, TakeFurtherRowsInTheirOrder) {
     Fill(3);
     list.SetListIndex(2);
