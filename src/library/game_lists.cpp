@@ -75,7 +75,7 @@ void GameLists::FillFromCache(std::string bytes) {
     std::vector<std::string> paths, names;
     const std::string base = form.BaseDirectory();
     int count = 0;
-    for (const CacheEntry& entry : cache->entries) {
+    for (const CacheEntry entry : cache->entries) {
         if (!asStored) {
             paths.push_back(utf8 ? text::StoredPath(base, entry.path)
                                  : text::StoredPath(base, PathOnDisk(entry.path)));
@@ -99,11 +99,11 @@ void GameLists::FillFromCache(std::string bytes) {
 
 // The paths as they are stored tell the order of the absolute ones if they all begin alike, as
 // those of one directory do.
-bool GameLists::IsInOrder(const std::vector<CacheEntry>& entries) const {
+bool GameLists::IsInOrder(const CacheEntries& entries) const {
     if (entries.empty()) return true;
     const text::StoredPaths stored(form.BaseDirectory(), entries.front().path);
     std::string_view before;
-    for (const CacheEntry& entry : entries) {
+    for (const CacheEntry entry : entries) {
         const auto rest = stored.Rest(entry.path);
         if (!rest || form.UAE_FULL.Precedes(*rest, before)) return false;
         before = *rest;

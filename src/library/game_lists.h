@@ -65,7 +65,7 @@ class GameLists : public core::LoadedGames {
  private:
     void FillFromCache(std::string bytes);
     void FillOnDemand(const std::shared_ptr<const LoadedCache>& cache);
-    bool IsInOrder(const std::vector<CacheEntry>& entries) const;
+    bool IsInOrder(const CacheEntries& entries) const;
     std::string PathOnDisk(std::string_view stored) const;
     void ScanPatterns(const std::string& patterns);
     void ScanPattern(const std::string& pattern);

@@ -1,35 +1,36 @@
 #include "library/list_cache.h"
 
 #include <cstring>
+#include <limits>
 
 namespace kivu::library {
 
-namespace {
-
-std::string_view TakeLine(std::string_view& rest) {
-    const void* end = std::memchr(rest.data(), '\n', rest.size());
-    const std::size_t length =
-        end ? static_cast<std::size_t>(static_cast<const char*>(end) - rest.data()) : rest.size();
-    std::string_view line = rest.substr(0, length);
-    rest.remove_prefix(end ? length + 1 : length);
-    if (!line.empty() && line.back() == '\r') line.remove_suffix(1);
-    return line;
+CacheEntries::CacheEntries(std::string_view all)
+    : bytes(all.substr(0, std::numeric_limits<std::uint32_t>::max())) {
+    // Lines of some 60 bytes are usual; a wrong guess costs a move of the vector.
+    starts.reserve(bytes.size() / 50 + 2);
+    for (std::size_t at = 0; at < bytes.size();) {
+        starts.push_back(static_cast<std::uint32_t>(at));
+        const void* end = std::memchr(bytes.data() + at, '\n', bytes.size() - at);
+        at = end ? static_cast<std::size_t>(static_cast<const char*>(end) - bytes.data()) + 1
+                 : bytes.size();
+    }
+    starts.push_back(static_cast<std::uint32_t>(bytes.size()));
 }
 
-}  // namespace
+std::string_view CacheEntries::Line(std::size_t line) const {
+    std::string_view text = bytes.substr(starts[line], starts[line + 1] - starts[line]);
+    if (!text.empty() && text.back() == '\n') text.remove_suffix(1);
+    if (!text.empty() && text.back() == '\r') text.remove_suffix(1);
+    return text;
+}
 
-std::vector<CacheEntry> ParseCache(std::string_view bytes) {
-    std::vector<CacheEntry> entries;
-    // Two lines of some 60 bytes each are usual; a wrong guess costs a move of the vector.
-    entries.reserve(bytes.size() / 100 + 1);
-    while (!bytes.empty()) {
-        CacheEntry entry;
-        entry.path = TakeLine(bytes);
-        entry.hasName = !bytes.empty();
-        if (entry.hasName) entry.name = TakeLine(bytes);
-        entries.push_back(entry);
-    }
-    return entries;
+CacheEntry CacheEntries::operator[](std::size_t entry) const {
+    CacheEntry pair;
+    pair.path = Line(2 * entry);
+    pair.hasName = 2 * entry + 2 < starts.size();
+    if (pair.hasName) pair.name = Line(2 * entry + 1);
+    return pair;
 }
 
 void AppendCacheEntry(std::string& cache, std::string_view path, std::string_view name) {

@@ -6,7 +6,7 @@ namespace kivu::library {
 namespace {
 
 TEST(ListCache, HoldsAPathAndANameForEachImage) {
-    const auto entries = ParseCache("/a.adf\r\nA\r\n/b.adf\r\nB\r\n");
+    const CacheEntries entries("/a.adf\r\nA\r\n/b.adf\r\nB\r\n");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[0].path, "/a.adf");
     EXPECT_EQ(entries[0].name, "A");
@@ -15,13 +15,13 @@ TEST(ListCache, HoldsAPathAndANameForEachImage) {
 }
 
 TEST(ListCache, TakesLinesEndedByLfAlone) {
-    const auto entries = ParseCache("/a.adf\nA\n/b.adf\nB");
+    const CacheEntries entries("/a.adf\nA\n/b.adf\nB");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[1].name, "B");
 }
 
 TEST(ListCache, GivesAnOddLastLineAPathWithoutAName) {
-    const auto entries = ParseCache("/a.adf\r\nA\r\n/b.adf\r\n");
+    const CacheEntries entries("/a.adf\r\nA\r\n/b.adf\r\n");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_TRUE(entries[0].hasName);
     EXPECT_FALSE(entries[1].hasName);
@@ -29,14 +29,14 @@ TEST(ListCache, GivesAnOddLastLineAPathWithoutAName) {
 }
 
 TEST(ListCache, CutInTheMiddleOfALineKeepsWhatIsThere) {
-    const auto entries = ParseCache("/a.adf\r\nA\r\n/b.ad");
+    const CacheEntries entries("/a.adf\r\nA\r\n/b.ad");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[1].path, "/b.ad");
     EXPECT_FALSE(entries[1].hasName);
 }
 
 TEST(ListCache, KeepsEmptyLinesInTheirPlace) {
-    const auto entries = ParseCache("\r\n\r\n/b.adf\r\n\r\n");
+    const CacheEntries entries("\r\n\r\n/b.adf\r\n\r\n");
     ASSERT_EQ(entries.size(), 2u);
     EXPECT_EQ(entries[0].path, "");
     EXPECT_EQ(entries[1].path, "/b.adf");
@@ -45,21 +45,34 @@ TEST(ListCache, KeepsEmptyLinesInTheirPlace) {
 
 TEST(ListCache, KeepsNulAndBytesThatAreNoUtf8) {
     const std::string bytes("/a\0b\xfc.adf\r\nA\xfc\r\n", 15);
-    const auto entries = ParseCache(bytes);
+    const CacheEntries entries(bytes);
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0].path, std::string_view("/a\0b\xfc.adf", 9));
     EXPECT_EQ(entries[0].name, "A\xfc");
 }
 
+TEST(ListCache, GivesItsPairsInTheirOrder) {
+    const CacheEntries entries("/a\r\nA\r\r\n\n\r\n/c");
+    std::vector<std::string> lines;
+    for (const CacheEntry entry : entries) {
+        lines.emplace_back(entry.path);
+        if (entry.hasName) lines.emplace_back(entry.name);
+    }
+    EXPECT_EQ(lines, (std::vector<std::string>{"/a", "A\r", "", "", "/c"}));
+    EXPECT_EQ(entries.front().name, "A\r");
+    EXPECT_EQ(entries.back().path, "/c");
+    EXPECT_FALSE(entries.back().hasName);
+}
+
 TEST(ListCache, IsEmptyForAnEmptyFile) {
-    EXPECT_TRUE(ParseCache("").empty());
+    EXPECT_TRUE(CacheEntries("").empty());
 }
 
 TEST(ListCache, ReadsBackWhatItWrites) {
     std::string cache;
     AppendCacheEntry(cache, "/roms/ä (1990).adf", "ä (1990)");
     EXPECT_EQ(cache, "/roms/ä (1990).adf\r\nä (1990)\r\n");
-    const auto entries = ParseCache(cache);
+    const CacheEntries entries(cache);
     ASSERT_EQ(entries.size(), 1u);
     EXPECT_EQ(entries[0].path, "/roms/ä (1990).adf");
 }
