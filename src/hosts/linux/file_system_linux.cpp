@@ -1,5 +1,6 @@
 #include "hosts/linux/file_system_linux.h"
 
+#include <array>
 #include <cerrno>
 #include <cstdlib>
 #include <fcntl.h>
@@ -39,23 +40,24 @@ std::optional<struct stat> Status(const std::string& path) {
     return status;
 }
 
-// The first `size` bytes and whatever has been added behind them since the file was looked at.
+// The first `size` bytes and whatever has been added behind them since the file was looked at. By
+// way of a block that stays in the processor's cache: to fill the whole text with zeros before it
+// is read into would touch all its memory once more.
 std::optional<std::string> ReadAll(int descriptor, std::size_t size) {
-    std::string bytes(size + 1, '\0');
-    std::size_t filled = 0;
+    std::array<char, std::size_t{64} << 10> block;
+    std::string bytes;
+    bytes.reserve(size);
     for (;;) {
-        const ssize_t got = ::read(descriptor, bytes.data() + filled, bytes.size() - filled);
+        const ssize_t got = ::read(descriptor, block.data(), block.size());
         if (got < 0) {
             if (errno == EINTR) continue;
             return std::nullopt;
         }
-        if (got == 0) break;
-        filled += static_cast<std::size_t>(got);
-        if (filled > LinuxFileSystem::maxFileSize) return std::nullopt;
-        if (filled == bytes.size()) bytes.resize(bytes.size() * 2 + 4096);
+        if (got == 0) return bytes;
+        if (bytes.size() + static_cast<std::size_t>(got) > LinuxFileSystem::maxFileSize)
+            return std::nullopt;
+        bytes.append(block.data(), static_cast<std::size_t>(got));
     }
-    bytes.resize(filled);
-    return bytes;
 }
 
 }  // namespace

@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <new>
 
 #include "hosts/windows/file_system_windows.h"
@@ -19,20 +20,20 @@ std::optional<std::size_t> ReadSome(const Handle& file, char* buffer, std::size_
     return std::nullopt;
 }
 
-// The first `size` bytes and whatever has been added behind them since the file was looked at.
+// The first `size` bytes and whatever has been added behind them since the file was looked at. By
+// way of a block that stays in the processor's cache: to fill the whole text with zeros before it
+// is read into would touch all its memory once more.
 std::optional<std::string> ReadAll(const Handle& file, std::size_t size) {
-    std::string bytes(size + 1, '\0');
-    std::size_t filled = 0;
+    std::array<char, std::size_t{64} << 10> block;
+    std::string bytes;
+    bytes.reserve(size);
     for (;;) {
-        const auto count = ReadSome(file, bytes.data() + filled, bytes.size() - filled);
+        const auto count = ReadSome(file, block.data(), block.size());
         if (!count) return std::nullopt;
-        if (*count == 0) break;
-        filled += *count;
-        if (filled > WindowsFileSystem::maxFileSize) return std::nullopt;
-        if (filled == bytes.size()) bytes.resize(bytes.size() * 2 + 4096);
+        if (*count == 0) return bytes;
+        if (bytes.size() + *count > WindowsFileSystem::maxFileSize) return std::nullopt;
+        bytes.append(block.data(), *count);
     }
-    bytes.resize(filled);
-    return bytes;
 }
 
 class HandleReader : public platform::FileSystem::Reader {
