@@ -2,8 +2,12 @@
 
 add_library(kivu_options INTERFACE)
 target_include_directories(kivu_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(kivu_options INTERFACE -Wall -Wextra -Wpedantic -Werror -Wconversion)
-if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+target_compile_options(kivu_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
+if(NOT WIN32)
+  # Of another size there, many a number would warn of what is right here.
+  target_compile_options(kivu_options INTERFACE -Wconversion)
+endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND NOT WIN32)
   # What clang does not know.
   target_compile_options(kivu_options INTERFACE -Wshadow=local -Wuseless-cast)
 endif()

@@ -101,8 +101,8 @@ std::string RandomStore(std::mt19937& random) {
     std::string store = random() % 10 == 0 ? "\xEF\xBB\xBF" : "";
     store += random() % 10 == 0 ? "; mine\n[Other]\nx=1\n[favoriten]\n" : "[Favoriten]\r\n";
     const char* const lineEnd = random() % 8 == 0 ? "\n" : "\r\n";
-    const unsigned last = random() % 10;
-    for (unsigned number = 0; number < last + random() % 3; ++number) {
+    const std::size_t last = random() % 10;
+    for (std::size_t number = 0; number < last + random() % 3; ++number) {
         if (random() % 12 == 0) continue;
         const std::string key = (random() % 12 == 0 ? "fav" : "Fav") + std::to_string(number);
         const char* const equals = random() % 12 == 0 ? " = " : "=";

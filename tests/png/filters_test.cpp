@@ -61,7 +61,7 @@ class Filters : public testing::TestWithParam<NamedFilters> {
 INSTANTIATE_TEST_SUITE_P(Both, Filters,
                          testing::Values(NamedFilters{"Target", UndoFilter},
                                          NamedFilters{"Scalar", UndoFilterScalar}),
-                         [](const auto& info) { return std::string(info.param.name); });
+                         [](const auto& tested) { return std::string(tested.param.name); });
 
 Bytes RandomBytes(std::mt19937& random, std::size_t count, unsigned spread) {
     Bytes bytes(count);

@@ -136,7 +136,7 @@ TEST(HostileFiles, FlippedBitsAreWholeOrNothing) {
     const std::vector<PngRecipe> recipes = SmallRecipes();
     for (int round = 0; round < 20000; ++round) {
         Bytes file = WritePng(recipes[random() % recipes.size()]);
-        for (unsigned flips = random() % 6 + 1; flips-- > 0;) {
+        for (std::size_t flips = random() % 6 + 1; flips-- > 0;) {
             // The size stays, so that no round takes long; other tests change it.
             std::size_t at = random() % file.size();
             if (at >= 16 && at < 24) at = 24;
@@ -154,8 +154,9 @@ TEST(HostileFiles, NoiseInTheImageDataIsWhole) {
         Bytes noise(random() % 400);
         std::ranges::generate(noise, [&] { return static_cast<std::uint8_t>(random()); });
         Opened opened;
-        OpenInto(opened, FileOf(random() % 70 + 1, random() % 70 + 1, kind.depth, kind.colorType,
-                                noise, static_cast<std::uint8_t>(random() % 3)));
+        OpenInto(opened, FileOf(static_cast<unsigned>(random() % 70 + 1),
+                                static_cast<unsigned>(random() % 70 + 1), kind.depth,
+                                kind.colorType, noise, static_cast<std::uint8_t>(random() % 3)));
         EXPECT_TRUE(opened.target.painted);
     }
 }
@@ -286,7 +287,7 @@ TEST(HostileFiles, LackOfMemoryDrawsNothingAndIsTold) {
 }
 
 TEST(HostileFiles, HugeTablesTakeNoMemory) {
-    for (const std::uint8_t colorType : {2, 3}) {
+    for (const std::uint8_t colorType : {std::uint8_t{2}, std::uint8_t{3}}) {
         Bytes file = testing::pngSignature;
         Append(file, testing::MakeHeader(1, 1, 8, colorType, 0, 0));
         Bytes table(8U << 20, 0x70);

@@ -262,14 +262,13 @@ TEST(Inflate, RepetitionBeyondTheLengthsIsNamedAndSilent) {
 }
 
 TEST(Inflate, RepetitionMayReachFromLiteralsIntoDistances) {
-    BitWriter writer;
     // 1 for the first literal, 2 for the last two and, by a repetition, for three distances.
     const auto head = [](unsigned distanceCount) {
-        BitWriter writer;
-        writer.BeginDynamic(true, 257, distanceCount).CodeLength(1).CodeLength(18).Bits(127, 7);
-        writer.CodeLength(18).Bits(254 - 138 - 11, 7).CodeLength(2).CodeLength(2);
-        writer.CodeLength(16).Bits(0, 2);
-        return writer;
+        BitWriter begun;
+        begun.BeginDynamic(true, 257, distanceCount).CodeLength(1).CodeLength(18).Bits(127, 7);
+        begun.CodeLength(18).Bits(254 - 138 - 11, 7).CodeLength(2).CodeLength(2);
+        begun.CodeLength(16).Bits(0, 2);
+        return begun;
     };
     BitWriter fits = head(3);
     const Outcome good = InflateTo(fits.Code(2, 2).Code(0, 1).Code(3, 2).Done(), 10);

@@ -277,7 +277,7 @@ Bytes ZlibCompress(const Bytes& raw, int level, int strategy) {
     if (deflateInit2(&stream, level, Z_DEFLATED, 15, 8, strategy) != Z_OK) {
         throw std::runtime_error("deflateInit2");
     }
-    Bytes packed(deflateBound(&stream, static_cast<uLong>(raw.size())));
+    Bytes packed(deflateBound(&stream, raw.size()));
     stream.next_in = const_cast<Bytef*>(raw.data());
     stream.avail_in = static_cast<uInt>(raw.size());
     stream.next_out = packed.data();
