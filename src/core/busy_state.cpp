@@ -35,7 +35,9 @@ void BusyState::HideAll(bool iVIsible) {
     }
     form.DeLFav.SetVisible(false);
     form.SettingsSubPicture.SetVisible(iVIsible);
-    events.DoEvents();
+    // What is done in one go is not to be seen half-way, and nothing comes in its middle: keys,
+    // ticks and files that are handed over find it done.
+    if (form.Busy) events.DoEvents();
 }
 
 void BusyState::MeCaption(const std::string& NewCaption) {

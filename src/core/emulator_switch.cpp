@@ -40,9 +40,10 @@ void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
     if (AddToGlobal) AppendToGlobalList();
     ports.front->RefreshList();
     form.Current_LoadingSmallBtn.SetVisible(false);
-    form.EmuListbox.SetVisible(true);
     if (!form.EmulatorLongListbox.Visible()) PutLoadedListInFront();
     ports.watch->HideListsOfRunning();
+    // From here on no more events run, and another emulator can be chosen.
+    form.EmuListbox.SetVisible(true);
 }
 
 void EmulatorSwitch::PutLoadedListInFront() {
@@ -59,10 +60,10 @@ void EmulatorSwitch::ReturnToLoadedEmulator() {
     ports.choice->ShowEmulatorBox(false);
     form.SetMode(Front::favourites);
     ports.front->RefreshList();
-    form.EmuListbox.SetVisible(true);
     events.DoEvents();
     form.Current_LoadingSmallBtn.SetVisible(false);
     ports.choice->LeaveEmulatorBox();
+    form.EmuListbox.SetVisible(true);
 }
 
 // False: the switch is locked and stops here.

@@ -19,8 +19,10 @@ void FavoritenEvents::FavoritenListe_Click() {
     const int record = store.RecordOfRow(form.FavoritenListe.ListIndex());
     if (record < 0) return;
     const FavoritEntry favourite = store.Entries()[static_cast<std::size_t>(record)];
+    const bool shown = form.FavoritenListe.Visible();
     const int row = FindGame(favourite);
-    if (click != clicks) return;
+    // Events have run: there may be another click, or another list in front.
+    if (click != clicks || (shown && !form.FavoritenListe.Visible())) return;
     gameFound = row >= 0;
     if (row >= 0) {
         ShowGame(row);
@@ -152,7 +154,7 @@ void FavoritenEvents::AddToFavorit_Click() {
 void FavoritenEvents::DeLFav_Click() {
     if (repair.IsRunning()) return;
     if (form.FavoritenListeGlobal.Visible()) {
-        global.RemoveGlobalFavorit();
+        if (!global.RemoveGlobalFavorit()) services.beeper.Beep();
         global.ShowHeading();
         form.FavoritenListeGlobal.SetFocus();
         return;

@@ -91,17 +91,21 @@ bool GlobalFavoriten::SaveGlobalFavoriten() {
     return !files.WriteFile(file, profile.Bytes());
 }
 
-void GlobalFavoriten::RemoveGlobalFavorit() {
+bool GlobalFavoriten::RemoveGlobalFavorit() {
     const int row = form.FavoritenListeGlobal.ListIndex();
     const std::string display = form.FavoritenListeGlobal.List(row);
     const auto found = std::find_if(records.begin(), records.end(), [&](const auto& record) {
         return !display.empty() && record.Display == display;
     });
-    if (found == records.end()) return;
-    *found = {};
-    SaveGlobalFavoriten();
+    if (found == records.end()) return true;
+    GlobalFavorit removed = std::exchange(*found, {});
+    if (!SaveGlobalFavoriten()) {
+        *found = std::move(removed);
+        return false;
+    }
     // Left standing, the row would no longer answer to anything.
     form.FavoritenListeGlobal.RemoveItem(row);
+    return true;
 }
 
 void GlobalFavoriten::ShowHeading() {

@@ -38,8 +38,8 @@ class GlobalFavoriten {
     void LoadGlobalFavoriten();
     // False: the file is as it was.
     bool SaveGlobalFavoriten();
-    // The record of the selected row, and the row.
-    void RemoveGlobalFavorit();
+    // The record of the selected row, and the row. False: both stay, as the file is as it was.
+    bool RemoveGlobalFavorit();
 
     // The number of records, on the tab of the favourites.
     void ShowHeading();

@@ -55,7 +55,11 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
     request.watched = true;
     (void)services.starter.Run(request);
     form.CurrentRunninApplication = file;
-    WAIT(1, services.clock, pacer);
+    {
+        // A game that started now would be taken for this one.
+        const core::Raised working(form.Busy);
+        WAIT(1, services.clock, pacer);
+    }
     watch.EmuActiveTimer_Timer();
     form.EmuActiveTimer.SetEnabled(true);
 }

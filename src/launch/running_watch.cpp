@@ -64,12 +64,17 @@ void RunningWatch::EndOfGame() {
     LogEnd();
     const bool visible = form.EmuListbox.Visible();
     form.EmuListbox.SetVisible(false);
-    events.DoEvents();
+    {
+        // A game that started now would not be watched.
+        const core::Raised working(form.Busy);
+        events.DoEvents();
+    }
     form.EmuListbox.SetVisible(visible);
     routines.choice.CloseChoice();
     routines.front.WIthoutDoubles_GotFocus();
     form.EmuActiveTimer.SetEnabled(false);
-    form.EmuListbox.SetVisible(true);
+    // What is under way shows it at its end.
+    form.EmuListbox.SetVisible(visible || !form.Busy);
     form.GameIsRunning = false;
     form.AppRunningPicture.SetVisible(false);
     form.MyCaptionLabel.SetVisible(false);

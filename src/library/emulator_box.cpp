@@ -156,14 +156,20 @@ void EmulatorBox::EmuListbox_DblClick() {
 }
 
 void EmulatorBox::EmuListbox_GotFocus() {
-    if (takingFocus || !form.EmuListbox.Visible()) return;
+    if (takingFocus || !form.EmuListbox.Visible() || Rests()) return;
     const core::Raised once(takingFocus);
     form.SetMode(Front::choice);
     busy.HideAll(false);
     ShowEmulatorBox(true);
 }
 
+// A search in all lists gives way to the choice, as it does to any other list.
+bool EmulatorBox::Rests() const {
+    return form.Busy && !form.GlobalSearchList.Visible();
+}
+
 void EmulatorBox::EmuListbox_DropDown() {
+    if (Rests()) return;
     if (form.EmulatorLongListbox.Visible()) {
         LeaveEmulatorBox();
     } else if (form.EmuListbox.HasFocus()) {

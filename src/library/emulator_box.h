@@ -70,6 +70,8 @@ class EmulatorBox : public core::EmulatorChoice {
     void ShowNameOfRow();
     // Of the row marked in the list that has come to the front, as its click writes it.
     void ShowMissingName();
+    // Something is under way that arranges the lists at its end.
+    bool Rests() const;
 
     core::Form1& form;
     profile::Ini& ini;

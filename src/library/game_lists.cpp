@@ -137,14 +137,18 @@ void GameLists::LoadBtn_Click() {
     // With no emulator loaded there is no directory to look into but the program's own.
     if (form.Busy || form.CurrentEmuIndex < 0) return;
     const core::Raised working(form.Busy);
+    // Nobody chooses another emulator while this one's games are looked for.
+    form.EmuListbox.SetVisible(false);
     emulators.choice.LeaveChoice();
+    // The one tab that the busy state leaves; it would stand there alone.
+    const bool hitsTab = form.Label4.Visible();
+    form.Label4.SetVisible(false);
     const std::string noted = form.Caption();
     const std::string sign = form.LoadingBtn.Caption(), titleLine = form.MyCaptionLabel.Caption();
     form.LoadBtn.SetEnabled(false);
     busy.HideAll(false);
     form.UAE_Short.Clear();
     form.UAE_FULL.Clear();
-    form.EmuListbox.SetVisible(false);
     busy.HideAll(false);
     pacer.DoEvents();
     form.StartPfad = text::AddPathSeparator(form.StartPfad);
@@ -163,7 +167,10 @@ void GameLists::LoadBtn_Click() {
     ShowRescannedList();
     form.SetCaption(noted);
     form.MyCaptionLabel.SetCaption(noted);
-    if (!form.EmulatorRuns()) return;
+    if (!form.EmulatorRuns()) {
+        form.Label4.SetVisible(hitsTab);
+        return;
+    }
     // The window goes on telling about the emulator that runs.
     form.LoadingBtn.SetCaption(sign);
     form.MyCaptionLabel.SetCaption(titleLine);

@@ -50,7 +50,6 @@ void AllEmulatorsSearch::SearchAllBtn_Click() {
 
 void AllEmulatorsSearch::SearchForBox() {
     if (form.Busy) return;
-    const core::Raised working(form.Busy);
     const bool fromBox = form.SearchDblsTxt.HasFocus();
     ArrangeForSearch();
     DressList();
@@ -152,6 +151,8 @@ void AllEmulatorsSearch::LeaveWithoutResults(bool backToBox) {
 }
 
 void AllEmulatorsSearch::LeaveForOtherList() {
+    // The choice has arranged the window already.
+    if (form.EmulatorLongListbox.Visible()) return;
     busy.HideAll(true);
     ports.front->RefreshList();
 }
@@ -171,11 +172,12 @@ void AllEmulatorsSearch::SearchDblsTxt_Change() {
 }
 
 void AllEmulatorsSearch::GlobalSearch(const std::string& Text) {
-    const core::Raised working(form.Busy);
     (void)Search(Text);
 }
 
 AllEmulatorsSearch::Outcome AllEmulatorsSearch::Search(const std::string& text) {
+    // From here on events run; the window has been arranged in one go.
+    const core::Raised working(form.Busy);
     form.SearchAllBtn.SetBackColor(allEmulatorsColor);
     form.SuchErgList.Clear();
     GlobalSearchText = text;

@@ -246,6 +246,24 @@ TEST_F(FavouritesGlobal, FullStoreTakesNoMoreAndSaysSoByABeep) {
     EXPECT_EQ(tree.Read(file), bytes);
 }
 
+TEST_F(FavouritesGlobal, RemovalThatTheDiskDoesNotTakeIsNoneAndSaysSoByABeep) {
+    Store();
+    Start();
+    Show();
+    const Json rows = Get("FavoritenListeGlobal.List");
+    const std::string stored = tree.Read(file);
+    Do("select", "Form1.FavoritenListeGlobal", 0);
+    Do("beeps");
+    Do("disk", "full");
+    Do("click", "Form1.DeLFav");
+    EXPECT_EQ(Do("beeps")["value"], 1);
+    EXPECT_EQ(Get("FavoritenListeGlobal.List"), rows);
+    EXPECT_EQ(tree.Read(file), stored);
+    Do("disk", "fine");
+    Do("click", "Form1.DeLFav");
+    EXPECT_EQ(Get("FavoritenListeGlobal.List").size(), rows.size() - 1);
+}
+
 TEST_F(FavouritesGlobal, ResizeKeepsTheListInFront) {
     Store();
     Start();

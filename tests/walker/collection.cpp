@@ -35,8 +35,8 @@ const std::vector<Emulator>& Emulators() {
          true,
          true,
          "0",
-         {"mspacman.zip", "old/pacman.zip", "pacman.zip", "pacmanjr.zip", "puckman.zip",
-          "puckmanb.zip", "zaxxon.zip"}},
+         {"amidar.zip", "mspacman.zip", "old/pacman.zip", "pacman.zip", "pacmanjr.zip",
+          "puckman.zip", "puckmanb.zip", "zaxxon.zip"}},
         {"Batch", "batch.bat", true, true, "1", {"Bat (1985).tap", "Cat (1986).tap"}},
         {"Empty", "empty", true, true, "1", {}},
         {"Fresh", "fresh", true, false, "1", {"Dog (1989).rom", "Eel (1990).rom"}},
@@ -118,7 +118,9 @@ class Layout {
             {"Yak (1992)(Other)", "/Elsewhere/Yak (1992)(Other).adf"},
             {"Zoo by hand", "/Roms/Amiga/Zoo (1993)(Maker)(Disk 2 of 3).adf"},
         };
+        // A repair finds a favourite by a part of its path.
         const Settings arcade{{"pacman", "/Roms/Arcade/pacman.zip"},
+                              {"pacman moved", "/Moved/pacman moved/pacman.zip"},
                               {"puckman", "/Moved/puckman.zip"}};
         WriteOwn("Amiga", Some(amiga));
         WriteOwn("Arcade", Some(arcade));

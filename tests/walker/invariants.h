@@ -22,6 +22,7 @@ struct Intrusion {
     Hand hand;
     Expected expected;
     bool atBox;  // while a box was on the screen
+    bool idle;   // there, or while something was under way: nothing comes of it
 };
 
 // One command, with all that was seen around it.

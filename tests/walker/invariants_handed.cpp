@@ -22,7 +22,9 @@ std::string BeepsWhereNotFree(const Moment& m) {
 // Behind an open box nothing starts.
 std::string NotBehindABox(const Moment& m) {
     for (const Intrusion& intrusion : m.inner) {
-        if (!intrusion.atBox || intrusion.hand.gesture != "summon") continue;
+        const bool handsOver =
+            intrusion.hand.gesture == "summon" && IsFileToStart(intrusion.hand.control);
+        if (!intrusion.atBox || !handsOver) continue;
         for (const Started& started : m.starts) {
             if (started.text.find(intrusion.hand.control) != std::string::npos &&
                 m.expected.meant.path != intrusion.hand.control)

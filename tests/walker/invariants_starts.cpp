@@ -48,7 +48,8 @@ bool IsOf(const Moment& m, const Started& started, const std::string& emulator) 
     if (m.refusals == 0) return false;
     // One that nobody has set up has no program to compare with.
     const std::string stored = StoredProgram(m, emulator);
-    return stored.empty() || stored == "(none)" || started.program == AbsolutePath(stored);
+    return stored.empty() || stored == "(none)" || stored == "*.exe" ||
+           started.program == AbsolutePath(stored);
 }
 
 std::string WrongGame(const Moment& m, const Started& started, const Expected& expected) {

@@ -1,5 +1,7 @@
 // The files on the disk.
 
+#include <algorithm>
+
 #include "walker/invariants.h"
 
 namespace kivu::walker {
@@ -82,6 +84,29 @@ std::string NewStart(const Moment& m) {
     return m.before.paths.rows == m.after.paths.rows ? "" : "the paths are others";
 }
 
+// Row 0 counts as none there.
+bool IsBehindTheFirstRow(const std::vector<std::string>& paths, const std::string& file) {
+    const auto row = std::find_if(paths.begin(), paths.end(),
+                                  [&](const std::string& path) { return FileName(path) == file; });
+    return row != paths.end() && row != paths.begin();
+}
+
+std::string RepairedPath(const Moment& m) {
+    if (!m.Answered("epa", platform::Answer::Yes) || !m.Alone()) return {};
+    for (const Favourite& now : m.stores.own) {
+        const Favourite* wrong = nullptr;
+        bool right = false;
+        for (const Favourite& was : m.storesBefore.own) {
+            if (was.name != now.name) continue;
+            const std::string file = FileName(was.path);
+            right |= FileName(now.path) == file || !IsBehindTheFirstRow(m.after.paths.rows, file);
+            wrong = &was;
+        }
+        if (wrong && !right) return wrong->path + " has become " + now.path;
+    }
+    return {};
+}
+
 std::string RomCount(const Moment& m) {
     if (!m.memory.rescanned || m.stores.romCount == Number(m.stores.cache.size())) return {};
     return m.stores.romCount + " is stored for " + Number(m.stores.cache.size()) + " games";
@@ -123,6 +148,10 @@ const std::vector<Invariant>& StoreInvariants() {
          "the choice of emulators shows it",
          RomCount,
          {nothingLoaded, unwritten}},
+        {"a repaired favourite keeps its file name",
+         "another game whose name only contains it is another game",
+         RepairedPath,
+         {}},
         {"a file that cannot be written stays as it was",
          "half a list of favourites is worse than yesterday's",
          OldFileStays,

@@ -1,4 +1,4 @@
-// The shortest session that fails alike, by delta debugging over its steps.
+// The shortest session that fails alike, by delta debugging over its steps and their commands.
 
 #include <algorithm>
 
@@ -24,6 +24,22 @@ Session Without(const Session& session, std::size_t first, std::size_t count) {
     return shorter;
 }
 
+// Answers that change nothing, and what has come in the middle without a need.
+void DropCommands(Session& best, const std::string& invariant) {
+    for (std::size_t step = 1; step < best.steps.size(); ++step) {
+        for (std::size_t i = best.steps[step].commands.size(); i-- > 0;) {
+            Session tried = best;
+            auto& commands = tried.steps[step].commands;
+            commands.erase(commands.begin() + static_cast<std::ptrdiff_t>(i));
+            std::size_t at = 0;
+            if (!StillFails(tried, invariant, &at)) continue;
+            if (at < tried.steps.size()) tried.steps.resize(at + 1);
+            best = std::move(tried);
+            if (step >= best.steps.size()) return;
+        }
+    }
+}
+
 }  // namespace
 
 Session Shrink(const Session& session, const Failure& failure) {
@@ -47,6 +63,7 @@ Session Shrink(const Session& session, const Failure& failure) {
         if (shorter && part == 1) continue;
         part /= 2;
     }
+    DropCommands(best, failure.invariant);
     return best;
 }
 

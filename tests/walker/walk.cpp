@@ -4,6 +4,16 @@ namespace kivu::walker {
 
 namespace {
 
+// ["meanwhile", when, n, command, ...]
+constexpr std::size_t firstInTheMiddle = 3;
+
+// What of a step has come to nothing.
+struct LeftOver {
+    // That no box has taken: the last ones, as boxes take them in their order.
+    std::size_t answers = 0, inputs = 0;
+    bool meanwhile = false;  // what was to come in the middle of its last command
+};
+
 class Player {
  public:
     explicit Player(const Session& session) : world(session.collection), leftOut(session.leftOut) {
@@ -14,6 +24,7 @@ class Player {
     bool Ended() const { return world.Ended(); }
 
     std::optional<Failure> Play(const Step& step) {
+        intruded = false;
         for (const Json& command : step.commands) {
             if (auto failure = Play(command)) return failure;
             if (world.Ended()) break;
@@ -21,9 +32,9 @@ class Player {
         return {};
     }
     // Answers that no box has taken must not wait for a later one.
-    bool DropAnswers() {
+    LeftOver DropAnswers() {
         auto& dialogs = world.Host().dialogs;
-        const bool left = !dialogs.answers.empty() || !dialogs.inputs.empty();
+        const LeftOver left{dialogs.answers.size(), dialogs.inputs.size(), !intruded};
         dialogs.answers.clear();
         dialogs.inputs.clear();
         return left;
@@ -51,11 +62,13 @@ class Player {
 
     // What a command is to do where it comes in the middle of another one.
     void NoteIntrusion(const Json& command) {
+        intruded = true;
         if (IsForHost(command)) return;
         const Look look = world.Now();
-        Intrusion intrusion{HandOf(command), {}, atBox};
-        // Behind a box there is no hand, and nothing from outside is to do anything.
-        if (!atBox) intrusion.expected = Expect(look, ReadStores(world, look), command);
+        Intrusion intrusion{HandOf(command), {}, atBox, atBox || look.busy};
+        // Behind a box there is no hand, and nothing from outside is to do anything; so it is while
+        // something is under way.
+        if (!intrusion.idle) intrusion.expected = Expect(look, ReadStores(world, look), command);
         inner.push_back(std::move(intrusion));
     }
 
@@ -124,7 +137,7 @@ class Player {
     // With the mouse or with a key.
     static bool Pressed(const Moment& moment, const std::string& button) {
         for (const Intrusion& intrusion : moment.inner) {
-            if (intrusion.hand.control == button) return true;
+            if (intrusion.hand.control == button && !intrusion.idle) return true;
         }
         if (!moment.Taken()) return false;
         const Hand& hand = moment.hand;
@@ -136,12 +149,34 @@ class Player {
     const std::set<std::string>& leftOut;
     std::vector<Intrusion> inner;  // of the command that is under way
     bool atBox = false;            // when they come
+    bool intruded = false;         // they have come, in the step that is under way
     Memory memory;
 };
 
 std::optional<Failure> At(std::optional<Failure> failure, std::size_t step) {
     if (failure) failure->step = step;
     return failure;
+}
+
+// From `first` on, as those in the middle of a command stand behind what says when they come.
+template <typename List>
+void DropLeftOver(List& commands, std::size_t first, LeftOver& left) {
+    for (std::size_t i = commands.size(); i-- > first;) {
+        const std::string name = commands[i][0];
+        const auto at = commands.begin() + static_cast<std::ptrdiff_t>(i);
+        if (name == "meanwhile") {
+            if (left.meanwhile) {
+                commands.erase(at);
+            } else {
+                DropLeftOver(commands[i], firstInTheMiddle, left);
+            }
+        } else if (name == "answer" || name == "input") {
+            std::size_t& count = name == "answer" ? left.answers : left.inputs;
+            if (count == 0) continue;
+            --count;
+            commands.erase(at);
+        }
+    }
 }
 
 }  // namespace
@@ -174,15 +209,10 @@ std::optional<Failure> Replay(const Session& session, std::vector<Step>* taken) 
     Player player(session);
     for (std::size_t i = 0; i < session.steps.size() && !player.Ended(); ++i) {
         auto failure = player.Play(session.steps[i]);
-        const bool left = player.DropAnswers();
+        LeftOver left = player.DropAnswers();
         if (taken) {
-            Step step = session.steps[i];
-            if (left) {
-                std::erase_if(step.commands, [](const Json& command) {
-                    return command[0] == "answer" || command[0] == "input";
-                });
-            }
-            taken->push_back(std::move(step));
+            taken->push_back(session.steps[i]);
+            DropLeftOver(taken->back().commands, 0, left);
         }
         if (failure) return At(failure, i);
     }

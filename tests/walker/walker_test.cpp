@@ -116,5 +116,24 @@ TEST(Report, HoldsTheLayoutAndTheCommands) {
         EXPECT_NE(report.find(driver::LineOf(command) + "\n"), report.npos);
 }
 
+// Escape asks once, a tab asks nobody.
+TEST(Replay, LeavesOutOnlyWhatNoBoxHasTaken) {
+    Session session = NewSession(7);
+    const Json late = Command({"meanwhile", "events", 9999, Command({"answer", "Yes"})});
+    const Json used =
+        Command({"meanwhile", "box", 1, Command({"answer", "Yes"}), Command({"tick", "Form1"})});
+    const Json escape = Command({"key", "Form1", "Escape"});
+    session.steps.push_back({"asks once",
+                             {Command({"answer", "Cancel"}), Command({"answer", "OK"}),
+                              Command({"input", "x"}), used, escape}});
+    session.steps.push_back({"asks nobody", {late, Command({"click", "Form1.Label3"})}});
+    std::vector<Step> taken;
+    const auto failure = Replay(session, &taken);
+    EXPECT_FALSE(failure) << Report(session, *failure);
+    const Json rest = Command({"meanwhile", "box", 1, Command({"tick", "Form1"})});
+    EXPECT_EQ(taken.at(1).commands, (Commands{Command({"answer", "Cancel"}), rest, escape}));
+    EXPECT_EQ(taken.at(2).commands, Commands{Command({"click", "Form1.Label3"})});
+}
+
 }  // namespace
 }  // namespace kivu::walker

@@ -1,0 +1,164 @@
+#include "scenarios/scenario.h"
+
+namespace kivu::scenarios {
+namespace {
+
+// What comes while something else is under way and lets events run: whenever it comes, one list is
+// in front afterwards, something has the focus, and the drop-down stands on the loaded emulator.
+class InTheMiddle : public LoadedScenario {
+ protected:
+    static constexpr int moments = 40;  // more than any of these commands has
+
+    // The command with others when it lets events run for the n-th time; false: it never did.
+    template <typename... Arguments>
+    bool With(int n, const std::vector<Json>& others, Arguments... command) {
+        Json meanwhile = Json::array({"meanwhile", "events", n});
+        for (const Json& other : others)
+            meanwhile.push_back(other);
+        EXPECT_EQ(interpreter->Execute(meanwhile)["ok"], true);
+        return !Do(command...)["meanwhile"].empty();
+    }
+    std::vector<std::string> InFront() {
+        std::vector<std::string> lists;
+        for (const char* list : {"FavoritenListe", "WIthoutDoubles", "UAE_Short", "SuchErgList",
+                                 "FavoritenListeGlobal", "GlobalSearchList", "EmulatorLongListbox"})
+            if (Visible(list)) lists.emplace_back(list);
+        return lists;
+    }
+    void ExpectOneList(int n) {
+        EXPECT_EQ(InFront().size(), 1U) << n;
+        EXPECT_NE(Get("Focus"), "") << n;
+        if (!Visible("EmulatorLongListbox")) {
+            EXPECT_EQ(Get("EmuListbox.ListIndex"), Get("CurrentEmuIndex")) << n;
+        }
+        EXPECT_FALSE(Visible("DeLFav")) << n;
+    }
+    std::string Bee() const { return tree.Path("Roms/Alpha/Bee (1991)(Maker).adf"); }
+    // A game that was started meanwhile ends.
+    void EndGame() {
+        if (Form().EmuActiveTimer.Enabled()) Do("tick", "Form1.EmuActiveTimer", 5);
+    }
+};
+
+TEST_F(InTheMiddle, HandedFileFindsTheChoiceOpenOrClosed) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        With(n, {{"summon", Bee()}}, "click", "Form1.EmuListbox");
+        EndGame();
+        ExpectOneList(n);
+        Do("click", "Form1.EmuListbox");
+        With(n, {{"summon", Bee()}}, "key", "Form1", "Escape");
+        EndGame();
+        ExpectOneList(n);
+    }
+}
+
+TEST_F(InTheMiddle, EndOfAnEmulatorFindsTheChoiceOpenOrClosed) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("click", "Form1.EmuListbox");
+        Do("rightclick", "Form1.EmulatorLongListbox", 0);
+        With(n, {{"tick", "Form1.EmuActiveTimer", 5}}, "key", "Form1", "Escape");
+        With(n, {{"tick", "Form1.EmuActiveTimer", 5}}, "click", "Form1.EmuListbox");
+        ExpectOneList(n);
+    }
+}
+
+TEST_F(InTheMiddle, LetterTypedWhileTheChoiceOpensIsNotLost) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        if (With(n, {{"key", "Form1", "b"}}, "click", "Form1.EmuListbox")) {
+            EXPECT_EQ(Text("SearchDblsTxt.Text"), "b") << n;
+        }
+        ExpectOneList(n);
+    }
+}
+
+TEST_F(InTheMiddle, NoOtherEmulatorIsChosenDuringARescan) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        With(n, {{"select", "Form1.EmuListbox", 1}}, "click", "Form1.LoadBtn");
+        ExpectOneList(n);
+        EXPECT_EQ(InFront(), std::vector<std::string>{"UAE_Short"}) << n;
+        EXPECT_EQ(Get("EmuListbox.Text"), "Alpha") << n;
+    }
+}
+
+TEST_F(InTheMiddle, ChoiceOpenedDuringASearchStaysOpen) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("type", "Form1.SearchDblsTxt", "maker");
+        const bool opened = With(n, {{"click", "Form1.EmuListbox"}}, "click", "Form1.SearchAllBtn");
+        ExpectOneList(n);
+        if (opened && !Visible("GlobalSearchList")) {
+            EXPECT_EQ(InFront(), std::vector<std::string>{"EmulatorLongListbox"}) << n;
+            EXPECT_EQ(Text("SearchDblsTxt.Text"), "maker") << n;
+        }
+    }
+}
+
+TEST_F(InTheMiddle, FileHandedOverAtTheEndOfAnEmulatorIsRefusedAndNotLeftUnwatched) {
+    Start();
+    Do("click", "Form1.EmuListbox");
+    Do("rightclick", "Form1.EmulatorLongListbox", 0);
+    Do("runs");
+    EXPECT_TRUE(With(1, {{"summon", Bee()}}, "tick", "Form1.EmuActiveTimer"));
+    EXPECT_EQ(Do("runs")["value"], Json::array());
+    EXPECT_EQ(Do("beeps")["value"], 1);
+    EXPECT_EQ(Get("GameIsRunning"), false);
+    ExpectOneList(1);
+}
+
+TEST_F(InTheMiddle, RescanAsksWithoutATabAlone) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("type", "Form1.SearchDblsTxt", "maker");
+        bool asked = false, alone = false;
+        Host().dialogs.onShow = [&] {
+            asked = true;
+            alone = Visible("Label4") && !Visible("Label3");
+        };
+        With(n, {{"key", "Form1", "Escape"}}, "click", "Form1.LoadBtn");
+        EXPECT_FALSE(alone) << n;
+        EXPECT_TRUE(asked || n > 1);
+        EXPECT_TRUE(Visible("Label4")) << n;
+    }
+}
+
+TEST_F(InTheMiddle, GlobalFavouriteIsTheGameThatWasMarked) {
+    Start();
+    Do("click", "Form1.Label3");
+    Do("select", "Form1.UAE_Short", 2);
+    EXPECT_TRUE(With(1, {{"set", "Form1.SearchDblsTxt.Text", "ant"}}, "click",
+                     "Form1.AddToFavorit_Global"));
+    EXPECT_EQ(tree.Stored("Config/Favoriten_Global.ini", "Fav1_Name"), "Bee (1991)(Maker)");
+}
+
+TEST_F(InTheMiddle, NoOtherEmulatorIsChosenDuringASwitch) {
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        LaunchBee();
+        // Its end shows during the switch, or it goes on.
+        if (n % 2 == 0) EmulatorComesUp();
+        With(n, {{"select", "Form1.EmuListbox", 0}}, "dblclick", "Form1.EmuListbox", 1);
+        EXPECT_EQ(Get("EmuListbox.ListIndex"), Get("CurrentEmuIndex")) << n;
+        EXPECT_EQ(Get("EmuListbox.Text"), "Beta") << n;
+    }
+}
+
+// A favourite is looked for in the list, and the complete one comes to the front meanwhile.
+TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
+    tree.Write("Config/Alpha/Favoriten.ini",
+               ProgramDirectory::Encoded("[Favoriten]\r\nFav0_Name=Ant\r\n"
+                                         "Fav0_FullPath=/Roms/Alpha/Ant (1990)(Maker)(Disk 1 of "
+                                         "2).adf\r\nFav1_Name=Bee\r\n"
+                                         "Fav1_FullPath=/Roms/Alpha/Bee (1991)(Maker).adf\r\n"));
+    Start();
+    EXPECT_EQ(Get("ListMode"), "1");
+    EXPECT_TRUE(With(1, {{"click", "Form1.Label3"}}, "select", "Form1.FavoritenListe", 1));
+    EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_FALSE(Visible("DeLFav"));
+}
+
+}  // namespace
+}  // namespace kivu::scenarios
