@@ -20,6 +20,8 @@ namespace kivu::launch {
 namespace keys = profile::keys;
 
 void GameLaunch::LaunchBtn_Click() {
+    // A switch or a rescan that is under way goes on with the lists.
+    if (form.Busy) return;
     const std::string path = form.UAE_FULL.List(form.UAE_Short.ListIndex());
     // An emulator's window must not come up behind the launcher's.
     routines.alwaysOnTop.SetToNormal();
