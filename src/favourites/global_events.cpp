@@ -77,6 +77,7 @@ void GlobalEvents::FavoritenListeGlobal_KeyPress(forms::Character& character) {
 }
 
 void GlobalEvents::AddToFavorit_Global_Click() {
+    services.events.DoEvents();
     if (!routines.marked.SelectToStore()) {
         FocusListInFront();
         return;
@@ -84,11 +85,8 @@ void GlobalEvents::AddToFavorit_Global_Click() {
     const int row = form.UAE_Short.ListIndex();
     const std::string name = form.UAE_Short.List(row);
     const std::string path = form.UAE_FULL.List(row);
-    const std::string emulator = form.EmuListbox.SelectedText();
-    // Whatever is marked now, that game was meant.
-    services.events.DoEvents();
-    const bool added =
-        !name.empty() && !path.empty() && store.AddGlobalFavorit(name, emulator, path);
+    const bool added = !name.empty() && !path.empty() &&
+                       store.AddGlobalFavorit(name, form.EmuListbox.SelectedText(), path);
     if (added) {
         form.MyCaptionLabel.SetCaption(form.Say("Globaler Favorit: ", "Add global Favorite: ") +
                                        name);

@@ -52,7 +52,7 @@ bool IsSameFile(const Handle& file, const std::wstring& path) {
 }  // namespace
 
 WindowsLog::WindowsLog(const std::string& path, std::size_t maxSize)
-    : path(SystemPath(path).value_or(L"")), placed(true), maxSize(maxSize) {
+    : path(SystemPath(path).value_or(std::wstring())), placed(true), maxSize(maxSize) {
 }
 
 void WindowsLog::Write(std::string_view text) {
@@ -66,7 +66,7 @@ void WindowsLog::Write(std::string_view text) {
 void WindowsLog::FindPlace() {
     if (placed) return;
     placed = true;
-    path = SystemPath(UserPath()).value_or(L"");
+    path = SystemPath(UserPath()).value_or(std::wstring());
 }
 
 std::string WindowsLog::UserPath() {

@@ -44,7 +44,7 @@ class X11Windows : public ::testing::Test {
     static bool LiesAbove(const QWidget& upper, const QWidget& lower) {
         const QByteArray tree = Output("xwininfo", {"-root", "-tree"});
         const auto frameOf = [&](const QWidget& window) {
-            return tree.indexOf("0x" + QByteArray::number(qulonglong(window.winId()), 16));
+            return tree.indexOf("0x" + QByteArray::number(window.winId(), 16));
         };
         // The list begins with the topmost.
         return frameOf(upper) >= 0 && frameOf(upper) < frameOf(lower);
@@ -69,7 +69,7 @@ TEST_F(X11Windows, ModalOneTakesTheKeysAndGivesThemBack) {
     main.text.SetFocus();
     Ask(box.Get(), [&](QWidget& window) {
         EXPECT_TRUE(Output("xprop", {"-id", Id(window), "WM_TRANSIENT_FOR"})
-                        .contains(QByteArray::number(qulonglong(mainView.Window().winId()), 16)));
+                        .contains(QByteArray::number(mainView.Window().winId(), 16)));
         Xdo({"type", "--delay", "5", "a.adf"});
         EXPECT_TRUE(Wait([&] { return box.Get().text.Text() == "a.adf"; }));
         Xdo({"key", "Return"});
