@@ -124,15 +124,6 @@ TEST_F(InTheMiddle, RescanAsksWithoutATabAlone) {
     }
 }
 
-TEST_F(InTheMiddle, GlobalFavouriteIsTheGameThatWasMarked) {
-    Start();
-    Do("click", "Form1.Label3");
-    Do("select", "Form1.UAE_Short", 2);
-    EXPECT_TRUE(With(1, {{"set", "Form1.SearchDblsTxt.Text", "ant"}}, "click",
-                     "Form1.AddToFavorit_Global"));
-    EXPECT_EQ(tree.Stored("Config/Favoriten_Global.ini", "Fav1_Name"), "Bee (1991)(Maker)");
-}
-
 // A favourite is looked for in the list, and the complete one comes to the front meanwhile.
 TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
     tree.Write("Config/Alpha/Favoriten.ini",

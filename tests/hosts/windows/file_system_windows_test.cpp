@@ -304,8 +304,7 @@ TEST_F(FileSystemWindows, PathsMayBeLongerThan260Characters) {
     EXPECT_THAT(Names(directory.Path(deep)), IsEmpty());
 }
 
-TEST(FileSystemWindows, KnowsTheDrivesAndTheHomeDirectory) {
-    const WindowsFileSystem files;
+TEST_F(FileSystemWindows, KnowsTheDrivesAndTheHomeDirectory) {
     const auto drives = files.Drives();
     EXPECT_NE(std::find(drives.begin(), drives.end(), "C:\\"), drives.end());
     EXPECT_TRUE(files.IsDirectory(files.HomeDirectory())) << files.HomeDirectory();
