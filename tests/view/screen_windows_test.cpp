@@ -96,9 +96,9 @@ TEST_F(ScreenWindowsTest, ModalWindowReturnsAfterAClickThatHidesIt) {
 }
 
 TEST_F(ScreenWindowsTest, EscapeAndEnterPressTheButtonsForThem) {
-    Ask(box.Get(), [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_Return); });
+    Ask(box.Get(), [](QWidget& window) { QTest::keyClick(window.focusWidget(), Qt::Key_Return); });
     EXPECT_EQ(box.Get().log, std::vector<std::string>{"ok"});
-    Ask(box.Get(), [](QWidget& window) { QTest::keyClick(window.windowHandle(), Qt::Key_Escape); });
+    Ask(box.Get(), [](QWidget& window) { QTest::keyClick(window.focusWidget(), Qt::Key_Escape); });
     EXPECT_EQ(box.Loaded(), nullptr);
 }
 
