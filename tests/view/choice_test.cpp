@@ -137,6 +137,12 @@ TEST_F(ChoiceTest, SetsATextNarrowerBeforeItCutsIt) {
     Show();
     const QString text = QStringLiteral("Emulator auswählen:");
     form.choice.SetText(text.toStdString());
+    QFont narrow = Choice()->font();
+    narrow.setStretch(75);
+    if (QFontMetrics(narrow).horizontalAdvance(text) >=
+        QFontMetrics(Choice()->font()).horizontalAdvance(text)) {
+        GTEST_SKIP() << "The fonts of this host cannot be set narrower.";
+    }
     for (int points = 8; points <= 40; ++points) {
         const std::string tip = "Choose " + std::to_string(points);
         form.choice.SetToolTipText(tip);
