@@ -6,6 +6,7 @@
 #include "app/desktop_host.h"
 #include "core/language.h"
 #include "hosts/linux/clock_linux.h"
+#include "hosts/linux/controllers_sdl.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
@@ -14,10 +15,13 @@
 #include "hosts/linux/process_list_linux.h"
 #include "hosts/linux/program_directory_linux.h"
 #include "hosts/linux/program_starter_linux.h"
+#include "hosts/linux/system_colors_linux.h"
 #include "hosts/linux/user_store_linux.h"
+#include "hosts/qt/background_qt.h"
 #include "hosts/qt/beeper_qt.h"
 #include "hosts/qt/dialogs_qt.h"
 #include "hosts/qt/event_pump_qt.h"
+#include "hosts/qt/picture_decoder_qt.h"
 
 namespace kivu::app {
 
@@ -41,6 +45,10 @@ struct DesktopHost::Parts {
     hosts::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
     hosts::QtBeeper beeper;
     hosts::QtEventPump events;
+    hosts::QtPictureDecoder pictureDecoder;
+    hosts::QtBackground background;
+    hosts::LinuxSystemColors systemColors;
+    hosts::SdlControllers controllers;
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
 };

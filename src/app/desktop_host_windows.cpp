@@ -3,10 +3,13 @@
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
+#include "hosts/qt/background_qt.h"
 #include "hosts/qt/beeper_qt.h"
 #include "hosts/qt/dialogs_qt.h"
 #include "hosts/qt/event_pump_qt.h"
+#include "hosts/qt/picture_decoder_qt.h"
 #include "hosts/windows/clock_windows.h"
+#include "hosts/windows/controllers_dinput.h"
 #include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/instance_windows.h"
 #include "hosts/windows/locale_windows.h"
@@ -14,6 +17,7 @@
 #include "hosts/windows/process_list_windows.h"
 #include "hosts/windows/program_directory_windows.h"
 #include "hosts/windows/program_starter_windows.h"
+#include "hosts/windows/system_colors_windows.h"
 #include "hosts/windows/user_store_windows.h"
 
 namespace kivu::app {
@@ -47,6 +51,10 @@ struct DesktopHost::Parts {
     hosts::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
     hosts::QtBeeper beeper;
     hosts::QtEventPump events;
+    hosts::QtPictureDecoder pictureDecoder;
+    hosts::QtBackground background;
+    hosts::WindowsSystemColors systemColors;
+    hosts::DirectInputControllers controllers;
     std::string commandLine;
 };
 

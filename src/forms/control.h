@@ -182,8 +182,14 @@ class Container : public Control {
     // From the back to the front.
     const std::vector<Control*>& Children() const { return children; }
 
+    // One of the launcher's reusable controls: what it is made of keeps the colours of its own when
+    // a window is coloured.
+    bool IsUserControl() const { return userControl; }
+    void SetIsUserControl(bool value) { userControl = value; }
+
  private:
     friend class Control;
+    bool userControl = false;
     std::vector<Control*> children;
 };
 

@@ -85,12 +85,13 @@ struct Bitmap {
     int width = 0;
     int height = 0;
     std::vector<std::uint32_t> pixels;
+    bool opaque = false;  // every pixel is known to cover what lies below
 };
 
-// A picture by its source (a resource or a file that the toolkit loads) or by its pixels.
+// A picture by its pixels, or by a resource that the toolkit loads.
 struct Picture {
-    std::string source;
-    std::shared_ptr<const Bitmap> pixels;
+    std::string source;                    // the resource; with pixels, the file that they are of
+    std::shared_ptr<const Bitmap> pixels;  // never changed once it is shown
     bool operator==(const Picture&) const = default;
 };
 

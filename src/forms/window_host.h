@@ -47,6 +47,10 @@ class WindowHost {
     // A modal window keeps the user away from this one.
     bool IsBlocked(const Form& form) const;
 
+    // Whether the user works in one of our windows or in another program's.
+    enum class Activity { ours, others, unknown };
+    virtual Activity ActiveWindow() const { return Activity::unknown; }
+
     // How many boxes and modal windows wait for the user. What would start, switch or open
     // something by itself rests while there are any.
     int Questions() const { return questions; }

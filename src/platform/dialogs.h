@@ -18,6 +18,11 @@ class Dialogs {
     // Empty text: cancelled, or left empty.
     virtual std::string InputBox(const std::string& prompt, const std::string& title,
                                  const std::string& initial) = 0;
+
+    // What a hand does to the box that is open, when it holds a game controller: steps between its
+    // buttons, presses the one in focus, gives the cancelling answer. No effect while none is open.
+    enum class BoxKey { previous, next, press, cancel };
+    virtual void PressInBox(BoxKey) {}
 };
 
 }  // namespace kivu::platform

@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include "text/first_match.h"
+
 namespace kivu::platform {
 
 // The host's files. Paths are text as the launcher holds it (see support/text.h); a name keeps its
@@ -72,6 +74,22 @@ class FileSystem {
     }
     // Whether other threads may call ReadDirectory at any time.
     virtual bool ServesThreads() const { return false; }
+
+    // The file of a directory whose name begins with `prefix` and ends in `ending`, both without
+    // regard to case, that is shown first; without the directory. Pictures come first, then a name
+    // that is `preferredStem` but for its ending, then the order of names. Empty: there is none.
+    virtual std::optional<std::string> FirstMatch(const std::string& directory,
+                                                  std::string_view prefix, std::string_view ending,
+                                                  std::string_view preferredStem) const {
+        std::optional<std::string> first;
+        const auto entries = ListDirectory(directory);
+        if (!entries) return first;
+        for (const Entry& entry : *entries) {
+            if (entry.isDirectory || !text::MatchesAround(entry.name, prefix, ending)) continue;
+            if (!first || text::ComesFirst(entry.name, *first, preferredStem)) first = entry.name;
+        }
+        return first;
+    }
 
     // A regular file of exactly this name. Empty or quoted text and directories are no files; "*"
     // and "?" are plain characters.

@@ -3,16 +3,20 @@
 #include <string>
 #include <string_view>
 
+#include "platform/background.h"
 #include "platform/beeper.h"
 #include "platform/clock.h"
+#include "platform/controllers.h"
 #include "platform/dialogs.h"
 #include "platform/event_pump.h"
 #include "platform/file_system.h"
 #include "platform/instance.h"
 #include "platform/locale.h"
 #include "platform/log.h"
+#include "platform/picture_decoder.h"
 #include "platform/processes.h"
 #include "platform/program_starter.h"
+#include "platform/system_colors.h"
 #include "platform/user_store.h"
 
 namespace kivu::platform {
@@ -31,6 +35,10 @@ struct Host {
     UserStore& userStore;
     Instance& instance;
     Log& log;
+    PictureDecoder& pictureDecoder;
+    Background& background;
+    SystemColors& systemColors;
+    Controllers& controllers;
 
     std::string programDirectory;  // where Config lies, with or without a closing separator
     std::string programName;       // base name of the program file, without ".exe"
@@ -52,6 +60,10 @@ Host ServicesOf(Parts& parts, std::string_view programDirectory, std::string_vie
             .userStore = parts.userStore,
             .instance = parts.instance,
             .log = parts.log,
+            .pictureDecoder = parts.pictureDecoder,
+            .background = parts.background,
+            .systemColors = parts.systemColors,
+            .controllers = parts.controllers,
             .programDirectory = std::string(programDirectory),
             .programName = std::string(programName),
             .commandLine = std::string(commandLine)};

@@ -22,6 +22,11 @@ class LoggedFiles : public platform::FileSystem {
     std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override;
     std::optional<Listing> ReadDirectory(const std::string& path) const override;
     bool ServesThreads() const override { return files.ServesThreads(); }
+    std::optional<std::string> FirstMatch(const std::string& directory, std::string_view prefix,
+                                          std::string_view ending,
+                                          std::string_view preferredStem) const override {
+        return files.FirstMatch(directory, prefix, ending, preferredStem);
+    }
     bool FileExists(const std::string& path) const override { return files.FileExists(path); }
     bool IsDirectory(const std::string& path) const override { return files.IsDirectory(path); }
     std::optional<Identity> IdentityOf(const std::string& path) const override {

@@ -25,6 +25,8 @@ class CountedDialogs : public platform::Dialogs {
         return dialogs.InputBox(prompt, title, initial);
     }
 
+    void PressInBox(BoxKey key) override { dialogs.PressInBox(key); }
+
  private:
     platform::Dialogs& dialogs;
     forms::WindowHost& windows;

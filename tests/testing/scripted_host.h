@@ -1,7 +1,9 @@
 #pragma once
 
 #include <algorithm>
+#include <atomic>
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <functional>
@@ -288,6 +290,87 @@ class ScriptedLog : public platform::Log {
     std::vector<std::string> lines;
 };
 
+// Pictures of one colour, in the size that the test says.
+class ScriptedPictures : public platform::PictureDecoder {
+ public:
+    std::optional<platform::DecodedPicture> Decode(std::string_view bytes, int,
+                                                   const std::atomic<bool>&) override {
+        ++count;
+        if (!sizeOf) return std::nullopt;
+        auto picture = sizeOf(bytes);
+        if (picture)
+            picture->pixels.assign(static_cast<std::size_t>(picture->width) *
+                                       static_cast<std::size_t>(picture->height),
+                                   0xff808080);
+        return picture;
+    }
+    std::function<std::optional<platform::DecodedPicture>(std::string_view bytes)> sizeOf;
+    int count = 0;
+};
+
+// At once, or when the test lets it happen.
+class ScriptedBackground : public platform::Background {
+ public:
+    void Run(std::function<void()> work, std::function<void()> done) override {
+        waiting.push_back({std::move(work), std::move(done)});
+        while (inlined && !waiting.empty())
+            Serve(0);
+    }
+    void Serve(std::size_t which) {
+        Job job = std::move(waiting[which]);
+        waiting.erase(waiting.begin() + static_cast<std::ptrdiff_t>(which));
+        job.work();
+        job.done();
+    }
+
+    struct Job {
+        std::function<void()> work, done;
+    };
+    std::deque<Job> waiting;
+    bool inlined = true;
+};
+
+// The classic desktop's.
+class ScriptedColors : public platform::SystemColors {
+ public:
+    std::uint32_t SystemColor(int index) const override {
+        const auto found = colors.find(index);
+        return found == colors.end() ? 0 : found->second;
+    }
+    std::map<int, std::uint32_t> colors{{5, 0xffffff}, {8, 0}, {15, 0xc0c0c0}};
+};
+
+// Controllers as the test holds them.
+class ScriptedControllers : public platform::Controllers {
+ public:
+    struct Device {
+        platform::Controller controller;
+        platform::ControllerState state;
+    };
+
+    std::optional<std::vector<platform::Controller>> Open() override {
+        ++opened;
+        if (noService) return std::nullopt;
+        std::vector<platform::Controller> list;
+        for (const Device& device : devices)
+            list.push_back(device.controller);
+        return list;
+    }
+    bool Read(std::size_t device, platform::ControllerState& state) override {
+        state = {};
+        if (device >= devices.size()) return false;
+        state = devices[device].state;
+        return true;
+    }
+    void Close() override { ++closed; }
+    bool Changed() override { return std::exchange(changed, false); }
+
+    std::vector<Device> devices{{{"Mouse", 0}, {}}, {{"Keyboard", 0}, {}}};
+    bool noService = false;
+    bool changed = false;
+    int opened = 0, closed = 0;
+};
+
 struct ScriptedHost {
     explicit ScriptedHost(platform::FileSystem& files) : files(files) {}
 
@@ -308,6 +391,10 @@ struct ScriptedHost {
     ScriptedUserStore userStore;
     ScriptedInstance instance;
     ScriptedLog log;
+    ScriptedPictures pictureDecoder;
+    ScriptedBackground background;
+    ScriptedColors systemColors;
+    ScriptedControllers controllers;
 };
 
 }  // namespace kivu::testing
