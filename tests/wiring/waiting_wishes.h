@@ -22,10 +22,6 @@ inline constexpr WaitingWish waitingWishes[] = {
     {"GameLaunch.ShowLoadingInfo", "the loading screen"},
     {"GameLaunch.MountGameImage", "the mounting of disc images"},
     {"GameLaunch.RunStartScript", "the start script"},
-    {"GameLaunch.JoystickEnable", "the controllers"},
-    {"RunningWatch.JoystickEnable", "the controllers"},
-    {"SettingsLoader.JoystickEnable", "the controllers"},
-    {"SettingsLoader.JoystickCount", "the controllers"},
     {"WindowSurface.OpenProjectPage", "the project's page"},
 };
 
