@@ -80,7 +80,11 @@ void RunningWatch::EndOfGame() {
     form.MyCaptionLabel.SetVisible(false);
     busy.HideAll(true);
     routines.front.RefreshList();
-    if (ini.Read(keys::UseJoystick, core::ProfilesOf(form)) >= 1) hooks.JoystickEnable(true);
+    {
+        // Events run there, and a game that started now would come up behind the window.
+        const core::Raised working(form.Busy);
+        if (ini.Read(keys::UseJoystick, core::ProfilesOf(form)) >= 1) hooks.JoystickEnable(true);
+    }
     hooks.HoldButtonsBack();
     // In place of what ran, and of the count of joysticks.
     form.MyCaptionLabel.SetCaption(form.Caption());

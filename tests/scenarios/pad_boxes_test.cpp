@@ -1,4 +1,5 @@
 #include "scenarios/pad.h"
+#include "wiring/routines.h"
 
 namespace kivu::scenarios {
 namespace {

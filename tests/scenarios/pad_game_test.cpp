@@ -100,7 +100,9 @@ TEST_F(PadGame, EachListStartsItsOwnRow) {
         EXPECT_EQ(Runs(), 1U) << focus;
         EXPECT_TRUE(Text("CURRENT_PROGRAM_STARTED").starts_with(focus == 1 ? "Bee" : "Ant"))
             << focus;
-        if (focus != 4) EXPECT_EQ(Focus(), focus);
+        if (focus != 4) {
+            EXPECT_EQ(Focus(), focus);
+        }
         WatchLooks(3);
         Poll();
     }
