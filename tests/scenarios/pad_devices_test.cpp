@@ -172,6 +172,20 @@ TEST_F(PadDevices, PadEventsInTheYieldsOfARescan) {
     }
 }
 
+TEST_F(PadDevices, PadEventsInTheYieldsOfASearchOfAllEmulators) {
+    for (int turn = 1; turn <= 6; ++turn) {
+        Start();
+        Do("type", "Form1.SearchDblsTxt", "an");
+        Hold({{"x", 65535}, {"buttons", Json::array({1, 2, 11})}});
+        Do("meanwhile", "events", turn, Json::array({"tick", "Form1.JoystickTimer"}));
+        Do("click", "Form1.SearchAllBtn");
+        EXPECT_FALSE(session->ended) << turn;
+        EXPECT_TRUE(Do("runs")["value"].empty()) << turn;
+        EXPECT_FALSE(Visible("EmulatorLongListbox")) << turn;
+        EXPECT_TRUE(Visible("GlobalSearchList")) << turn;
+    }
+}
+
 TEST_F(PadDevices, ComeAndGoneIsSeenWhereTheHostTells) {
     prepare = nullptr;
     Start();
