@@ -61,6 +61,7 @@ void Form1::DesignWindow() {
     SetTabOrder(forms::TabOrder::asCreated);
     EmuActiveTimer.SetRestsBehindQuestions(true);
     JoystickTimer.SetRestsBehindQuestions(true);
+    ExitButtonTimer.SetRestsBehindQuestions(true);
     ListLeft = 300;
 
     MyCaptionLabel.Move(ListLeft + 60, 110, 9000, 330);
