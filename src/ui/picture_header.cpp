@@ -1,5 +1,6 @@
 #include "ui/picture_header.h"
 
+#include <cstdint>
 #include <limits>
 
 #include "png/header.h"
@@ -11,9 +12,6 @@ namespace kivu::ui {
 namespace {
 
 using Sides = std::optional<PictureSides>;
-
-constexpr std::string_view pngSign("\x89PNG\r\n\x1a\n", 8);
-constexpr std::string_view icoSign("\0\0\1\0", 4);
 
 Sides PngSides(const ByteView& file) {
     const bool header = file.From(12).StartsWith("IHDR");
@@ -70,7 +68,7 @@ Sides IcoSides(const ByteView& file) {
     }
     if (bestAt == 0) return std::nullopt;
     const ByteView picture = file.From(file.Little32(bestAt + 12));
-    if (picture.StartsWith(pngSign)) return PngSides(picture);
+    if (picture.StartsWith("\x89PNG\r\n\x1a\n")) return PngSides(picture);
     const Sides dib = DibSides(picture);
     return dib ? Sides({dib->width, dib->height / 2}) : std::nullopt;
 }
@@ -87,16 +85,6 @@ Sides WebpSides(const ByteView& file) {
     const bool frame = file.From(payload + 3).StartsWith("\x9d\x01\x2a");
     if (!name.StartsWith("VP8 ") || !frame) return std::nullopt;
     return PictureSides{file.Little16(payload + 6) & 0x3fff, file.Little16(payload + 8) & 0x3fff};
-}
-
-std::optional<PictureFormat> FormatOf(const ByteView& file) {
-    if (file.StartsWith(pngSign)) return PictureFormat::png;
-    if (file.StartsWith("\xff\xd8\xff")) return PictureFormat::jpeg;
-    if (file.StartsWith("GIF87a") || file.StartsWith("GIF89a")) return PictureFormat::gif;
-    if (file.StartsWith("BM")) return PictureFormat::bmp;
-    if (file.StartsWith(icoSign)) return PictureFormat::ico;
-    if (file.StartsWith("RIFF") && file.From(8).StartsWith("WEBP")) return PictureFormat::webp;
-    return std::nullopt;
 }
 
 Sides SidesOf(PictureFormat format, const ByteView& file) {
@@ -120,16 +108,15 @@ Sides SidesOf(PictureFormat format, const ByteView& file) {
 }  // namespace
 
 std::optional<PictureHeader> ReadPictureHeader(std::string_view bytes) {
-    const ByteView file(bytes);
-    const auto format = FormatOf(file);
+    const auto format = text::PictureFormatOf(bytes);
     if (!format) return std::nullopt;
-    const Sides sides = SidesOf(*format, file);
+    const Sides sides = SidesOf(*format, ByteView(bytes));
     if (!sides || !png::IsWithinLimits(sides->width, sides->height)) return std::nullopt;
     return PictureHeader{*format, static_cast<int>(sides->width), static_cast<int>(sides->height)};
 }
 
 bool MayTellMore(std::string_view bytes) {
-    return FormatOf(ByteView(bytes)) == PictureFormat::jpeg;
+    return text::PictureFormatOf(bytes) == PictureFormat::jpeg;
 }
 
 }  // namespace kivu::ui

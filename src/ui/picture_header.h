@@ -1,12 +1,13 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <string_view>
 
+#include "text/picture_format.h"
+
 namespace kivu::ui {
 
-enum class PictureFormat { png, jpeg, gif, bmp, ico, webp };
+using text::PictureFormat;
 
 // What a picture file says of itself before any of its pixels.
 struct PictureHeader {
