@@ -60,14 +60,14 @@ void FileDialogAnswer::Ok_Click() {
     const std::string directory = lists.Directory();
     if (form.AsksForDirectory()) {
         const std::string chosen = lists.ChosenDirectory();
-        Finish(JoinedPath(chosen.empty() ? directory : chosen, ""));
+        Finish(WithSeparator(chosen.empty() ? directory : chosen));
         return;
     }
     const std::string typed = form.FileName.Text();
     const std::string chosen = lists.ChosenFile();
     const bool blank = text::Trim(typed).empty();
     if (blank && form.Saves()) {
-        Finish(JoinedPath(directory, ""));
+        Finish(WithSeparator(directory));
     } else if (blank || typed == chosen) {
         // The row's name as it is, blanks at its ends and signs of a mask too.
         Finish(JoinedPath(directory, chosen));

@@ -24,8 +24,9 @@ void FileDialogLists::TakeCurrentDirectory() {
 
 bool FileDialogLists::GoTo(const std::string& directory) {
     form.Dir1.SetPath(directory);
-    const bool there = !directory.empty() && text::AddPathSeparator(form.Dir1.Path()) ==
-                                                 text::AddPathSeparator(directory);
+    // One that has gone while it was shown still stands there.
+    const bool there =
+        WithSeparator(form.Dir1.Path()) == WithSeparator(directory) && files.IsDirectory(directory);
     if (there) {
         form.NetworkPath.clear();
         ShowFullPath();
@@ -62,10 +63,10 @@ std::string FileDialogLists::PathOf(std::string_view typed) const {
 
 void FileDialogLists::ShowFullPath() {
     const std::string directory = Directory();
-    std::string path = directory.empty() ? directory : text::AddPathSeparator(directory);
+    std::string path = WithSeparator(directory);
     if (form.AsksForDirectory()) {
         const std::string chosen = ChosenDirectory();
-        if (!chosen.empty()) path = text::AddPathSeparator(chosen);
+        if (!chosen.empty()) path = WithSeparator(chosen);
     } else if (!text::Trim(form.FileName.Text()).empty()) {
         path = HasWildcard(form.FileName.Text()) ? path : PathOf(form.FileName.Text());
     } else {

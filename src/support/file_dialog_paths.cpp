@@ -62,8 +62,16 @@ bool IsNetworkPath(std::string_view text, bool posix) {
     return text.starts_with("\\\\") || (!posix && text.starts_with("//"));
 }
 
+std::string WithSeparator(std::string_view directory) {
+    std::string path(directory);
+    const bool windows = !path.starts_with('/') && path.find('\\') != std::string::npos;
+    const char separator = windows ? '\\' : '/';
+    if (!path.empty() && !path.ends_with(separator)) path += separator;
+    return path;
+}
+
 std::string JoinedPath(std::string_view directory, std::string_view name) {
-    std::string path = text::AddPathSeparator(directory);
+    std::string path = WithSeparator(directory);
     path += name;
     return path;
 }

@@ -13,7 +13,11 @@ bool HasWildcard(std::string_view text);
 // A share of another machine. On a POSIX host "//x" is a plain path.
 bool IsNetworkPath(std::string_view text, bool posix);
 
-// The directory's path, its own separator and the name.
+// The directory with its own separator at the end. Quotes are plain signs, which names may hold on
+// a POSIX host.
+std::string WithSeparator(std::string_view directory);
+
+// The directory's path, its separator and the name.
 std::string JoinedPath(std::string_view directory, std::string_view name);
 
 // Without empty elements and ".", and without "..", which leads up as far as something is above.
