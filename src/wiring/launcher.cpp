@@ -87,7 +87,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       hints(form),
       surface(form, ini, dialogs, busy, alwaysOnTop),
       panelDrag(form, layout),
-      navigation(form, listEvents, emulatorBox, globalEvents) {
+      navigation(form, listEvents, emulatorBox, globalEvents),
+      windowsBeside(form, host, dialogs, windows) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);
     JoinWindow();

@@ -43,6 +43,7 @@
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 #include "wiring/logged_host.h"
+#include "wiring/windows.h"
 
 namespace kivu::wiring {
 
@@ -117,6 +118,8 @@ struct Launcher::Routines {
     ui::PanelDrag panelDrag;
 
     joystick::ListNavigation navigation;
+
+    Windows windowsBeside;
 
  private:
     // One topic a file: what its events run, and what its routines ask of later ones.

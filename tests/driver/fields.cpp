@@ -3,6 +3,7 @@
 #include "core/form1.h"
 #include "driver/field_table.h"
 #include "driver/windows.h"
+#include "support/file_dialog_form.h"
 
 namespace kivu::driver {
 
@@ -74,10 +75,24 @@ const FieldTable& MainWindowFields() {
     return fields;
 }
 
+const FieldTable& FileDialogFields() {
+    using support::FilesForm;
+#define KIVU_FIELD(name) FieldOf<FilesForm>(#name, &FilesForm::name)
+    static const FieldTable fields{
+        KIVU_FIELD(Mode),
+        KIVU_FIELD(Result),
+        KIVU_FIELD(Mask),
+        KIVU_FIELD(NetworkPath),
+    };
+#undef KIVU_FIELD
+    return fields;
+}
+
 // One table a window.
 const FieldTable& FieldsOf(const forms::Form& form) {
     static const FieldTable none;
     if (dynamic_cast<const Form1*>(&form)) return MainWindowFields();
+    if (dynamic_cast<const support::FilesForm*>(&form)) return FileDialogFields();
     return none;
 }
 
