@@ -75,7 +75,9 @@ int main(int argc, char** argv) {
         if (!file.empty()) launcher.StartHandedFile(file);
     });
     // Behind the first frame.
-    QTimer::singleShot(0, &view.Window(),
-                       [&view] { view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon"))); });
+    QTimer::singleShot(0, &view.Window(), [&] {
+        view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon")));
+        host.WindowStands();
+    });
     return QApplication::exec();
 }
