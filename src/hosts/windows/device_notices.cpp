@@ -1,6 +1,5 @@
 #include "hosts/windows/device_notices.h"
 
-#include <dbt.h>
 #include <utility>
 
 namespace kivu::hosts {

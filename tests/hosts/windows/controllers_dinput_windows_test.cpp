@@ -1,4 +1,3 @@
-#include <dbt.h>
 #include <gmock/gmock.h>
 
 #include "hosts/windows/controllers_dinput.h"
