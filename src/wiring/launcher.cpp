@@ -49,6 +49,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       pacer(host.events, host.clock),
       busy(form, host.events),
       alwaysOnTop(form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore),
+      pictureLoader(form, {host.files, host.pictureDecoder, host.background, dialogs}),
       shutDown(form, ini),
       settingsLoader(form, ini, host.files, dialogs),
       emulatorSwitch(form, ini, {host.files, host.events, dialogs},

@@ -38,6 +38,7 @@
 #include "ui/hints.h"
 #include "ui/layout.h"
 #include "ui/panel_drag.h"
+#include "ui/picture_loader.h"
 #include "ui/window_surface.h"
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
@@ -79,6 +80,7 @@ struct Launcher::Routines {
     core::EventPacer pacer;
     core::BusyState busy;
     support::AlwaysOnTop alwaysOnTop;
+    ui::PictureLoader pictureLoader;
 
     core::ShutDown shutDown;
     core::SettingsLoader settingsLoader;
