@@ -133,6 +133,8 @@ struct Form1 : forms::Form,
     forms::Timer Uhrzeit{this, "Uhrzeit", 1000, true};
     forms::Timer EmuActiveTimer{this, "EmuActiveTimer", 1000, false};
     forms::Timer JoystickTimer{this, "JoystickTimer", 140, false};
+    // How long an old picture stands for one that is on its way.
+    forms::Timer PreviewTimer{this, "PreviewTimer", 150, false};
 
     // A game has been started, or an emulator alone is seen running.
     bool EmulatorRuns() const { return GameIsRunning || AppRunningPicture.Visible(); }
