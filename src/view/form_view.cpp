@@ -176,7 +176,7 @@ void FormView::FormChanged(forms::Aspect aspect) {
             surface->TakePicture();
             break;
         case forms::Aspect::colors:
-            surface->Renew();
+            surface->TakeColors();
             break;
         default:
             sync.Apply(aspect);

@@ -152,7 +152,9 @@ TEST_F(PictureLoaderTest, CutAnywhereShowsThePictureOrNone) {
         files.AddFile("/cut.png", std::string_view(file).substr(0, length));
         Load("/cut.png");
         EXPECT_EQ(told.back(), target.GetPicture().pixels != nullptr) << length;
-        if (told.back()) EXPECT_EQ(target.Width(), 75) << length;
+        if (told.back()) {
+            EXPECT_EQ(target.Width(), 75) << length;
+        }
     }
 }
 
@@ -207,7 +209,7 @@ TEST_F(PictureLoaderTest, ShowsTheLastOfTwoHundredInWhateverOrderTheyCome) {
     for (std::uint32_t i = 0; i < 200; ++i)
         files.AddFile("/" + std::to_string(i) + ".png", LargePng(0xff000000 | i));
     std::mt19937 random(7);
-    for (int round = 0; round < 5; ++round) {
+    for (int round = 0; round < 3; ++round) {
         told.clear();
         for (int i = 0; i < 200; ++i) {
             Load("/" + std::to_string(i) + ".png");
