@@ -8,6 +8,7 @@
 #include "support/window_handling.h"
 #include "text/text.h"
 #include "ui/layout_numbers.h"
+#include "ui/move_what_fits.h"
 
 namespace kivu::ui {
 
@@ -53,7 +54,7 @@ void Layout::PlaceLists() {
     for (forms::ListBox* list :
          {&form.FavoritenListe, &form.EmulatorLongListbox, &form.WIthoutDoubles, &form.UAE_Short,
           &form.SuchErgList, &form.UAE_FULL, &form.FavoritenListeGlobal, &form.GlobalSearchList}) {
-        list->Move(form.ListLeft, top, form.ListWidth, form.ListHeight);
+        MoveWhatFits(*list, form.ListLeft, top, form.ListWidth, form.ListHeight);
     }
 }
 
@@ -72,27 +73,30 @@ void Layout::PlaceBusySigns() {
         left, box.Top(), std::max(0, form.TopRightPic.Left() - left - tabGap), box.Height());
 }
 
-void Layout::SetVorschau() {
-    const int width = form.Col2Width + form.Col3Width + 300;
-    const int height = std::min(width, form.ListHeight - 400);
-    form.VorschauBild.Move(form.Col2Left, form.FavoritenListe.Top(), width, height);
-}
-
 void Layout::ArrangeLists() {
     form.GlobalSearchList.SetVisible(false);
     form.SearchAllBtn.SetBackColor(forms::Rgb(255, 255, 255));
     if (form.WindowReady) {
         SetVorschau();
-        form.GamePictureVis.Move(0, 0, form.VorschauBild.Width(), form.VorschauBild.Height());
+        VorschauBild_Resize();
     }
-    form.EmulatorLongListbox.Move(form.ListLeft, form.FavoritenListe.Top(), form.ListWidth,
-                                  form.ListHeight);
+    MoveWhatFits(form.EmulatorLongListbox, form.ListLeft, form.FavoritenListe.Top(), form.ListWidth,
+                 form.ListHeight);
+    DressLists();
     ShowListOfMode();
     if (form.FavoritenListeGlobal.Visible()) form.FavoritenListeGlobal.BringToFront();
     // There is nothing to remove where no favourite is on show.
     if (!form.FavoritenListe.Visible() && !form.FavoritenListeGlobal.Visible())
         form.DeLFav.SetVisible(false);
     ArrangeTabs();
+}
+
+// Two lists have colours of their own, whatever the window's are.
+void Layout::DressLists() {
+    form.FavoritenListe.SetBackColor(form.FavouritesColor);
+    form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
+    for (forms::ListBox* list : {&form.FavoritenListe, &form.EmulatorLongListbox})
+        list->SetForeColor(forms::Rgb(0, 0, 0));
 }
 
 void Layout::ShowListOfMode() {
@@ -109,7 +113,6 @@ void Layout::ShowListOfMode() {
     // While an emulator runs the window shows that, and no list.
     if (form.AppRunningPicture.Visible()) return;
     if (emulators) {
-        form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
         form.EmulatorLongListbox.SetFont(form.Label4.GetFont());
         form.EmulatorLongListbox.SetVisible(true);
         form.EmulatorLongListbox.BringToFront();

@@ -85,8 +85,9 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       layout(form),
       fontSize(form, layout),
       hints(form),
-      surface(form, ini, dialogs, busy, alwaysOnTop),
+      surface(form, ini, {dialogs, host.starter}, busy, alwaysOnTop, core::projectPage),
       panelDrag(form, layout),
+      previews(form, {host.files, host.background}, layout, pictureLoader),
       navigation(form, listEvents, emulatorBox, globalEvents),
       windowsBeside(form, host, dialogs, windows) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);

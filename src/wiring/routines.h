@@ -39,6 +39,7 @@
 #include "ui/layout.h"
 #include "ui/panel_drag.h"
 #include "ui/picture_loader.h"
+#include "ui/preview_pictures.h"
 #include "ui/window_surface.h"
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
@@ -116,6 +117,7 @@ struct Launcher::Routines {
     ui::Hints hints;
     ui::WindowSurface surface;
     ui::PanelDrag panelDrag;
+    ui::PreviewPictures previews;
 
     joystick::ListNavigation navigation;
 

@@ -10,9 +10,6 @@ struct WaitingWish {
 // Wishes that nobody serves yet: they do nothing until then. Whoever builds what one waits for
 // joins it and takes it off here.
 inline constexpr WaitingWish waitingWishes[] = {
-    {"AllEmulatorsSearch.ShowEmulatorPreview", "the preview pictures"},
-    {"EmulatorBox.ShowEmulatorPreview", "the preview pictures"},
-    {"ListEvents.ShowGamePreview", "the preview pictures"},
     {"StartUp.KeepDesignPictures", "the skins' pictures"},
     {"EmulatorSwitch.LoadSkinPictures", "the skins' pictures"},
     {"EmulatorBox.ApplyListColors", "the skins' colours"},
@@ -26,7 +23,6 @@ inline constexpr WaitingWish waitingWishes[] = {
     {"RunningWatch.JoystickEnable", "the controllers"},
     {"SettingsLoader.JoystickEnable", "the controllers"},
     {"SettingsLoader.JoystickCount", "the controllers"},
-    {"WindowSurface.OpenProjectPage", "the project's page"},
 };
 
 }  // namespace kivu::wiring
