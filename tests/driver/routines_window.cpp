@@ -55,12 +55,22 @@ void AddLayout(RoutineTable& table, Session& session) {
                          [&all](int mode) { support::ChangeBorderstyle(all.form, mode); }));
 }
 
+void AddSkins(RoutineTable& table, Session& session) {
+    auto& all = session.Routines();
+    table.push_back(Bind("LoadSkinPictures", [&all] { all.skins.LoadSkinPictures(); }));
+    // The window is told by its name.
+    table.push_back(Bind("SetColors", [&session](string window, int back, int fore) {
+        session.Routines().windowColors.SetColors(session.OpenWindows().Window(window), back, fore);
+    }));
+}
+
 }  // namespace
 
 void AddWindowRoutines(RoutineTable& table, Session& session) {
     AddGetters(table, session);
     AddPin(table, session);
     AddLayout(table, session);
+    AddSkins(table, session);
     auto& all = session.Routines();
     table.push_back(Bind("SelectEmulator", [&all](bool addToGlobal) {
         all.emulatorSwitch.SelectEmulator(addToGlobal);
