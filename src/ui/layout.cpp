@@ -8,7 +8,6 @@
 #include "support/window_handling.h"
 #include "text/text.h"
 #include "ui/layout_numbers.h"
-#include "ui/window_colors.h"
 
 namespace kivu::ui {
 
@@ -82,7 +81,6 @@ void Layout::SetVorschau() {
 void Layout::ArrangeLists() {
     form.GlobalSearchList.SetVisible(false);
     form.SearchAllBtn.SetBackColor(forms::Rgb(255, 255, 255));
-    ApplyListColors(form);
     if (form.WindowReady) {
         SetVorschau();
         form.GamePictureVis.Move(0, 0, form.VorschauBild.Width(), form.VorschauBild.Height());
@@ -111,6 +109,7 @@ void Layout::ShowListOfMode() {
     // While an emulator runs the window shows that, and no list.
     if (form.AppRunningPicture.Visible()) return;
     if (emulators) {
+        form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
         form.EmulatorLongListbox.SetFont(form.Label4.GetFont());
         form.EmulatorLongListbox.SetVisible(true);
         form.EmulatorLongListbox.BringToFront();

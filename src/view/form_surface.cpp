@@ -13,6 +13,16 @@
 namespace kivu::view {
 
 namespace {
+
+bool IsOpaque(const QImage& image) {
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        if (std::any_of(row, row + image.width(), [](QRgb pixel) { return qAlpha(pixel) != 255; }))
+            return false;
+    }
+    return true;
+}
+
 // A window that is being dragged larger has a new face more often.
 constexpr int restAfter = 3000;  // ms
 }  // namespace
@@ -42,6 +52,7 @@ FormSurface::FormSurface(const forms::Form& form) : form(form) {
 
 void FormSurface::TakePicture() {
     picture.Set(form.GetPicture());
+    cover = {};
     picture.Prefetch(DevicePixels(isVisible() ? size() : PixelRect(form).size()));
     Renew();
 }
@@ -54,6 +65,10 @@ void FormSurface::Renew() {
     face = {};
     CutCorners();
     update();
+}
+
+void FormSurface::Recolor() {
+    if (!covered) Renew();
 }
 
 void FormSurface::SetComposited(bool value) {
@@ -91,11 +106,24 @@ QImage FormSurface::Gradient(QSize pixels) const {
     return image;
 }
 
+// The picture over the window's colour. It is fitted again only for another size.
+QImage FormSurface::Composed(QSize pixels) {
+    covered = false;
+    if (cover.size() != pixels) cover = picture.Take(pixels);
+    if (cover.isNull()) return Gradient(pixels);
+    covered = IsOpaque(cover);
+    if (covered) return std::exchange(cover, {});
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    image.fill(ToQt(form.BackColor()));
+    QPainter painter(&image);
+    painter.drawImage(0, 0, cover);
+    return image;
+}
+
 void FormSurface::Paint() {
-    // So many pixels are worth to be there once: all is painted into those of the picture.
+    // So many pixels are worth to be there once: all is painted into those of an opaque picture.
     const QSize wanted = DevicePixels(size());
-    face = picture.Take(wanted);
-    if (face.isNull()) face = Gradient(wanted);
+    face = Composed(wanted);
     if (picture.KeepsWhole()) rest.start();
     face.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&face);

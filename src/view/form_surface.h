@@ -15,8 +15,10 @@ class FormSurface : public QWidget {
     explicit FormSurface(const forms::Form& form);
 
     void TakePicture();
-    // The face has to be made anew: another colour, other corners.
+    // The face has to be made anew: another size, other corners.
     void Renew();
+    // The same in another colour, which need not be seen.
+    void Recolor();
     // False: what is not drawn whole would be black, so that the corners are cut and not smooth.
     void SetComposited(bool value);
 
@@ -28,6 +30,7 @@ class FormSurface : public QWidget {
     int Radius() const;
     QSize DevicePixels(QSize size) const;
     QImage Gradient(QSize size) const;
+    QImage Composed(QSize size);
     void Paint();
     void CutCorners();
 
@@ -35,7 +38,9 @@ class FormSurface : public QWidget {
     CoverPicture picture;
     QTimer rest;  // since the last new face
     bool composited = true;
-    QImage face;  // the whole surface in device pixels
+    QImage cover;          // the picture as it fits, where the window's colour shows through it
+    bool covered = false;  // by a picture that lets nothing through
+    QImage face;           // the whole surface in device pixels
 };
 
 // The pixels of a rounded rectangle that its line touches at all.
