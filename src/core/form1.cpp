@@ -12,6 +12,7 @@ FileScanControls::FileScanControls(forms::Container* parent)
       TmpDirList(&frame, "TmpDirList", forms::ListControl::Order::asAdded),
       MyTmpFile(&frame, "MyTmpFile"),
       MyTmpDir(&frame, "MyTmpDir") {
+    frame.SetIsUserControl(true);
     frame.Move(0, 0, 3000, 2000);
     ResultList.SetVisible(false);
     TmpDirList.SetVisible(false);
@@ -164,6 +165,7 @@ void Form1::DesignFrame() {
     JoystickIcon.SetPicture({":/joystick", nullptr});
     JoystickIcon.SetToolTipText("Joysticksteuerung aktiv");
     JoystickIcon.SetVisible(false);
+    AlwaysOnTop1.SetIsUserControl(true);
     AlwaysOnTop1.Move(0, 0, 420, 420);
     AOT_Enabled.SetPicture({":/pin-enabled", nullptr});
     AOT_Disabled.SetPicture({":/pin-disabled", nullptr});
@@ -175,8 +177,6 @@ void Form1::DesignFrame() {
     }
     Frame1.SetCaption("Invisible Controls");
     Frame1.SetVisible(false);
-    OrgBackGround.SetPicture({":/background", nullptr});
-    OrgTopLeft.SetPicture({":/top-right", nullptr});
 }
 
 void Form1::DesignDrives() {

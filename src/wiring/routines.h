@@ -40,6 +40,8 @@
 #include "ui/panel_drag.h"
 #include "ui/picture_loader.h"
 #include "ui/preview_pictures.h"
+#include "ui/skins.h"
+#include "ui/window_colors.h"
 #include "ui/window_surface.h"
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
@@ -62,6 +64,19 @@ class NoWindows : public forms::WindowHost {
 
  protected:
     void Serve(forms::Form&, const std::function<bool()>&) override {}
+};
+
+// Nobody shows picture files yet.
+class NoPictures : public ui::PictureLoading {
+ public:
+    void Load(const std::string&, forms::PictureBox&, std::function<void(bool)> done) override {
+        done(false);
+    }
+    void Drop(forms::PictureBox&) override {}
+    bool LoadSkin(const std::string&, const std::string&,
+                  std::function<void(forms::Picture)>) override {
+        return false;
+    }
 };
 
 // Every routine of the launcher, in the order in which they need one another.
@@ -114,6 +129,9 @@ struct Launcher::Routines {
 
     ui::Layout layout;
     ui::FontSize fontSize;
+    NoPictures noPictures;
+    ui::Skins skins;
+    ui::WindowColors windowColors;
     ui::Hints hints;
     ui::WindowSurface surface;
     ui::PanelDrag panelDrag;
