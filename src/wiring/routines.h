@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
@@ -15,7 +16,15 @@
 #include "favourites/global_favoriten.h"
 #include "favourites/repair_favoriten.h"
 #include "forms/window_host.h"
+#include "joystick/box_by_pad.h"
+#include "joystick/button_actions.h"
+#include "joystick/button_setup_opener.h"
+#include "joystick/button_setup_window.h"
+#include "joystick/exit_button.h"
+#include "joystick/joystick.h"
+#include "joystick/joystick_control.h"
 #include "joystick/list_navigation.h"
+#include "joystick/pad_events.h"
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
@@ -64,19 +73,6 @@ class NoWindows : public forms::WindowHost {
 
  protected:
     void Serve(forms::Form&, const std::function<bool()>&) override {}
-};
-
-// Nobody shows picture files yet.
-class NoPictures : public ui::PictureLoading {
- public:
-    void Load(const std::string&, forms::PictureBox&, std::function<void(bool)> done) override {
-        done(false);
-    }
-    void Drop(forms::PictureBox&) override {}
-    bool LoadSkin(const std::string&, const std::string&,
-                  std::function<void(forms::Picture)>) override {
-        return false;
-    }
 };
 
 // Every routine of the launcher, in the order in which they need one another.
@@ -129,7 +125,6 @@ struct Launcher::Routines {
 
     ui::Layout layout;
     ui::FontSize fontSize;
-    NoPictures noPictures;
     ui::Skins skins;
     ui::WindowColors windowColors;
     ui::Hints hints;
@@ -137,7 +132,15 @@ struct Launcher::Routines {
     ui::PanelDrag panelDrag;
     ui::PreviewPictures previews;
 
+    joystick::Joystick controllers;
     joystick::ListNavigation navigation;
+    joystick::ButtonActions buttonActions;
+    joystick::PadEvents padEvents;
+    joystick::JoystickControl joystickControl;
+    joystick::ExitButton exitButton;
+    joystick::BoxByPad boxByPad;
+    forms::OnDemand<joystick::ButtonSetupWindow> buttonSetupWindow;
+    joystick::ButtonSetupOpener buttonSetup;
 
     Windows windowsBeside;
 
@@ -150,6 +153,8 @@ struct Launcher::Routines {
     void JoinFavourites();
     void JoinLaunch();
     void JoinDrives();
+    void JoinJoystick();
+    std::unique_ptr<joystick::ButtonSetupWindow> MakeButtonSetup();
 };
 
 }  // namespace kivu::wiring
