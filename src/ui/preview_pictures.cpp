@@ -154,14 +154,19 @@ void PreviewPictures::ShowEmulatorPreview(int index) {
     }
 }
 
-void PreviewPictures::HideForNext() {
+void PreviewPictures::EndZoom() {
     if (form.GamePicture.Visible()) layout.SetVorschau();
+}
+
+void PreviewPictures::HideForNext() {
+    EndZoom();
     oldStays = form.VorschauBild.Visible() && form.GamePictureVis.GetPicture() != forms::Picture{};
     form.VorschauBild.SetVisible(false);
 }
 
 void PreviewPictures::LoadVorschauImageFromPAth(const std::string& ImagePath) {
     const bool stays = std::exchange(oldStays, false);
+    EndZoom();
     if (ImagePath.empty() || !files.FileExists(ImagePath)) {
         SetVorschaubild(false);
         ShowLoaded();

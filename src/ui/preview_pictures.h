@@ -90,6 +90,7 @@ class PreviewPictures {
                      std::string_view preferredStem) const;
     std::string FindForGame(const std::string& entry) const;
     void MakePicturesDirectory();
+    void EndZoom();
     void HideForNext();
     void Blank();
     void PictureCame();
