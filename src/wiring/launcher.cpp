@@ -84,7 +84,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       driveSlots(form, ini, host.beeper),
       layout(form),
       fontSize(form, layout),
-      skins(form, host.files, noPictures),
+      skins(form, host.files, pictureLoader),
       windowColors(form, ini),
       hints(form),
       surface(form, ini, {dialogs, host.starter}, busy, alwaysOnTop, core::projectPage),

@@ -66,19 +66,6 @@ class NoWindows : public forms::WindowHost {
     void Serve(forms::Form&, const std::function<bool()>&) override {}
 };
 
-// Nobody shows picture files yet.
-class NoPictures : public ui::PictureLoading {
- public:
-    void Load(const std::string&, forms::PictureBox&, std::function<void(bool)> done) override {
-        done(false);
-    }
-    void Drop(forms::PictureBox&) override {}
-    bool LoadSkin(const std::string&, const std::string&,
-                  std::function<void(forms::Picture)>) override {
-        return false;
-    }
-};
-
 // Every routine of the launcher, in the order in which they need one another.
 struct Launcher::Routines {
     Routines(platform::Host hostServices, const forms::TextMeasure* measure,
@@ -129,7 +116,6 @@ struct Launcher::Routines {
 
     ui::Layout layout;
     ui::FontSize fontSize;
-    NoPictures noPictures;
     ui::Skins skins;
     ui::WindowColors windowColors;
     ui::Hints hints;
