@@ -96,8 +96,6 @@ void AddWindowRoutines(RoutineTable& table, Session& session) {
     table.push_back(Bind("MeCaption", [&all](string caption) { all.busy.MeCaption(caption); }));
     table.push_back(Bind("ExitBtn_Click", [&all] { all.shutDown.ExitBtn_Click(); }));
     table.push_back(Bind("Uhrzeit_Timer", [&all] { all.startUp.Uhrzeit_Timer(); }));
-    table.push_back(
-        Bind("JoystickDirection", [&all](int key) { all.navigation.JoystickDirection(key); }));
 }
 
 }  // namespace kivu::driver

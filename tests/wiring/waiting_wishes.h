@@ -15,10 +15,6 @@ inline constexpr WaitingWish waitingWishes[] = {
     {"GameLaunch.ShowLoadingInfo", "the loading screen"},
     {"GameLaunch.MountGameImage", "the mounting of disc images"},
     {"GameLaunch.RunStartScript", "the start script"},
-    {"GameLaunch.JoystickEnable", "the controllers"},
-    {"RunningWatch.JoystickEnable", "the controllers"},
-    {"SettingsLoader.JoystickEnable", "the controllers"},
-    {"SettingsLoader.JoystickCount", "the controllers"},
 };
 
 }  // namespace kivu::wiring
