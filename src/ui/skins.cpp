@@ -43,18 +43,13 @@ void Skins::LoadSkinPictures() {
 bool Skins::Load(const std::string& name, const Place& place) {
     const std::string path = FindSkinFile(files, form.StartPfad, name);
     if (path.empty()) return false;
-    const int change = ++changes[name];
-    const bool isPicture =
-        pictures.LoadSkin(path, name, [this, name, place, change](forms::Picture picture) {
-            if (changes[name] == change) place(std::move(picture));
-        });
-    // The one before stays, also when it is still being read.
-    if (!isPicture) --changes[name];
+    // One that cannot be shown leaves what is there.
+    (void)pictures.LoadSkin(path, name, place);
     return true;
 }
 
 void Skins::Put(const std::string& name, const Place& place, const forms::Picture& picture) {
-    ++changes[name];
+    (void)pictures.LoadSkin("", name, {});
     place(picture);
 }
 

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <functional>
-#include <map>
 #include <string>
 #include <string_view>
 
@@ -45,7 +44,6 @@ class Skins {
     core::Form1& form;
     const platform::FileSystem& files;
     PictureLoading& pictures;
-    std::map<std::string, int> changes;  // of the picture of each name
 };
 
 }  // namespace kivu::ui

@@ -1,6 +1,7 @@
 // The skin that each emulator brings.
 
 #include "scenario.h"
+#include "testing/picture_files.h"
 
 namespace kivu::scenarios {
 namespace {
@@ -150,6 +151,102 @@ TEST_F(SkinScenario, NoPicturesAreTheDesignsOwn) {
     EXPECT_EQ(Text("TopRightPic.Picture"), ":/top-right");
     EXPECT_EQ(Text("OrgBackGround.Picture"), ":/background");
     EXPECT_EQ(Text("OrgTopLeft.Picture"), ":/top-right");
+}
+
+struct SkinPictures : SkinScenario {
+    void Add(const std::string& emulator, const std::string& name,
+             const std::string& bytes = testing::PngFile(4, 3, 0xff204060)) {
+        tree.Write("Config/" + emulator + "/Skin/" + name, bytes);
+    }
+    std::string Of(const std::string& emulator, const std::string& name) {
+        return tree.Path("Config/" + emulator + "/Skin/" + name);
+    }
+    void ExpectPictures(const std::string& window, const std::string& corner) {
+        EXPECT_EQ(Text("Picture"), window);
+        EXPECT_EQ(Text("TopRightPic.Picture"), corner);
+    }
+};
+
+TEST_F(SkinPictures, EmulatorBringsItsPicturesAndTheNextOneItsOwn) {
+    Add("Alpha", "Background.png");
+    Add("Alpha", "BackgroundTopRight.png");
+    Add("Alpha", "Drivebox.png");
+    Start();
+    ExpectPictures(Of("Alpha", "Background.png"), Of("Alpha", "BackgroundTopRight.png"));
+    EXPECT_EQ(Text("SettingsSubPicture.Picture"), Of("Alpha", "Drivebox.png"));
+    Choose(1);
+    ExpectPictures(":/background", ":/top-right");
+    // The drives keep theirs.
+    EXPECT_EQ(Text("SettingsSubPicture.Picture"), Of("Alpha", "Drivebox.png"));
+    Choose(0);
+    ExpectPictures(Of("Alpha", "Background.png"), Of("Alpha", "BackgroundTopRight.png"));
+}
+
+TEST_F(SkinPictures, EachIsSwitchedByItself) {
+    Add("Alpha", "Background.png");
+    Add("Beta", "BackgroundTopRight.png");
+    Start();
+    ExpectPictures(Of("Alpha", "Background.png"), ":/top-right");
+    Choose(1);
+    ExpectPictures(":/background", Of("Beta", "BackgroundTopRight.png"));
+    Choose(0);
+    ExpectPictures(Of("Alpha", "Background.png"), ":/top-right");
+}
+
+TEST_F(SkinPictures, DamagedOneLeavesTheOneBefore) {
+    Add("Alpha", "Background.png");
+    Add("Beta", "Background.png", "no picture at all");
+    Start();
+    Choose(1);
+    EXPECT_EQ(Text("Picture"), Of("Alpha", "Background.png"));
+    EXPECT_EQ(Do("boxes")["value"], Json::array());
+}
+
+TEST_F(SkinPictures, HugeOneLeavesTheOneBefore) {
+    Add("Alpha", "Background.png", testing::PngHead(65500, 65500));
+    Start();
+    EXPECT_EQ(Text("Picture"), ":/background");
+}
+
+TEST_F(SkinPictures, CutAtAnyByteNothingElseIsLost) {
+    const std::string whole = testing::PngFile(2, 2, 0xff204060);
+    Start();
+    for (std::size_t size = 0; size < whole.size(); size += 7) {
+        Add("Alpha", "Background.png", whole.substr(0, size));
+        Call("LoadSkinPictures");
+        EXPECT_EQ(Text("TopRightPic.Picture"), ":/top-right") << size;
+    }
+    Add("Alpha", "Background.png", whole);
+    Call("LoadSkinPictures");
+    EXPECT_EQ(Text("Picture"), Of("Alpha", "Background.png"));
+}
+
+TEST_F(SkinPictures, WhatIsNoFileIsNoPicture) {
+    tree.MakeDirectory("Config/Alpha/Skin/Background.png");
+    Start();
+    ExpectPictures(":/background", ":/top-right");
+}
+
+TEST_F(SkinPictures, NewOneCountsAtTheNextSelection) {
+    Start();
+    Add("Alpha", "Background.png");
+    EXPECT_EQ(Text("Picture"), ":/background");
+    Choose(1);
+    Choose(0);
+    EXPECT_EQ(Text("Picture"), Of("Alpha", "Background.png"));
+}
+
+TEST_F(SkinPictures, OneThatComesLateIsNotShownOverALaterOne) {
+    Add("Alpha", "Background.png", testing::PngFile(400, 300, 0xff204060));
+    Start();
+    Choose(1);
+    Host().background.inlined = false;
+    Choose(0);
+    EXPECT_EQ(Text("Picture"), ":/background");
+    Choose(1);
+    while (!Host().background.waiting.empty())
+        Host().background.Serve(0);
+    EXPECT_EQ(Text("Picture"), ":/background");
 }
 
 }  // namespace
