@@ -113,8 +113,7 @@ void EmulatorSwitch::InitEmulatorView() {
     if (ini.Read(keys::ResetScreenResolution, ProfilesOf(form)) > 0) {
         hooks.SaveAndSetDisplayMode();
     }
-    form.GamePictureVis.SetPicture({});
-    form.GamePicture.SetPicture({});
+    hooks.DropPreview();
     ports.layout->SetVorschau();
     form.CurrentEmuIndex = form.EmuListbox.ListIndex();
     form.LoadBtn.SetEnabled(form.CurrentEmuIndex >= 0);

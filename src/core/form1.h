@@ -136,6 +136,8 @@ struct Form1 : forms::Form,
     // The controller's, too: in a game that its exit button ends, and while a box is open.
     forms::Timer ExitButtonTimer{this, "ExitButtonTimer", 250, false};
     forms::Timer BoxButtonTimer{this, "BoxButtonTimer", 140, false};
+    // How long an old picture stands for one that is on its way.
+    forms::Timer PreviewTimer{this, "PreviewTimer", 150, false};
 
     // A game has been started and is watched, or an emulator alone is seen running. A start by the
     // controller that has led to no game leaves GameIsRunning raised.

@@ -2,8 +2,8 @@
 
 #include "core/emulator_paths.h"
 #include "core/form1.h"
+#include "core/profile_paths.h"
 #include "text/paths.h"
-#include "text/stored_paths.h"
 
 namespace kivu::core {
 
@@ -27,18 +27,11 @@ void SettingsLoader::LoadButtons() {
 }
 
 std::string SettingsLoader::AbsolutePath(const std::string& stored) const {
-    return text::ProfilePath(form.BaseDirectory(), stored, [this](const std::string& path) {
-        return files.FileExists(path) || files.IsDirectory(path);
-    });
+    return PathOfProfile(form, files, stored);
 }
 
-// A program named without a directory may be anywhere in the search path of a POSIX host, where the
-// start looks for it.
 std::string SettingsLoader::EmulatorPath(const std::string& stored) const {
-    const std::string path = AbsolutePath(stored);
-    const bool bareName = !stored.empty() && stored.find_first_of("/\\") == std::string::npos;
-    const bool posix = files.Separator() == '/';
-    return bareName && posix && !files.FileExists(path) ? stored : path;
+    return ProgramOfProfile(form, files, stored);
 }
 
 void SettingsLoader::LoadPaths() {

@@ -47,10 +47,15 @@
 #include "ui/hints.h"
 #include "ui/layout.h"
 #include "ui/panel_drag.h"
+#include "ui/picture_loader.h"
+#include "ui/preview_pictures.h"
+#include "ui/skins.h"
+#include "ui/window_colors.h"
 #include "ui/window_surface.h"
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 #include "wiring/logged_host.h"
+#include "wiring/windows.h"
 
 namespace kivu::wiring {
 
@@ -88,6 +93,7 @@ struct Launcher::Routines {
     core::EventPacer pacer;
     core::BusyState busy;
     support::AlwaysOnTop alwaysOnTop;
+    ui::PictureLoader pictureLoader;
 
     core::ShutDown shutDown;
     core::SettingsLoader settingsLoader;
@@ -119,9 +125,12 @@ struct Launcher::Routines {
 
     ui::Layout layout;
     ui::FontSize fontSize;
+    ui::Skins skins;
+    ui::WindowColors windowColors;
     ui::Hints hints;
     ui::WindowSurface surface;
     ui::PanelDrag panelDrag;
+    ui::PreviewPictures previews;
 
     joystick::Joystick controllers;
     joystick::ListNavigation navigation;
@@ -132,6 +141,8 @@ struct Launcher::Routines {
     joystick::BoxByPad boxByPad;
     forms::OnDemand<joystick::ButtonSetupWindow> buttonSetupWindow;
     joystick::ButtonSetupOpener buttonSetup;
+
+    Windows windowsBeside;
 
  private:
     // One topic a file: what its events run, and what its routines ask of later ones.

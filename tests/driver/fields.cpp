@@ -4,6 +4,7 @@
 #include "driver/field_table.h"
 #include "driver/windows.h"
 #include "joystick/button_setup_form.h"
+#include "support/file_dialog_form.h"
 
 namespace kivu::driver {
 
@@ -76,6 +77,19 @@ const FieldTable& MainWindowFields() {
     return fields;
 }
 
+const FieldTable& FileDialogFields() {
+    using support::FilesForm;
+#define KIVU_FIELD(name) FieldOf<FilesForm>(#name, &FilesForm::name)
+    static const FieldTable fields{
+        KIVU_FIELD(Mode),
+        KIVU_FIELD(Result),
+        KIVU_FIELD(Mask),
+        KIVU_FIELD(NetworkPath),
+    };
+#undef KIVU_FIELD
+    return fields;
+}
+
 const FieldTable& ButtonSetupFields() {
     using joystick::ButtonSetupForm;
     static const FieldTable fields{
@@ -90,6 +104,7 @@ const FieldTable& ButtonSetupFields() {
 const FieldTable& FieldsOf(const forms::Form& form) {
     static const FieldTable none;
     if (dynamic_cast<const Form1*>(&form)) return MainWindowFields();
+    if (dynamic_cast<const support::FilesForm*>(&form)) return FileDialogFields();
     if (dynamic_cast<const joystick::ButtonSetupForm*>(&form)) return ButtonSetupFields();
     return none;
 }

@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/classic_colors.h"
 #include "platform/host.h"
 #include "text/log_text.h"
 
@@ -335,11 +336,7 @@ class ScriptedBackground : public platform::Background {
 // The classic desktop's.
 class ScriptedColors : public platform::SystemColors {
  public:
-    std::uint32_t SystemColor(int index) const override {
-        const auto found = colors.find(index);
-        return found == colors.end() ? 0 : found->second;
-    }
-    std::map<int, std::uint32_t> colors{{5, 0xffffff}, {8, 0}, {15, 0xc0c0c0}};
+    std::uint32_t SystemColor(int index) const override { return platform::ClassicColor(index); }
 };
 
 // Controllers as the test holds them. What is attached later is read once it has been opened, and

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "testing/picture_files.h"
+
 namespace kivu::walker {
 
 namespace {
@@ -107,9 +109,19 @@ class Layout {
             cache += path + "\r\n" + ShownName(game) + "\r\n";
             collection.games.push_back(path.substr(1));
             Write(path.substr(1), "x");
+            if (random.Chance(40)) AddPicture(directory + "Pictures/", game);
         }
+        if (random.Chance(50)) AddPicture(directory + "Skin/", emulator.name);
+        if (random.Chance(20)) AddPicture(directory + "Pictures/", emulator.name);
         if (emulator.games.empty()) Write("Roms/" + emulator.name + "/.keep", "");
         if (emulator.cached) Write(directory + "Kivu_Cache.txt", cache);
+    }
+
+    // Named like the whole file or like its title; now and then damaged.
+    void AddPicture(const std::string& directory, const std::string& file) {
+        const std::size_t end = file.find(random.Chance(50) ? '(' : '.');
+        Write(directory + file.substr(0, end) + ".jpg",
+              random.Chance(90) ? testing::BmpHead(32, 24) : "damaged");
     }
 
     // Each a name and a path; some of games that have moved or gone.

@@ -129,6 +129,13 @@ Expected Expect(const Look& look, const Stores& stores, const Json& command) {
         expected.setUp = look.At(*list).Text(hand.row);
         return expected;
     }
+    if (hand.gesture == "click" && hand.control == "GamePictureVis" &&
+        look.At(List::emulators).visible) {
+        Expected expected;
+        expected.act = Act::setUp;
+        expected.setUp = look.At(List::emulators).Marked();
+        return expected;
+    }
     const bool named = hand.gesture == "dblclick" && hand.control == "Current_ProgramNameFull";
     if (named || (hand.gesture == "click" && hand.control != "Current_ProgramNameFull"))
         return Press(look, stores, hand.control);

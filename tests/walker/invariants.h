@@ -75,6 +75,7 @@ const std::vector<Invariant>& StartInvariants();    // what starts, is stored, i
 const std::vector<Invariant>& HandedInvariants();   // files of later starts of the program
 const std::vector<Invariant>& RunningInvariants();  // a game and its end
 const std::vector<Invariant>& PadInvariants();      // the pad and its switch
+const std::vector<Invariant>& PreviewInvariants();  // the picture at the right
 const std::vector<Invariant>& StoreInvariants();    // the files
 
 struct Fault {

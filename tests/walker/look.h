@@ -60,6 +60,9 @@ struct Look {
     std::string mode;
     std::string searchText, title, started;
     bool titleVisible = false;
+    // The file that is to be seen at the right; empty: none is.
+    std::string preview;
+    bool zoomed = false;
     int loaded = -1;  // row of the loaded emulator
     bool watching = false, picture = false, gameRuns = false;
     bool busyLabel = false, busy = false;
