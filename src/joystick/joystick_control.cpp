@@ -67,9 +67,22 @@ void JoystickControl::JoystickTimer_Timer() {
         silent = true;
         return;
     }
-    if (!form.Busy && joystick.HasChanged()) OpenAnew();
+    if (!form.Busy && joystick.HasChanged()) TakeChange();
     if (silent) HoldButtonsBack();
     joystick.PollJoysticks();
+}
+
+// As a click on the picture does. The title line tells the count where it has become another one;
+// the first change comes with the start, where the title belongs there.
+void JoystickControl::TakeChange() {
+    const int before = joystick.JoystickCount();
+    const std::string title = form.MyCaptionLabel.Caption();
+    const bool shown = form.MyCaptionLabel.Visible();
+    OpenAnew();
+    const bool first = !std::exchange(changed, true);
+    if (!first && joystick.JoystickCount() != before) return;
+    form.MyCaptionLabel.SetCaption(title);
+    form.MyCaptionLabel.SetVisible(shown);
 }
 
 void JoystickControl::GameHasEnded() {

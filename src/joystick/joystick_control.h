@@ -46,6 +46,7 @@ class JoystickControl {
     void SwitchOn();
     void OfferToSwitchOff();
     void OpenAnew();
+    void TakeChange();
     void HoldButtonsBack();
 
     core::Form1& form;
@@ -56,6 +57,7 @@ class JoystickControl {
     Services services;
     bool switching = false;
     bool offWished = false;  // while switching
+    bool changed = false;    // devices have come or gone since the start
     bool silent = false;     // the last ticks have not polled: what is held by now is old
 };
 

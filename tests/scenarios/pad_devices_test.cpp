@@ -203,10 +203,27 @@ TEST_F(PadDevices, ComeAndGoneIsSeenWhereTheHostTells) {
     // The stick as it is held is its middle now.
     EXPECT_EQ(Focus(), 2);
     EXPECT_EQ(Do("beeps")["value"], 0);
-    EXPECT_EQ(Text("MyCaptionLabel.Caption"), "Joysticks: 2");
     Do("device", "set", 1, Json{{"y", 65535}, {"x", 65535}});
     Poll();
     EXPECT_EQ(Get("WIthoutDoubles.ListIndex"), 1);
+}
+
+TEST_F(PadDevices, TitleLineTellsOfOneThatComesAfterTheStart) {
+    Start();
+    const std::string title = Text("MyCaptionLabel.Caption");
+    // A host may look for them only once the window stands.
+    Do("device", "add", "Second", 4);
+    Host().controllers.changed = true;
+    Poll();
+    EXPECT_EQ(Call("JoystickCount"), 2);
+    EXPECT_EQ(Text("MyCaptionLabel.Caption"), title);
+    Host().controllers.changed = true;
+    Poll();
+    EXPECT_EQ(Text("MyCaptionLabel.Caption"), title);
+    Do("device", "add", "Third", 4);
+    Host().controllers.changed = true;
+    Poll();
+    EXPECT_EQ(Text("MyCaptionLabel.Caption"), "Joysticks: 3");
 }
 
 TEST_F(PadDevices, NobodyLooksForNewOnesInAGameOrWhileBusy) {
