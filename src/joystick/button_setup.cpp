@@ -12,6 +12,7 @@
 #include "joystick/button_setup_texts.h"
 #include "joystick/joystick.h"
 #include "joystick/pad_events.h"
+#include "ui/window_look.h"
 
 namespace kivu::joystick {
 
@@ -20,22 +21,12 @@ namespace keys = profile::keys;
 void ButtonSetup::Form_Load() {
     window.Language = form.Get_Current_Language();
     window.CalibrateBtn.SetCaption(window.Language == 1 ? "Buttons anpassen" : "Set Buttons");
-    TakeLook();
+    forms::TakeLook(window, ui::LookOf(form), windows.Room(&form));
     routines.alwaysOnTop.LoadSettings();
     routines.alwaysOnTop.SetToTop();
     window.JoystickIcon.SetPicture(form.JoystickIcon.GetPicture());
     CalibrateBtn_Click();
     ActivateLoadBtn();
-}
-
-void ButtonSetup::TakeLook() {
-    forms::Look look;
-    look.points = form.WIthoutDoubles.FontSize();
-    look.back = form.BackColor();
-    look.fore = form.ForeColor();
-    look.fieldBack = form.WIthoutDoubles.BackColor();
-    look.fieldFore = form.WIthoutDoubles.ForeColor();
-    forms::TakeLook(window, look, windows.Room(&form));
 }
 
 // The modal window's own loop waits for the buttons; what follows it is Finish.

@@ -56,7 +56,6 @@ class ButtonSetup {
 
  private:
     bool IsAsking() const;
-    void TakeLook();
     void StoreButtons();
     void ActivateLoadBtn();
 
