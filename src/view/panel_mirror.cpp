@@ -79,13 +79,7 @@ class PanelWidget : public QWidget {
         if (image.isNull()) return;
         QBrush brush(image);
         brush.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
-        const QPainter::RenderHints hints = painter.renderHints();
-        painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(PlateLine(), 1));
-        painter.setBrush(brush);
-        painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), cornerRadius,
-                                cornerRadius);
-        painter.setRenderHints(hints);
+        FillRounded(painter, QRectF(rect()), cornerRadius, brush, PlateLine());
     }
 
     QColor PlateLine() const {
