@@ -6,7 +6,6 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
-#include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
 
@@ -66,16 +65,27 @@ class PanelWidget : public QWidget {
 
     void DrawPicture(QPainter& painter) {
         if (!isEnabled()) painter.setOpacity(0.5);
-        picture.Draw(painter, ShownPlace(), devicePixelRatioF(), HowToFit(), resizing.isActive());
+        if (IsDraggable(control)) {
+            DrawOnPlate(painter);
+            return;
+        }
+        picture.Draw(painter, rect(), devicePixelRatioF(), HowToFit(), resizing.isActive());
     }
 
-    // Something may lie on the lower part of it.
-    QRect ShownPlace() const {
-        QRect place = rect();
-        if (control.GetKind() != forms::Kind::image) return place;
-        const int most = static_cast<const forms::Image&>(control).MostShownHeight();
-        if (most >= 0) place.setHeight(qMin(place.height(), ToPixels(most)));
-        return place;
+    // In the plate's round corners, with its line.
+    void DrawOnPlate(QPainter& painter) {
+        const double ratio = devicePixelRatioF();
+        const QImage& image = picture.Scaled((QSizeF(size()) * ratio).toSize(), HowToFit());
+        if (image.isNull()) return;
+        QBrush brush(image);
+        brush.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
+        FillRounded(painter, QRectF(rect()), cornerRadius, brush, PlateLine());
+    }
+
+    QColor PlateLine() const {
+        QColor line = ToQt(control.ForeColor());
+        line.setAlphaF(0.3F);
+        return line;
     }
 
     // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose
@@ -83,10 +93,9 @@ class PanelWidget : public QWidget {
     void DrawPlate(QPainter& painter) {
         const QColor ink = ToQt(control.ForeColor());
         const QColor plate = Mix(ToQt(control.BackColor()).darker(135), ink, 0.05);
-        QColor line = ink, dots = ink;
-        line.setAlphaF(0.3F);
+        QColor dots = ink;
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
-        FillRounded(painter, QRectF(rect()), cornerRadius, plate, line);
+        FillRounded(painter, QRectF(rect()), cornerRadius, plate, PlateLine());
         if (control.GetPicture() != forms::Picture()) return;
         constexpr int step = 5;  // pixels
         const int rows = qBound(1, (height() - 6) / step, 4);
