@@ -223,13 +223,12 @@ void PreviewPictures::PreviewTimer_Timer() {
     form.VorschauBild.SetVisible(false);
 }
 
-void PreviewPictures::Refresh() {
+void PreviewPictures::Refresh(int index) {
     // These have pictures of their own.
     if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible() ||
         form.GlobalSearchList.Visible() || !form.ListsVisible)
         return;
-    const int row = form.UAE_Short.ListIndex();
-    if (shownGame != form.UAE_FULL.List(row)) ShowGamePreview(row);
+    if (shownGame != form.UAE_FULL.List(index)) ShowGamePreview(index);
 }
 
 void PreviewPictures::Prepare() {
