@@ -95,9 +95,11 @@ TEST_F(Preview, FileThatComesOrGoesCountsAtTheNextSelection) {
     Do("select", "Form1.WIthoutDoubles", 1);
     EXPECT_EQ(Shown(), "Bee.png");
     Do("file", "remove", "Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 0);
     Do("select", "Form1.WIthoutDoubles", 1);
     EXPECT_EQ(Shown(), "(none)");
     Paint("Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 0);
     Do("select", "Form1.WIthoutDoubles", 1);
     EXPECT_EQ(Shown(), "Bee.png");
 }
@@ -151,7 +153,7 @@ TEST_F(Preview, StaysWhatItIsWhileAGameRuns) {
 
 TEST_F(Preview, OfAHitsEmulatorAndOfTheGameOnceTheHitsAreLeft) {
     Start();
-    Do("set", "Form1.SearchDblsTxt.Text", "maker");
+    Do("set", "Form1.SearchDblsTxt.Text", "(19");
     Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
     ASSERT_TRUE(Visible("GlobalSearchList"));
     EXPECT_EQ(Shown(), "Alpha.bmp");
