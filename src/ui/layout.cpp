@@ -9,6 +9,7 @@
 #include "text/text.h"
 #include "ui/layout_numbers.h"
 #include "ui/move_what_fits.h"
+#include "ui/window_colors.h"
 
 namespace kivu::ui {
 
@@ -82,21 +83,13 @@ void Layout::ArrangeLists() {
     }
     MoveWhatFits(form.EmulatorLongListbox, form.ListLeft, form.FavoritenListe.Top(), form.ListWidth,
                  form.ListHeight);
-    DressLists();
+    ApplyListColors(form);
     ShowListOfMode();
     if (form.FavoritenListeGlobal.Visible()) form.FavoritenListeGlobal.BringToFront();
     // There is nothing to remove where no favourite is on show.
     if (!form.FavoritenListe.Visible() && !form.FavoritenListeGlobal.Visible())
         form.DeLFav.SetVisible(false);
     ArrangeTabs();
-}
-
-// Two lists have colours of their own, whatever the window's are.
-void Layout::DressLists() {
-    form.FavoritenListe.SetBackColor(form.FavouritesColor);
-    form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
-    for (forms::ListBox* list : {&form.FavoritenListe, &form.EmulatorLongListbox})
-        list->SetForeColor(forms::Rgb(0, 0, 0));
 }
 
 void Layout::ShowListOfMode() {

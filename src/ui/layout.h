@@ -58,7 +58,6 @@ class Layout : public core::WindowLayout {
     forms::Point PlaceInside(forms::Point place) const;
     void PlaceDrivesHome();
     void PlaceFavouriteButtons();
-    void DressLists();
     void ShowListOfMode();
     void FitEmuListbox();
     void FitTabs(int left, bool choosing);

@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
 

@@ -12,6 +12,7 @@ void Launcher::Routines::JoinEmulators() {
     emulatorSwitch.ports.watch = watch;
     emulatorSwitch.ports.layout = layout;
     emulatorSwitch.hooks.DropPreview = [this] { previews.Drop(); };
+    emulatorSwitch.hooks.LoadSkinPictures = [this] { skins.LoadSkinPictures(); };
     emulatorSwitch.hooks.LoadFavoriten = [this] { favoriten.LoadFavoriten(); };
     // A profile with a master configuration has one from its first selection on.
     emulatorSwitch.hooks.GetMasterConfig = [this] { uaeFiles.GetMasterConfig(); };
@@ -20,6 +21,7 @@ void Launcher::Routines::JoinEmulators() {
     emulatorBox.ports.watch = watch;
     emulatorBox.ports.layout = layout;
     emulatorBox.hooks.ShowEmulatorPreview = [this](int row) { previews.ShowEmulatorPreview(row); };
+    emulatorBox.hooks.ApplyListColors = [this] { ui::ApplyListColors(form); };
     // The right mouse button opens an emulator without a game.
     emulatorBox.hooks.StartEmulator = [this](const std::string& name, bool ask) {
         emulatorSetup.StartEmulator(name, ask);

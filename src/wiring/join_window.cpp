@@ -9,7 +9,10 @@ void Launcher::Routines::JoinWindow() {
     startUp.ports.layout = layout;
     // A second start hands over to the first, which comes to the front.
     startUp.hooks.PreviousInstance = [this] { return handedFile.HandOver(); };
+    startUp.hooks.KeepDesignPictures = [this] { skins.KeepDesignPictures(); };
     settingsLoader.ports.layout = layout;
+    // An emulator brings its skin's colours with its settings.
+    settingsLoader.hooks.SetColors = [this] { windowColors.SetColors(form, -1, -1); };
     shutDown.ports.layout = layout;
     windowKeys.ports.watch = watch;
     windowKeys.hooks.JoystickDirection = [this](int key) { navigation.JoystickDirection(key); };

@@ -69,6 +69,15 @@ void AddPreview(RoutineTable& table, Session& session) {
         Bind("SetVorschaubild", [&previews](bool showIt) { previews.SetVorschaubild(showIt); }));
 }
 
+void AddSkins(RoutineTable& table, Session& session) {
+    auto& all = session.Routines();
+    table.push_back(Bind("LoadSkinPictures", [&all] { all.skins.LoadSkinPictures(); }));
+    // The window is told by its name.
+    table.push_back(Bind("SetColors", [&session](string window, int back, int fore) {
+        session.Routines().windowColors.SetColors(session.OpenWindows().Window(window), back, fore);
+    }));
+}
+
 }  // namespace
 
 void AddWindowRoutines(RoutineTable& table, Session& session) {
@@ -76,6 +85,7 @@ void AddWindowRoutines(RoutineTable& table, Session& session) {
     AddPreview(table, session);
     AddPin(table, session);
     AddLayout(table, session);
+    AddSkins(table, session);
     auto& all = session.Routines();
     table.push_back(Bind("SelectEmulator", [&all](bool addToGlobal) {
         all.emulatorSwitch.SelectEmulator(addToGlobal);
@@ -86,8 +96,6 @@ void AddWindowRoutines(RoutineTable& table, Session& session) {
     table.push_back(Bind("MeCaption", [&all](string caption) { all.busy.MeCaption(caption); }));
     table.push_back(Bind("ExitBtn_Click", [&all] { all.shutDown.ExitBtn_Click(); }));
     table.push_back(Bind("Uhrzeit_Timer", [&all] { all.startUp.Uhrzeit_Timer(); }));
-    table.push_back(
-        Bind("JoystickDirection", [&all](int key) { all.navigation.JoystickDirection(key); }));
 }
 
 }  // namespace kivu::driver

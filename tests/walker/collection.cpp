@@ -85,6 +85,8 @@ class Layout {
         if (random.Chance(70)) AddOwnFavourites();
         if (random.Chance(70)) AddGlobalFavourites();
         AddProgramProfile();
+        collection.layout.push_back(Json::array({"device", "add", "Pad", 11}));
+        collection.layout.push_back(Json::array({"device", "add", "Mouse", 0}));
     }
 
  private:
@@ -197,7 +199,9 @@ class Layout {
 
     // Without a controller nobody is to be asked about one.
     void AddProgramProfile() {
-        Settings settings{{"UseJoystick", "0"}};
+        Settings settings{{"UseJoystick", random.Chance(70) ? "1" : "0"}};
+        if (random.Chance(30))
+            settings.emplace_back("UseJoystickExitbutton", std::to_string(1 + random.Below(2)));
         const int last = random.Below(10);
         if (last == 0) {
             settings.emplace_back("LastEmulator", "Sold");

@@ -51,6 +51,8 @@ Look TakeLook(core::Form1& form) {
     look.busyLabel = form.LoadingBtn.Visible();
     look.busy = form.Busy;
     look.ended = form.Ended;
+    look.pad.on = form.JoystickTimer.Enabled();
+    look.pad.focus = form.JoystickFocus;
     return look;
 }
 

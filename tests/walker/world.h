@@ -41,7 +41,7 @@ class World {
 
     core::Form1& Form() { return session->MainWindow(); }
     testing::ScriptedHost& Host() { return session->Host(); }
-    Look Now() { return TakeLook(Form()); }
+    Look Now();
     bool Ended() const { return session->ended; }
 
     // By its path below the program directory; empty where there is none.

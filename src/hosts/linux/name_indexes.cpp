@@ -50,7 +50,7 @@ bool NameIndexes::Holds(const Slot& slot, const Stamp& stamp) const {
 
 std::shared_ptr<NameIndexes::Slot> NameIndexes::SlotOf(const std::string& directory) {
     const std::scoped_lock one(lock);
-    std::shared_ptr<Slot>& slot = slots[directory];
+    std::shared_ptr<Slot>& slot = indexes[directory];
     if (!slot) slot = std::make_shared<Slot>();
     slot->used = ++uses;
     return slot;
@@ -59,22 +59,22 @@ std::shared_ptr<NameIndexes::Slot> NameIndexes::SlotOf(const std::string& direct
 void NameIndexes::Keep(const std::string& directory, Slot& slot, std::size_t size) {
     const std::scoped_lock one(lock);
     ++readings;
-    const auto own = slots.find(directory);
+    const auto own = indexes.find(directory);
     // Given up meanwhile.
-    if (own == slots.end() || own->second.get() != &slot) return;
+    if (own == indexes.end() || own->second.get() != &slot) return;
     bytes -= std::exchange(slot.bytes, 0);
     if (size > most) {
-        slots.erase(own);
+        indexes.erase(own);
         return;
     }
     slot.bytes = size;
     bytes += size;
     while (bytes > most) {
         const auto oldest = std::min_element(
-            slots.begin(), slots.end(),
+            indexes.begin(), indexes.end(),
             [](const auto& a, const auto& b) { return a.second->used < b.second->used; });
         bytes -= oldest->second->bytes;
-        slots.erase(oldest);
+        indexes.erase(oldest);
     }
 }
 
@@ -100,10 +100,10 @@ std::shared_ptr<const NameIndex> NameIndexes::Of(const std::string& directory, c
 
 void NameIndexes::Forget(const std::string& directory) {
     const std::scoped_lock one(lock);
-    const auto found = slots.find(directory);
-    if (found == slots.end()) return;
+    const auto found = indexes.find(directory);
+    if (found == indexes.end()) return;
     bytes -= found->second->bytes;
-    slots.erase(found);
+    indexes.erase(found);
 }
 
 std::size_t NameIndexes::Bytes() const {

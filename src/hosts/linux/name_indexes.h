@@ -60,7 +60,7 @@ class NameIndexes {
     Clock clock;
     std::size_t most;
     mutable std::mutex lock;
-    std::map<std::string, std::shared_ptr<Slot>> slots;
+    std::map<std::string, std::shared_ptr<Slot>> indexes;
     std::size_t bytes = 0;
     std::uint64_t uses = 0;
     int readings = 0;
