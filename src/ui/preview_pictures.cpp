@@ -8,6 +8,7 @@
 #include "text/paths.h"
 #include "text/text.h"
 #include "ui/layout.h"
+#include "ui/skins.h"
 
 namespace kivu::ui {
 
@@ -141,10 +142,8 @@ void PreviewPictures::ShowEmulatorPreview(int index) {
     if (!name.empty()) {
         const std::string profile =
             text::AddPathSeparator(form.ConfigPath) + name + files.Separator();
-        const std::string skin = Subdirectory(profile, "Skin");
-        auto found = skin.empty() ? std::nullopt : files.FirstMatch(skin, name + ".", "", name);
-        if (!found && !skin.empty()) found = files.FirstMatch(skin, "Loading.", "", "Loading");
-        if (found) path = skin + *found;
+        path = FindSkinFile(files, profile, name);
+        if (path.empty()) path = FindSkinFile(files, profile, "Loading");
     }
     HideForNext();
     if (path.empty()) {
