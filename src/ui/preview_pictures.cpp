@@ -131,7 +131,7 @@ void PreviewPictures::ShowGamePreview(int index) {
     } else if (!path.empty()) {
         LoadVorschauImageFromPAth(path);
     } else {
-        Blank();
+        Stop();
     }
 }
 
@@ -168,6 +168,7 @@ void PreviewPictures::LoadVorschauImageFromPAth(const std::string& ImagePath) {
     EndZoom();
     if (ImagePath.empty() || !files.FileExists(ImagePath)) {
         SetVorschaubild(false);
+        Blank();
         ShowLoaded();
         return;
     }
@@ -197,7 +198,7 @@ void PreviewPictures::ShowLoaded() {
 }
 
 void PreviewPictures::SetVorschaubild(bool showIt) {
-    if (!showIt) Blank();
+    if (!showIt) Stop();
     form.VorschauBild.SetVisible(showIt);
     layout.ResizeSettingsWindow();
     form.GamePictureVis.SetVisible(showIt);
@@ -210,9 +211,13 @@ void PreviewPictures::Drop() {
     shownGame.reset();
 }
 
-void PreviewPictures::Blank() {
+void PreviewPictures::Stop() {
     form.PreviewTimer.SetEnabled(false);
     loader.Drop(form.GamePicture);
+}
+
+void PreviewPictures::Blank() {
+    Stop();
     form.GamePicture.SetPicture({});
     form.GamePictureVis.SetPicture({});
 }

@@ -93,6 +93,8 @@ class PreviewPictures {
     void MakePicturesDirectory();
     void EndZoom();
     void HideForNext();
+    // What is on its way comes to nothing.
+    void Stop();
     void Blank();
     void PictureCame();
     void ShowLoaded();
