@@ -178,8 +178,8 @@ void PreviewPictures::LoadVorschauImageFromPAth(const std::string& ImagePath) {
         PictureCame();
     });
     if (!coming) return;
-    // The old one rather than a gap, for as long as nobody sees that it lingers.
-    form.PreviewTimer.SetEnabled(false);
+    // The old one rather than a gap, for as long as nobody sees that it lingers, which does not
+    // begin anew with each further row.
     form.PreviewTimer.SetEnabled(stays);
     form.VorschauBild.SetVisible(stays);
 }
