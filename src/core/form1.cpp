@@ -127,6 +127,7 @@ void Form1::DesignLists() {
 void Form1::DesignFrame() {
     VorschauBild.SetVisible(false);
     GamePicture.SetVisible(false);
+    GamePictureVis.SetKeepsProportions(true);
     SettingsFrame.Move(9433, 6000, 4800, 4000);
     Current_ProgramNameFull.Move(100, 200, 4600, 1000);
     Current_ProgramNameFull.SetFont({"", 15, false});

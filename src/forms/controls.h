@@ -191,8 +191,8 @@ class Image : public Control {
  public:
     using Control::Control;
     Kind GetKind() const override { return Kind::image; }
-    // True: the picture is as large as fits into the control without being distorted, in its
-    // middle.
+    // True: the picture is as large as fits into the control without being distorted, at its top
+    // and in the middle of its width.
     bool KeepsProportions() const { return keepsProportions; }
     void SetKeepsProportions(bool value);
     // Twips from the top edge that a view draws the picture in, where something lies on the rest;

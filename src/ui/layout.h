@@ -69,6 +69,7 @@ class Layout : public core::WindowLayout {
     forms::Point drivesPutAt;
     std::optional<forms::Point> drivesPushedTo;
     ColumnRows rows;
+    std::optional<forms::Size> natural;  // of the picture that is zoomed
     // In Current_ProgramNameFull, whole and as it was broken to its width.
     std::string fullName, brokenName;
     bool wrapping = false;

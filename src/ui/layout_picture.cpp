@@ -27,6 +27,8 @@ int Layout::PictureBottom() const {
 void Layout::SetVorschau() {
     if (Zoomed()) {
         form.GamePicture.SetVisible(false);
+        if (natural) form.GamePicture.Move(0, 0, natural->width, natural->height);
+        natural.reset();
         form.GamePictureVis.SetVisible(form.VorschauBild.Visible());
         form.VorschauBild.SendToBack();
     }
@@ -45,6 +47,7 @@ void Layout::ZoomPicture() {
     if (form.WIthoutDoubles.Left() >= frame.Left()) return;
     const Place place =
         ZoomPlaceOf(form, form.Width(), frame.Top(), picture.Width(), picture.Height());
+    natural = forms::Size{picture.Width(), picture.Height()};
     picture.Move(0, 0, place.width, place.height);
     // Before the frame grows, so that whatever counts from the picture counts from its place.
     picture.SetVisible(true);

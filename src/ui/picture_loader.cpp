@@ -125,11 +125,10 @@ void PictureLoader::TellOfTree(const std::string& path) {
 
 bool PictureLoader::LoadSkin(const std::string& path, const std::string& purpose,
                              std::function<void(forms::Picture)> receive) {
-    Cancel(skins[purpose]);
-    skins.erase(purpose);
     if (program.Ended) return false;
     auto job = std::make_shared<Job>(services.files, path);
     const auto header = job->file.SearchHeader();
+    if (header || path.empty()) Cancel(skins[purpose]);
     if (!header) return false;
     skins[purpose] = job;
     job->finish = [this, purpose, receive = std::move(receive)](const JobPointer& finished) {

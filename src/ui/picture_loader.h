@@ -31,8 +31,8 @@ class PictureLoading {
     virtual void Drop(forms::PictureBox& target) = 0;
 
     // Whether the file is a picture that can be shown, by its header. If so `receive` gets it, now
-    // or later on the window's thread, unless another one has been asked for with the same purpose:
-    // an empty path asks for none.
+    // or later on the window's thread, unless another one has been found with the same purpose. A
+    // file that is no picture changes nothing, while an empty path calls off what is under way.
     virtual bool LoadSkin(const std::string& path, const std::string& purpose,
                           std::function<void(forms::Picture)> receive) = 0;
 };

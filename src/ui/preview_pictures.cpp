@@ -154,28 +154,30 @@ void PreviewPictures::ShowEmulatorPreview(int index) {
     }
 }
 
-void PreviewPictures::HideForNext() {
+void PreviewPictures::EndZoom() {
     if (form.GamePicture.Visible()) layout.SetVorschau();
+}
+
+void PreviewPictures::HideForNext() {
+    EndZoom();
     oldStays = form.VorschauBild.Visible() && form.GamePictureVis.GetPicture() != forms::Picture{};
     form.VorschauBild.SetVisible(false);
 }
 
 void PreviewPictures::LoadVorschauImageFromPAth(const std::string& ImagePath) {
     const bool stays = std::exchange(oldStays, false);
+    EndZoom();
     if (ImagePath.empty() || !files.FileExists(ImagePath)) {
         SetVorschaubild(false);
         ShowLoaded();
         return;
     }
-    bool came = false;
-    // It may come when this has long returned, and then finds nobody waiting.
-    const auto waiting = std::make_shared<bool*>(&came);
-    loader.Load(ImagePath, form.GamePicture, [this, waiting](bool) {
-        if (*waiting) **waiting = true;
+    coming = true;
+    loader.Load(ImagePath, form.GamePicture, [this](bool) {
+        coming = false;
         PictureCame();
     });
-    *waiting = nullptr;
-    if (came) return;
+    if (!coming) return;
     // The old one rather than a gap, for as long as nobody sees that it lingers.
     form.PreviewTimer.SetEnabled(false);
     form.PreviewTimer.SetEnabled(stays);

@@ -90,6 +90,7 @@ class PreviewPictures {
                      std::string_view preferredStem) const;
     std::string FindForGame(const std::string& entry) const;
     void MakePicturesDirectory();
+    void EndZoom();
     void HideForNext();
     void Blank();
     void PictureCame();
@@ -102,6 +103,7 @@ class PreviewPictures {
     PictureLoading& loader;
     // The entry of UAE_FULL whose preview was shown last; none: something else's.
     std::optional<std::string> shownGame = std::string();
+    bool coming = false;        // a picture has been asked for and is not there yet
     bool oldStays = false;      // a picture was on view before the one that is to come
     bool pressStarted = false;  // the button that is down has started an emulator
     std::shared_ptr<Lease> lease = std::make_shared<Lease>();

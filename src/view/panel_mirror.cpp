@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
 
@@ -65,7 +66,16 @@ class PanelWidget : public QWidget {
 
     void DrawPicture(QPainter& painter) {
         if (!isEnabled()) painter.setOpacity(0.5);
-        picture.Draw(painter, rect(), devicePixelRatioF(), HowToFit(), resizing.isActive());
+        picture.Draw(painter, ShownPlace(), devicePixelRatioF(), HowToFit(), resizing.isActive());
+    }
+
+    // Something may lie on the lower part of it.
+    QRect ShownPlace() const {
+        QRect place = rect();
+        if (control.GetKind() != forms::Kind::image) return place;
+        const int most = static_cast<const forms::Image&>(control).MostShownHeight();
+        if (most >= 0) place.setHeight(qMin(place.height(), ToPixels(most)));
+        return place;
     }
 
     // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose

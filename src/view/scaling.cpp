@@ -40,11 +40,14 @@ QSize Contained(QSize picture, QSize place) {
 
 QImage Sharp(const QImage& image, QSize size) {
     if (image.isNull() || size.isEmpty()) return {};
-    const double growth =
-        std::max(double(size.width()) / image.width(), double(size.height()) / image.height());
+    const double across = double(size.width()) / image.width();
+    const double down = double(size.height()) / image.height();
+    const double least = std::min(across, down), most = std::max(across, down);
     QImage from = image;
-    if (growth > largestSmoothGrowth) {
-        const int factor = static_cast<int>(std::ceil(growth));
+    // One that is distorted so much has no squares to keep, and might take any memory on the way.
+    constexpr double mostDistortion = 2;
+    if (least > largestSmoothGrowth && most < mostDistortion * least) {
+        const int factor = static_cast<int>(std::ceil(most));
         from = image.scaled(image.size() * factor, Qt::IgnoreAspectRatio, Qt::FastTransformation);
     }
     if (from.size() == size) return from;

@@ -376,6 +376,11 @@ class ScriptedControllers : public platform::Controllers {
         handles.clear();
     }
     bool Changed() override { return std::exchange(changed, false); }
+    // The device at that place is the one that was opened there.
+    bool IsOpened(std::size_t device) const {
+        return device < devices.size() && device < handles.size() &&
+               devices[device].id == handles[device];
+    }
 
     std::vector<Device> devices{{{"Mouse", 0}, {}}, {{"Keyboard", 0}, {}}};
     bool noService = false;

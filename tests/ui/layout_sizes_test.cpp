@@ -108,7 +108,17 @@ TEST_F(LayoutSizes, ZoomIsNoLargerThanTheWindowAndTheLists) {
     Show(640, 480);
     layout.ZoomPicture();
     ExpectPicture({4500, 1300, 9600, 7200});
+    EXPECT_EQ(form.GamePicture.Width(), 9600);
     layout.SetVorschau();
+    // Zoomed once more in a larger window, it is larger.
+    Show(2000, 100);
+    layout.ZoomPicture();
+    EXPECT_EQ(form.GamePicture.Width(), 13800);
+    Resize(40000, 16200);
+    EXPECT_EQ(form.GamePicture.Width(), 30000);
+    layout.ZoomPicture();
+    EXPECT_EQ(form.GamePicture.Width(), 30000);
+    Resize(14400, 10200);
     Show(1600, 200);
     layout.ZoomPicture();
     ExpectPicture({300, 1300, 13800, 1725});

@@ -321,6 +321,18 @@ TEST_F(PictureLoaderTest, GivesOnlyTheLastSkinOfAPurpose) {
     EXPECT_EQ(received, (std::vector<std::string>{"/a.jpg", "/b.jpg"}));
 }
 
+TEST_F(PictureLoaderTest, KeepsTheSkinUnderWayWhenTheNextOneIsNone) {
+    background.inlined = false;
+    files.AddFile("/a.jpg", JpegHead(2000, 1000));
+    files.AddFile("/bad.png", "no picture");
+    std::vector<std::string> received;
+    const auto receive = [&](const forms::Picture& picture) { received.push_back(picture.source); };
+    EXPECT_TRUE(loader->LoadSkin("/a.jpg", "Background", receive));
+    EXPECT_FALSE(loader->LoadSkin("/bad.png", "Background", receive));
+    background.Serve(0);
+    EXPECT_EQ(received, std::vector<std::string>{"/a.jpg"});
+}
+
 TEST_F(PictureLoaderTest, FindsTheSizeOfASkinBehindItsColourProfile) {
     const std::string profile = "\xff\xe2" + Big(65535, 2) + std::string(65533, 'x');
     files.AddFile("/a.jpg", JpegHead(20, 10, profile + profile + profile));

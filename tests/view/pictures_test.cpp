@@ -157,7 +157,7 @@ TEST(Scaling, KeepsPixelsSharpThatBecomeMuchLarger) {
     // By 2.5: three times, and then a little smaller, so that one column is mixed at most.
     const QImage more = view::Sharp(two, QSize(5, 2));
     EXPECT_EQ(more.pixelColor(1, 1), QColor(Qt::red));
-    EXPECT_EQ(more.pixelColor(3, 1), QColor(Qt::blue));
+    EXPECT_EQ(more.pixelColor(4, 1), QColor(Qt::blue));
     const QImage large = view::Sharp(two, QSize(400, 200));
     EXPECT_EQ(large.pixelColor(199, 100), QColor(Qt::red));
     EXPECT_EQ(large.pixelColor(200, 100), QColor(Qt::blue));
@@ -186,6 +186,8 @@ TEST(Scaling, LivesWithThinPictures) {
     EXPECT_EQ(view::MiddleFor(wide, QSize(40, 40)).size(), QSize(1, 1));
     EXPECT_TRUE(view::MiddleFor(QImage(), QSize(4, 4)).isNull());
     EXPECT_TRUE(view::Sharp(wide, QSize()).isNull());
+    // By way of 4000 x 400 times as many pixels there would be nothing to see.
+    EXPECT_EQ(view::Sharp(wide, QSize(10, 400)).pixelColor(5, 200), QColor(0x10, 0x20, 0x30));
 }
 
 using PicturesOnAForm = ShownForm;

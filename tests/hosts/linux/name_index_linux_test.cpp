@@ -142,7 +142,7 @@ class NameIndexesLinux : public ::testing::Test {
 
     NameIndexesLinux() { Stamp(1000 * second); }
     void Stamp(std::int64_t at) {
-        const timespec time{static_cast<time_t>(at / second), static_cast<long>(at % second)};
+        const timespec time{at / second, at % second};
         const timespec times[] = {time, time};
         ASSERT_EQ(::utimensat(AT_FDCWD, directory.Root().c_str(), times, 0), 0);
     }
