@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench ...
+# Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench|assets ...
 set -euo pipefail
 
 build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev libsdl2-dev)
@@ -9,6 +9,7 @@ test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdefl
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 tidy=(clang-tidy)
 wine=(wine wine64 googletest nlohmann-json3-dev fonts-dejavu-core)
+assets=(librsvg2-bin imagemagick fonts-dejavu-core)
 fuzz=(clang libclang-rt-14-dev)
 bench=(libbenchmark-dev libxcb1-dev libpng-dev zlib1g-dev libdeflate-dev dpkg-dev findutils grep)
 
