@@ -52,7 +52,7 @@ void FilesForm::DesignWindow() {
 
 void FilesForm::DesignLists() {
     constexpr int pathLeft = margin + 52, upWidth = 104;
-    Place(PathLabel, margin, 54, 48, labelHeight);
+    Place(PathLabel, margin, 56, 48, labelHeight);
     Place(KomplettPfadText, pathLeft, 50, wide - margin - upWidth - 10 - pathLeft, 28);
     Place(UpBtn, wide - margin - upWidth, 48, upWidth, 32);
 
