@@ -11,8 +11,8 @@ namespace {
 const std::vector<Action>& All() {
     static const std::vector<Action> all = [] {
         std::vector<Action> joined;
-        for (const auto* table :
-             {&ListActions(), &ControlActions(), &KeyActions(), &WindowActions(), &WorldActions()})
+        for (const auto* table : {&ListActions(), &ControlActions(), &KeyActions(), &PadActions(),
+                                  &WindowActions(), &WorldActions()})
             joined.insert(joined.end(), table->begin(), table->end());
         return joined;
     }();

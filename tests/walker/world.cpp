@@ -39,6 +39,17 @@ bool World::ModalIsOpen() {
     return std::any_of(open.begin(), open.end(), [](const auto& window) { return window.modal; });
 }
 
+Look World::Now() {
+    Look look = TakeLook(Form());
+    const testing::ScriptedControllers& controllers = Host().controllers;
+    look.pad.on = look.pad.on && controllers.IsOpened(0);
+    if (controllers.devices.empty()) return look;
+    const auto& buttons = controllers.devices[0].state.buttons;
+    const auto held = std::find(buttons.begin(), buttons.end(), true);
+    if (held != buttons.end()) look.pad.button = static_cast<int>(held - buttons.begin());
+    return look;
+}
+
 int World::TakeRefusals() {
     const int all = session->disk.Failures();
     return all - std::exchange(refusals, all);
