@@ -40,6 +40,7 @@ void FilesForm::DesignWindow() {
     Place(TitleLabel, margin, 14, wide - 2 * margin - 40, 24);
     TitleLabel.SetFont({"", 11, true});
     Place(AlwaysOnTop1, wide - margin - 28, 10, 28, 28);
+    AlwaysOnTop1.SetIsUserControl(true);
     AOT_Enabled.SetPicture({":/pin-enabled", nullptr});
     AOT_Disabled.SetPicture({":/pin-disabled", nullptr});
     AOT_MouseMove.SetPicture({":/pin-hover", nullptr});
