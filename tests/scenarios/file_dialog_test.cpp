@@ -89,6 +89,7 @@ TEST_F(FileDialogOverTheMainWindow, ChosenFileComesBack) {
     Start();
     const std::string roms = testing::HostPath(tree.Root() + "/Roms/Alpha");
     const std::string chosen = Ask([&] {
+        Do("focus", "Files.KomplettPfadText");
         Do("set", "Files.KomplettPfadText.Text", roms);
         Do("focus", "Files.File1");
         EXPECT_EQ(Do("get", "Files.File1.ListCount")["value"], 3);
