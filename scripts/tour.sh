@@ -4,7 +4,7 @@
 #     scripts/tour.sh PROGRAM_DIR [SCREENSHOT_DIR]
 #
 # Leaves numbered screenshots, and fails when a step does not come about. TOUR_SIZE sets the screen
-# (1024x768), LANG the language as usual.
+# (1024x768), LANG the language as usual. KIVU_FILES is the program of scripts/tour-files.sh, which follows.
 set -euo pipefail
 
 program_dir=$(cd "$1" && pwd)
@@ -177,3 +177,7 @@ if [ -x "$colors" ]; then
   kivu=0
 fi
 echo "The tour is through; the pictures are in ${shots#"$here"/}."
+
+# The dialog for files, which the tests' program opens.
+dialog=${KIVU_FILES:-$here/build/test/program/kivu-files}
+[ ! -x "$dialog" ] || "$here/scripts/tour-files.sh" "$dialog" "$shots/files"
