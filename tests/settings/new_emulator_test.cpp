@@ -1,5 +1,6 @@
 #include "settings/new_emulator.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 #include "testing/faulty_file_system.h"
@@ -108,6 +109,8 @@ TEST_F(NewEmulator, SaysWhyInBothLanguages) {
             reasons.push_back(box.text);
         }
     }
+    EXPECT_EQ(FaultBox(NameFault::tooLong, std::string(5000, 'a'), english).text.substr(0, 85),
+              std::string(80, 'a') + "...\r\r");
     const Box failed =
         NotMadeBox("/k/Config/X", std::make_error_code(std::errc::permission_denied), english);
     EXPECT_EQ(failed.icon, platform::Icon::Error);
