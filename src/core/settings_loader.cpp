@@ -10,8 +10,7 @@ namespace kivu::core {
 namespace keys = profile::keys;
 
 void SettingsLoader::LoadSettings() {
-    for (std::size_t action = 0; action < keys::Buttons.size(); ++action)
-        form.JoystickButtons[action] = ini.Read(keys::Buttons[action], ProfilesOf(form));
+    LoadButtons();
     LoadPaths();
     LoadDrivesPanel();
     form.TmpBatName = form.StartPfad + form.EXE + "_tmp.bat";
@@ -20,6 +19,11 @@ void SettingsLoader::LoadSettings() {
     form.ExitButtonAction = ini.Read(keys::UseJoystickExitbutton, ProfilesOf(form));
     const int smart = ini.Read(keys::SmartRomSelection, ProfilesOf(form));
     form.SettingsSubPicture.SetVisible(smart == 1);
+}
+
+void SettingsLoader::LoadButtons() {
+    for (std::size_t action = 0; action < keys::Buttons.size(); ++action)
+        form.JoystickButtons[action] = ini.Read(keys::Buttons[action], ProfilesOf(form));
 }
 
 std::string SettingsLoader::AbsolutePath(const std::string& stored) const {
@@ -57,8 +61,7 @@ void SettingsLoader::LoadDrivesPanel() {
 void SettingsLoader::LoadJoystick() {
     const auto wanted = [&] { return ini.Read(keys::UseJoystick, ProfilesOf(form)); };
     hooks.JoystickEnable(wanted() > 0);
-    // Until there is a device layer, nobody can say that no device was found.
-    if (!hooks.JoystickCount || wanted() != 1 || hooks.JoystickCount() > 0) return;
+    if (wanted() != 1 || hooks.JoystickCount() > 0) return;
     // The box may stand for long.
     ini.StoreWriteBacks();
     const std::string question = form.Say(
@@ -70,7 +73,7 @@ void SettingsLoader::LoadJoystick() {
         return;
     }
     ini.Write(keys::UseJoystick, ProfilesOf(form), "0");
-    hooks.JoystickEnable(true);
+    hooks.JoystickEnable(false);
 }
 
 }  // namespace kivu::core

@@ -176,8 +176,8 @@ inline constexpr Number RunVBS_Script{emulator, "RunVBS_Script", "0", "launch/ga
 // --- A skin's profile.
 
 // "#RRGGBB".
-inline constexpr Text BackColor{skin, "BackColor", "#0052bc", "to come: skins"};
-inline constexpr Text FontColor{skin, "FontColor", "#FFFFFF", "to come: skins"};
+inline constexpr Text BackColor{skin, "BackColor", "#0052bc", "ui/window_colors"};
+inline constexpr Text FontColor{skin, "FontColor", "#FFFFFF", "ui/window_colors"};
 // Not stored: a colour that is only tried must not become the skin's.
 inline constexpr PresentText BackColorInSettings{BackColor, settingsWindow, WriteBack::off};
 inline constexpr PresentText FontColorInSettings{FontColor, settingsWindow, WriteBack::off};

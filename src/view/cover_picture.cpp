@@ -1,9 +1,11 @@
 #include "view/cover_picture.h"
 
+#include <QThreadPool>
 #include <memory>
 #include <utility>
 
 #include "view/pictures.h"
+#include "view/scaling.h"
 
 namespace kivu::view {
 
@@ -19,16 +21,13 @@ Preloaded& ThePreloaded() {
     return preloaded;
 }
 
-// A part of a picture over the same pixels, to be read alone.
-QImage Part(const QImage& image, const QRect& part) {
-    if (part == image.rect()) return image;
-    auto owner = std::make_unique<QImage>(image);
-    const uchar* begin =
-        owner->constScanLine(part.top()) + static_cast<std::size_t>(part.left()) * sizeof(QRgb);
-    return {begin,           part.width(),
-            part.height(),   owner->bytesPerLine(),
-            owner->format(), [](void* pixels) { delete static_cast<QImage*>(pixels); },
-            owner.release()};
+// The future of std::async would hold up whoever drops it until the work is done.
+template <typename Work>
+std::future<QImage> OnAnotherThread(Work work) {
+    auto task = std::make_shared<std::packaged_task<QImage()>>(std::move(work));
+    std::future<QImage> image = task->get_future();
+    QThreadPool::globalInstance()->start([task] { (*task)(); });
+    return image;
 }
 
 // Read in fewer pixels a PNG picture would take thrice the time: the toolkit's reader makes it
@@ -40,23 +39,25 @@ QImage LoadFitted(const std::string& source, QSize size) {
 }  // namespace
 
 void PreloadPicture(const std::string& source) {
-    ThePreloaded() = {source, std::async(std::launch::async, LoadPicture, source)};
+    ThePreloaded() = {source, OnAnotherThread([source] { return LoadPicture(source); })};
 }
 
-QImage Covering(QImage image, QSize size) {
+QImage Covering(QImage image, QSize size, bool roughly) {
     if (image.isNull() || size.isEmpty()) return {};
-    if (image.depth() != 32) image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    if (image.depth() != 32) {
+        image.convertTo(image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
+                                                : QImage::Format_RGB32);
+    }
     // The part that is seen, so that no more than that is scaled.
-    const QSize whole = image.size();
-    const QSize part = size.scaled(whole, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-    const QPoint corner((whole.width() - part.width()) / 2, (whole.height() - part.height()) / 2);
-    QImage seen = Part(image, QRect(corner, part));
-    if (part != size) {
-        seen = seen.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    } else if (part != whole) {
+    QImage seen = MiddleFor(image, size);
+    if (seen.size() != size) {
+        const auto mode = roughly ? Qt::FastTransformation : Qt::SmoothTransformation;
+        seen = seen.scaled(size, Qt::IgnoreAspectRatio, mode);
+    } else if (seen.size() != image.size()) {
+        // Lest it keeps the whole.
         seen = seen.copy();
     }
-    seen.convertTo(QImage::Format_ARGB32_Premultiplied);
+    if (seen.hasAlphaChannel()) seen.convertTo(QImage::Format_ARGB32_Premultiplied);
     return seen;
 }
 
@@ -69,25 +70,26 @@ void CoverPicture::Set(const forms::Picture& value) {
 }
 
 void CoverPicture::Prefetch(QSize size) {
-    if (taken || picture.pixels || picture.source.empty() || size.isEmpty()) return;
+    if (taken || size.isEmpty() || (!picture.pixels && picture.source.empty())) return;
     if (coming.valid() && comingSize == size) return;
     comingSize = size;
     Preloaded& preloaded = ThePreloaded();
     const std::string& source = picture.source;
-    if (preloaded.image.valid() && preloaded.source == source &&
-        DenseEnough(source, size.width()) == source) {
-        coming = std::async(
-            std::launch::async,
-            [size](std::future<QImage> image) { return Covering(image.get(), size); },
-            std::move(preloaded.image));
+    if (picture.pixels) {
+        coming = OnAnotherThread(
+            [size, pixels = picture.pixels] { return Covering(OverPixels(pixels), size); });
+    } else if (preloaded.image.valid() && preloaded.source == source &&
+               DenseEnough(source, size.width()) == source) {
+        auto image = std::make_shared<std::future<QImage>>(std::move(preloaded.image));
+        coming = OnAnotherThread([size, image] { return Covering(image->get(), size); });
     } else {
-        coming = std::async(std::launch::async, LoadFitted, source, size);
+        coming = OnAnotherThread([size, source] { return LoadFitted(source, size); });
     }
 }
 
 void CoverPicture::LoadWhole(QSize size) {
     if (picture.pixels) {
-        if (whole.isNull()) whole = FromBitmap(*picture.pixels);
+        if (whole.isNull()) whole = OverPixels(picture.pixels);
         return;
     }
     if (picture.source.empty()) return;
@@ -98,7 +100,7 @@ void CoverPicture::LoadWhole(QSize size) {
     if (whole.isNull()) picture = {};
 }
 
-QImage CoverPicture::Take(QSize size) {
+QImage CoverPicture::Take(QSize size, bool roughly) {
     if (size.isEmpty()) return {};
     const bool first = !std::exchange(taken, true);
     if (coming.valid()) {
@@ -108,7 +110,7 @@ QImage CoverPicture::Take(QSize size) {
         return LoadFitted(picture.source, size);
     }
     LoadWhole(size);
-    return Covering(whole, size);
+    return Covering(whole, size, roughly);
 }
 
 }  // namespace kivu::view

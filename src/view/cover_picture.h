@@ -15,9 +15,10 @@ class CoverPicture {
     void Set(const forms::Picture& picture);
     // Begins to load and to fit it on another thread for a place that will be drawn soon.
     void Prefetch(QSize size);
-    // The picture for a place of that many device pixels, in premultiplied ARGB. Null: there is no
-    // picture, or it cannot be loaded.
-    QImage Take(QSize size);
+    // The picture for a place of that many device pixels, in premultiplied ARGB, or in RGB where it
+    // hides all that lies below. Null: there is no picture, or it cannot be loaded. Roughly: at
+    // once, for a place that will soon have another size.
+    QImage Take(QSize size, bool roughly = false);
     // The place keeps its size: the whole picture goes, and is loaded again for another size.
     void Rest() { whole = {}; }
     bool KeepsWhole() const { return !whole.isNull(); }
@@ -37,8 +38,7 @@ class CoverPicture {
 // take: for a program whose window is not built yet.
 void PreloadPicture(const std::string& source);
 
-// The middle of a picture, as large as a place of that size shows of it, in the place's pixels and
-// in premultiplied ARGB.
-QImage Covering(QImage image, QSize size);
+// The middle of a picture, as large as a place of that size shows of it, in the place's pixels.
+QImage Covering(QImage image, QSize size, bool roughly = false);
 
 }  // namespace kivu::view

@@ -15,6 +15,8 @@ namespace kivu::view {
 namespace {
 // A window that is being dragged larger has a new face more often.
 constexpr int restAfter = 3000;  // ms
+// Fewer frames a second than that are no dragging any more.
+constexpr int smoothAfter = 100;  // ms
 }  // namespace
 
 QRegion RoundedRegion(QSize size, int radius) {
@@ -37,13 +39,24 @@ FormSurface::FormSurface(const forms::Form& form) : form(form) {
     rest.setSingleShot(true);
     rest.setInterval(restAfter);
     QObject::connect(&rest, &QTimer::timeout, this, [this] { picture.Rest(); });
+    smooth.setSingleShot(true);
+    smooth.setInterval(smoothAfter);
+    QObject::connect(&smooth, &QTimer::timeout, this, [this] { Renew(); });
     TakePicture();
 }
 
 void FormSurface::TakePicture() {
     picture.Set(form.GetPicture());
     picture.Prefetch(DevicePixels(isVisible() ? size() : PixelRect(form).size()));
+    smooth.stop();
     Renew();
+}
+
+void FormSurface::TakeColors() {
+    // What hides the colour looks as it did.
+    const bool hidden = !face.isNull() && fitted.isNull() && hasPicture;
+    if (!hidden && !face.isNull()) Compose(face.size());
+    update();
 }
 
 QSize FormSurface::DevicePixels(QSize pixels) const {
@@ -51,6 +64,7 @@ QSize FormSurface::DevicePixels(QSize pixels) const {
 }
 
 void FormSurface::Renew() {
+    fitted = {};
     face = {};
     CutCorners();
     update();
@@ -66,6 +80,7 @@ int FormSurface::Radius() const {
 }
 
 void FormSurface::resizeEvent(QResizeEvent*) {
+    if (!face.isNull()) smooth.start();
     Renew();
 }
 
@@ -91,12 +106,29 @@ QImage FormSurface::Gradient(QSize pixels) const {
     return image;
 }
 
-void FormSurface::Paint() {
-    // So many pixels are worth to be there once: all is painted into those of the picture.
-    const QSize wanted = DevicePixels(size());
-    face = picture.Take(wanted);
-    if (face.isNull()) face = Gradient(wanted);
+void FormSurface::FitPicture(QSize size) {
+    fitted = picture.Take(size, smooth.isActive());
+    hasPicture = !fitted.isNull();
     if (picture.KeepsWhole()) rest.start();
+}
+
+// So many pixels are worth to be there once: where the picture hides the colour, all is painted
+// into its own.
+void FormSurface::Compose(QSize size) {
+    if (!hasPicture) {
+        face = Gradient(size);
+    } else if (!fitted.hasAlphaChannel()) {
+        face = std::exchange(fitted, {});
+        face.convertTo(QImage::Format_ARGB32_Premultiplied);
+    } else {
+        face = QImage(size, QImage::Format_ARGB32_Premultiplied);
+        face.fill(ToQt(form.BackColor()));
+        QPainter(&face).drawImage(0, 0, fitted);
+    }
+    Paint();
+}
+
+void FormSurface::Paint() {
     face.setDevicePixelRatio(devicePixelRatioF());
     QPainter painter(&face);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -120,7 +152,11 @@ void FormSurface::Paint() {
 }
 
 void FormSurface::paintEvent(QPaintEvent* event) {
-    if (face.size() != DevicePixels(size())) Paint();
+    const QSize wanted = DevicePixels(size());
+    if (face.size() != wanted) {
+        FitPicture(wanted);
+        Compose(wanted);
+    }
     QPainter painter(this);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     const double ratio = face.devicePixelRatio();

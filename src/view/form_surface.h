@@ -15,8 +15,10 @@ class FormSurface : public QWidget {
     explicit FormSurface(const forms::Form& form);
 
     void TakePicture();
-    // The face has to be made anew: another colour, other corners.
+    // The face has to be made anew: another size, other corners.
     void Renew();
+    // The back colour lies below the picture, which keeps its size.
+    void TakeColors();
     // False: what is not drawn whole would be black, so that the corners are cut and not smooth.
     void SetComposited(bool value);
 
@@ -28,14 +30,20 @@ class FormSurface : public QWidget {
     int Radius() const;
     QSize DevicePixels(QSize size) const;
     QImage Gradient(QSize size) const;
+    void FitPicture(QSize size);
+    void Compose(QSize size);
     void Paint();
     void CutCorners();
 
     const forms::Form& form;
     CoverPicture picture;
-    QTimer rest;  // since the last new face
+    QTimer rest;    // since the last new face
+    QTimer smooth;  // since the last new size
     bool composited = true;
-    QImage face;  // the whole surface in device pixels
+    bool hasPicture = false;  // that can be shown
+    // In device pixels.
+    QImage fitted;  // the picture; null where the face has it, or there is none
+    QImage face;    // the whole surface
 };
 
 // The pixels of a rounded rectangle that its line touches at all.

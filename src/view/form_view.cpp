@@ -176,7 +176,9 @@ void FormView::FormChanged(forms::Aspect aspect) {
             surface->TakePicture();
             break;
         case forms::Aspect::colors:
-            surface->Renew();
+            surface->TakeColors();
+            for (const auto& [control, mirror] : mirrors)
+                mirror->WindowColored();
             break;
         default:
             sync.Apply(aspect);

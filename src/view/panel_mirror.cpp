@@ -1,16 +1,20 @@
 #include "view/panel_mirror.h"
 
+#include <QBasicTimer>
 #include <QPainter>
 
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
 
 namespace kivu::view {
 
 namespace {
+
+constexpr int smoothAfter = 100;  // ms since the last new size
 
 bool IsDraggable(const forms::Control& control) {
     return control.onMouseDown && !control.Tag().empty();
@@ -25,10 +29,19 @@ class PanelWidget : public QWidget {
 
     void TakePicture() {
         picture.Set(control.GetPicture());
+        resizing.stop();
         update();
     }
 
  protected:
+    void resizeEvent(QResizeEvent*) override {
+        if (picture.IsInUse()) resizing.start(smoothAfter, this);
+    }
+    void timerEvent(QTimerEvent*) override {
+        resizing.stop();
+        update();
+    }
+
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const bool image = control.GetKind() == forms::Kind::image;
@@ -44,20 +57,25 @@ class PanelWidget : public QWidget {
     }
 
  private:
+    PictureCache::Fit HowToFit() const {
+        if (control.GetKind() != forms::Kind::image) return PictureCache::Fit::cover;
+        return static_cast<const forms::Image&>(control).KeepsProportions()
+                   ? PictureCache::Fit::contain
+                   : PictureCache::Fit::stretch;
+    }
+
     void DrawPicture(QPainter& painter) {
-        const auto* image = dynamic_cast<const forms::Image*>(&control);
-        const bool kept = image && image->KeepsProportions();
-        const auto fit = kept ? PictureCache::Fit::contain : PictureCache::Fit::stretch;
-        const double ratio = devicePixelRatioF();
-        const QPixmap& pixels = picture.Scaled(size() * ratio, fit);
-        if (pixels.isNull()) return;
         if (!isEnabled()) painter.setOpacity(0.5);
-        QRectF place(rect());
-        if (kept) {
-            place.setSize(QSizeF(pixels.size()) / ratio);
-            place.moveCenter(QRectF(rect()).center());
-        }
-        painter.drawPixmap(place, pixels, QRectF(pixels.rect()));
+        picture.Draw(painter, ShownPlace(), devicePixelRatioF(), HowToFit(), resizing.isActive());
+    }
+
+    // Something may lie on the lower part of it.
+    QRect ShownPlace() const {
+        QRect place = rect();
+        if (control.GetKind() != forms::Kind::image) return place;
+        const int most = static_cast<const forms::Image&>(control).MostShownHeight();
+        if (most >= 0) place.setHeight(qMin(place.height(), ToPixels(most)));
+        return place;
     }
 
     // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose
@@ -69,7 +87,7 @@ class PanelWidget : public QWidget {
         line.setAlphaF(0.3F);
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
         FillRounded(painter, QRectF(rect()), cornerRadius, plate, line);
-        if (!picture.Scaled(size()).isNull()) return;
+        if (control.GetPicture() != forms::Picture()) return;
         constexpr int step = 5;  // pixels
         const int rows = qBound(1, (height() - 6) / step, 4);
         const int top = (height() - (rows - 1) * step) / 2;
@@ -94,6 +112,7 @@ class PanelWidget : public QWidget {
 
     const forms::Control& control;
     PictureCache picture;
+    QBasicTimer resizing;
 };
 
 }  // namespace

@@ -3,67 +3,53 @@
 #include <QBuffer>
 #include <QFile>
 #include <QImageReader>
-#include <algorithm>
-#include <cstring>
-#include <fstream>
+#include <utility>
 
+#include "view/scaling.h"
 #include "view/text.h"
 
 namespace kivu::view {
 
 namespace {
 
-constexpr std::streamoff largestFile = 64 << 20;
-constexpr int largestSide = 4096;  // device pixels; more is never shown
-
-QByteArray ReadSource(const std::string& source) {
-    if (source.starts_with(":")) {
-        QFile resource(ToQt(source));
-        return resource.open(QIODevice::ReadOnly) ? resource.readAll() : QByteArray();
-    }
-    // Not through the toolkit's file names: these keep every byte of a name.
-    std::ifstream file(source, std::ios::binary | std::ios::ate);
-    const std::streamoff size = file ? std::streamoff(file.tellg()) : 0;
-    if (size <= 0 || size > largestFile) return {};
-    QByteArray bytes(static_cast<qsizetype>(size), Qt::Uninitialized);
-    file.seekg(0);
-    if (!file.read(bytes.data(), size)) return {};
-    return bytes;
+bool IsResource(const std::string& source) {
+    return source.starts_with(":");
 }
 
 }  // namespace
 
 QImage LoadPicture(const std::string& source) {
-    QByteArray bytes = ReadSource(source);
-    if (bytes.isEmpty()) return {};
+    QFile resource(ToQt(source));
+    if (!IsResource(source) || !resource.open(QIODevice::ReadOnly)) return {};
+    // Not by its name, which would give pixels of a dense one another size.
+    QByteArray bytes = resource.readAll();
     QBuffer buffer(&bytes);
-    QImageReader reader(&buffer);
-    reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.width() > largestSide || size.height() > largestSide) {
-        reader.setScaledSize(size.scaled(largestSide, largestSide, Qt::KeepAspectRatio));
-    }
-    return reader.read();
+    return QImageReader(&buffer).read();
 }
 
 std::string DenseEnough(const std::string& source, int width) {
     std::string dense = source + "@2x";
-    if (!source.starts_with(":") || !QFile::exists(ToQt(dense))) return source;
+    if (!IsResource(source) || !QFile::exists(ToQt(dense))) return source;
     // A picture gets soft late.
     return width > QImageReader(ToQt(source)).size().width() * 1.3 ? dense : source;
 }
 
-QImage FromBitmap(const forms::Bitmap& bitmap) {
-    const auto needed = static_cast<std::size_t>(std::max(0, bitmap.width)) *
-                        static_cast<std::size_t>(std::max(0, bitmap.height));
-    if (needed == 0 || bitmap.pixels.size() < needed) return {};
-    QImage image(bitmap.width, bitmap.height, QImage::Format_ARGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        const auto width = static_cast<std::size_t>(bitmap.width);
-        std::memcpy(image.scanLine(y), bitmap.pixels.data() + static_cast<std::size_t>(y) * width,
-                    width * sizeof(std::uint32_t));
-    }
-    return image;
+QImage OverPixels(std::shared_ptr<const forms::Bitmap> bitmap) {
+    if (!bitmap || bitmap->width <= 0 || bitmap->height <= 0) return {};
+    const auto needed =
+        static_cast<std::size_t>(bitmap->width) * static_cast<std::size_t>(bitmap->height);
+    if (bitmap->pixels.size() < needed) return {};
+    using Owner = std::shared_ptr<const forms::Bitmap>;
+    const auto* pixels = reinterpret_cast<const uchar*>(bitmap->pixels.data());
+    const auto format = bitmap->opaque ? QImage::Format_RGB32 : QImage::Format_ARGB32;
+    const int width = bitmap->width, height = bitmap->height;
+    return {pixels,
+            width,
+            height,
+            width * qsizetype{sizeof(std::uint32_t)},
+            format,
+            [](void* owner) { delete static_cast<Owner*>(owner); },
+            new Owner(std::move(bitmap))};
 }
 
 void PictureCache::Set(const forms::Picture& value) {
@@ -73,33 +59,48 @@ void PictureCache::Set(const forms::Picture& value) {
     scaled = {};
 }
 
-void PictureCache::Load() {
-    loaded = true;
-    if (picture.pixels) {
-        original = FromBitmap(*picture.pixels);
-    } else if (!picture.source.empty()) {
-        original = LoadPicture(picture.source);
-    }
+void PictureCache::Load(int width) {
+    if (std::exchange(loaded, true)) return;
+    original = picture.pixels ? OverPixels(picture.pixels)
+                              : LoadPicture(DenseEnough(picture.source, width));
 }
 
-const QPixmap& PictureCache::Scaled(QSize size, Fit fit) {
-    if (!loaded) {
-        if (!picture.pixels) picture.source = DenseEnough(picture.source, size.width());
-        Load();
-    }
-    if (fit == Fit::contain && !original.isNull()) {
-        size = original.size().scaled(size, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
-    }
-    if (original.isNull() || size.isEmpty()) {
-        scaled = {};
-    } else if (scaled.size() != size) {
-        QImage image = original;
-        if (image.size() != size) {
-            image = image.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-        }
-        scaled = QPixmap::fromImage(std::move(image));
+QImage PictureCache::Fitted(QSize size, Fit fit) const {
+    const QImage from = fit == Fit::cover ? MiddleFor(original, size) : original;
+    if (from.isNull() || size.isEmpty()) return {};
+    if (fit == Fit::contain) size = Contained(from.size(), size);
+    QImage image = picture.pixels
+                       ? Sharp(from, size)
+                       : from.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    // What the screen takes without another look at each pixel.
+    if (image.hasAlphaChannel()) image.convertTo(QImage::Format_ARGB32_Premultiplied);
+    return image;
+}
+
+const QImage& PictureCache::Scaled(QSize size, Fit fit) {
+    Load(size.width());
+    if (scaled.isNull() || scaledFor != size || scaledAs != fit) {
+        scaled = Fitted(size, fit);
+        scaledFor = size;
+        scaledAs = fit;
     }
     return scaled;
+}
+
+void PictureCache::Draw(QPainter& painter, const QRect& place, double ratio, Fit fit,
+                        bool roughly) {
+    const QSize pixels = (QSizeF(place.size()) * ratio).toSize();
+    Load(pixels.width());
+    QImage image = roughly ? original : Scaled(pixels, fit);
+    if (roughly && fit == Fit::cover) image = MiddleFor(original, pixels);
+    if (image.isNull()) return;
+    QRectF to(place);
+    if (fit == Fit::contain) {
+        const QSizeF shown(roughly ? Contained(image.size(), pixels) : image.size());
+        to.setSize(shown / ratio);
+        to.moveLeft(place.left() + (place.width() - to.width()) / 2);
+    }
+    painter.drawImage(to, image, QRectF(image.rect()));
 }
 
 }  // namespace kivu::view

@@ -139,6 +139,22 @@ TEST_F(InterpreterTest, AssigningAFieldOrPropertyShowsInTheNextGet) {
     EXPECT_EQ(Get("Form1.SearchDblsTxt.Text"), "two");
 }
 
+TEST_F(InterpreterTest, PixelsAreThoseOfTheControlsPicture) {
+    auto bitmap = std::make_shared<forms::Bitmap>();
+    bitmap->width = 2;
+    bitmap->height = 1;
+    bitmap->pixels = {0xff0052bc, 0x00ffffff};
+    session.MainWindow().GamePicture.SetPicture({"/a/Game.png", bitmap});
+    EXPECT_EQ(Do("[\"pixel\",\"form1.gamepicture\",0,0]")["value"], "#0052BC");
+    EXPECT_EQ(Do("[\"pixel\",\"Form1.GamePicture\",1,0]")["value"], "");
+    EXPECT_EQ(Do("[\"pixel\",\"Form1.GamePicture\",0,1]")["value"], "");
+    EXPECT_EQ(Do("[\"pixel\",\"Form1.GamePicture\",-1,0]")["value"], "");
+    EXPECT_EQ(Do("[\"pixel\",\"Form1.GamePictureVis\",0,0]")["value"], "");
+    EXPECT_EQ(Get("Form1.GamePicture.Picture"), "/a/Game.png");
+    Refused("[\"pixel\",\"Form1.Nothing\",0,0]");
+    Refused("[\"pixel\",\"Form1.GamePicture\",\"a\",0]");
+}
+
 TEST_F(InterpreterTest, FocusIsTheControlsName) {
     Do("[\"start\"]");
     EXPECT_TRUE(Do("[\"focus\",\"Form1.ExitBtn\"]")["ok"]);

@@ -1,16 +1,25 @@
 #include "driver/session.h"
 
+#include "ui/picture_header.h"
 #include "wiring/routines.h"
 
 namespace kivu::driver {
 
 namespace {
 
+// As large as the file says.
+std::optional<platform::DecodedPicture> PictureOf(std::string_view bytes) {
+    const auto header = ui::ReadPictureHeader(bytes);
+    if (!header) return std::nullopt;
+    return platform::DecodedPicture{header->width, header->height, {}};
+}
+
 testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& options) {
     testing::ScriptedHost host(files);
     host.locale.name = options.language;
     host.clock.Set(options.time);
     host.starter.usesShell = !options.windowsStartFiles;
+    host.pictureDecoder.sizeOf = PictureOf;
     return host;
 }
 

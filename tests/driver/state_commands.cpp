@@ -42,6 +42,21 @@ Json Dump(Session& session, const Json& command) {
     return Value(std::move(controls));
 }
 
+// Of the picture that the control shows, not of the screen.
+Json Pixel(Session& session, const Json& command) {
+    const forms::Control& control =
+        session.OpenWindows().Control(TextFrom(command[1], "the control"));
+    const int x = WholeFrom(command[2], "x"), y = WholeFrom(command[3], "y");
+    const auto& bitmap = control.GetPicture().pixels;
+    const bool inside = bitmap && x >= 0 && y >= 0 && x < bitmap->width && y < bitmap->height;
+    if (!inside) return Value("");
+    const std::uint32_t pixel =
+        bitmap->pixels.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(bitmap->width) +
+                          static_cast<std::size_t>(x));
+    if (pixel >> 24 == 0) return Value("");
+    return Value(ColorText(forms::Rgb(pixel >> 16, pixel >> 8, pixel)));
+}
+
 // From the back to the front.
 Json OpenWindows(Session& session, const Json&) {
     Json windows = Json::array();
@@ -69,6 +84,7 @@ const std::vector<Command>& StateCommands() {
         {"get", 1, 1, false, Get},
         {"set", 2, 2, true, Set},
         {"dump", 1, 1, false, Dump},
+        {"pixel", 3, 3, false, Pixel},
         {"windows", 0, 0, false, OpenWindows},
     };
     return commands;

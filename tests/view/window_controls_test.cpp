@@ -196,7 +196,7 @@ TEST_F(WindowControlsTest, ButtonWithoutTheFocusLeavesItWhereItIs) {
     EXPECT_TRUE(form.path.HasFocus());
 }
 
-TEST_F(WindowControlsTest, PictureKeepsItsProportionsInTheMiddle) {
+TEST_F(WindowControlsTest, PictureKeepsItsProportionsAtTheTop) {
     auto pixels = std::make_shared<forms::Bitmap>();
     pixels->width = 40;
     pixels->height = 20;
@@ -207,10 +207,27 @@ TEST_F(WindowControlsTest, PictureKeepsItsProportionsInTheMiddle) {
     };
     EXPECT_TRUE(isRed(50, 5));
     form.image.SetKeepsProportions(true);
-    EXPECT_FALSE(isRed(50, 5));
-    EXPECT_TRUE(isRed(50, 50));
-    EXPECT_TRUE(isRed(2, 30));
+    EXPECT_TRUE(isRed(50, 5));
+    EXPECT_TRUE(isRed(2, 45));
+    EXPECT_FALSE(isRed(50, 55));
     EXPECT_FALSE(isRed(50, 95));
+}
+
+TEST_F(WindowControlsTest, PictureGetsSmoothWhenItsPlaceRests) {
+    auto stripes = std::make_shared<forms::Bitmap>();
+    stripes->width = 400;
+    stripes->height = 100;
+    stripes->opaque = true;
+    for (int i = 0; i < 40000; ++i)
+        stripes->pixels.push_back(i % 2 == 0 ? 0xff000000 : 0xffffffff);
+    form.image.SetPicture({"", stripes});
+    const auto isSmooth = [&] {
+        const int red = Find("Image")->grab().toImage().pixelColor(50, 20).red();
+        return red > 100 && red < 156;
+    };
+    EXPECT_TRUE(isSmooth());
+    form.image.Move(5100, 300, 1485, 1500);
+    EXPECT_TRUE(QTest::qWaitFor(isSmooth, 20000));
 }
 
 TEST_F(WindowControlsTest, ControlSentToTheBackLiesBehindTheOthers) {
