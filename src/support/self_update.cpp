@@ -31,14 +31,14 @@ std::string UpdaterCommand(std::string_view updater, std::string_view fileToUpda
 
 bool SelfUpdate::UpdateProgram(const std::string& directory, const std::string& programName,
                                bool installed, const platform::Downloader::GoOn& goOn) {
-    if (build.base.empty()) {
-        Tell("Für diese Version ist keine Update-Adresse hinterlegt.",
-             "No update address is set in this version.");
-        return false;
-    }
     if (!build.replacesItself && installed) {
         Tell("Kivu wird mit den Paketen des Systems aktualisiert.",
              "Kivu is updated with the system's packages.");
+        return false;
+    }
+    if (build.base.empty()) {
+        Tell("Für diese Version ist keine Update-Adresse hinterlegt.",
+             "No update address is set in this version.");
         return false;
     }
     if (!build.replacesItself) {

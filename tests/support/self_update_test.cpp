@@ -177,11 +177,14 @@ TEST_F(SelfUpdateTest, AnUpdaterThatCannotBeStartedIsTold) {
 }
 
 TEST_F(SelfUpdateTest, WithoutAnAddressThisIsToldAndNothingElseDone) {
-    build = {};
-    EXPECT_FALSE(UpdateProgram());
-    ExpectBox("No update address is set in this version.", "Online-Update", Icon::Information);
+    for (const bool replacesItself : {false, true}) {
+        build = {};
+        build.replacesItself = replacesItself;
+        EXPECT_FALSE(UpdateProgram());
+        ExpectBox("No update address is set in this version.", "Online-Update", Icon::Information);
+    }
     german = true;
-    EXPECT_FALSE(UpdateProgram(true));
+    EXPECT_FALSE(UpdateProgram());
     ExpectBox("Für diese Version ist keine Update-Adresse hinterlegt.", "Online-Update",
               Icon::Information);
     EXPECT_THAT(files.changes, IsEmpty());
@@ -189,6 +192,10 @@ TEST_F(SelfUpdateTest, WithoutAnAddressThisIsToldAndNothingElseDone) {
 
 TEST_F(SelfUpdateTest, AProgramThatOthersReplaceSaysSo) {
     build.replacesItself = false;
+    build.base.clear();
+    EXPECT_FALSE(UpdateProgram(true));
+    ExpectBox("Kivu is updated with the system's packages.", "Online-Update", Icon::Information);
+    build.base = "https://h";
     EXPECT_FALSE(UpdateProgram(true));
     ExpectBox("Kivu is updated with the system's packages.", "Online-Update", Icon::Information);
     EXPECT_FALSE(UpdateProgram(false));
