@@ -185,7 +185,7 @@ pid_t GuardOf(pid_t parent) {
         std::ifstream status(path + "/stat");
         std::string id, name, state, its;
         if (!(status >> id >> name >> state >> its) || its != std::to_string(parent)) continue;
-        if (name.starts_with("(kivu_display") && state != "Z") return std::atoi(entry->d_name);
+        if (name.starts_with("(kivu") && state != "Z") return std::atoi(entry->d_name);
     }
     return 0;
 }
