@@ -89,6 +89,7 @@ TEST_F(PadGame, EachListStartsItsOwnRow) {
     Do("select", "Form1.WIthoutDoubles", 1);
     Tap(10);
     for (const int focus : {1, 3, 4}) {
+        Do("set", "Form1.SearchDblsTxt.Text", "");
         Do("type", "Form1.SearchDblsTxt", "ant");
         Do("click", focus == 1 ? "Form1.Label1" : focus == 3 ? "Form1.Label3" : "Form1.Label4");
         (focus == 1   ? Form().FavoritenListe
