@@ -15,4 +15,5 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
   exec "$program_dir/Kivu" "$@"
 fi
 scripts/install-packages.sh screen
+cmake --build --preset release --target try_colors
 exec scripts/tour.sh "$program_dir"

@@ -7,8 +7,8 @@
 #
 #     demo/build.sh OUTDIR
 #
-# Needs nasm, and what every Debian has. A profile, an alias list or favourites that
-# are there already are kept: they may be the user's own by now.
+# Needs nasm, and what every Debian has. A profile, an alias list, favourites, a skin or
+# pictures that are there already are kept: they may be the user's own by now.
 
 set -euo pipefail
 
@@ -112,6 +112,16 @@ InstallEmulator() {
     echo "$1: $count images"
 }
 
+# InstallLook NAME SKIN: an emulator's skin and its games' pictures, each if it has none yet.
+InstallLook() {
+    local config=$out/Config/$1 picture
+    if [[ ! -e $config/Skin ]]; then cp -R -- "$here/../assets/skins/$2" "$config/Skin"; fi
+    mkdir -p -- "$config/Pictures"
+    for picture in "$here"/pictures/*.png "$here"/pictures/*.jpg; do
+        if [[ ! -e $config/Pictures/${picture##*/} ]]; then cp -- "$picture" "$config/Pictures/"; fi
+    done
+}
+
 # InstallGlobalFavourites: the favourites of all emulators. Their paths are absolute.
 InstallGlobalFavourites() {
     local target=$out/Config/Favoriten_Global.ini line
@@ -128,4 +138,6 @@ mkdir -p -- "$out/Emulators"
 install -m 755 -- "$here/kivu-dosbox.sh" "$out/Emulators/"
 InstallEmulator DOSBox DOS
 InstallEmulator "Disk Box" Disks
+InstallLook DOSBox Nachtwald
+InstallLook "Disk Box" Papier
 InstallGlobalFavourites

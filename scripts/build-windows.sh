@@ -14,10 +14,11 @@ version="$(sed -n 's/^project(Kivu VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)"
 package="build/windows/Kivu-$version-windows.zip"
 folder=build/windows/package/Kivu
 rm -rf build/windows/package "$package"
-mkdir -p "$folder/Config" "$folder/docs"
+mkdir -p "$folder/Config" "$folder/docs" "$folder/Skins"
 cp "$program" "$folder/"
 cp LICENSE "$folder/LICENSE.txt"
 cp README.md "$folder/README.md"
-cp docs/*.md docs/screenshot.png "$folder/docs/"
+cp docs/*.md docs/*.png "$folder/docs/"
+cp -R assets/skins/* "$folder/Skins/"
 (cd build/windows/package && zip -qr "../$(basename "$package")" Kivu)
 echo "$package"

@@ -2,8 +2,8 @@
 # Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench ...
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev)
-run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0)
+build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev libsdl2-dev)
+run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0 libsdl2-2.0-0)
 screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)

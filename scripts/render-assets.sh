@@ -37,10 +37,10 @@ for drawing in "$assets"/svg/*.svg; do
     rsvg-convert -z 2 -o "$assets/png/$name@2x.png" "$drawing"
 done
 
-# The same pixels with one plain filter for all rows. The background is read at every start, and the
-# filters that rsvg-convert chooses take five times as long to undo.
+# The same pixels with one plain filter for all rows, in greys. The background is read at every start,
+# and the filters that rsvg-convert chooses take five times as long to undo.
 for picture in "$assets"/png/background{,@2x}.png; do
     convert "$picture" -define png:compression-filter=1 -define png:compression-level=9 \
-        -define png:exclude-chunks=all "PNG24:$picture.new"
+        -define png:color-type=4 -define png:bit-depth=8 -define png:exclude-chunks=all "PNG:$picture.new"
     mv -- "$picture.new" "$picture"
 done

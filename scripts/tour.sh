@@ -64,6 +64,17 @@ xdotool key Right
 Shot complete "its games as files"
 [ "$(Difference "$simple" "$last")" -gt 500 ] || Fail "the tab did not turn to the files"
 
+# A game with a picture, which a click shows in its own size and another one brings back.
+xdotool key Home
+Shot picture "a game with a picture"
+picture=$last
+Click 780 300
+Shot zoomed "the picture in its own size"
+[ "$(Difference "$picture" "$last")" -gt 20000 ] || Fail "the picture was not zoomed"
+Click 780 300
+Shot unzoomed "the picture in its place again"
+[ "$(Difference "$picture" "$last")" -lt 5000 ] || Fail "the picture did not come back"
+
 xdotool key Down Down
 Shot chosen "a game chosen"
 xdotool key Return
@@ -112,8 +123,9 @@ OtherEmulator() { grep -q '^LastEmulator=Disk Box' "$program_dir/Config/Kivu.ini
 Until 15 OtherEmulator || Fail "the machine with drives was not chosen"
 # Without favourites it begins with the titles.
 xdotool key Right
-Shot disks "the disks of the other machine"
+Shot disks "the disks of the other machine, in a skin of its own"
 disks=$last
+[ "$(Difference "$favourites" "$disks")" -gt 300000 ] || Fail "the skin did not change"
 Click 100 130
 Shot drives "one disk chosen, the others in their drives"
 [ "$(Difference "$disks" "$last")" -gt 1000 ] || Fail "the drives did not fill"
@@ -141,4 +153,23 @@ Ended() { ! kill -0 "$kivu" 2>/dev/null; }
 Until 10 Ended || Fail "the program did not end"
 kivu=0
 grep -q '^WindowX=' "$program_dir/Config/Kivu.ini" || Fail "the window's place was not kept"
+
+# The colour picker in a window of its own: a slider colours the main window.
+colors=$program_dir/../bin/try_colors
+if [ -x "$colors" ]; then
+  "$colors" "$program_dir" 2>"$work/kivu.log" &
+  kivu=$!
+  FindPicker() {
+    window=$(xdotool search --onlyvisible --pid "$kivu" --name try_colors 2>/dev/null | tail -n 1)
+    [ -n "$window" ]
+  }
+  Until 30 FindPicker || Fail "the colour picker did not come up: $(cat "$work/kivu.log")"
+  Shot picker "the colour picker"
+  picker=$last
+  Click 300 55 5
+  Shot picked "another colour picked"
+  [ "$(Difference "$picker" "$last")" -gt 10000 ] || Fail "the window took no other colour"
+  kill "$kivu"
+  kivu=0
+fi
 echo "The tour is through; the pictures are in ${shots#"$here"/}."

@@ -20,6 +20,8 @@ class DesktopHost {
     ~DesktopHost();
 
     platform::Host Services();
+    // What the start has not waited for may come now.
+    void WindowStands();
     // Listens for later instances from now on; `summon` is called when one asks this to come up,
     // with the file that it was given to start, if any.
     void ListenForInstances(std::function<void(const std::string& file)> summon);

@@ -5,6 +5,7 @@
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
+#include "hosts/late_controllers.h"
 #include "hosts/linux/clock_linux.h"
 #include "hosts/linux/controllers_sdl.h"
 #include "hosts/linux/file_system_linux.h"
@@ -48,7 +49,8 @@ struct DesktopHost::Parts {
     hosts::QtPictureDecoder pictureDecoder;
     hosts::QtBackground background;
     hosts::LinuxSystemColors systemColors;
-    hosts::SdlControllers controllers;
+    hosts::SdlControllers sdl{clock, log};
+    hosts::LateControllers controllers{sdl};
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
 };
@@ -67,6 +69,10 @@ DesktopHost::~DesktopHost() = default;
 platform::Host DesktopHost::Services() {
     return platform::ServicesOf(*parts, hosts::ProgramDirectory(parts->programFile),
                                 hosts::ProgramName(parts->programFile), parts->commandLine);
+}
+
+void DesktopHost::WindowStands() {
+    parts->controllers.Wake();
 }
 
 void DesktopHost::ListenForInstances(std::function<void(const std::string&)> summon) {

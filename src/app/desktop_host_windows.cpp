@@ -3,6 +3,7 @@
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
+#include "hosts/late_controllers.h"
 #include "hosts/qt/background_qt.h"
 #include "hosts/qt/beeper_qt.h"
 #include "hosts/qt/dialogs_qt.h"
@@ -54,7 +55,8 @@ struct DesktopHost::Parts {
     hosts::QtPictureDecoder pictureDecoder;
     hosts::QtBackground background;
     hosts::WindowsSystemColors systemColors;
-    hosts::DirectInputControllers controllers;
+    hosts::DirectInputControllers directInput{clock, log};
+    hosts::LateControllers controllers{directInput};
     std::string commandLine;
 };
 
@@ -71,6 +73,10 @@ DesktopHost::~DesktopHost() = default;
 platform::Host DesktopHost::Services() {
     return platform::ServicesOf(*parts, hosts::ProgramDirectory(parts->programFile),
                                 hosts::ProgramName(parts->programFile), parts->commandLine);
+}
+
+void DesktopHost::WindowStands() {
+    parts->controllers.Wake();
 }
 
 // The toolkit's own event loop serves the messages of later instances.

@@ -9,6 +9,7 @@
 #include <string>
 
 #include "app/desktop_host.h"
+#include "hosts/qt/active_window_qt.h"
 #include "hosts/qt/compositing_qt.h"
 #include "view/cover_picture.h"
 #include "view/fit_into.h"
@@ -56,6 +57,7 @@ int main(int argc, char** argv) {
     const kivu::view::TextMeasure measure;
     kivu::view::ScreenWindows windows;
     windows.SetCompositing(kivu::hosts::IsComposited);
+    windows.SetElsewhere(kivu::hosts::IsAnotherProgramActive);
     kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce, &windows);
     // A size that the user has left it in comes after this, whatever it is.
     if (const QScreen* screen = QApplication::primaryScreen())
@@ -75,7 +77,9 @@ int main(int argc, char** argv) {
         if (!file.empty()) launcher.StartHandedFile(file);
     });
     // Behind the first frame.
-    QTimer::singleShot(0, &view.Window(),
-                       [&view] { view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon"))); });
+    QTimer::singleShot(0, &view.Window(), [&] {
+        view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon")));
+        host.WindowStands();
+    });
     return QApplication::exec();
 }

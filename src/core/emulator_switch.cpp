@@ -15,7 +15,8 @@ namespace keys = profile::keys;
 static_assert(keys::TitleString.missing == defaultTitle);
 
 void EmulatorSwitch::SelectEmulator(bool AddToGlobal) {
-    if (form.Busy) return;
+    // A step of the controller only looks at the emulator.
+    if (form.Busy || form.EmuListBrowsing) return;
     const Raised working(form.Busy);
     const profile::Ini::GatheredWriteBacks gathered(ini);
     form.Label4.SetCaption(" Suchergebnisse (0) ");
@@ -112,8 +113,7 @@ void EmulatorSwitch::InitEmulatorView() {
     if (ini.Read(keys::ResetScreenResolution, ProfilesOf(form)) > 0) {
         hooks.SaveAndSetDisplayMode();
     }
-    form.GamePictureVis.SetPicture({});
-    form.GamePicture.SetPicture({});
+    hooks.DropPreview();
     ports.layout->SetVorschau();
     form.CurrentEmuIndex = form.EmuListbox.ListIndex();
     form.LoadBtn.SetEnabled(form.CurrentEmuIndex >= 0);

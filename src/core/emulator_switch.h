@@ -22,6 +22,7 @@ class ShutDown;
 class EmulatorSwitch : public EmulatorSwitching {
  public:
     struct Hooks {
+        Hook<void()> DropPreview{"EmulatorSwitch.DropPreview"};
         Hook<void()> LoadSkinPictures{"EmulatorSwitch.LoadSkinPictures"};
         Hook<void()> LoadFavoriten{"EmulatorSwitch.LoadFavoriten"};
         Hook<void()> SaveAndSetDisplayMode{"EmulatorSwitch.SaveAndSetDisplayMode"};

@@ -12,6 +12,7 @@ FileScanControls::FileScanControls(forms::Container* parent)
       TmpDirList(&frame, "TmpDirList", forms::ListControl::Order::asAdded),
       MyTmpFile(&frame, "MyTmpFile"),
       MyTmpDir(&frame, "MyTmpDir") {
+    frame.SetIsUserControl(true);
     frame.Move(0, 0, 3000, 2000);
     ResultList.SetVisible(false);
     TmpDirList.SetVisible(false);
@@ -61,6 +62,7 @@ void Form1::DesignWindow() {
     SetTabOrder(forms::TabOrder::asCreated);
     EmuActiveTimer.SetRestsBehindQuestions(true);
     JoystickTimer.SetRestsBehindQuestions(true);
+    ExitButtonTimer.SetRestsBehindQuestions(true);
     ListLeft = 300;
 
     MyCaptionLabel.Move(ListLeft + 60, 110, 9000, 330);
@@ -125,6 +127,7 @@ void Form1::DesignLists() {
 void Form1::DesignFrame() {
     VorschauBild.SetVisible(false);
     GamePicture.SetVisible(false);
+    GamePictureVis.SetKeepsProportions(true);
     SettingsFrame.Move(9433, 6000, 4800, 4000);
     Current_ProgramNameFull.Move(100, 200, 4600, 1000);
     Current_ProgramNameFull.SetFont({"", 15, false});
@@ -163,6 +166,7 @@ void Form1::DesignFrame() {
     JoystickIcon.SetPicture({":/joystick", nullptr});
     JoystickIcon.SetToolTipText("Joysticksteuerung aktiv");
     JoystickIcon.SetVisible(false);
+    AlwaysOnTop1.SetIsUserControl(true);
     AlwaysOnTop1.Move(0, 0, 420, 420);
     AOT_Enabled.SetPicture({":/pin-enabled", nullptr});
     AOT_Disabled.SetPicture({":/pin-disabled", nullptr});
@@ -174,8 +178,6 @@ void Form1::DesignFrame() {
     }
     Frame1.SetCaption("Invisible Controls");
     Frame1.SetVisible(false);
-    OrgBackGround.SetPicture({":/background", nullptr});
-    OrgTopLeft.SetPicture({":/top-right", nullptr});
 }
 
 void Form1::DesignDrives() {

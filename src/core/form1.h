@@ -133,9 +133,17 @@ struct Form1 : forms::Form,
     forms::Timer Uhrzeit{this, "Uhrzeit", 1000, true};
     forms::Timer EmuActiveTimer{this, "EmuActiveTimer", 1000, false};
     forms::Timer JoystickTimer{this, "JoystickTimer", 140, false};
+    // The controller's, too: in a game that its exit button ends, and while a box is open.
+    forms::Timer ExitButtonTimer{this, "ExitButtonTimer", 250, false};
+    forms::Timer BoxButtonTimer{this, "BoxButtonTimer", 140, false};
+    // How long an old picture stands for one that is on its way.
+    forms::Timer PreviewTimer{this, "PreviewTimer", 150, false};
 
-    // A game has been started, or an emulator alone is seen running.
-    bool EmulatorRuns() const { return GameIsRunning || AppRunningPicture.Visible(); }
+    // A game has been started and is watched, or an emulator alone is seen running. A start by the
+    // controller that has led to no game leaves GameIsRunning raised.
+    bool EmulatorRuns() const {
+        return (GameIsRunning && EmuActiveTimer.Enabled()) || AppRunningPicture.Visible();
+    }
     // The choice of emulators is in front, with no search and no favourites over it.
     bool ChoiceInFront() const;
     // The search box with what belongs to it.

@@ -113,6 +113,8 @@ class RunningEmulator {
     virtual void WatchOnce() = 0;
     // The user ends it.
     virtual void AppRunningPicture_Click() = 0;
+    // Ends its process, if there is one, and nothing else: the watch does the rest.
+    virtual void KillRunning() = 0;
 };
 
 // The five drives and the boxes that show them.

@@ -2,16 +2,15 @@
 
 #include "core/emulator_paths.h"
 #include "core/form1.h"
+#include "core/profile_paths.h"
 #include "text/paths.h"
-#include "text/stored_paths.h"
 
 namespace kivu::core {
 
 namespace keys = profile::keys;
 
 void SettingsLoader::LoadSettings() {
-    for (std::size_t action = 0; action < keys::Buttons.size(); ++action)
-        form.JoystickButtons[action] = ini.Read(keys::Buttons[action], ProfilesOf(form));
+    LoadButtons();
     LoadPaths();
     LoadDrivesPanel();
     form.TmpBatName = form.StartPfad + form.EXE + "_tmp.bat";
@@ -22,19 +21,17 @@ void SettingsLoader::LoadSettings() {
     form.SettingsSubPicture.SetVisible(smart == 1);
 }
 
-std::string SettingsLoader::AbsolutePath(const std::string& stored) const {
-    return text::ProfilePath(form.BaseDirectory(), stored, [this](const std::string& path) {
-        return files.FileExists(path) || files.IsDirectory(path);
-    });
+void SettingsLoader::LoadButtons() {
+    for (std::size_t action = 0; action < keys::Buttons.size(); ++action)
+        form.JoystickButtons[action] = ini.Read(keys::Buttons[action], ProfilesOf(form));
 }
 
-// A program named without a directory may be anywhere in the search path of a POSIX host, where the
-// start looks for it.
+std::string SettingsLoader::AbsolutePath(const std::string& stored) const {
+    return PathOfProfile(form, files, stored);
+}
+
 std::string SettingsLoader::EmulatorPath(const std::string& stored) const {
-    const std::string path = AbsolutePath(stored);
-    const bool bareName = !stored.empty() && stored.find_first_of("/\\") == std::string::npos;
-    const bool posix = files.Separator() == '/';
-    return bareName && posix && !files.FileExists(path) ? stored : path;
+    return ProgramOfProfile(form, files, stored);
 }
 
 void SettingsLoader::LoadPaths() {
@@ -64,8 +61,7 @@ void SettingsLoader::LoadDrivesPanel() {
 void SettingsLoader::LoadJoystick() {
     const auto wanted = [&] { return ini.Read(keys::UseJoystick, ProfilesOf(form)); };
     hooks.JoystickEnable(wanted() > 0);
-    // Until there is a device layer, nobody can say that no device was found.
-    if (!hooks.JoystickCount || wanted() != 1 || hooks.JoystickCount() > 0) return;
+    if (wanted() != 1 || hooks.JoystickCount() > 0) return;
     // The box may stand for long.
     ini.StoreWriteBacks();
     const std::string question = form.Say(
@@ -77,7 +73,7 @@ void SettingsLoader::LoadJoystick() {
         return;
     }
     ini.Write(keys::UseJoystick, ProfilesOf(form), "0");
-    hooks.JoystickEnable(true);
+    hooks.JoystickEnable(false);
 }
 
 }  // namespace kivu::core

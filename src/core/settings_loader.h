@@ -30,6 +30,8 @@ class SettingsLoader {
         : form(form), ini(ini), files(files), dialogs(dialogs) {}
 
     void LoadSettings();
+    // Of it, which button of the controller does what.
+    void LoadButtons();
 
     Hooks hooks;
     Ports ports;

@@ -7,11 +7,14 @@
 namespace kivu::core {
 
 inline constexpr const char* defaultTitle = "Kivu 1.4b";
+// The project has no page of its own yet.
+inline constexpr const char* projectPage = "";
 
 // Colours and titles of the main window.
 struct WindowLooks {
-    forms::Color FavouritesColor = 0;    // back colour of FavoritenListe
-    forms::Color EmulatorListColor = 0;  // back colour of EmulatorLongListbox
+    // Back colours of FavoritenListe and of EmulatorLongListbox; no part of a skin.
+    forms::Color FavouritesColor = forms::Rgb(0xe0, 0xff, 0xf1);
+    forms::Color EmulatorListColor = forms::Rgb(0xf6, 0xf7, 0xd2);
     // The drop-down's own colours while the choice is open.
     forms::Color EmuListboxBackColor = 0;
     forms::Color EmuListboxForeColor = 0;

@@ -172,9 +172,13 @@ Font Label::ShownFont() const {
 }
 
 int Label::ShownLines(int width) const {
+    return LinesOf(shownText.empty() ? caption : shownText, width);
+}
+
+int Label::LinesOf(std::string_view text, int width) const {
     int lines = 0;
     const forms::TextMeasure* measure = GetToolkit().measure;
-    for (const std::string_view line : CaptionLines(shownText.empty() ? caption : shownText)) {
+    for (const std::string_view line : CaptionLines(text)) {
         lines += measure ? measure->LinesWithin(ShownFont(), line, width)
                          : LinesWithin(GetToolkit(), ShownFont(), line, width);
     }
@@ -270,6 +274,12 @@ void Slider::SetValue(int newValue) {
 void Image::SetKeepsProportions(bool value) {
     if (keepsProportions == value) return;
     keepsProportions = value;
+    Notify(Aspect::picture);
+}
+
+void Image::SetMostShownHeight(int twips) {
+    if (mostShownHeight == twips) return;
+    mostShownHeight = twips;
     Notify(Aspect::picture);
 }
 

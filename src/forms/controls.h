@@ -85,6 +85,8 @@ class Label : public Control {
     // Lines that a view makes of what it shows in so many twips, and the height of one.
     int ShownLines(int width) const;
     int ShownLineHeight() const;
+    // The same for another text.
+    int LinesOf(std::string_view text, int width) const;
 
     std::function<void()> onChange;
 
@@ -193,9 +195,14 @@ class Image : public Control {
     // and in the middle of its width.
     bool KeepsProportions() const { return keepsProportions; }
     void SetKeepsProportions(bool value);
+    // Twips from the top edge that a view draws the picture in, where something lies on the rest;
+    // below 0: all of the height.
+    int MostShownHeight() const { return mostShownHeight; }
+    void SetMostShownHeight(int twips);
 
  private:
     bool keepsProportions = false;
+    int mostShownHeight = -1;
 };
 
 class Frame : public Container {

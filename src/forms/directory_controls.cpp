@@ -111,8 +111,14 @@ void DirListBox::SetPath(const std::string& given) {
     if (base.back() != separator && base.back() != '/') base += separator;
     const bool changed = path != value;
     path = value;
+    nameBegins = base.size();
     ShowRows(base, directories);
     if (changed) Run(onChange);
+}
+
+std::string_view DirListBox::Name(int row) const {
+    const std::string_view full = List(row);
+    return full.substr(std::min(full.size(), nameBegins));
 }
 
 void DirListBox::ForgetPath() {

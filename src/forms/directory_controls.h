@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -59,6 +60,8 @@ class DirListBox : public DirectoryControl {
     using DirectoryControl::DirectoryControl;
     Kind GetKind() const override { return Kind::dirListBox; }
     const std::string& Path() const { return path; }
+    // A row as it is shown: the directory's own name.
+    std::string_view Name(int row) const;
     // A different path that can be entered runs the change handler. It is kept without a closing
     // separator, a root's own one excepted.
     void SetPath(const std::string& value);
@@ -67,6 +70,7 @@ class DirListBox : public DirectoryControl {
 
  private:
     std::string path;
+    std::size_t nameBegins = 0;  // in each row, behind the path and its separator
 };
 
 // The files of one directory that match one pattern, by their names.

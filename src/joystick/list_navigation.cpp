@@ -40,7 +40,7 @@ void ListNavigation::JoystickDirection(int KeyValue) {
 void ListNavigation::MoveRow(forms::ListBox& list, int step) {
     const int row = list.ListIndex();
     if (step < 0 && row < 1) return;
-    list.SetListIndex(row + step);
+    rows.SetRow(list, row + step);
 }
 
 void ListNavigation::Turn(int focus, bool right) {

@@ -2,6 +2,7 @@
 
 #include "core/ports.h"
 #include "forms/list_control.h"
+#include "joystick/row_steps.h"
 
 namespace kivu::core {
 struct Form1;
@@ -14,8 +15,12 @@ namespace kivu::joystick {
 class ListNavigation {
  public:
     ListNavigation(core::Form1& form, core::ListFront& front, core::EmulatorChoice& choice,
-                   core::GlobalFavourites& globalFavourites)
-        : form(form), front(front), choice(choice), globalFavourites(globalFavourites) {}
+                   core::GlobalFavourites& globalFavourites, const core::Drives& drives)
+        : form(form),
+          front(front),
+          choice(choice),
+          globalFavourites(globalFavourites),
+          rows(form, drives) {}
 
     // 37 left, 38 up, 39 right, 40 down.
     void JoystickDirection(int KeyValue);
@@ -30,6 +35,7 @@ class ListNavigation {
     core::ListFront& front;
     core::EmulatorChoice& choice;
     core::GlobalFavourites& globalFavourites;
+    RowSteps rows;
 };
 
 }  // namespace kivu::joystick

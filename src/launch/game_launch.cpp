@@ -290,12 +290,14 @@ void GameLaunch::StartEmulatorProgram(Run& run) {
 void GameLaunch::FinishStart(const std::string& notedTitle) {
     const int exitButton = ini.Read(keys::UseJoystickExitbuttonInLaunch, core::ProfilesOf(form));
     const int joystick = ini.Read(keys::UseJoystickInLaunch, core::ProfilesOf(form));
-    if (exitButton < 1 || joystick < 1) hooks.JoystickEnable(false);
+    const bool endsByButton = exitButton >= 1 && joystick >= 1;
+    if (!endsByButton) hooks.JoystickEnable(false);
     if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
     form.StartGraceTicks = 3;
     form.EmuListbox.SetVisible(false);
     form.EmuActiveTimer.SetEnabled(true);
     form.GameIsRunning = true;
+    if (endsByButton) hooks.WatchExitButton();
     if (ini.Read(keys::RunVBS_Script, core::ProfilesOf(form)) > 0) {
         form.LoadingBtn.SetCaption("Gamestart..");
         WAIT(1, services.clock, pacer);

@@ -36,6 +36,7 @@ class GameLaunch : public core::Launching {
         core::Hook<void(const std::string&)> MountGameImage{"GameLaunch.MountGameImage"};
         core::Hook<void()> RunStartScript{"GameLaunch.RunStartScript"};
         core::Hook<void(bool)> JoystickEnable{"GameLaunch.JoystickEnable"};
+        core::Hook<void()> WatchExitButton{"GameLaunch.WatchExitButton"};
     };
 
     struct Services {

@@ -81,6 +81,7 @@ void RunningWatch::EndOfGame() {
     busy.HideAll(true);
     routines.front.RefreshList();
     if (ini.Read(keys::UseJoystick, core::ProfilesOf(form)) >= 1) hooks.JoystickEnable(true);
+    hooks.HoldButtonsBack();
     // In place of what ran, and of the count of joysticks.
     form.MyCaptionLabel.SetCaption(form.Caption());
     routines.alwaysOnTop.SetToTop();
@@ -112,6 +113,12 @@ void RunningWatch::EndEmulator() {
     form.AppRunningPicture.SetEnabled(true);
     form.JoystickFocus = form.FavoritenListe.ListCount() > 0 ? 1 : 2;
     routines.front.RefreshList();
+}
+
+void RunningWatch::KillRunning() {
+    const std::string name = form.CurrentRunninApplication;
+    const auto id = processes.FindProcessId(name, Reach::andLaunch);
+    if (id != 0) Kill(id, name);
 }
 
 void RunningWatch::Kill(std::int32_t id, const std::string& name) {

@@ -26,6 +26,8 @@ class RunningWatch : public core::RunningEmulator {
     struct Hooks {
         core::Hook<void(bool)> JoystickEnable{"RunningWatch.JoystickEnable"};
         core::Hook<void()> RestoreDisplayMode{"RunningWatch.RestoreDisplayMode"};
+        // Buttons of the controller that are still held from the game.
+        core::Hook<void()> HoldButtonsBack{"RunningWatch.HoldButtonsBack"};
     };
     struct Routines {
         core::EmulatorChoice& choice;
@@ -54,6 +56,7 @@ class RunningWatch : public core::RunningEmulator {
     void LoadingBtn_Change();
     void HideListsOfRunning() override;
     void WatchOnce() override;
+    void KillRunning() override;
 
     Hooks hooks;
 

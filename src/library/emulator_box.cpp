@@ -49,6 +49,8 @@ void EmulatorBox::Close() {
     form.EmuListLocked = false;
     RestoreColours();
     choiceOpen = false;
+    // Whatever list comes to the front next: a step must not lead back into the choice.
+    if (form.JoystickFocus == 5) form.JoystickFocus = form.FavoritenListe.ListCount() > 0 ? 1 : 2;
     if (form.EmuListbox.ListIndex() >= 0) {
         form.EmuListbox.SetText(form.EmuListbox.SelectedText());
     } else {
@@ -159,6 +161,7 @@ void EmulatorBox::EmuListbox_GotFocus() {
     if (takingFocus || !form.EmuListbox.Visible() || Rests()) return;
     const core::Raised once(takingFocus);
     form.SetMode(Front::choice);
+    form.JoystickFocus = 5;
     busy.HideAll(false);
     ShowEmulatorBox(true);
 }

@@ -82,6 +82,8 @@ void AllEmulatorsSearch::SearchForBox() {
 void AllEmulatorsSearch::ArrangeForSearch() {
     // The row that was chosen there so far has not been loaded.
     if (form.EmulatorLongListbox.Visible()) choice.CloseChoice();
+    // Another list's picture may have been on view since.
+    shownEmulator = -1;
     busy.HideAll(false);
     // It tells what is searched for, and takes the next search.
     form.ShowSearchBox(true);

@@ -17,6 +17,7 @@ void ListEvents::RefreshList() {
     ports.layout->ArrangeLists();
     routines.games.UpdateListCaptions();
     marked.ShowName();
+    hooks.RefreshPreview();
     hooks.RefreshHints();
 }
 

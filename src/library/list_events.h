@@ -21,6 +21,7 @@ class ListEvents : public core::ListFront {
  public:
     struct Hooks {
         core::Hook<void(int)> ShowGamePreview{"ListEvents.ShowGamePreview"};
+        core::Hook<void()> RefreshPreview{"ListEvents.RefreshPreview"};
         core::Hook<void()> RefreshHints{"ListEvents.RefreshHints"};
     };
     struct Ports {

@@ -14,21 +14,9 @@ bool ScanSource::Read(const std::string& path, std::vector<std::string_view>* di
         if (scanning) LeaveOutLinksInside(path, *listing);
         last = *std::move(listing);
     }
-    if (directories) Show(last, true, directories);
-    if (names) {
-        Show(last, false, names);
-        namesAreLeft = false;
-    }
+    Show(last, directories, names);
+    if (names) namesAreLeft = false;
     return true;
-}
-
-void ScanSource::Show(const Listing& listing, bool directories,
-                      std::vector<std::string_view>* names) {
-    names->clear();
-    names->reserve(listing.items.size());
-    for (const Listing::Item& item : listing.items) {
-        if (item.isDirectory == directories) names->push_back(listing.Name(item));
-    }
 }
 
 // Reads a directory that the scan has not seen yet.
@@ -54,14 +42,6 @@ void ScanSource::LeaveOutLinksInside(const std::string& path, Listing& listing) 
         const std::string target = files.ResolvedPath(full);
         return target == rootPath || target.starts_with(rootPath + files.Separator());
     });
-}
-
-bool ScanSource::Matches(const std::string& text, std::string_view name) {
-    if (text != patternText) {
-        patternText = text;
-        pattern = text::Pattern(text);
-    }
-    return pattern.Matches(name);
 }
 
 void ScanSource::BeginScan(const std::string& root) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "text/first_match.h"
+#include "text/text.h"
 
 namespace kivu::platform {
 
@@ -76,8 +77,8 @@ class FileSystem {
     virtual bool ServesThreads() const { return false; }
 
     // The file of a directory whose name begins with `prefix` and ends in `ending`, both without
-    // regard to case, that is shown first; without the directory. Pictures come first, then a name
-    // that is `preferredStem` but for its ending, then the order of names. Empty: there is none.
+    // regard to case, that is shown first, see text::ComesFirst; without the directory. Every
+    // character is a plain one. Empty: there is none.
     virtual std::optional<std::string> FirstMatch(const std::string& directory,
                                                   std::string_view prefix, std::string_view ending,
                                                   std::string_view preferredStem) const {
@@ -86,9 +87,27 @@ class FileSystem {
         if (!entries) return first;
         for (const Entry& entry : *entries) {
             if (entry.isDirectory || !text::MatchesAround(entry.name, prefix, ending)) continue;
-            if (!first || text::ComesFirst(entry.name, *first, preferredStem)) first = entry.name;
+            if (!first || text::ComesFirst(entry.name, *first, prefix, preferredStem))
+                first = entry.name;
         }
         return first;
+    }
+
+    // The directory of this name in another one, as it is spelled there: exactly so, or else
+    // without regard to case. Empty: there is none.
+    virtual std::optional<std::string> FindDirectory(const std::string& parent,
+                                                     std::string_view name) const {
+        const bool closed = parent.ends_with('/') || parent.ends_with(Separator());
+        const std::string exact = (closed ? parent : parent + Separator()) + std::string(name);
+        if (IsDirectory(exact)) return std::string(name);
+        std::optional<std::string> found;
+        const auto entries = ListDirectory(parent);
+        if (!entries) return found;
+        for (const Entry& entry : *entries) {
+            if (!entry.isDirectory || text::ToLower(entry.name) != text::ToLower(name)) continue;
+            if (!found || entry.name < *found) found = entry.name;
+        }
+        return found;
     }
 
     // A regular file of exactly this name. Empty or quoted text and directories are no files; "*"

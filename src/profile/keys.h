@@ -87,6 +87,7 @@ struct PresentText : Entry {
 };
 
 inline constexpr std::string_view settingsWindow = "to come: the settings window";
+inline constexpr std::string_view settingsStore = "settings/settings_store";
 
 // --- The program's profile.
 
@@ -102,14 +103,14 @@ inline constexpr Number ResetScreenResolution{program, "ResetScreenResolution", 
 // Whoever reads the next two first fixes them for a fresh profile: at the start the loader does.
 inline constexpr Number UseJoystick{program, "UseJoystick", "1", "core/settings_loader"};
 inline constexpr Number UseJoystickInLaunch{UseJoystick, "0", "launch/game_launch"};
-inline constexpr Number UseJoystickInSettings{UseJoystick, "0", settingsWindow};
+inline constexpr Number UseJoystickInSettings{UseJoystick, "0", settingsStore};
 inline constexpr Number UseJoystickExitbutton{program, "UseJoystickExitbutton", "0",
                                               "core/settings_loader"};
 inline constexpr Number UseJoystickExitbuttonInLaunch{UseJoystickExitbutton, "1",
                                                       "launch/game_launch"};
 // A row of FontSizeCombo, whose row 0 is size 8.
 inline constexpr Number Fontsize{program, "Fontsize", "16", "core/settings_loader"};
-inline constexpr Text DeamonToolPath{program, "DeamonToolPath", "", settingsWindow};
+inline constexpr Text DeamonToolPath{program, "DeamonToolPath", "", settingsStore};
 // An emulator's own, where the program's has none.
 inline constexpr Text DeamonToolPathOfEmulator{emulator, DeamonToolPath, "to come: image mounting"};
 // The device's button for each action.
@@ -152,11 +153,11 @@ inline constexpr Number SmartRomSelectionAsked{SmartRomSelection, "0", "launch/d
                                                WriteBack::off};
 // As with the joystick, the first of the two fixes it.
 inline constexpr Text Dir_Parameter{emulator, "Dir_Parameter", "*.*", "library/game_lists"};
-inline constexpr Text Dir_ParameterInSettings{Dir_Parameter, "*.adf", settingsWindow};
+inline constexpr Text Dir_ParameterInSettings{Dir_Parameter, "*.adf", settingsStore};
 inline constexpr Wide RomCount{emulator, "RomCount", "-1", "library/emulator_box", WriteBack::off};
 // Seconds.
 inline constexpr Number SplashTimer{emulator, "SplashTimer", "6", "launch/game_launch"};
-inline constexpr Number SplashTimerInSettings{SplashTimer, "4", settingsWindow};
+inline constexpr Number SplashTimerInSettings{SplashTimer, "4", settingsStore};
 inline constexpr Number UseQuote{emulator, "UseQuote", "0", "launch/game_launch"};
 inline constexpr Text WinUAE_ConfigParameter{emulator, "WinUAE_ConfigParameter", "",
                                              "launch/game_launch"};
@@ -175,8 +176,8 @@ inline constexpr Number RunVBS_Script{emulator, "RunVBS_Script", "0", "launch/ga
 // --- A skin's profile.
 
 // "#RRGGBB".
-inline constexpr Text BackColor{skin, "BackColor", "#0052bc", "to come: skins"};
-inline constexpr Text FontColor{skin, "FontColor", "#FFFFFF", "to come: skins"};
+inline constexpr Text BackColor{skin, "BackColor", "#0052bc", "ui/window_colors"};
+inline constexpr Text FontColor{skin, "FontColor", "#FFFFFF", "ui/window_colors"};
 // Not stored: a colour that is only tried must not become the skin's.
 inline constexpr PresentText BackColorInSettings{BackColor, settingsWindow, WriteBack::off};
 inline constexpr PresentText FontColorInSettings{FontColor, settingsWindow, WriteBack::off};

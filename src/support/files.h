@@ -42,6 +42,14 @@ class Files {
     std::string FileGetLongFileName(const std::string& FullPath) const;
     // Programs and batch files run by themselves, any other file by the program that it belongs to.
     bool FileRun(const std::string& FullPath);
+    // Writes the full path of each file below `Source` into a text file, a line each: files by
+    // their order, then the directories, each of which is entered once, whatever links lead to it.
+    // `SearchExtension` may have its point or not; empty, or "*": all files. The text file itself
+    // is left out. False: `Source` cannot be read, which leaves the text file as it was, or the
+    // text file cannot be written.
+    bool ReadDirctoryStructureToFile(const std::string& Source,
+                                     const std::string& TargetTextFileName,
+                                     const std::string& SearchExtension, bool AppendTarget);
 
  private:
     std::string FolderValue(const std::string& path) const;

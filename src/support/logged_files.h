@@ -27,6 +27,10 @@ class LoggedFiles : public platform::FileSystem {
                                           std::string_view preferredStem) const override {
         return files.FirstMatch(directory, prefix, ending, preferredStem);
     }
+    std::optional<std::string> FindDirectory(const std::string& parent,
+                                             std::string_view name) const override {
+        return files.FindDirectory(parent, name);
+    }
     bool FileExists(const std::string& path) const override { return files.FileExists(path); }
     bool IsDirectory(const std::string& path) const override { return files.IsDirectory(path); }
     std::optional<Identity> IdentityOf(const std::string& path) const override {

@@ -23,9 +23,14 @@ std::string_view StemOf(std::string_view name) {
     return point == std::string_view::npos || point == 0 ? name : name.substr(0, point);
 }
 
-bool ComesFirst(std::string_view a, std::string_view b, std::string_view preferredStem) {
+bool ComesFirst(std::string_view a, std::string_view b, std::string_view prefix,
+                std::string_view preferredStem) {
     const auto rank = [&](std::string_view name) {
-        return std::pair(!HasPictureEnding(name), !EqualsNoCase(StemOf(name), preferredStem));
+        const std::string_view stem = StemOf(name);
+        const int distance = EqualsNoCase(stem, prefix)          ? 0
+                             : EqualsNoCase(stem, preferredStem) ? 1
+                                                                 : 2;
+        return std::pair(!HasPictureEnding(name), distance);
     };
     const auto rankA = rank(a);
     const auto rankB = rank(b);

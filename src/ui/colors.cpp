@@ -28,10 +28,13 @@ forms::Color HexToLong(std::string_view text) {
     return forms::Rgb(Pair(digits, 0), Pair(digits, 2), Pair(digits, 4));
 }
 
-std::string LongToHex(forms::Color color,
-                      const std::function<forms::Color(forms::Color)>& systemColor) {
+forms::Color RealColor(forms::Color color, const platform::SystemColors& system) {
     constexpr forms::Color systemMark = 0x80000000u;
-    if ((color & systemMark) != 0 && systemColor) color = systemColor(color);
+    if ((color & systemMark) == 0) return color & 0xffffffu;
+    return system.SystemColor(static_cast<int>(color & ~systemMark)) & 0xffffffu;
+}
+
+std::string LongToHex(forms::Color color) {
     static constexpr char digits[] = "0123456789ABCDEF";
     std::string text = "#";
     for (int shift = 0; shift <= 16; shift += 8) {
@@ -39,6 +42,10 @@ std::string LongToHex(forms::Color color,
         text += digits[color >> shift & 0xf];
     }
     return text;
+}
+
+std::string LongToHex(forms::Color color, const platform::SystemColors& system) {
+    return LongToHex(RealColor(color, system));
 }
 
 }  // namespace kivu::ui

@@ -8,6 +8,8 @@
 #include "support/window_handling.h"
 #include "text/text.h"
 #include "ui/layout_numbers.h"
+#include "ui/move_what_fits.h"
+#include "ui/window_colors.h"
 
 namespace kivu::ui {
 
@@ -53,7 +55,7 @@ void Layout::PlaceLists() {
     for (forms::ListBox* list :
          {&form.FavoritenListe, &form.EmulatorLongListbox, &form.WIthoutDoubles, &form.UAE_Short,
           &form.SuchErgList, &form.UAE_FULL, &form.FavoritenListeGlobal, &form.GlobalSearchList}) {
-        list->Move(form.ListLeft, top, form.ListWidth, form.ListHeight);
+        MoveWhatFits(*list, form.ListLeft, top, form.ListWidth, form.ListHeight);
     }
 }
 
@@ -72,21 +74,16 @@ void Layout::PlaceBusySigns() {
         left, box.Top(), std::max(0, form.TopRightPic.Left() - left - tabGap), box.Height());
 }
 
-void Layout::SetVorschau() {
-    const int width = form.Col2Width + form.Col3Width + 300;
-    const int height = std::min(width, form.ListHeight - 400);
-    form.VorschauBild.Move(form.Col2Left, form.FavoritenListe.Top(), width, height);
-}
-
 void Layout::ArrangeLists() {
     form.GlobalSearchList.SetVisible(false);
     form.SearchAllBtn.SetBackColor(forms::Rgb(255, 255, 255));
     if (form.WindowReady) {
         SetVorschau();
-        form.GamePictureVis.Move(0, 0, form.VorschauBild.Width(), form.VorschauBild.Height());
+        VorschauBild_Resize();
     }
-    form.EmulatorLongListbox.Move(form.ListLeft, form.FavoritenListe.Top(), form.ListWidth,
-                                  form.ListHeight);
+    MoveWhatFits(form.EmulatorLongListbox, form.ListLeft, form.FavoritenListe.Top(), form.ListWidth,
+                 form.ListHeight);
+    ApplyListColors(form);
     ShowListOfMode();
     if (form.FavoritenListeGlobal.Visible()) form.FavoritenListeGlobal.BringToFront();
     // There is nothing to remove where no favourite is on show.
@@ -109,7 +106,6 @@ void Layout::ShowListOfMode() {
     // While an emulator runs the window shows that, and no list.
     if (form.AppRunningPicture.Visible()) return;
     if (emulators) {
-        form.EmulatorLongListbox.SetBackColor(form.EmulatorListColor);
         form.EmulatorLongListbox.SetFont(form.Label4.GetFont());
         form.EmulatorLongListbox.SetVisible(true);
         form.EmulatorLongListbox.BringToFront();

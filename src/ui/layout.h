@@ -1,8 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
+#include <string_view>
 
 #include "core/ports.h"
+#include "ui/column_grid.h"
+#include "ui/layout_numbers.h"
 
 namespace kivu::core {
 struct Form1;
@@ -21,7 +25,11 @@ class Layout : public core::WindowLayout {
     void ArrangeTabs() override;
     // The tabs in their row; a new count makes one wider.
     void PlaceTabs();
+    // Puts a zoomed picture back.
     void SetVorschau() override;
+    void VorschauBild_Resize();
+    // The picture at its natural size over the lists, as far as the window has room for it.
+    void ZoomPicture();
 
     // A click folds the drives panel and unfolds it.
     void DrivesResizeLabel_Click();
@@ -37,14 +45,17 @@ class Layout : public core::WindowLayout {
  private:
     void PlaceLists();
     void PlaceBusySigns();
-    bool Stacked(int frameWidth) const;
-    int RoomBelowName(int frameWidth) const;
-    int HeightOfName(int width) const;
-    int HeightOfFrame(int width, int height) const;
+    bool Zoomed() const;
+    Place PicturePlace() const;
+    int PictureBottom() const;
+    void ShowPictureAboveButtons();
+    bool Stacked() const;
     void PlaceName();
+    std::string Shortened(std::string_view whole, int width, int lines) const;
     void PlaceFrameRows();
     void FitDrives(int room);
     void KeepDrivesInside();
+    forms::Point PlaceInside(forms::Point place) const;
     void PlaceDrivesHome();
     void PlaceFavouriteButtons();
     void ShowListOfMode();
@@ -54,6 +65,11 @@ class Layout : public core::WindowLayout {
     core::Form1& form;
     int drivesHomeLeft = -1, drivesHomeTop = -1;
     int drivesWidth = 4560, drivesHeight = 480;  // natural size
+    // Where somebody has put the panel, and where it lies since the window is too small for that.
+    forms::Point drivesPutAt;
+    std::optional<forms::Point> drivesPushedTo;
+    ColumnRows rows;
+    std::optional<forms::Size> natural;  // of the picture that is zoomed
     // In Current_ProgramNameFull, whole and as it was broken to its width.
     std::string fullName, brokenName;
     bool wrapping = false;

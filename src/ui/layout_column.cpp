@@ -6,87 +6,89 @@
 #include "core/raised.h"
 #include "library/short_names.h"
 #include "text/string_ops.h"
+#include "text/text.h"
 #include "ui/column_grid.h"
 #include "ui/layout.h"
+#include "ui/move_what_fits.h"
 
 namespace kivu::ui {
 
 namespace {
-constexpr int nameTop = 200;
 // For the words on the favourites' buttons.
 constexpr int leastButton = 1700, longestButton = 2350;
-
-// Every step is a whole number of pixels, so that what stands in a frame whose top and height
-// change by it stays on its pixel.
-int WholePixels(int twips) {
-    return twips / forms::twipsPerPixel * forms::twipsPerPixel;
-}
+constexpr const char* ellipsis = "…";
 }  // namespace
 
 void Layout::ResizeSettingsWindow() {
     const int left = form.ListLeft + form.ListWidth + 100;
     const int width = form.Width() - left - 100;
     FitDrives(width - columnLeft - columnRight);
-    // The picture may still be that of a larger window.
-    const int below = std::max(0, form.Height() - form.VorschauBild.Bottom());
-    const int height = HeightOfFrame(width, below);
-    form.SettingsFrame.Move(left, form.Height() - height, width, height);
+    const int top = PictureBottom();
+    MoveWhatFits(form.SettingsFrame, left, top, width, form.Height() - top);
+    rows = FitColumn({form.SettingsFrame.Height(), form.Current_ProgramNameFull.ShownLineHeight(),
+                      drivesHeight, Stacked() ? 2 : 1});
     PlaceName();
     PlaceFrameRows();
     PlaceDrivesHome();
     PlaceFavouriteButtons();
+    ShowPictureAboveButtons();
     KeepDrivesInside();
 }
 
 // Two buttons beside one another need so much for their words.
-bool Layout::Stacked(int frameWidth) const {
-    return frameWidth - columnLeft - columnRight < leastButton + longestButton + rowGap;
+bool Layout::Stacked() const {
+    return form.SettingsFrame.Width() - columnLeft - columnRight <
+           leastButton + longestButton + columnGap;
 }
 
-// From the name's bottom edge to the frame's: the favourites' buttons, the drives and the rows.
-int Layout::RoomBelowName(int frameWidth) const {
-    return (Stacked(frameWidth) ? 2 : 1) * rowPitch + rowGap + belowDrives + drivesHeight;
-}
-
-int Layout::HeightOfName(int width) const {
-    const forms::Label& name = form.Current_ProgramNameFull;
-    if (name.Caption().empty()) return 0;
-    return name.ShownLines(std::max(1, width)) * name.ShownLineHeight();
-}
-
-// A name of many lines needs more than the picture leaves. The frame then begins higher, since the
-// rows at its bottom have to stay in the window, but not above the lists.
-int Layout::HeightOfFrame(int width, int height) const {
-    const int text = HeightOfName(width - 100);
-    if (text == 0) return height;
-    const int wanted = nameTop + text + RoomBelowName(width);
-    const int most = form.Height() - form.FavoritenListe.Top();
-    const int more = std::min(wanted, most) - height;
-    if (more <= 0) return height;
-    const int step = WholePixels(more + forms::twipsPerPixel - 1);
-    return height + (height + step > most ? WholePixels(more) : step);
-}
-
+// As many of its lines as there is room for; what is cut can be read in the tool tip.
 void Layout::PlaceName() {
     forms::Label& name = form.Current_ProgramNameFull;
-    const int width = form.SettingsFrame.Width() - 100;
-    const int text = HeightOfName(width);
+    const int width = std::max(1, form.SettingsFrame.Width() - 100);
     const int line = name.ShownLineHeight();
-    const int room =
-        form.SettingsFrame.Height() - nameTop - RoomBelowName(form.SettingsFrame.Width());
-    const int lines = std::max(1, room / line);
-    name.Move(100, nameTop, width, std::clamp(text, line, lines * line));
-    // What is cut can be read there.
-    const bool whole = text <= lines * line;
-    name.SetToolTipText(whole ? "" : text::replaceall(fullName, "\r", " "));
+    int below = rows.AboveRows();
+    if (!rows.outside) below += drivesHeight + (Stacked() ? 2 : 1) * rows.Pitch() + rows.gap;
+    const int room = std::max(0, (form.SettingsFrame.Height() - nameTop - below) / line);
+    const std::string& whole = fullName.empty() ? name.Caption() : fullName;
+    const int lines = whole.empty() ? 0 : name.LinesOf(whole, width);
+    name.Move(100, nameTop, width, std::min(std::max(1, lines), room) * line);
+    const bool fits = lines <= room;
+    name.SetShownText(!fits                     ? Shortened(whole, width, std::max(1, room))
+                      : whole == name.Caption() ? std::string()
+                                                : whole);
+    name.SetToolTipText(fits ? "" : text::replaceall(whole, "\r", " "));
+}
+
+// The longest beginning that fits into so many lines, with the sign that something is left out.
+std::string Layout::Shortened(std::string_view whole, int width, int lines) const {
+    const forms::Label& name = form.Current_ProgramNameFull;
+    const auto upTo = [&](std::size_t characters) {
+        const std::string_view kept = whole.substr(0, text::CodePointOffset(whole, characters));
+        return std::string(text::TrimRight(kept)) + ellipsis;
+    };
+    std::size_t least = 0, most = text::CodePointCount(whole);
+    while (least < most) {
+        const std::size_t middle = (least + most + 1) / 2;
+        if (name.LinesOf(upTo(middle), width) <= lines) {
+            least = middle;
+        } else {
+            most = middle - 1;
+        }
+    }
+    return upTo(least);
 }
 
 // From the right and from the bottom: the exit and the search, above them options and rescan, below
 // them the font size and the pins.
 void Layout::PlaceFrameRows() {
     const int frameWidth = form.SettingsFrame.Width();
-    const int lowest = form.SettingsFrame.Height() - lowestRow;
-    const int middle = lowest - rowPitch, highest = lowest - 2 * rowPitch;
+    const int height = form.SettingsFrame.Height();
+    // In a window with little room the sizes go first, then the options; the exit stays.
+    const auto topOf = [&](int row) {
+        return row < 0 || row > 2 - rows.hidden ? height : height - rows.TopOf(row);
+    };
+    const int lowest = topOf(rows.hidden > 0 ? -1 : 0);
+    const int middle = topOf(rows.hidden > 0 ? 0 : 1), highest = topOf(rows.hidden > 0 ? 1 : 2);
     const bool narrow = frameWidth < 3800;
     const int buttons = narrow ? 1050 : 1200;
     const int right = frameWidth - buttons - columnRight;
@@ -120,15 +122,15 @@ void Layout::PlaceFrameRows() {
 // at a time, and one for the global list, on top of them where they do not fit beside one another.
 void Layout::PlaceFavouriteButtons() {
     const int room = form.SettingsFrame.Width() - columnLeft - columnRight;
-    const bool stacked = Stacked(form.SettingsFrame.Width());
-    const int both = room - rowGap;
+    const bool stacked = Stacked();
+    const int both = room - columnGap;
     const int global = std::max(0, stacked ? room : std::max(both / 2, longestButton));
     const int width = std::max(0, stacked ? room : both - global);
-    const int top = drivesHomeTop - rowPitch;
+    const int top = drivesHomeTop - rows.Pitch();
     form.AddToFavorit.Move(drivesHomeLeft, top, width, rowHeight);
     form.DeLFav.Move(drivesHomeLeft, top, width, rowHeight);
-    form.AddToFavorit_Global.Move(drivesHomeLeft + room - global, stacked ? top - rowPitch : top,
-                                  global, rowHeight);
+    form.AddToFavorit_Global.Move(drivesHomeLeft + room - global,
+                                  stacked ? top - rows.Pitch() : top, global, rowHeight);
 }
 
 void Layout::Current_ProgramNameFull_Change() {
@@ -146,8 +148,6 @@ void Layout::Current_ProgramNameFull_Change() {
     const library::WrappedCaption wrapped = library::WrapCaption(given, width, name.Width());
     brokenName = wrapped.caption;
     name.SetCaption(wrapped.caption);
-    // The breaks have taken letters away.
-    name.SetShownText(fullName == wrapped.caption ? "" : fullName);
     if (wrapped.hide) name.SetVisible(false);
     ResizeSettingsWindow();
 }

@@ -25,7 +25,7 @@ void Layout::FitDrives(int room) {
     constexpr int oneRow = boxesLeft + 5 * boxPitch + 245, twoRows = boxesLeft + 3 * boxPitch + 245;
     const int columns = room >= oneRow ? 5 : 3;
     // In a wide column half of it, as the button above.
-    const int half = room - rowGap - (room - rowGap) / 2;
+    const int half = room - columnGap - (room - columnGap) / 2;
     const int width = half >= oneRow ? half : std::max(room, columns == 5 ? oneRow : twoRows);
     const int height = columns == 5 ? 2 * boxesTop + boxRow : 2 * boxesTop + 2 * boxRow;
     if (width == drivesWidth && height == drivesHeight) return;
@@ -42,11 +42,14 @@ void Layout::FitDrives(int room) {
     if (natural) panel.Move(panel.Left(), panel.Top(), width, height);
 }
 
-// The panel lies in the frame, above its rows, until somebody drags it away.
+// The panel lies in the frame, above its rows, until somebody drags it away. A low frame has it on
+// its top edge.
 void Layout::PlaceDrivesHome() {
+    const forms::Frame& frame = form.SettingsFrame;
     const bool atHome = drivesHomeLeft < 0 || DrivesAreHome();
-    drivesHomeLeft = form.SettingsFrame.Left() + columnLeft;
-    drivesHomeTop = form.SettingsFrame.Bottom() - belowDrives - drivesHeight;
+    drivesHomeLeft = frame.Left() + columnLeft;
+    drivesHomeTop =
+        (rows.outside ? frame.Top() - rows.gap : frame.Bottom() - rows.AboveRows()) - drivesHeight;
     if (atHome) DockDrives();
 }
 
@@ -72,11 +75,14 @@ void Layout::DockDrivesNearHome() {
 
 bool Layout::DrivesCoverOthers() const {
     const forms::PictureBox& panel = form.SettingsSubPicture;
+    const Place picture = PicturePlace();
+    if (Overlap(picture.left, picture.top, picture.left + picture.width,
+                picture.top + picture.height, panel))
+        return true;
     for (const forms::Control* other :
          {static_cast<const forms::Control*>(&form.FavoritenListe),
           static_cast<const forms::Control*>(&form.EmuListbox),
           static_cast<const forms::Control*>(&form.TopRightPic),
-          static_cast<const forms::Control*>(&form.VorschauBild),
           static_cast<const forms::Control*>(&form.AddToFavorit),
           static_cast<const forms::Control*>(&form.AddToFavorit_Global)}) {
         if (Overlap(other->Left(), other->Top(), other->Right(), other->Bottom(), panel))
@@ -93,14 +99,29 @@ bool Layout::DrivesCoverOthers() const {
 
 void Layout::KeepDrivesInside() {
     // In a window too small for it, it comes back with the window's size.
-    if (DrivesAreHome()) return;
+    if (DrivesAreHome()) {
+        drivesPushedTo = {};
+        return;
+    }
     forms::PictureBox& panel = form.SettingsSubPicture;
-    if (panel.Left() > form.Width() - 300) panel.SetLeft(form.Width() - panel.Width() - 200);
-    if (panel.Top() > form.Height() - 500) panel.SetTop(form.Height() - panel.Height() - 200);
+    const forms::Point here{panel.Left(), panel.Top()};
+    // From where it was put, so that a window that is small for a while, or has not got its size
+    // yet, moves it for that while alone.
+    if (here != drivesPushedTo) drivesPutAt = here;
+    const forms::Point inside = PlaceInside(drivesPutAt);
+    drivesPushedTo = inside;
+    panel.Move(inside.x, inside.y, panel.Width(), panel.Height());
+}
+
+forms::Point Layout::PlaceInside(forms::Point place) const {
+    const forms::PictureBox& panel = form.SettingsSubPicture;
+    if (place.x > form.Width() - 300) place.x = form.Width() - panel.Width() - 200;
+    if (place.y > form.Height() - 500) place.y = form.Height() - panel.Height() - 200;
     // Beyond the other edges nothing would be left to grab it by.
     constexpr int leastInside = 150;
-    if (panel.Right() < leastInside) panel.SetLeft(200);
-    if (panel.Bottom() < leastInside) panel.SetTop(200);
+    if (place.x + panel.Width() < leastInside) place.x = 200;
+    if (place.y + panel.Height() < leastInside) place.y = 200;
+    return place;
 }
 
 void Layout::DrivesResizeLabel_Click() {

@@ -33,6 +33,24 @@ LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int l
     return numbers;
 }
 
+Place PicturePlaceOf(const LayoutNumbers& numbers, int listTop) {
+    const int width = numbers.Col2Width + numbers.Col3Width + 300;
+    return {numbers.Col2Left, listTop, width, std::min(width, numbers.ListHeight - 400)};
+}
+
+Place ZoomPlaceOf(const LayoutNumbers& numbers, int innerWidth, int listTop, int width,
+                  int height) {
+    constexpr int margin = 300;
+    const double most = std::max(1, innerWidth - 2 * margin);
+    const double highest = std::max(1, numbers.ListHeight);
+    const double scale = std::min({1.0, most / std::max(1, width), highest / std::max(1, height)});
+    const auto scaled = [&](int length) {
+        return std::max(1, static_cast<int>(std::lround(length * scale)));
+    };
+    const int shown = scaled(width);
+    return {innerWidth - shown - margin, listTop, shown, scaled(height)};
+}
+
 namespace {
 
 int Sum(const std::vector<TabWidth>& tabs) {

@@ -13,6 +13,22 @@ using core::LayoutNumbers;
 // come out negative; a control takes none of those.
 LayoutNumbers ComputeLayout(int innerWidth, int innerHeight, int listLeft, int listTop);
 
+// Twips, from the window's edges.
+struct Place {
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
+    bool operator==(const Place&) const = default;
+};
+
+// The preview picture: square over the two narrow columns, and no higher than the lists leave it.
+Place PicturePlaceOf(const LayoutNumbers& numbers, int listTop);
+
+// A picture of this size at its natural size, right of which `margin` stays free. One that is wider
+// than the window or higher than the lists is made smaller in proportion.
+Place ZoomPlaceOf(const LayoutNumbers& numbers, int innerWidth, int listTop, int width, int height);
+
 // What a tab's text takes, with the count of its list and without.
 struct TabNeed {
     int whole = 0;

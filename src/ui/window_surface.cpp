@@ -7,7 +7,7 @@ namespace kivu::ui {
 
 void WindowSurface::MyCaptionLabel_DblClick() {
     const std::string stored = ini.Read(profile::keys::TitleString, core::ProfilesOf(form));
-    const std::string title = dialogs.InputBox("New Title", "Title", stored);
+    const std::string title = services.dialogs.InputBox("New Title", "Title", stored);
     if (title.empty()) return;
     ini.Write(profile::keys::TitleString, core::ProfilesOf(form), title);
     busy.MeCaption(title);
@@ -31,7 +31,8 @@ void WindowSurface::NormalMaxCapt_Click() {
 }
 
 void WindowSurface::TitleStr_Click() {
-    hooks.OpenProjectPage();
+    // Whether it opens shows on the screen.
+    if (!projectPage.empty()) (void)services.starter.Open(projectPage);
 }
 
 }  // namespace kivu::ui

@@ -1,9 +1,12 @@
 #pragma once
 
+#include <string>
+#include <utility>
+
 #include "core/busy_state.h"
-#include "core/hook.h"
 #include "forms/types.h"
 #include "platform/dialogs.h"
+#include "platform/program_starter.h"
 #include "profile/ini.h"
 #include "support/always_on_top.h"
 
@@ -16,13 +19,20 @@ namespace kivu::ui {
 // The window's own title and frame: what a platform's title bar would do.
 class WindowSurface {
  public:
-    struct Hooks {
-        core::Hook<void()> OpenProjectPage{"WindowSurface.OpenProjectPage"};
+    struct Services {
+        platform::Dialogs& dialogs;
+        platform::ProgramStarter& starter;
     };
 
-    WindowSurface(core::Form1& form, profile::Ini& ini, platform::Dialogs& dialogs,
-                  core::BusyState& busy, support::AlwaysOnTop& alwaysOnTop)
-        : form(form), ini(ini), dialogs(dialogs), busy(busy), alwaysOnTop(alwaysOnTop) {}
+    // `projectPage`: the address of the project's page, empty while it has none.
+    WindowSurface(core::Form1& form, profile::Ini& ini, Services services, core::BusyState& busy,
+                  support::AlwaysOnTop& alwaysOnTop, std::string projectPage)
+        : form(form),
+          ini(ini),
+          services(services),
+          busy(busy),
+          alwaysOnTop(alwaysOnTop),
+          projectPage(std::move(projectPage)) {}
 
     void MyCaptionLabel_DblClick();
     // The surface follows the mouse.
@@ -30,16 +40,16 @@ class WindowSurface {
     void Form_DblClick();
     void Form_Click();
     void NormalMaxCapt_Click();
+    // Opens the project's page in the browser.
     void TitleStr_Click();
-
-    Hooks hooks;
 
  private:
     core::Form1& form;
     profile::Ini& ini;
-    platform::Dialogs& dialogs;
+    Services services;
     core::BusyState& busy;
     support::AlwaysOnTop& alwaysOnTop;
+    std::string projectPage;
 };
 
 }  // namespace kivu::ui

@@ -91,17 +91,25 @@ void ButtonMirror::ShowPressed(bool pressed) {
     if (button) button->setDown(pressed);
 }
 
+void ButtonMirror::WindowColored() {
+    ApplyColors();
+}
+
 void ButtonMirror::ApplyColors() {
     Mirror::ApplyColors();
-    if (control.GetKind() != forms::Kind::commandButton) return;
     const QColor window = ToQt(control.ParentForm()->BackColor());
     const QColor own = ToQt(control.BackColor());
+    if (control.GetKind() != forms::Kind::commandButton) {
+        // A colour of its own is there to be seen.
+        widget->setAutoFillBackground(own != window);
+        return;
+    }
     QPalette palette = widget->palette();
     // One that is off sinks into what lies behind it.
     palette.setColor(QPalette::Window, window);
     // A button in its window's colour would not stand out from it.
     if (own == window || control.BackColor() == forms::Rgb(0x00, 0x52, 0xbc)) {
-        palette.setColor(QPalette::Button, Mix(window, Qt::white, 0.16));
+        palette.setColor(QPalette::Button, Mix(window, InkOn(window, 255), 0.16));
     }
     widget->setPalette(palette);
 }

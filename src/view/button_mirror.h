@@ -16,6 +16,7 @@ class ButtonMirror : public Mirror {
 
     void Apply(forms::Aspect aspect) override;
     void ShowPressed(bool pressed) override;
+    void WindowColored() override;
 
  protected:
     void ApplyColors() override;

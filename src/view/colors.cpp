@@ -16,13 +16,22 @@ double Luminance(const QColor& color) {
            0.0722 * linear(color.blueF());
 }
 
+}  // namespace
+
 double Contrast(const QColor& a, const QColor& b) {
     const double x = Luminance(a);
     const double y = Luminance(b);
     return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
 }
 
-}  // namespace
+bool IsDark(const QColor& color) {
+    return qGray(color.rgb()) < 140;
+}
+
+QColor InkOn(const QColor& background, int alpha) {
+    const int part = IsDark(background) ? 255 : 0;
+    return {part, part, part, alpha};
+}
 
 QColor ToQt(forms::Color color) {
     return QColor(static_cast<int>(color & 0xff), static_cast<int>(color >> 8 & 0xff),
@@ -48,9 +57,18 @@ QColor MixFor(double contrast, const QColor& bottom, const QColor& top, double o
 
 QColor Readable(const QColor& wanted, const QColor& background, double enough) {
     if (Contrast(wanted, background) >= enough) return wanted;
-    const QColor dark = onAccent;
     const QColor light(Qt::white);
-    return Contrast(dark, background) > Contrast(light, background) ? dark : light;
+    if (Contrast(light, background) >= Contrast(Qt::black, background)) return light;
+    // Between the two, the softer dark colour may not do.
+    return Contrast(onAccent, background) >= enough ? onAccent : QColor(Qt::black);
+}
+
+QColor AccentOn(const QColor& background) {
+    QColor seen = accent;
+    for (double shade = 0.04; Contrast(seen, background) < shapeContrast && shade < 1;
+         shade += 0.04)
+        seen = Mix(accent, Qt::black, shade);
+    return seen;
 }
 
 }  // namespace kivu::view

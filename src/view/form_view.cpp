@@ -177,6 +177,8 @@ void FormView::FormChanged(forms::Aspect aspect) {
             break;
         case forms::Aspect::colors:
             surface->TakeColors();
+            for (const auto& [control, mirror] : mirrors)
+                mirror->WindowColored();
             break;
         default:
             sync.Apply(aspect);

@@ -45,16 +45,21 @@ class LabelWidget : public QWidget {
         QColor text = ToQt(label.ForeColor());
         if (marked) {
             FillRounded(painter, rect(), cornerRadius, back);
-            FillRounded(painter, QRectF(8, height() - 3, width() - 16, 3), 1.5, accent);
+            FillRounded(painter, QRectF(8, height() - 3, width() - 16, 3), 1.5, AccentOn(back));
             text = Readable(text, back);
         } else if (label.IsOpaque()) {
             FillRounded(painter, rect(), cornerRadius, back);
+            text = Readable(text, back);
+        } else {
+            // A picture may lie below: only what the window itself would swallow is changed.
+            constexpr double swallowed = 1.5;
+            text = Readable(text, window, swallowed);
         }
         // A label over a whole area would light it up.
         const bool oneLine =
             rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
         if (tab && !marked && oneLine && underMouse() && isEnabled()) {
-            FillRounded(painter, rect(), cornerRadius, QColor(255, 255, 255, 34));
+            FillRounded(painter, rect(), cornerRadius, InkOn(window, 34));
         }
         if (!isEnabled()) {
             const QColor ground = label.IsOpaque() || marked ? back : window;
@@ -74,10 +79,11 @@ class LabelWidget : public QWidget {
         QFont underlined = font();
         underlined.setUnderline(true);
         painter.setFont(underlined);
-        if (underMouse() && isEnabled()) {
-            FillRounded(painter, rect(), cornerRadius, QColor(255, 255, 255, 34));
-        }
-        if (hasFocus()) FillRounded(painter, rect(), cornerRadius, Qt::transparent, accent);
+        const QColor window = ToQt(label.ParentForm()->BackColor());
+        if (underMouse() && isEnabled())
+            FillRounded(painter, rect(), cornerRadius, InkOn(window, 34));
+        if (hasFocus())
+            FillRounded(painter, rect(), cornerRadius, Qt::transparent, AccentOn(window));
     }
 
     // The text as it is read, and with the letter that Alt wants underlined.

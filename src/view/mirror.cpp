@@ -86,6 +86,10 @@ void Mirror::Apply(forms::Aspect aspect) {
     }
 }
 
+void Mirror::WindowColored() {
+    if (widget) widget->update();
+}
+
 void Mirror::ApplyColors() {
     const QColor back = ToQt(control.BackColor());
     const QColor fore = ToQt(control.ForeColor());

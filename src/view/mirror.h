@@ -63,6 +63,8 @@ class Mirror {
     // The widget has mouse work of its own: a caret, a handle, a popup.
     virtual bool UsesMouse() const { return false; }
     virtual void ShowPressed(bool) {}
+    // The window has another colour, which shows through, or next to what has one of its own.
+    virtual void WindowColored();
     // Pixels that the widget reaches beyond its control.
     virtual QMargins Overhang() const { return {}; }
 

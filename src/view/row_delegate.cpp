@@ -52,18 +52,19 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     const QColor base = option.palette.color(QPalette::Base);
     const QColor text = Readable(option.palette.color(QPalette::Text), base);
     QColor writing = text;
+    const QColor mark = AccentOn(base);
     const QRectF pill = QRectF(option.rect).adjusted(3, 1, -3, -1);
     if (marked) {
-        const QColor fill = active ? accent : Mix(base, text, 0.14);
+        const QColor fill = active ? mark : Mix(base, text, 0.14);
         writing = Readable(active ? onAccent : text, fill);
-        FillRounded(*painter, pill, cornerRadius, fill, accent, 1.5);
+        FillRounded(*painter, pill, cornerRadius, fill, mark, 1.5);
     } else if (hover) {
         FillRounded(*painter, pill, cornerRadius, Mix(base, text, 0.09));
     }
     const bool standsOut = source.ShowsCurrent() && source.Selected() == index.row();
     if (!followsCurrent && (standsOut || source.Meant() == index.row())) {
         FillRounded(*painter, pill.adjusted(2, 2, -2, -2), cornerRadius - 1, Qt::transparent,
-                    marked ? writing : accent, 1.5);
+                    marked ? writing : mark, 1.5);
     }
     painter->setPen(writing);
     painter->setFont(option.font);

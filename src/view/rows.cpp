@@ -35,6 +35,11 @@ void ListRowSource::Click(int row, int shift) {
                                        : Choice::only);
 }
 
+std::string_view DirectoryRowSource::Text(int row) const {
+    const auto* directories = dynamic_cast<const forms::DirListBox*>(&list);
+    return directories ? directories->Name(row) : list.List(row);
+}
+
 int Rows::rowCount(const QModelIndex& parent) const {
     return parent.isValid() ? 0 : shown;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <string_view>
 
 #include "forms/directory_controls.h"
 #include "forms/list_control.h"
@@ -12,7 +13,8 @@ class RowSource {
  public:
     virtual ~RowSource() = default;
     virtual int Count() const = 0;
-    virtual const std::string& Text(int row) const = 0;
+    // As it is shown.
+    virtual std::string_view Text(int row) const = 0;
     virtual int Selected() const = 0;
     // Chosen, where several rows can be.
     virtual bool IsMarked(int row) const { return Selected() == row; }
@@ -31,7 +33,7 @@ class ListRowSource : public RowSource {
  public:
     explicit ListRowSource(forms::ListControl& list) : list(list) {}
     int Count() const override { return list.ListCount(); }
-    const std::string& Text(int row) const override { return list.List(row); }
+    std::string_view Text(int row) const override { return list.List(row); }
     int Selected() const override { return list.ListIndex(); }
     bool IsMarked(int row) const override;
     bool ShowsCurrent() const override;
@@ -48,7 +50,7 @@ class DirectoryRowSource : public RowSource {
  public:
     explicit DirectoryRowSource(forms::DirectoryControl& list) : list(list) {}
     int Count() const override { return list.ListCount(); }
-    const std::string& Text(int row) const override { return list.List(row); }
+    std::string_view Text(int row) const override;
     int Selected() const override { return list.ListIndex(); }
     void Click(int row, int) override { list.ClickRow(row); }
     void Select(int row) override { list.SetListIndex(row); }

@@ -50,6 +50,12 @@ forms::Size ScreenWindows::Room(const forms::Form* over) const {
     return {ToTwips(room.width()), ToTwips(room.height())};
 }
 
+// Boxes count, and whatever else of the program's takes the keyboard.
+forms::WindowHost::Activity ScreenWindows::ActiveWindow() const {
+    if (QGuiApplication::focusWindow()) return Activity::ours;
+    return isElsewhere && isElsewhere() ? Activity::others : Activity::unknown;
+}
+
 FormView& ScreenWindows::MakeView(forms::Form& form) {
     auto made = std::make_unique<FormView>(form);
     made->SetHosted();

@@ -24,10 +24,13 @@ class ScreenWindows : public QObject, public forms::WindowHost {
     void AdoptView(forms::Form& form, FormView& view);
     // Asked for each window; see FormView.
     void SetCompositing(std::function<bool()> ask) { isComposited = std::move(ask); }
+    // Whether another program's window is known to be active.
+    void SetElsewhere(std::function<bool()> ask) { isElsewhere = std::move(ask); }
     // Null: it has not been shown yet.
     FormView* ViewOf(const forms::Form& form) const;
 
     forms::Size Room(const forms::Form* over) const override;
+    Activity ActiveWindow() const override;
 
     bool event(QEvent* event) override;
 
@@ -50,6 +53,7 @@ class ScreenWindows : public QObject, public forms::WindowHost {
     FormView* mainView = nullptr;
     std::vector<QEventLoop*> loops;  // of the modal windows
     std::function<bool()> isComposited;
+    std::function<bool()> isElsewhere;
     bool freePosted = false;
 };
 

@@ -125,7 +125,8 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
             if (widget && widget->parentWidget() && widget->parentWidget()->inherits("QComboBox")) {
                 return;
             }
-            DrawField(*painter, *option);
+            // A field to type into has its window's colours the other way round.
+            DrawField(*painter, *option, option->palette.color(QPalette::Text));
             return;
         case PE_FrameLineEdit:
         case PE_FrameFocusRect:
@@ -176,7 +177,7 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
         return;
     }
     if (control == CC_ComboBox) {
-        DrawField(*painter, *option);
+        DrawField(*painter, *option, option->palette.color(QPalette::Base));
         DrawArrow(*painter, *option, ComboPart(*option, SC_ComboBoxArrow));
         return;
     }

@@ -14,10 +14,6 @@ bool Has(const QStyleOption& option, QStyle::StateFlag flag) {
     return option.state.testFlag(flag);
 }
 
-bool IsDark(const QColor& color) {
-    return qGray(color.rgb()) < 140;
-}
-
 // A quiet line around a field: darker on light, lighter on dark.
 QColor LineOn(const QColor& background, double strength) {
     return Mix(background, IsDark(background) ? QColor(Qt::white) : QColor(Qt::black), strength);
@@ -43,13 +39,15 @@ void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QBr
     painter.restore();
 }
 
-void DrawField(QPainter& painter, const QStyleOption& option) {
+void DrawField(QPainter& painter, const QStyleOption& option, const QColor& around) {
     const bool enabled = Has(option, QStyle::State_Enabled);
     const bool focus = Has(option, QStyle::State_HasFocus);
     QColor back = option.palette.color(QPalette::Base);
     if (!enabled) back.setAlphaF(0.6F);
     const bool hover = enabled && Has(option, QStyle::State_MouseOver);
-    const QColor line = focus ? accent : LineOn(back, hover ? 0.45 : 0.28);
+    const bool seenAround = Contrast(accent, around) >= shapeContrast;
+    const QColor mark = seenAround ? accent : AccentOn(option.palette.color(QPalette::Base));
+    const QColor line = focus ? mark : LineOn(back, hover ? 0.45 : 0.28);
     FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
 }
 
@@ -70,7 +68,8 @@ void DrawButton(QPainter& painter, const QStyleOption& option) {
         back = Mix(back, IsDark(back) ? QColor(Qt::white) : QColor(Qt::black), 0.12);
     }
     if (!enabled) back = DisabledFace(option.palette);
-    const QColor line = focus ? accent : QColor(255, 255, 255, enabled ? 46 : 20);
+    const QColor window = option.palette.color(QPalette::Window);
+    const QColor line = focus ? AccentOn(window) : InkOn(window, enabled ? 46 : 20);
     FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
 }
 
@@ -78,7 +77,8 @@ void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const Q
     const bool enabled = Has(button, QStyle::State_Enabled);
     const QColor face =
         enabled ? button.palette.color(QPalette::Button) : DisabledFace(button.palette);
-    QColor color = Readable(button.palette.color(QPalette::ButtonText), face, enabled ? 2.5 : 3.5);
+    QColor color =
+        Readable(button.palette.color(QPalette::ButtonText), face, enabled ? textContrast : 3.5);
     if (!enabled) color = MixFor(3.5, face, color, 0.5);
     painter.save();
     painter.setPen(color);
@@ -95,12 +95,12 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
     const bool between = Has(option, QStyle::State_NoChange);
     const bool enabled = Has(option, QStyle::State_Enabled);
     const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
-    const QColor text = option.palette.color(QPalette::WindowText);
-    QColor fill = on || between ? accent : Mix(option.palette.color(QPalette::Window), text, 0.12);
+    const QColor window = option.palette.color(QPalette::Window);
+    const QColor text = Readable(option.palette.color(QPalette::WindowText), window, shapeContrast);
+    const QColor mark = AccentOn(window);
+    QColor fill = on || between ? mark : Mix(window, text, 0.12);
     const bool focus = Has(option, QStyle::State_HasFocus);
-    QColor line = focus || Has(option, QStyle::State_MouseOver)
-                      ? accent
-                      : Mix(option.palette.color(QPalette::Window), text, 0.55);
+    QColor line = focus || Has(option, QStyle::State_MouseOver) ? mark : Mix(window, text, 0.55);
     // The accent would not be seen around itself.
     if (focus && (on || between)) line = text;
     if (!enabled) {
@@ -111,7 +111,8 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
     if (!on && !between) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(onAccent, box.width() / 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter.setPen(QPen(Readable(onAccent, mark, shapeContrast), box.width() / 7, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
     const auto at = [&](double x, double y) {
         return QPointF(box.left() + box.width() * x, box.top() + box.height() * y);
     };
@@ -126,14 +127,15 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
 void DrawRadio(QPainter& painter, const QStyleOption& option) {
     const bool on = Has(option, QStyle::State_On);
     const QRectF box = QRectF(option.rect).adjusted(1, 1, -1, -1);
-    const QColor text = option.palette.color(QPalette::WindowText);
     const QColor window = option.palette.color(QPalette::Window);
+    const QColor text = Readable(option.palette.color(QPalette::WindowText), window, shapeContrast);
+    const QColor mark = AccentOn(window);
     const bool marked = on || Has(option, QStyle::State_MouseOver);
-    const QColor line = marked ? accent : Mix(window, text, 0.55);
+    const QColor line = marked ? mark : Mix(window, text, 0.55);
     FillRounded(painter, box, box.width() / 2, Mix(window, text, 0.12), line, 1.2);
     if (!on) return;
     const double inset = box.width() * 0.26;
-    FillRounded(painter, box.adjusted(inset, inset, -inset, -inset), box.width(), accent);
+    FillRounded(painter, box.adjusted(inset, inset, -inset, -inset), box.width(), mark);
 }
 
 void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QRect& slider) {
@@ -147,15 +149,17 @@ void DrawScrollBar(QPainter& painter, const QStyleOptionSlider& bar, const QRect
                                 : QRectF(slider).adjusted(2, margin, -2, -margin);
     // The window's writing stands out against the list, so its colour does here too.
     const QColor base = bar.palette.color(QPalette::Base);
-    const QColor text = Readable(bar.palette.color(QPalette::Text), base);
-    const QColor color = MixFor(3, base, text, held ? 0.8 : hover ? 0.65 : 0.4);
+    const QColor text = Readable(bar.palette.color(QPalette::Text), base, shapeContrast);
+    const QColor color = MixFor(shapeContrast, base, text, held ? 0.8 : hover ? 0.65 : 0.4);
     FillRounded(painter, rect, std::min(rect.width(), rect.height()) / 2, color);
 }
 
 void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect& handle) {
     const bool upright = slider.orientation == Qt::Vertical;
-    const QColor text = slider.palette.color(QPalette::WindowText);
-    const QColor quiet = Mix(slider.palette.color(QPalette::Window), text, 0.35);
+    const QColor window = slider.palette.color(QPalette::Window);
+    const QColor text = Readable(slider.palette.color(QPalette::WindowText), window, shapeContrast);
+    const QColor quiet = Mix(window, text, 0.35);
+    const QColor mark = AccentOn(window);
     QRectF groove = slider.rect;
     if (upright) {
         groove = QRectF(groove.center().x() - 2, groove.top() + 4, 4, groove.height() - 8);
@@ -165,17 +169,17 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
     FillRounded(painter, groove, 2, quiet);
     QRectF done = groove;
     upright ? done.setTop(handle.center().y()) : done.setRight(handle.center().x());
-    FillRounded(painter, done, 2, accent);
+    FillRounded(painter, done, 2, mark);
     const double size = std::min(handle.width(), handle.height());
     QRectF knob(0, 0, size - 2, size - 2);
     knob.moveCenter(QRectF(handle).center());
     const bool focus = Has(slider, QStyle::State_HasFocus);
-    FillRounded(painter, knob, size, Qt::white, focus ? accent : quiet, focus ? 2 : 1);
+    FillRounded(painter, knob, size, Qt::white, focus ? mark : quiet, focus ? 2 : 1);
 }
 
 void DrawArrow(QPainter& painter, const QStyleOption& option, const QRect& place) {
-    QColor color =
-        Readable(option.palette.color(QPalette::Text), option.palette.color(QPalette::Base));
+    QColor color = Readable(option.palette.color(QPalette::Text),
+                            option.palette.color(QPalette::Base), shapeContrast);
     color.setAlphaF(Has(option, QStyle::State_Enabled) ? 0.8F : 0.35F);
     const double half = 4;
     const QPointF middle = QRectF(place).center();

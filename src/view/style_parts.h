@@ -10,7 +10,8 @@ inline constexpr int comboArrowWidth = 28;
 inline constexpr double cornerRadius = 5;
 
 // What the style draws, each part from the option's rectangle, state and palette.
-void DrawField(QPainter& painter, const QStyleOption& option);
+// `around`: what the field stands on.
+void DrawField(QPainter& painter, const QStyleOption& option, const QColor& around);
 void DrawHairline(QPainter& painter, const QStyleOption& option);
 void DrawButton(QPainter& painter, const QStyleOption& option);
 void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const QStyle& style);

@@ -11,6 +11,8 @@ void Launcher::Routines::JoinEmulators() {
     emulatorSwitch.ports.launching = gameLaunch;
     emulatorSwitch.ports.watch = watch;
     emulatorSwitch.ports.layout = layout;
+    emulatorSwitch.hooks.DropPreview = [this] { previews.Drop(); };
+    emulatorSwitch.hooks.LoadSkinPictures = [this] { skins.LoadSkinPictures(); };
     emulatorSwitch.hooks.LoadFavoriten = [this] { favoriten.LoadFavoriten(); };
     // A profile with a master configuration has one from its first selection on.
     emulatorSwitch.hooks.GetMasterConfig = [this] { uaeFiles.GetMasterConfig(); };
@@ -18,6 +20,8 @@ void Launcher::Routines::JoinEmulators() {
     emulatorBox.ports.front = listEvents;
     emulatorBox.ports.watch = watch;
     emulatorBox.ports.layout = layout;
+    emulatorBox.hooks.ShowEmulatorPreview = [this](int row) { previews.ShowEmulatorPreview(row); };
+    emulatorBox.hooks.ApplyListColors = [this] { ui::ApplyListColors(form); };
     // The right mouse button opens an emulator without a game.
     emulatorBox.hooks.StartEmulator = [this](const std::string& name, bool ask) {
         emulatorSetup.StartEmulator(name, ask);

@@ -13,6 +13,9 @@ void Launcher::Routines::JoinLists() {
     listEvents.ports.favourite = favoritenEvents;
     listEvents.ports.globalFavourites = globalEvents;
     listEvents.ports.layout = layout;
+    // The picture of the game under the cursor, at each change of the selection.
+    listEvents.hooks.ShowGamePreview = [this](int row) { previews.ShowGamePreview(row); };
+    listEvents.hooks.RefreshPreview = [this] { previews.Refresh(); };
     listEvents.hooks.RefreshHints = [this] { hints.Refresh(); };
 
     form.UAE_FULL.onClick = [this] { listEvents.UAE_FULL_Click(); };
@@ -42,7 +45,7 @@ void Launcher::Routines::JoinLists() {
         listEvents.Current_ProgramNameFull_DblClick();
     };
     form.LoadBtn.onClick = [this] { gameLists.RescanByButton(); };
-    form.TxtRomPath.onChange = [this] { hints.Refresh(); };
+    form.TxtRomPath.onChange = [this] { hints.Refresh(), previews.Prepare(); };
     form.FileScanRecursive1.frame.onResize = [this] { scanner.UserControl_Resize(); };
 }
 

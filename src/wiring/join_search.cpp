@@ -10,6 +10,8 @@ void Launcher::Routines::JoinSearch() {
     // Ctrl+Enter, and Enter over the emulators or over their hits, search everywhere.
     listSearch.hooks.SearchAllBtn_Click = [this] { globalSearch.SearchAllBtn_Click(); };
     globalSearch.ports.front = listEvents;
+    // A hit shows its emulator.
+    globalSearch.hooks.ShowEmulatorPreview = [this](int row) { previews.ShowEmulatorPreview(row); };
     globalSearch.hooks.RefreshHints = [this] { hints.Refresh(); };
 
     forms::TextBox& box = form.SearchDblsTxt;

@@ -9,29 +9,45 @@ void Launcher::Routines::JoinWindow() {
     startUp.ports.layout = layout;
     // A second start hands over to the first, which comes to the front.
     startUp.hooks.PreviousInstance = [this] { return handedFile.HandOver(); };
+    startUp.hooks.KeepDesignPictures = [this] { skins.KeepDesignPictures(); };
     settingsLoader.ports.layout = layout;
+    // An emulator brings its skin's colours with its settings.
+    settingsLoader.hooks.SetColors = [this] { windowColors.SetColors(form, -1, -1); };
     shutDown.ports.layout = layout;
     windowKeys.ports.watch = watch;
     windowKeys.hooks.JoystickDirection = [this](int key) { navigation.JoystickDirection(key); };
 
     form.onResize = [this] { layout.Form_Resize(); };
+    form.VorschauBild.onResize = [this] { layout.VorschauBild_Resize(); };
     form.onPreviewKeyDown = [this](forms::Key& key) { windowKeys.Form_KeyDown(key); };
     form.onPreviewKeyPress = [this](forms::Character& key) { windowKeys.Form_KeyPress(key); };
     form.onQueryClose = [this](bool& cancel) { windowKeys.Form_QueryClose(cancel); };
-    form.onClick = [this] { surface.Form_Click(); };
-    form.onDblClick = [this] { surface.Form_DblClick(); };
     form.Uhrzeit.onTimer = [this] { startUp.Uhrzeit_Timer(); };
+    // The picture of an emulator in the open choice opens it; any other is zoomed.
+    previews.hooks.StartEmulator = [this](const std::string& name, bool ask) {
+        emulatorSetup.StartEmulator(name, ask);
+    };
+    form.GamePictureVis.onClick = [this] { previews.GamePictureVis_Click(); };
+    form.GamePictureVis.onMouseDown = [this](const forms::Mouse&) {
+        previews.GamePictureVis_MouseDown();
+    };
+    form.GamePicture.onClick = [this] { previews.GamePicture_Click(); };
+    form.PreviewTimer.onTimer = [this] { previews.PreviewTimer_Timer(); };
     form.ExitBtn.onClick = [this] { shutDown.ExitBtn_Click(); };
 
     const auto drag = [this](const forms::Mouse& mouse) { surface.Surface_MouseDown(mouse); };
-    form.onMouseDown = drag;
+    // The window's surface, and what shows something on it and has no other use.
+    for (forms::Control* control : {static_cast<forms::Control*>(&form),
+                                    static_cast<forms::Control*>(&form.Current_LoadingSmallBtn),
+                                    static_cast<forms::Control*>(&form.TopRightPic),
+                                    static_cast<forms::Control*>(&form.TimeString),
+                                    static_cast<forms::Control*>(&form.SettingsFrame)}) {
+        control->onMouseDown = drag;
+        control->onClick = [this] { surface.Form_Click(); };
+        control->onDblClick = [this] { surface.Form_DblClick(); };
+    }
     form.MyCaptionLabel.onMouseDown = drag;
-    form.Current_LoadingSmallBtn.onMouseDown = drag;
-    form.TopRightPic.onMouseDown = drag;
-    form.TimeString.onMouseDown = drag;
-    form.SettingsFrame.onMouseDown = drag;
-    form.TopRightPic.onDblClick = [this] { surface.Form_DblClick(); };
-    form.TimeString.onDblClick = [this] { surface.Form_DblClick(); };
+    form.TitleStr.onClick = [this] { surface.TitleStr_Click(); };
     form.MyCaptionLabel.onDblClick = [this] { surface.MyCaptionLabel_DblClick(); };
     form.NormalMaxCapt.onClick = [this] { surface.NormalMaxCapt_Click(); };
 

@@ -84,10 +84,24 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       driveSlots(form, ini, host.beeper),
       layout(form),
       fontSize(form, layout),
+      skins(form, host.files, pictureLoader),
+      windowColors(form, ini),
       hints(form),
-      surface(form, ini, dialogs, busy, alwaysOnTop),
+      surface(form, ini, {dialogs, host.starter}, busy, alwaysOnTop, core::projectPage),
       panelDrag(form, layout),
-      navigation(form, listEvents, emulatorBox, globalEvents) {
+      previews(form, {host.files, host.background}, layout, pictureLoader),
+      controllers(form, {host.controllers, dialogs, host.events}),
+      navigation(form, listEvents, emulatorBox, globalEvents, driveSlots),
+      buttonActions(form, {emulatorBox, gameLaunch, watch, driveSlots}),
+      padEvents(form, navigation, buttonActions, windows),
+      joystickControl(form, ini, controllers, padEvents, windows,
+                      {dialogs, host.events, host.beeper}),
+      exitButton(form, controllers, buttonActions, windows),
+      boxByPad(form, controllers, windows, dialogs),
+      buttonSetupWindow(windows, [this] { return MakeButtonSetup(); }),
+      buttonSetup(form, buttonSetupWindow, windows,
+                  {controllers, padEvents, settingsLoader, alwaysOnTop}),
+      windowsBeside(form, host, dialogs, windows) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);
     JoinWindow();
@@ -97,6 +111,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
     JoinFavourites();
     JoinLaunch();
     JoinDrives();
+    JoinJoystick();
 }
 
 }  // namespace kivu::wiring

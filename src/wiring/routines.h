@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
@@ -15,7 +16,15 @@
 #include "favourites/global_favoriten.h"
 #include "favourites/repair_favoriten.h"
 #include "forms/window_host.h"
+#include "joystick/box_by_pad.h"
+#include "joystick/button_actions.h"
+#include "joystick/button_setup_opener.h"
+#include "joystick/button_setup_window.h"
+#include "joystick/exit_button.h"
+#include "joystick/joystick.h"
+#include "joystick/joystick_control.h"
 #include "joystick/list_navigation.h"
+#include "joystick/pad_events.h"
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
@@ -39,10 +48,14 @@
 #include "ui/layout.h"
 #include "ui/panel_drag.h"
 #include "ui/picture_loader.h"
+#include "ui/preview_pictures.h"
+#include "ui/skins.h"
+#include "ui/window_colors.h"
 #include "ui/window_surface.h"
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 #include "wiring/logged_host.h"
+#include "wiring/windows.h"
 
 namespace kivu::wiring {
 
@@ -112,11 +125,24 @@ struct Launcher::Routines {
 
     ui::Layout layout;
     ui::FontSize fontSize;
+    ui::Skins skins;
+    ui::WindowColors windowColors;
     ui::Hints hints;
     ui::WindowSurface surface;
     ui::PanelDrag panelDrag;
+    ui::PreviewPictures previews;
 
+    joystick::Joystick controllers;
     joystick::ListNavigation navigation;
+    joystick::ButtonActions buttonActions;
+    joystick::PadEvents padEvents;
+    joystick::JoystickControl joystickControl;
+    joystick::ExitButton exitButton;
+    joystick::BoxByPad boxByPad;
+    forms::OnDemand<joystick::ButtonSetupWindow> buttonSetupWindow;
+    joystick::ButtonSetupOpener buttonSetup;
+
+    Windows windowsBeside;
 
  private:
     // One topic a file: what its events run, and what its routines ask of later ones.
@@ -127,6 +153,8 @@ struct Launcher::Routines {
     void JoinFavourites();
     void JoinLaunch();
     void JoinDrives();
+    void JoinJoystick();
+    std::unique_ptr<joystick::ButtonSetupWindow> MakeButtonSetup();
 };
 
 }  // namespace kivu::wiring

@@ -27,6 +27,7 @@ struct SettingsLoaderTest : ::testing::Test {
             form.FontSizeCombo.AddItem(std::to_string(size));
         loader.ports.layout = layout;
         loader.hooks.JoystickEnable = [this](bool on) { enabled.push_back(on); };
+        Controllers(1);
     }
     // The loader finds so many controllers.
     void Controllers(int count) {
@@ -140,8 +141,17 @@ TEST_F(SettingsLoaderTest, NoControllerAsksWhetherToSwitchTheJoystickOff) {
     EXPECT_EQ(host.dialogs.shown[0].title, "Joysticks / Gamepads = 0)");
     EXPECT_EQ(host.dialogs.shown[0].buttons, platform::Buttons::YesNo);
     EXPECT_THAT(files.BytesOf(form.BaseIniName), HasSubstr("UseJoystick=0\r\n"));
+    EXPECT_THAT(enabled, ElementsAre(true, false));
     loader.LoadSettings();
     EXPECT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_THAT(enabled, ElementsAre(true, false, false));
+}
+
+TEST_F(SettingsLoaderTest, ButtonsAloneCanBeReadAnew) {
+    Program("Button1=5\r\n");
+    loader.LoadButtons();
+    EXPECT_EQ(form.JoystickButtons[0], 5);
+    EXPECT_THAT(enabled, IsEmpty());
 }
 
 TEST_F(SettingsLoaderTest, QuestionIsAskedInTheUsersLanguageAndNoKeepsTheSetting) {

@@ -20,11 +20,14 @@ struct Command {
 
 inline constexpr std::size_t anyNumber = static_cast<std::size_t>(-1);
 
-const std::vector<Command>& HandCommands();   // what a user's hands and the window manager do
-const std::vector<Command>& StateCommands();  // reading and writing the windows
-const std::vector<Command>& HostCommands();   // the scripted host
-const std::vector<Command>& FileCommands();   // the disk below the program
+const std::vector<Command>& HandCommands();    // what a user's hands and the window manager do
+const std::vector<Command>& StateCommands();   // reading and writing the windows
+const std::vector<Command>& HostCommands();    // the scripted host
+const std::vector<Command>& DeviceCommands();  // its game controllers
+const std::vector<Command>& FileCommands();    // the disk below the program
 
 Json Value(Json value);
+// What has come about, as the answer's value and under the command's own name.
+Json Told(const char* name, Json what);
 
 }  // namespace kivu::driver

@@ -1,9 +1,7 @@
-#include "driver/conversation.h"
-
-#include <deque>
 #include <filesystem>
 #include <gmock/gmock.h>
 
+#include "driver/talk.h"
 #include "forms/controls.h"
 #include "forms/on_demand.h"
 #include "host_files.h"
@@ -55,9 +53,7 @@ class ConversationTest : public ::testing::Test {
         return form.Text.Text();
     }
     std::vector<std::string> Run(std::deque<std::string> given) {
-        lines = std::move(given);
-        conversation.Run();
-        return answers;
+        return talk.Run(std::move(given));
     }
 
     TemporaryDirectory directory;
@@ -67,17 +63,8 @@ class ConversationTest : public ::testing::Test {
     OnDemand files = Window("Files");
     OnDemand settings = Window("SettingsForm");
     Interpreter interpreter{session};
-    std::deque<std::string> lines;
-    std::vector<std::string> answers;
     int closed = 0;
-    Conversation conversation{interpreter,
-                              [this]() -> std::optional<std::string> {
-                                  if (lines.empty()) return {};
-                                  std::string line = lines.front();
-                                  lines.pop_front();
-                                  return line;
-                              },
-                              [this](const std::string& line) { answers.push_back(line); }};
+    Talk talk{interpreter};
 };
 
 constexpr const char* openOne = "[\"click\",\"Form1.ExitBtn\"]";

@@ -3,6 +3,8 @@
 #include "core/form1.h"
 #include "driver/field_table.h"
 #include "driver/windows.h"
+#include "joystick/button_setup_form.h"
+#include "support/file_dialog_form.h"
 
 namespace kivu::driver {
 
@@ -47,6 +49,7 @@ const FieldTable& MainWindowFields() {
         KIVU_FIELD(DownloadURL),
         KIVU_FIELD(JoystickFocus),
         KIVU_FIELD(EmuListBrowsing),
+        KIVU_FIELD(JoystickButtonSetupModus),
         KIVU_FIELD(JoystickButtons),
         KIVU_FIELD(ExitButtonAction),
         KIVU_FIELD(ShortListHasFocus),
@@ -74,10 +77,35 @@ const FieldTable& MainWindowFields() {
     return fields;
 }
 
+const FieldTable& FileDialogFields() {
+    using support::FilesForm;
+#define KIVU_FIELD(name) FieldOf<FilesForm>(#name, &FilesForm::name)
+    static const FieldTable fields{
+        KIVU_FIELD(Mode),
+        KIVU_FIELD(Result),
+        KIVU_FIELD(Mask),
+        KIVU_FIELD(NetworkPath),
+    };
+#undef KIVU_FIELD
+    return fields;
+}
+
+const FieldTable& ButtonSetupFields() {
+    using joystick::ButtonSetupForm;
+    static const FieldTable fields{
+        FieldOf<ButtonSetupForm>("Texts", &ButtonSetupForm::Texts),
+        FieldOf<ButtonSetupForm>("Buttons", &ButtonSetupForm::Buttons),
+        FieldOf<ButtonSetupForm>("Position", &ButtonSetupForm::Position),
+    };
+    return fields;
+}
+
 // One table a window.
 const FieldTable& FieldsOf(const forms::Form& form) {
     static const FieldTable none;
     if (dynamic_cast<const Form1*>(&form)) return MainWindowFields();
+    if (dynamic_cast<const support::FilesForm*>(&form)) return FileDialogFields();
+    if (dynamic_cast<const joystick::ButtonSetupForm*>(&form)) return ButtonSetupFields();
     return none;
 }
 

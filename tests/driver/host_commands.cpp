@@ -1,4 +1,4 @@
-// The scripted host: answers for boxes, what has been started, processes, devices, clock, display.
+// The scripted host: answers for boxes, what has been started, processes, clock, display.
 
 #include <cstdio>
 #include <optional>
@@ -56,13 +56,6 @@ Answer AnswerFrom(const Json& value) {
         if (SameName(text, Name(answer))) return answer;
     }
     throw CommandError("an answer is OK, Cancel, Yes or No");
-}
-
-// What has come about, as the answer's value and under the command's own name.
-Json Told(const char* name, Json what) {
-    Json more = Value(what);
-    more[name] = std::move(what);
-    return more;
 }
 
 Json QueueAnswers(Session& session, const Json& command) {
@@ -160,82 +153,6 @@ Json Process(Session& session, const Json& command) {
     return Json::object();
 }
 
-Json ShowDevices(const Session& session) {
-    Json devices = Json::array();
-    for (const ScriptedDevice& device : session.devices) {
-        Json shown = Json::object();
-        shown["name"] = device.name;
-        shown["buttonCount"] = device.buttonCount;
-        for (std::size_t i = 0; i < device.axes.size(); ++i)
-            shown[ScriptedDevice::axisNames[i]] = device.axes[i];
-        shown["buttons"] = device.pressed;
-        devices.push_back(std::move(shown));
-    }
-    return Told("devices", std::move(devices));
-}
-
-void AddDevice(Session& session, const Json& command) {
-    ScriptedDevice device;
-    device.name = TextFrom(command[2], "the name");
-    device.buttonCount = WholeFrom(command[3], "the number of buttons");
-    if (device.buttonCount < 0 || device.buttonCount > ScriptedDevice::mostButtons)
-        throw CommandError("a device has 0 to 32 buttons");
-    session.devices.push_back(std::move(device));
-}
-
-void SetAxis(ScriptedDevice& device, const std::string& name, const Json& value) {
-    for (std::size_t i = 0; i < device.axes.size(); ++i) {
-        if (name != ScriptedDevice::axisNames[i]) continue;
-        const int place = WholeFrom(value, name);
-        if (place < 0 || place > 65535) throw CommandError("an axis stands at 0 to 65535");
-        device.axes[i] = place;
-        return;
-    }
-    throw CommandError("a device has no " + name);
-}
-
-std::set<int> PressedFrom(const Json& value, int count) {
-    if (!value.is_array()) throw CommandError("buttons must be an array of numbers");
-    std::set<int> pressed;
-    for (const Json& entry : value) {
-        const int button = WholeFrom(entry, "a button");
-        if (button < 0 || button >= count)
-            throw CommandError("the device has no button " + std::to_string(button));
-        pressed.insert(button);
-    }
-    return pressed;
-}
-
-void SetDevice(Session& session, const Json& command) {
-    const int number = WholeFrom(command[2], "the device");
-    if (number < 0 || static_cast<std::size_t>(number) >= session.devices.size())
-        throw CommandError("no device " + std::to_string(number));
-    if (!command[3].is_object()) throw CommandError("the state must be an object");
-    ScriptedDevice device = session.devices[static_cast<std::size_t>(number)];
-    for (const auto& [key, value] : command[3].items()) {
-        if (key == "buttons") {
-            device.pressed = PressedFrom(value, device.buttonCount);
-        } else {
-            SetAxis(device, key, value);
-        }
-    }
-    session.devices[static_cast<std::size_t>(number)] = std::move(device);
-}
-
-Json Device(Session& session, const Json& command) {
-    const std::string& action = TextFrom(command[1], "the action");
-    if (action == "add" && command.size() == 4) {
-        AddDevice(session, command);
-    } else if (action == "set" && command.size() == 4) {
-        SetDevice(session, command);
-    } else if (action == "clear" && command.size() == 2) {
-        session.devices.clear();
-    } else {
-        throw CommandError("device takes \"add\", name, buttons, \"set\", n, {...} or \"clear\"");
-    }
-    return ShowDevices(session);
-}
-
 Json Time(Session& session, const Json& command) {
     const auto time = TimeFromText(TextFrom(command[1], "the time"));
     if (!time) throw CommandError("the time must be such as \"14:05:09\"");
@@ -268,6 +185,12 @@ Json Summon(Session& session, const Json& command) {
 
 }  // namespace
 
+Json Told(const char* name, Json what) {
+    Json more = Value(what);
+    more[name] = std::move(what);
+    return more;
+}
+
 const std::vector<Command>& HostCommands() {
     static const std::vector<Command> commands{
         {"answer", 1, anyNumber, false, QueueAnswers},
@@ -278,7 +201,6 @@ const std::vector<Command>& HostCommands() {
         {"kills", 0, 0, false, Kills},
         {"log", 0, 0, false, Log},
         {"process", 2, 3, false, Process},
-        {"device", 1, 3, false, Device},
         {"time", 1, 1, false, Time},
         {"display", 0, 0, false, Display},
         {"summon", 0, 1, true, Summon},

@@ -13,7 +13,7 @@ namespace {
 
 const Command* FindCommand(const std::string& name) {
     for (const auto* table :
-         {&HandCommands(), &StateCommands(), &HostCommands(), &FileCommands()}) {
+         {&HandCommands(), &StateCommands(), &HostCommands(), &DeviceCommands(), &FileCommands()}) {
         for (const Command& command : *table) {
             if (name == command.name) return &command;
         }
@@ -44,6 +44,7 @@ Interpreter::Interpreter(Session& session) : session(session) {
     AddFavouriteRoutines(routines, session);
     AddLaunchRoutines(routines, session);
     AddWindowRoutines(routines, session);
+    AddJoystickRoutines(routines, session);
 }
 
 Json Interpreter::ExecuteLine(std::string_view line) {

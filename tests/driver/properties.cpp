@@ -243,7 +243,7 @@ CommandError Missing(const Control& control, const std::string& name) {
 }  // namespace
 
 std::string ColorText(forms::Color color) {
-    return ui::LongToHex(color & 0xffffffU);
+    return ui::LongToHex(color);
 }
 
 forms::Color ColorFrom(const Json& value, const std::string& what) {

@@ -12,5 +12,6 @@ void AddLibraryRoutines(RoutineTable& table, Session& session);
 void AddFavouriteRoutines(RoutineTable& table, Session& session);
 void AddLaunchRoutines(RoutineTable& table, Session& session);
 void AddWindowRoutines(RoutineTable& table, Session& session);
+void AddJoystickRoutines(RoutineTable& table, Session& session);
 
 }  // namespace kivu::driver

@@ -51,6 +51,36 @@ void AddDialogRoutines(RoutineTable& table, Session& session) {
     table.push_back(Bind("FileGetLongFileName",
                          [files](string path) { return files().FileGetLongFileName(path); }));
     table.push_back(Bind("FileRun", [files](string path) { return files().FileRun(path); }));
+    table.push_back(Bind("ReadDirctoryStructureToFile", [files](string source, string target,
+                                                                string extension, bool append) {
+        return files().ReadDirctoryStructureToFile(source, target, extension, append);
+    }));
+}
+
+// A caller may name the variable for the result as well.
+Outcome Chosen(const string& path, const optional<string>& result) {
+    Outcome outcome{path};
+    if (result) outcome.changed["result"] = path;
+    return outcome;
+}
+
+// Each opens the window Files over the main one.
+void AddFileDialogs(RoutineTable& table, Session& session) {
+    auto& all = session.Routines();
+    table.push_back(Bind("FileOpenDialog", [&all](string path, string caption, string name,
+                                                  optional<string> result) {
+        auto& dialogs = all.windowsBeside.fileDialogs;
+        return Chosen(dialogs.FileOpenDialog(path, caption, name, &all.form), result);
+    }));
+    table.push_back(Bind("filesaveDialog", [&all](string path, string caption, string name,
+                                                  optional<string> result) {
+        auto& dialogs = all.windowsBeside.fileDialogs;
+        return Chosen(dialogs.filesaveDialog(path, caption, name, &all.form), result);
+    }));
+    table.push_back(Bind("FileDirSelectDialog", [&all](string path, optional<string> caption) {
+        auto& dialogs = all.windowsBeside.fileDialogs;
+        return dialogs.FileDirSelectDialog(path, caption.value_or(""), &all.form);
+    }));
 }
 
 }  // namespace
@@ -59,6 +89,7 @@ void AddFileRoutines(RoutineTable& table, Session& session) {
     platform::FileSystem& files = session.Host().files;
     AddProfileRoutines(table, session);
     AddDialogRoutines(table, session);
+    AddFileDialogs(table, session);
     table.push_back(
         Bind("GetFilePath", [&files](string path) { return support::DirectoryOf(files, path); }));
     table.push_back(Bind("ShortFileName",

@@ -45,7 +45,7 @@ void AddPathForms(RoutineTable& table) {
 
 }  // namespace
 
-void AddTextRoutines(RoutineTable& table, Session&) {
+void AddTextRoutines(RoutineTable& table, Session& session) {
     AddPathForms(table);
     table.push_back(Bind("CutShortName", [](string path, string separator, bool fromSecond) {
         return library::CutShortName(path, separator, fromSecond);
@@ -70,9 +70,8 @@ void AddTextRoutines(RoutineTable& table, Session&) {
     }));
     table.push_back(Bind(
         "HexToLong", [](string text) { return static_cast<std::int64_t>(ui::HexToLong(text)); }));
-    // Negative numbers are colours of the system, which this host does not have.
-    table.push_back(Bind("LongToHex", [](int color) {
-        return ui::LongToHex(static_cast<forms::Color>(color) & 0xffffffU);
+    table.push_back(Bind("LongToHex", [&session](int color) {
+        return ui::LongToHex(static_cast<forms::Color>(color), session.Host().systemColors);
     }));
 }
 

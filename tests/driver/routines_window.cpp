@@ -55,12 +55,37 @@ void AddLayout(RoutineTable& table, Session& session) {
                          [&all](int mode) { support::ChangeBorderstyle(all.form, mode); }));
 }
 
+void AddPreview(RoutineTable& table, Session& session) {
+    auto& previews = session.Routines().previews;
+    table.push_back(Bind("FindPreviewPicture",
+                         [&previews](string name) { return previews.FindPreviewPicture(name); }));
+    table.push_back(
+        Bind("ShowGamePreview", [&previews](int index) { previews.ShowGamePreview(index); }));
+    table.push_back(Bind("ShowEmulatorPreview",
+                         [&previews](int index) { previews.ShowEmulatorPreview(index); }));
+    table.push_back(Bind("LoadVorschauImageFromPAth",
+                         [&previews](string path) { previews.LoadVorschauImageFromPAth(path); }));
+    table.push_back(
+        Bind("SetVorschaubild", [&previews](bool showIt) { previews.SetVorschaubild(showIt); }));
+}
+
+void AddSkins(RoutineTable& table, Session& session) {
+    auto& all = session.Routines();
+    table.push_back(Bind("LoadSkinPictures", [&all] { all.skins.LoadSkinPictures(); }));
+    // The window is told by its name.
+    table.push_back(Bind("SetColors", [&session](string window, int back, int fore) {
+        session.Routines().windowColors.SetColors(session.OpenWindows().Window(window), back, fore);
+    }));
+}
+
 }  // namespace
 
 void AddWindowRoutines(RoutineTable& table, Session& session) {
     AddGetters(table, session);
+    AddPreview(table, session);
     AddPin(table, session);
     AddLayout(table, session);
+    AddSkins(table, session);
     auto& all = session.Routines();
     table.push_back(Bind("SelectEmulator", [&all](bool addToGlobal) {
         all.emulatorSwitch.SelectEmulator(addToGlobal);
@@ -71,8 +96,6 @@ void AddWindowRoutines(RoutineTable& table, Session& session) {
     table.push_back(Bind("MeCaption", [&all](string caption) { all.busy.MeCaption(caption); }));
     table.push_back(Bind("ExitBtn_Click", [&all] { all.shutDown.ExitBtn_Click(); }));
     table.push_back(Bind("Uhrzeit_Timer", [&all] { all.startUp.Uhrzeit_Timer(); }));
-    table.push_back(
-        Bind("JoystickDirection", [&all](int key) { all.navigation.JoystickDirection(key); }));
 }
 
 }  // namespace kivu::driver

@@ -69,6 +69,20 @@ TEST_F(DirectoryTest, DirListJoinsWithTheSeparatorOfItsPath) {
     EXPECT_THAT(Shown(dirs), ElementsAre("/odd\\/in"));
 }
 
+TEST_F(DirectoryTest, DirectoriesAreShownByTheirNamesAlone) {
+    for (const char* path : {"/roms", "/", "C:\\", "C:\\Roms", "/odd\\"}) {
+        dirs.SetPath(path);
+        const std::string full = dirs.List(0);
+        const std::string name(dirs.Name(0));
+        EXPECT_TRUE(full.ends_with(name)) << path;
+        EXPECT_EQ(name.find_first_of("/\\"), std::string::npos) << path;
+        EXPECT_NE(name, "") << path;
+    }
+    EXPECT_EQ(dirs.Name(7), "");
+    dirs.ForgetPath();
+    EXPECT_EQ(dirs.Name(0), "");
+}
+
 TEST_F(DirectoryTest, PathIsKeptWithoutItsClosingSeparatorButForARoot) {
     const std::vector<std::pair<const char*, const char*>> table{
         {"/roms/", "/roms"}, {"C:\\Roms\\", "C:\\Roms"}, {"/", "/"}, {"C:\\", "C:\\"}};

@@ -1,56 +1,20 @@
 #include "support/files.h"
 
 #include <gtest/gtest.h>
-#include <map>
 
 #include "testing/environment_variable.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_host.h"
 
 namespace kivu::support {
 namespace {
-
-class RecordingHost : public platform::UserStore,
-                      public platform::ProgramStarter,
-                      public platform::Dialogs {
- public:
-    std::string Get(const std::string&, const std::string&,
-                    const std::string& missing) const override {
-        return missing;
-    }
-    void Set(const std::string&, const std::string&, const std::string&) override {}
-    std::string SystemValue(const std::string& root, const std::string& key,
-                            const std::string& name) const override {
-        const auto found = values.find(root + "|" + key + "|" + name);
-        return found == values.end() ? std::string{} : found->second;
-    }
-    std::error_code Run(const platform::StartRequest& request) override {
-        runs.push_back(request.command);
-        return {};
-    }
-    bool UsesShell() const override { return false; }
-    std::error_code Open(const std::string& path) override {
-        opened.push_back(path);
-        return {};
-    }
-    platform::Answer MessageBox(const std::string& text, const std::string&, platform::Buttons,
-                                platform::Icon) override {
-        boxes.push_back(text);
-        return platform::Answer::Ok;
-    }
-    std::string InputBox(const std::string&, const std::string&, const std::string&) override {
-        return {};
-    }
-
-    std::map<std::string, std::string> values;
-    std::vector<std::string> runs, opened, boxes;
-};
 
 class FilesTest : public ::testing::Test {
  protected:
     void Put(const std::string& path) { disk.AddFile(path, path); }
 
     kivu::testing::MemoryFileSystem disk;
-    RecordingHost host;
+    kivu::testing::QuietHost host;
     Files files{{disk, host, host, host}};
 };
 

@@ -47,6 +47,17 @@ class FaultyFileSystem : public platform::FileSystem {
         if (Fault(Step::List, path)) return std::nullopt;
         return inner.ListDirectory(path);
     }
+    std::optional<std::string> FirstMatch(const std::string& directory, std::string_view prefix,
+                                          std::string_view ending,
+                                          std::string_view preferredStem) const override {
+        if (Fault(Step::List, directory)) return std::nullopt;
+        return inner.FirstMatch(directory, prefix, ending, preferredStem);
+    }
+    std::optional<std::string> FindDirectory(const std::string& parent,
+                                             std::string_view name) const override {
+        if (Fault(Step::List, parent)) return std::nullopt;
+        return inner.FindDirectory(parent, name);
+    }
     bool FileExists(const std::string& path) const override { return inner.FileExists(path); }
     bool IsDirectory(const std::string& path) const override { return inner.IsDirectory(path); }
     std::optional<Identity> IdentityOf(const std::string& path) const override {

@@ -54,6 +54,7 @@ struct QuietWatch : core::RunningEmulator {
     void EmuActiveTimer_Timer() override {}
     void WatchOnce() override {}
     void AppRunningPicture_Click() override {}
+    void KillRunning() override {}
 };
 
 struct QuietDrives : core::Drives {

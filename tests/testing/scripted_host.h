@@ -16,6 +16,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/classic_colors.h"
 #include "platform/host.h"
 #include "text/log_text.h"
 
@@ -97,10 +98,12 @@ class ScriptedDialogs : public platform::Dialogs {
         if (onShow) onShow();
         return box.input;
     }
+    void PressInBox(BoxKey key) override { pressed.push_back(key); }
 
     std::deque<platform::Answer> answers;
     std::deque<std::string> inputs;
     std::vector<ShownBox> shown;
+    std::vector<BoxKey> pressed;   // by a controller
     std::function<void()> onShow;  // while the box is on the screen
 
  private:
@@ -333,42 +336,64 @@ class ScriptedBackground : public platform::Background {
 // The classic desktop's.
 class ScriptedColors : public platform::SystemColors {
  public:
-    std::uint32_t SystemColor(int index) const override {
-        const auto found = colors.find(index);
-        return found == colors.end() ? 0 : found->second;
-    }
-    std::map<int, std::uint32_t> colors{{5, 0xffffff}, {8, 0}, {15, 0xc0c0c0}};
+    std::uint32_t SystemColor(int index) const override { return platform::ClassicColor(index); }
 };
 
-// Controllers as the test holds them.
+// Controllers as the test holds them. What is attached later is read once it has been opened, and
+// what was opened goes on being the same device.
 class ScriptedControllers : public platform::Controllers {
  public:
     struct Device {
         platform::Controller controller;
         platform::ControllerState state;
+        int id = NextId();
     };
 
     std::optional<std::vector<platform::Controller>> Open() override {
         ++opened;
+        handles.clear();
         if (noService) return std::nullopt;
         std::vector<platform::Controller> list;
-        for (const Device& device : devices)
+        for (const Device& device : devices) {
             list.push_back(device.controller);
+            handles.push_back(device.id);
+        }
         return list;
     }
     bool Read(std::size_t device, platform::ControllerState& state) override {
+        ++reads;
         state = {};
-        if (device >= devices.size()) return false;
-        state = devices[device].state;
+        if (device >= handles.size()) return false;
+        const auto found = std::find_if(devices.begin(), devices.end(), [&](const Device& one) {
+            return one.id == handles[device];
+        });
+        if (found == devices.end()) return false;
+        state = found->state;
         return true;
     }
-    void Close() override { ++closed; }
+    void Close() override {
+        ++closed;
+        handles.clear();
+    }
     bool Changed() override { return std::exchange(changed, false); }
+    // The device at that place is the one that was opened there.
+    bool IsOpened(std::size_t device) const {
+        return device < devices.size() && device < handles.size() &&
+               devices[device].id == handles[device];
+    }
 
     std::vector<Device> devices{{{"Mouse", 0}, {}}, {{"Keyboard", 0}, {}}};
     bool noService = false;
     bool changed = false;
-    int opened = 0, closed = 0;
+    int opened = 0, closed = 0, reads = 0;
+
+ private:
+    static int NextId() {
+        static std::atomic<int> last = 0;
+        return ++last;
+    }
+
+    std::vector<int> handles;
 };
 
 struct ScriptedHost {

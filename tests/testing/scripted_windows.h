@@ -12,6 +12,9 @@ class ScriptedWindows : public forms::WindowHost {
  public:
     forms::Size Room(const forms::Form*) const override { return room; }
 
+    Activity ActiveWindow() const override { return activity; }
+
+    Activity activity = Activity::unknown;
     // What the user does while a modal window waits.
     std::function<void(forms::Form& form, const std::function<bool()>& isOpen)> onModal;
     forms::Size room{1920 * forms::twipsPerPixel, 1080 * forms::twipsPerPixel};

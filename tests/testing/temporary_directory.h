@@ -24,6 +24,7 @@ class TemporaryDirectory {
     std::string Path(const std::string& name) const { return HostPath(root + "/" + name); }
 
     std::string Write(const std::string& name, const std::string& bytes) const {
+        std::filesystem::create_directories(PathOf(Path(name)).parent_path());
         std::ofstream(PathOf(Path(name)), std::ios::binary) << bytes;
         return Path(name);
     }

@@ -20,12 +20,18 @@ TEST(FirstMatch, AStemHasNoEnding) {
 }
 
 TEST(FirstMatch, PicturesThenTheSameStemThenTheOrderOfNames) {
-    EXPECT_TRUE(ComesFirst("Turrican.png", "Turrican II.png", "turrican"));
-    EXPECT_FALSE(ComesFirst("Turrican II.png", "Turrican.png", "turrican"));
-    EXPECT_TRUE(ComesFirst("Turrican II.png", "Turrican.png", "other"));
-    EXPECT_TRUE(ComesFirst("Zool.jpg", "Apidya.nfo", "Apidya"));
-    EXPECT_TRUE(ComesFirst("turrican.jpg", "Turrican.png", "Turrican"));
-    EXPECT_FALSE(ComesFirst("a.png", "a.png", "a"));
+    EXPECT_TRUE(ComesFirst("Turrican.png", "Turrican II.png", "turrican", ""));
+    EXPECT_FALSE(ComesFirst("Turrican II.png", "Turrican.png", "turrican", ""));
+    EXPECT_TRUE(ComesFirst("Turrican II.png", "Turrican.png", "T", "other"));
+    EXPECT_TRUE(ComesFirst("Zool.jpg", "Apidya.nfo", "Apidya", "Apidya"));
+    EXPECT_TRUE(ComesFirst("turrican.jpg", "Turrican.png", "Turrican", ""));
+    EXPECT_FALSE(ComesFirst("a.png", "a.png", "a", "a"));
+}
+
+TEST(FirstMatch, StemThatWasLookedForComesBeforeTheFilesOwn) {
+    EXPECT_TRUE(ComesFirst("Tetris.png", "Tetris 2.png", "Tetri", "tetris"));
+    EXPECT_TRUE(ComesFirst("Game.png", "Game (Disk 1).png", "Game", "Game (Disk 1)"));
+    EXPECT_FALSE(ComesFirst("Game (Disk 1).png", "Game.png", "Game", "Game (Disk 1)"));
 }
 
 TEST(FirstMatch, BeginsAndEndsWithoutRegardToCase) {

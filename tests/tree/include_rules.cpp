@@ -242,8 +242,9 @@ Findings ForbiddenNeighbours(const SourceTree& tree) {
         {"text", {"text"}},
         {"platform", {"platform", "text"}},
         {"view", {"view", "forms"}},
-        {"hosts/linux", {"hosts/linux", "text", "platform"}},
-        {"hosts/windows", {"hosts/windows", "text", "platform"}},
+        {"hosts", {"hosts", "text", "platform"}},
+        {"hosts/linux", {"hosts/linux", "hosts", "text", "platform"}},
+        {"hosts/windows", {"hosts/windows", "hosts", "text", "platform"}},
         {"hosts/qt", {"hosts/qt", "text", "platform"}}};
     Findings findings;
     for (const Include& include :
@@ -263,7 +264,8 @@ Findings PickedHosts(const SourceTree& tree) {
         return IsBelow(path, "src") && !IsBelow(path, "src/app");
     };
     for (const Include& include : Includes(tree, others)) {
-        if (!IsHost(include.target)) continue;
+        if (!IsBelow(include.target, "src/hosts")) continue;
+        if (IsHost(include.file->path) && FolderNode(include.target) == "hosts") continue;
         if (FolderNode(include.target) == FolderNode(include.file->path)) continue;
         findings.push_back(include.At("only app, tests and bench may include " + include.target));
     }

@@ -69,7 +69,9 @@ TEST(ForbiddenNeighboursTest, EachFolderKeepsToItsNeighbours) {
         File("src/core/c.h", ""),
         File("src/forms/a.h", "#include \"text/t.h\"\n"),
         File("src/forms/b.h", "#include \"forms/a.h\"\n#include \"a.h\"\n"),
+        File("src/hosts/both.h", "#include \"hosts/linux/l.h\"\n#include \"platform/p.h\"\n"),
         File("src/hosts/linux/l.h", "#include \"text/t.h\"\n#include \"platform/p.h\"\n"),
+        File("src/hosts/linux/m.h", "#include \"hosts/both.h\"\n"),
         File("src/hosts/qt/q.h", "#include \"hosts/linux/l.h\"\n#include \"core/c.h\"\n"),
         File("src/platform/p.h", "#include \"text/t.h\"\n#include \"core/c.h\"\n"),
         File("src/png/p.h", "#include \"forms/a.h\"\n"),
@@ -78,6 +80,7 @@ TEST(ForbiddenNeighboursTest, EachFolderKeepsToItsNeighbours) {
         File("src/view/w.cpp", "#include \"png/p.h\"\n#include \"platform/p.h\"\n")};
     EXPECT_THAT(ForbiddenNeighbours(tree),
                 ElementsAre("src/forms/a.h:1: forms must not include src/text/t.h",
+                            "src/hosts/both.h:1: hosts must not include src/hosts/linux/l.h",
                             "src/hosts/qt/q.h:1: hosts/qt must not include src/hosts/linux/l.h",
                             "src/hosts/qt/q.h:2: hosts/qt must not include src/core/c.h",
                             "src/platform/p.h:2: platform must not include src/core/c.h",
@@ -109,6 +112,14 @@ TEST(PickedHostsTest, OnlyAppTestsAndBenchPickAHost) {
     EXPECT_THAT(PickedHosts(tree),
                 ElementsAre(HasSubstr("src/core/c.cpp:1: "), HasSubstr("src/platform/clock.h:1: "),
                             HasSubstr("src/hosts/qt/q.cpp:1: ")));
+}
+
+TEST(PickedHostsTest, WhatHostsShareIsTheirs) {
+    const std::string shared = "#include \"hosts/s.h\"\n";
+    const SourceTree tree{File("src/app/main.cpp", shared), File("src/core/c.cpp", shared),
+                          File("src/hosts/linux/a.cpp", shared), File("src/hosts/s.cpp", shared),
+                          File("src/hosts/s.h", "")};
+    EXPECT_THAT(PickedHosts(tree), ElementsAre(HasSubstr("src/core/c.cpp:1: ")));
 }
 
 TEST(CirclesTest, ArrowsThatGoOneWayAreNone) {

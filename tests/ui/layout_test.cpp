@@ -18,6 +18,7 @@ class LayoutTest : public ::testing::Test {
             layout.Current_ProgramNameFull_FontChange();
         };
         form.SettingsSubPicture.onResize = [this] { layout.SettingsSubPicture_Resize(); };
+        form.VorschauBild.onResize = [this] { layout.VorschauBild_Resize(); };
         form.Current_ProgramNameFull.SetFontSize(18);
         Resize(14400, 10200);
     }
@@ -34,7 +35,8 @@ class LayoutTest : public ::testing::Test {
     int NameBottom() { return form.SettingsFrame.Top() + form.Current_ProgramNameFull.Bottom(); }
     void ExpectRowsInside() {
         EXPECT_EQ(form.SettingsFrame.Bottom(), form.Height());
-        EXPECT_EQ(form.ExitBtn.Top(), form.SettingsFrame.Height() - 1340);
+        EXPECT_GE(form.ExitBtn.Top(), 0);
+        EXPECT_LE(form.ExitBtn.Bottom(), form.SettingsFrame.Height());
     }
 
     core::Form1 form{forms::Toolkit{}};
@@ -51,24 +53,29 @@ TEST_F(LayoutTest, FrameBeginsUnderThePicture) {
     ExpectRowsInside();
 }
 
-TEST_F(LayoutTest, NameOfManyLinesStaysAboveTheFavouritesButtons) {
-    const int home = form.AddToFavorit.Top();
-    for (int words = 1; words <= 8; ++words) {
+TEST_F(LayoutTest, NameTakesTheLinesThatThereAreAndThePictureStays) {
+    const int home = form.AddToFavorit.Top(), frame = form.SettingsFrame.Top();
+    bool cut = false;
+    for (int words = 1; words <= 12; ++words) {
         Name(words);
         const forms::Label& name = form.Current_ProgramNameFull;
         EXPECT_LE(NameBottom(), form.AddToFavorit.Top()) << words;
-        EXPECT_EQ(name.Height(), name.ShownLines(name.Width()) * name.ShownLineHeight()) << words;
-        EXPECT_EQ(name.ToolTipText(), "") << words;
-        EXPECT_GE(form.SettingsFrame.Top(), form.FavoritenListe.Top()) << words;
+        EXPECT_EQ(form.SettingsFrame.Top(), frame) << words;
+        EXPECT_LE(name.ShownLines(name.Width()) * name.ShownLineHeight(), name.Height()) << words;
+        cut = name.ShownText().ends_with("…");
+        EXPECT_EQ(cut, name.ToolTipText() != "") << words;
         // The buttons and the rows stand still.
         EXPECT_EQ(form.AddToFavorit.Top(), home) << words;
         ExpectRowsInside();
     }
+    EXPECT_TRUE(cut);
     form.Current_ProgramNameFull.SetCaption("Short.adf");
-    EXPECT_EQ(form.SettingsFrame.Top(), form.VorschauBild.Bottom());
+    EXPECT_EQ(form.Current_ProgramNameFull.ToolTipText(), "");
+    EXPECT_EQ(form.Current_ProgramNameFull.ShownText(), "");
 }
 
 TEST_F(LayoutTest, NameKeepsItsLettersOnTheScreen) {
+    Resize(14400, 13000);
     const forms::Label& name = form.Current_ProgramNameFull;
     const std::string whole = "Brick Bay (1992)(Kivu)(Disk 1 of 3).com";
     form.Current_ProgramNameFull.SetCaption(whole);
@@ -83,6 +90,7 @@ TEST_F(LayoutTest, NameKeepsItsLettersOnTheScreen) {
 }
 
 TEST_F(LayoutTest, FrameIsLaidOutAgainWhenTheNamesFontChanges) {
+    Resize(14400, 13000);
     Name(3);
     forms::Label& name = form.Current_ProgramNameFull;
     const int before = name.Height();
@@ -117,26 +125,31 @@ TEST_F(LayoutTest, RowsStayOnTheirPixelWhateverTheNameTakes) {
 }
 
 TEST_F(LayoutTest, NameThatNeverFitsIsCutAtALineAndToldByTheToolTip) {
-    Resize(12000, 7000);
+    Resize(12000, 9000);
     Name(30);
     const forms::Label& name = form.Current_ProgramNameFull;
     ASSERT_TRUE(name.Visible());
-    EXPECT_LT(name.Height(), name.ShownLines(name.Width()) * name.ShownLineHeight());
     EXPECT_EQ(name.Height() % name.ShownLineHeight(), 0);
     EXPECT_GT(name.Height(), 0);
+    EXPECT_TRUE(name.ShownText().starts_with("Amphibian"));
+    EXPECT_TRUE(name.ShownText().ends_with("…"));
     EXPECT_EQ(name.ToolTipText().find('\r'), std::string::npos);
     EXPECT_NE(name.ToolTipText().find("Amphibian (1992).adf"), std::string::npos);
     ExpectRowsInside();
+    // More room takes more of it.
+    const std::size_t shown = name.ShownText().size();
+    Resize(12000, 13000);
+    EXPECT_GT(name.ShownText().size(), shown);
 }
 
-struct Place {
+struct Standing {
     std::string name;
     int left, top, right, bottom;
 };
 
 // What stands in the right column, in the window's twips.
-std::vector<Place> ColumnOf(const core::Form1& form) {
-    std::vector<Place> places;
+std::vector<Standing> ColumnOf(const core::Form1& form) {
+    std::vector<Standing> places;
     const auto add = [&](const forms::Control& control, int x, int y) {
         places.push_back({control.Name(), x + control.Left(), y + control.Top(),
                           x + control.Right(), y + control.Bottom()});
@@ -156,21 +169,23 @@ std::vector<Place> ColumnOf(const core::Form1& form) {
                                           static_cast<const forms::Control*>(&form.JoystickIcon),
                                           static_cast<const forms::Control*>(&form.AlwaysOnTop1)})
         add(*control, form.SettingsFrame.Left(), form.SettingsFrame.Top());
+    // What is not there, and what the window has no room for.
+    std::erase_if(places, [&](const Standing& place) { return place.top >= form.Height(); });
     return places;
 }
 
 TEST_F(LayoutTest, RightColumnHoldsDownToSmallScreens) {
     for (int width = 9600; width <= 28800; width += 150) {
         Resize(width, std::max(7200, width * 9 / 16));
-        const std::vector<Place> places = ColumnOf(form);
+        const std::vector<Standing> places = ColumnOf(form);
         for (std::size_t i = 0; i < places.size(); ++i) {
-            const Place& a = places[i];
+            const Standing& a = places[i];
             EXPECT_GE(a.left, form.SettingsFrame.Left() + 100) << a.name << " at " << width;
             EXPECT_LE(a.right, form.Width() - 100 - 150) << a.name << " at " << width;
             EXPECT_LE(a.bottom, form.Height()) << a.name << " at " << width;
             EXPECT_GT(a.top, form.FavoritenListe.Top()) << a.name << " at " << width;
             for (std::size_t j = i + 1; j < places.size(); ++j) {
-                const Place& b = places[j];
+                const Standing& b = places[j];
                 const bool apart = a.right <= b.left || b.right <= a.left || a.bottom <= b.top ||
                                    b.bottom <= a.top;
                 EXPECT_TRUE(apart) << a.name << " and " << b.name << " at " << width;
@@ -233,7 +248,7 @@ TEST_F(LayoutTest, NarrowWindowStacksTheFavouritesButtonsAndShortensTheSearchBox
     EXPECT_LT(form.AddToFavorit_Global.Bottom(), form.AddToFavorit.Top());
     EXPECT_LT(form.SearchDblsTxt.Width(), search);
     Name(4);
-    EXPECT_LE(NameBottom(), form.AddToFavorit_Global.Top());
+    EXPECT_LE(NameBottom(), form.SettingsFrame.Top() + form.LoadBtn.Top());
     Resize(14400, 10200);
     EXPECT_EQ(form.SearchDblsTxt.Width(), search);
     EXPECT_EQ(form.AddToFavorit_Global.Top(), form.AddToFavorit.Top());

@@ -174,6 +174,92 @@ TEST(Dialogs, StayOnTheScreenWithAVeryLongText) {
     EXPECT_LE(place.height(), QGuiApplication::primaryScreen()->availableSize().height());
 }
 
+using BoxKey = Dialogs::BoxKey;
+
+// Without a keyboard: what a controller does to the box that is open.
+Answer AnswerBy(hosts::QtDialogs& dialogs, Buttons buttons, std::vector<BoxKey> keys) {
+    WhenShown("MessageBox", [&](QDialog&) {
+        for (const BoxKey key : keys)
+            dialogs.PressInBox(key);
+    });
+    return dialogs.MessageBox("Sure?", "Title", buttons, Icon::Question);
+}
+
+TEST(PressInBox, PressesTheButtonInFocus) {
+    hosts::QtDialogs dialogs(false);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::YesNo, {BoxKey::press}), Answer::Yes);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::YesNo, {BoxKey::next, BoxKey::press}), Answer::No);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::YesNo, {BoxKey::next, BoxKey::previous, BoxKey::press}),
+              Answer::Yes);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::OkCancel, {BoxKey::next, BoxKey::press}), Answer::Cancel);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::Ok, {BoxKey::next, BoxKey::press}), Answer::Ok);
+}
+
+TEST(PressInBox, TheRowOfButtonsHasEnds) {
+    hosts::QtDialogs dialogs(false);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::YesNo, {BoxKey::previous, BoxKey::press}), Answer::Yes);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::YesNo, {BoxKey::next, BoxKey::next, BoxKey::press}),
+              Answer::No);
+}
+
+TEST(PressInBox, GivesTheCancellingAnswer) {
+    hosts::QtDialogs dialogs(false);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::YesNo, {BoxKey::cancel}), Answer::No);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::OkCancel, {BoxKey::cancel}), Answer::Cancel);
+    EXPECT_EQ(AnswerBy(dialogs, Buttons::Ok, {BoxKey::cancel}), Answer::Ok);
+}
+
+TEST(PressInBox, TheStepIsSeen) {
+    hosts::QtDialogs dialogs(false);
+    QString first, second;
+    WhenShown("MessageBox", [&](QDialog& box) {
+        first = box.focusWidget()->objectName();
+        dialogs.PressInBox(BoxKey::next);
+        second = box.focusWidget()->objectName();
+        // Enter presses it, as after a step by the keyboard.
+        QTest::keyClick(&box, Qt::Key_Return);
+    });
+    EXPECT_EQ(dialogs.MessageBox("Sure?", "Title", Buttons::YesNo, Icon::None), Answer::No);
+    EXPECT_EQ(first, "Yes");
+    EXPECT_EQ(second, "No");
+}
+
+TEST(PressInBox, ALineWithTheFocusLeavesTheButtonsAsTheyAre) {
+    hosts::QtDialogs dialogs(false);
+    const auto ask = [&](std::vector<BoxKey> keys) {
+        WhenShown("InputBox", [&, keys](QDialog& box) {
+            EXPECT_EQ(box.focusWidget()->objectName(), "Input");
+            for (const BoxKey key : keys)
+                dialogs.PressInBox(key);
+        });
+        return dialogs.InputBox("New Title", "Title", "old");
+    };
+    EXPECT_EQ(ask({BoxKey::press}), "old");
+    EXPECT_EQ(ask({BoxKey::previous, BoxKey::press}), "old");
+    EXPECT_EQ(ask({BoxKey::next, BoxKey::press}), "");
+    EXPECT_EQ(ask({BoxKey::next, BoxKey::previous, BoxKey::press}), "old");
+    EXPECT_EQ(ask({BoxKey::cancel}), "");
+}
+
+TEST(PressInBox, OfTwoBoxesTheUpperOneTakesIt) {
+    hosts::QtDialogs dialogs(false);
+    std::vector<Answer> answers;
+    WhenShown("MessageBox", [&](QDialog&) {
+        answers.push_back(AnswerBy(dialogs, Buttons::OkCancel, {BoxKey::press}));
+        dialogs.PressInBox(BoxKey::cancel);
+    });
+    answers.push_back(dialogs.MessageBox("Sure?", "Title", Buttons::YesNo, Icon::None));
+    EXPECT_EQ(answers, (std::vector<Answer>{Answer::Ok, Answer::No}));
+}
+
+TEST(PressInBox, WithoutABoxNothingHappens) {
+    hosts::QtDialogs dialogs(false);
+    AnswerBy(dialogs, Buttons::Ok, {BoxKey::press});
+    for (const BoxKey key : {BoxKey::previous, BoxKey::next, BoxKey::press, BoxKey::cancel})
+        dialogs.PressInBox(key);
+    EXPECT_FALSE(QApplication::activeModalWidget());
+}
+
 TEST(EventPump, RunsWhatWaits) {
     hosts::QtEventPump pump;
     bool ran = false;

@@ -211,5 +211,22 @@ TEST_F(ScreenWindowsTest, RoomIsThatOfTheOwnersScreen) {
     EXPECT_EQ(windows.Room(nullptr).height, room.height() * forms::twipsPerPixel);
 }
 
+TEST_F(ScreenWindowsTest, OneOfOursIsActiveWhileItHasTheKeyboard) {
+    using Activity = forms::WindowHost::Activity;
+    bool elsewhere = true;
+    windows.SetElsewhere([&] { return elsewhere; });
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&mainView.Window(), patience));
+    // Whatever the system says.
+    EXPECT_EQ(windows.ActiveWindow(), Activity::ours);
+    Ask(box.Get(), [&](QWidget&) { EXPECT_EQ(windows.ActiveWindow(), Activity::ours); });
+    mainView.Window().hide();
+    ASSERT_TRUE(QTest::qWaitFor([] { return !QGuiApplication::focusWindow(); }, patience));
+    EXPECT_EQ(windows.ActiveWindow(), Activity::others);
+    elsewhere = false;
+    EXPECT_EQ(windows.ActiveWindow(), Activity::unknown);
+    windows.SetElsewhere({});
+    EXPECT_EQ(windows.ActiveWindow(), Activity::unknown);
+}
+
 }  // namespace
 }  // namespace kivu::tests

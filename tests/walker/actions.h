@@ -23,6 +23,7 @@ struct Action {
 const std::vector<Action>& ListActions();     // rows, tabs, the choice of emulators
 const std::vector<Action>& ControlActions();  // buttons, boxes to type into, the panel
 const std::vector<Action>& KeyActions();
+const std::vector<Action>& PadActions();
 const std::vector<Action>& WorldActions();  // processes, files, the window's size
 
 inline Json Command(std::initializer_list<Json> parts) {

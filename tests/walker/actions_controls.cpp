@@ -67,6 +67,15 @@ Commands DragPanel(World& world, const Look& look, Random& random) {
     return {};
 }
 
+// In the open choice it starts the emulator; else it is zoomed, and put back.
+Commands ClickPreview(World& world, const Look&, Random& random) {
+    if (Reachable(world, "GamePicture")) return Clicked(world, "GamePicture");
+    Commands commands = Clicked(world, "GamePictureVis");
+    if (!commands.empty())
+        commands.insert(commands.begin(), Command({"answer", random.Chance(50) ? "Yes" : "No"}));
+    return commands;
+}
+
 Commands StartNamed(World& world, const Look&, Random&) {
     if (!Reachable(world, "Current_ProgramNameFull")) return {};
     return {Command({"dblclick", "Form1.Current_ProgramNameFull"})};
@@ -97,6 +106,7 @@ const std::vector<Action>& ControlActions() {
         {"fold the panel", 1, Click<fold>},
         {"drag the panel", 2, DragPanel},
         {"maximise or restore", 1, Click<size>},
+        {"click the preview", 5, ClickPreview},
         {"start the named game", 4, StartNamed},
         {"change the title", 1, NewTitle},
     };

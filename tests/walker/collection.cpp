@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "testing/picture_files.h"
+
 namespace kivu::walker {
 
 namespace {
@@ -83,6 +85,8 @@ class Layout {
         if (random.Chance(70)) AddOwnFavourites();
         if (random.Chance(70)) AddGlobalFavourites();
         AddProgramProfile();
+        collection.layout.push_back(Json::array({"device", "add", "Pad", 11}));
+        collection.layout.push_back(Json::array({"device", "add", "Mouse", 0}));
     }
 
  private:
@@ -105,9 +109,19 @@ class Layout {
             cache += path + "\r\n" + ShownName(game) + "\r\n";
             collection.games.push_back(path.substr(1));
             Write(path.substr(1), "x");
+            if (random.Chance(40)) AddPicture(directory + "Pictures/", game);
         }
+        if (random.Chance(50)) AddPicture(directory + "Skin/", emulator.name);
+        if (random.Chance(20)) AddPicture(directory + "Pictures/", emulator.name);
         if (emulator.games.empty()) Write("Roms/" + emulator.name + "/.keep", "");
         if (emulator.cached) Write(directory + "Kivu_Cache.txt", cache);
+    }
+
+    // Named like the whole file or like its title; now and then damaged.
+    void AddPicture(const std::string& directory, const std::string& file) {
+        const std::size_t end = file.find(random.Chance(50) ? '(' : '.');
+        Write(directory + file.substr(0, end) + ".jpg",
+              random.Chance(90) ? testing::BmpHead(32, 24) : "damaged");
     }
 
     // Each a name and a path; some of games that have moved or gone.
@@ -185,7 +199,9 @@ class Layout {
 
     // Without a controller nobody is to be asked about one.
     void AddProgramProfile() {
-        Settings settings{{"UseJoystick", "0"}};
+        Settings settings{{"UseJoystick", random.Chance(70) ? "1" : "0"}};
+        if (random.Chance(30))
+            settings.emplace_back("UseJoystickExitbutton", std::to_string(1 + random.Below(2)));
         const int last = random.Below(10);
         if (last == 0) {
             settings.emplace_back("LastEmulator", "Sold");

@@ -1,5 +1,7 @@
 // What the hands' commands are to do.
 
+#include <map>
+
 #include "text/text.h"
 #include "walker/meaning.h"
 
@@ -63,9 +65,27 @@ Expected PressKey(const Look& look, const Stores& stores, const std::string& key
     return Press(look, stores, look.focus);
 }
 
+// One look at the pad, which holds one button at most. By the table from the factory.
+Expected PollPad(const Look& look, const Stores& stores) {
+    constexpr int starts = 1, adds = 10;
+    if (look.PadIsSilent()) return {};
+    if (look.pad.button == adds) return Press(look, stores, "AddToFavorit");
+    if (look.pad.button != starts) return {};
+    if (look.At(List::emulators).visible || look.pad.focus == 5) {
+        Expected expected;
+        expected.loads = look.dropDown.Marked();
+        return expected;
+    }
+    static const std::map<int, List> lists{
+        {1, List::favourites}, {2, List::simple}, {3, List::complete}, {4, List::hits}};
+    const auto list = lists.find(look.pad.focus);
+    if (list == lists.end()) return {};
+    return TakeRow(look, stores, list->second, look.At(list->second).row, false);
+}
+
 // The loaded emulator starts it, whatever row of the choice has been looked at.
 Expected TakeFile(const Look& look, const std::string& path) {
-    const bool free = look.loaded >= 0 && !look.gameRuns && !look.picture;
+    const bool free = look.loaded >= 0 && !(look.gameRuns && look.watching) && !look.picture;
     if (!free || !IsFileToStart(path)) return {};
     Expected expected;
     expected.act = Act::start;
@@ -95,6 +115,7 @@ Expected Expect(const Look& look, const Stores& stores, const Json& command) {
     const Hand hand = HandOf(command);
     if (hand.gesture == "summon") return TakeFile(look, hand.control);
     if (hand.gesture == "key") return PressKey(look, stores, hand.key);
+    if (hand.gesture == "tick" && hand.control == "JoystickTimer") return PollPad(look, stores);
     const List* list = ListOf(hand.control);
     if (hand.gesture == "dblclick" && list) return TakeRow(look, stores, *list, hand.row, false);
     if (hand.gesture == "dblclick" && hand.control == "EmuListbox") {
@@ -106,6 +127,13 @@ Expected Expect(const Look& look, const Stores& stores, const Json& command) {
         Expected expected;
         expected.act = Act::setUp;
         expected.setUp = look.At(*list).Text(hand.row);
+        return expected;
+    }
+    if (hand.gesture == "click" && hand.control == "GamePictureVis" &&
+        look.At(List::emulators).visible) {
+        Expected expected;
+        expected.act = Act::setUp;
+        expected.setUp = look.At(List::emulators).Marked();
         return expected;
     }
     const bool named = hand.gesture == "dblclick" && hand.control == "Current_ProgramNameFull";

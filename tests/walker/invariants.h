@@ -11,10 +11,11 @@ namespace kivu::walker {
 
 // What a session has been through that no look at the window tells.
 struct Memory {
-    bool repaired = false;   // own favourites, since they were loaded
-    bool rescanned = false;  // since the emulator was loaded
-    bool unwritten = false;  // since then, something that the disk did not take
-    bool settled = false;    // nothing is under way any more: the session is at its end
+    bool repaired = false;        // own favourites, since they were loaded
+    bool rescanned = false;       // since the emulator was loaded
+    bool unwritten = false;       // since then, something that the disk did not take
+    bool startedNothing = false;  // a start by the pad has led to no game
+    bool settled = false;         // nothing is under way any more: the session is at its end
 };
 
 // A command that came in the middle of another one, and what it was to do there.
@@ -73,6 +74,8 @@ const std::vector<Invariant>& ListInvariants();     // what the lists hold
 const std::vector<Invariant>& StartInvariants();    // what starts, is stored, is loaded
 const std::vector<Invariant>& HandedInvariants();   // files of later starts of the program
 const std::vector<Invariant>& RunningInvariants();  // a game and its end
+const std::vector<Invariant>& PadInvariants();      // the pad and its switch
+const std::vector<Invariant>& PreviewInvariants();  // the picture at the right
 const std::vector<Invariant>& StoreInvariants();    // the files
 
 struct Fault {

@@ -41,6 +41,9 @@ Look TakeLook(core::Form1& form) {
     look.title = form.MyCaptionLabel.Caption();
     look.titleVisible = form.MyCaptionLabel.Visible();
     look.started = form.CURRENT_PROGRAM_STARTED;
+    look.zoomed = form.GamePicture.IsReachable();
+    if (look.zoomed || form.GamePictureVis.IsReachable())
+        look.preview = form.GamePictureVis.GetPicture().source;
     look.loaded = form.CurrentEmuIndex;
     look.watching = form.EmuActiveTimer.Enabled();
     look.picture = form.AppRunningPicture.Visible();
@@ -48,6 +51,8 @@ Look TakeLook(core::Form1& form) {
     look.busyLabel = form.LoadingBtn.Visible();
     look.busy = form.Busy;
     look.ended = form.Ended;
+    look.pad.on = form.JoystickTimer.Enabled();
+    look.pad.focus = form.JoystickFocus;
     return look;
 }
 

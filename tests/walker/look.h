@@ -43,6 +43,13 @@ struct TabLook {
     bool visible = false;
 };
 
+// The game controller that is attached first.
+struct PadLook {
+    bool on = false;  // it is opened, and the launcher looks at it
+    int focus = 0;    // number of the list that it drives
+    int button = -1;  // the one that is held, from 0; -1 for none
+};
+
 // What somebody sees who looks at the window, and what a routine leaves behind for the next one.
 struct Look {
     std::array<ListLook, listCount> lists;
@@ -53,15 +60,21 @@ struct Look {
     std::string mode;
     std::string searchText, title, started;
     bool titleVisible = false;
+    // The file that is to be seen at the right; empty: none is.
+    std::string preview;
+    bool zoomed = false;
     int loaded = -1;  // row of the loaded emulator
     bool watching = false, picture = false, gameRuns = false;
     bool busyLabel = false, busy = false;
     bool ended = false;
+    PadLook pad;
 
     const ListLook& At(List list) const { return lists[static_cast<std::size_t>(list)]; }
     std::string Loaded() const { return dropDown.Text(loaded); }
     // A game or an emulator that was started for setting up, from the start to its last grace tick.
-    bool Running() const { return watching || picture || gameRuns; }
+    bool Running() const { return watching || picture; }
+    // A start by the pad that has led to no game leaves the launcher saying so to the pad alone.
+    bool PadIsSilent() const { return gameRuns || picture || busy || ended || !pad.on; }
     bool ChoiceOpen() const {
         return At(List::emulators).visible || At(List::globalFavourites).visible;
     }

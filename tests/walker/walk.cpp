@@ -57,7 +57,8 @@ class Player {
 
  private:
     static bool IsForHost(const Json& command) {
-        return command[0] == "answer" || command[0] == "input" || command[0] == "meanwhile";
+        return command[0] == "answer" || command[0] == "input" || command[0] == "meanwhile" ||
+               command[0] == "device";
     }
 
     // What a command is to do where it comes in the middle of another one.
@@ -125,6 +126,9 @@ class Player {
         const bool anew = moment.hand.gesture == "start";
         if (!anew && moment.before.loaded != moment.after.loaded) memory = {};
         if (moment.refusals > 0) memory.unwritten = true;
+        if (!moment.after.gameRuns || moment.after.watching) memory.startedNothing = false;
+        if (moment.hand.control == "JoystickTimer" && moment.after.gameRuns)
+            memory.startedNothing = !moment.after.watching;
         if (anew) memory.rescanned = false;
         if (Pressed(moment, "LoadBtn")) memory.rescanned = true;
         if (moment.Answered("epa", platform::Answer::Yes)) memory.repaired = true;
@@ -141,8 +145,10 @@ class Player {
         }
         if (!moment.Taken()) return false;
         const Hand& hand = moment.hand;
+        const bool byPad = hand.control == "JoystickTimer" && button == "AddToFavorit" &&
+                           moment.expected.act == Expected::Act::storeOwn;
         const bool byKey = hand.gesture == "key" && (hand.key == "Enter" || hand.key == "Space");
-        return hand.control == button || (byKey && moment.before.focus == button);
+        return byPad || hand.control == button || (byKey && moment.before.focus == button);
     }
 
     World world;

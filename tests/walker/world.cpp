@@ -25,6 +25,17 @@ void World::NoteDisk(const Json& command) {
         broken = command.size() > 2 ? command[2].get<std::string>() : std::string();
 }
 
+Look World::Now() {
+    Look look = TakeLook(Form());
+    const testing::ScriptedControllers& controllers = Host().controllers;
+    look.pad.on = look.pad.on && controllers.IsOpened(0);
+    if (controllers.devices.empty()) return look;
+    const auto& buttons = controllers.devices[0].state.buttons;
+    const auto held = std::find(buttons.begin(), buttons.end(), true);
+    if (held != buttons.end()) look.pad.button = static_cast<int>(held - buttons.begin());
+    return look;
+}
+
 int World::TakeRefusals() {
     const int all = session->disk.Failures();
     return all - std::exchange(refusals, all);

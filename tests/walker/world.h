@@ -41,12 +41,13 @@ class World {
 
     core::Form1& Form() { return session->MainWindow(); }
     testing::ScriptedHost& Host() { return session->Host(); }
-    Look Now() { return TakeLook(Form()); }
+    Look Now();
     bool Ended() const { return session->ended; }
 
     // By its path below the program directory; empty where there is none.
     std::string Read(const std::string& path) const;
     bool Exists(const std::string& absolute) const { return disk.FileExists(absolute); }
+    bool IsDirectory(const std::string& absolute) const { return disk.IsDirectory(absolute); }
 
     // Whether the launcher cannot write that file of its own now.
     bool Refuses(const std::string& path) const {

@@ -10,23 +10,11 @@ struct WaitingWish {
 // Wishes that nobody serves yet: they do nothing until then. Whoever builds what one waits for
 // joins it and takes it off here.
 inline constexpr WaitingWish waitingWishes[] = {
-    {"AllEmulatorsSearch.ShowEmulatorPreview", "the preview pictures"},
-    {"EmulatorBox.ShowEmulatorPreview", "the preview pictures"},
-    {"ListEvents.ShowGamePreview", "the preview pictures"},
-    {"StartUp.KeepDesignPictures", "the skins' pictures"},
-    {"EmulatorSwitch.LoadSkinPictures", "the skins' pictures"},
-    {"EmulatorBox.ApplyListColors", "the skins' colours"},
-    {"SettingsLoader.SetColors", "the skins' colours"},
     {"EmulatorSwitch.SaveAndSetDisplayMode", "the change of the display mode"},
     {"RunningWatch.RestoreDisplayMode", "the change of the display mode"},
     {"GameLaunch.ShowLoadingInfo", "the loading screen"},
     {"GameLaunch.MountGameImage", "the mounting of disc images"},
     {"GameLaunch.RunStartScript", "the start script"},
-    {"GameLaunch.JoystickEnable", "the controllers"},
-    {"RunningWatch.JoystickEnable", "the controllers"},
-    {"SettingsLoader.JoystickEnable", "the controllers"},
-    {"SettingsLoader.JoystickCount", "the controllers"},
-    {"WindowSurface.OpenProjectPage", "the project's page"},
 };
 
 }  // namespace kivu::wiring

@@ -108,4 +108,33 @@ std::optional<std::vector<platform::FileSystem::Entry>> LinuxFileSystem::ListDir
     return entries;
 }
 
+// A link may have come to lead to something else, which its directory does not tell.
+std::optional<std::string> LinuxFileSystem::FirstMatch(const std::string& directory,
+                                                       std::string_view prefix,
+                                                       std::string_view ending,
+                                                       std::string_view preferredStem) const {
+    const auto read = [this](const std::string& path) { return ReadDirectory(path); };
+    const std::string base = directory.ends_with('/') ? directory : directory + '/';
+    for (int round = 0; round < 2; ++round) {
+        const auto index = indexes.Of(directory, read);
+        if (!index) return std::nullopt;
+        const auto found = index->FirstFile(prefix, ending, preferredStem);
+        if (!found) return std::nullopt;
+        if (FileExists(base + std::string(*found))) return std::string(*found);
+        indexes.Forget(directory);
+    }
+    return std::nullopt;
+}
+
+std::optional<std::string> LinuxFileSystem::FindDirectory(const std::string& parent,
+                                                          std::string_view name) const {
+    const std::string base = parent.ends_with('/') ? parent : parent + '/';
+    if (IsDirectory(base + std::string(name))) return std::string(name);
+    const auto index =
+        indexes.Of(parent, [this](const std::string& path) { return ReadDirectory(path); });
+    const auto found = index ? index->Directory(name) : std::nullopt;
+    return found && IsDirectory(base + std::string(*found)) ? std::optional(std::string(*found))
+                                                            : std::nullopt;
+}
+
 }  // namespace kivu::hosts

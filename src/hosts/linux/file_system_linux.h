@@ -6,6 +6,7 @@
 #include <system_error>
 #include <vector>
 
+#include "hosts/linux/name_indexes.h"
 #include "platform/file_system.h"
 
 namespace kivu::hosts {
@@ -23,6 +24,13 @@ class LinuxFileSystem : public platform::FileSystem {
     std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override;
     std::optional<Listing> ReadDirectory(const std::string& path) const override;
     bool ServesThreads() const override { return true; }
+    // By an index of the directory's names, which is read anew when the directory has changed.
+    // Threads may call both at any time.
+    std::optional<std::string> FirstMatch(const std::string& directory, std::string_view prefix,
+                                          std::string_view ending,
+                                          std::string_view preferredStem) const override;
+    std::optional<std::string> FindDirectory(const std::string& parent,
+                                             std::string_view name) const override;
 
     bool FileExists(const std::string& path) const override;
     bool IsDirectory(const std::string& path) const override;
@@ -59,6 +67,9 @@ class LinuxFileSystem : public platform::FileSystem {
     std::string DecodeText(std::string_view bytes) const override;
     // UTF-8 as it is, together with the bytes of names that are none.
     std::string EncodeText(std::string_view text) const override;
+
+ private:
+    mutable NameIndexes indexes;
 };
 
 }  // namespace kivu::hosts

@@ -163,6 +163,33 @@ int DialogBox::Ask() {
     return exec();
 }
 
+std::vector<QPushButton*> DialogBox::Buttons() const {
+    std::vector<QPushButton*> all;
+    for (int i = 0; i < buttons->count(); ++i) {
+        if (auto* button = qobject_cast<QPushButton*>(buttons->itemAt(i)->widget()))
+            all.push_back(button);
+    }
+    return all;
+}
+
+std::size_t DialogBox::CurrentButton(const std::vector<QPushButton*>& all) const {
+    const auto found = std::find(all.begin(), all.end(), focusWidget());
+    return found == all.end() ? 0 : static_cast<std::size_t>(found - all.begin());
+}
+
+void DialogBox::StepToButton(int step) {
+    const std::vector<QPushButton*> all = Buttons();
+    if (all.empty()) return;
+    const int last = static_cast<int>(all.size()) - 1;
+    const int wanted = std::clamp(static_cast<int>(CurrentButton(all)) + step, 0, last);
+    all[static_cast<std::size_t>(wanted)]->setFocus(Qt::TabFocusReason);
+}
+
+void DialogBox::PressButton() {
+    const std::vector<QPushButton*> all = Buttons();
+    if (!all.empty()) all[CurrentButton(all)]->click();
+}
+
 void DialogBox::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -3,6 +3,8 @@
 #include <QDialog>
 #include <QPoint>
 #include <QString>
+#include <cstddef>
+#include <vector>
 
 class QHBoxLayout;
 class QPushButton;
@@ -27,6 +29,11 @@ class DialogBox : public QDialog {
     // Shows the box over the active window and waits. 0: closed or Escape.
     int Ask();
 
+    // For who has no keyboard. Moves the focus among the buttons, which have ends.
+    void StepToButton(int step);
+    // The one in focus, or the one that Enter presses.
+    void PressButton();
+
  protected:
     void paintEvent(QPaintEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -35,6 +42,10 @@ class DialogBox : public QDialog {
     void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
+    std::vector<QPushButton*> Buttons() const;
+    // Of the one in focus, or else of the one that Enter presses.
+    std::size_t CurrentButton(const std::vector<QPushButton*>& all) const;
+
     bool blended;  // the screen lays windows over one another
     bool gripped = false;
     QPoint grippedAt;

@@ -70,7 +70,7 @@ platform::Answer QtDialogs::MessageBox(const std::string& text, const std::strin
     ShowIcon(box, icon);
     box.SetText(QString::fromStdString(text));
     AddChoices(box, choices, german);
-    const int result = box.Ask();
+    const int result = Ask(box);
     // The last choice is the cancelling one, and the only one is it too.
     return result > 0 ? choices[static_cast<std::size_t>(result) - 1].answer
                       : choices.back().answer;
@@ -88,7 +88,29 @@ std::string QtDialogs::InputBox(const std::string& prompt, const std::string& ti
     box.AddWidget(line);
     AddChoices(box, {ok, cancel}, german);
     line->setFocus();
-    return box.Ask() == 1 ? line->text().toStdString() : std::string();
+    return Ask(box) == 1 ? line->text().toStdString() : std::string();
+}
+
+int QtDialogs::Ask(DialogBox& box) {
+    open.push_back(&box);
+    const int result = box.Ask();
+    std::erase(open, &box);
+    return result;
+}
+
+void QtDialogs::PressInBox(BoxKey key) {
+    if (open.empty()) return;
+    DialogBox& box = *open.back();
+    switch (key) {
+        case BoxKey::previous:
+            return box.StepToButton(-1);
+        case BoxKey::next:
+            return box.StepToButton(1);
+        case BoxKey::press:
+            return box.PressButton();
+        case BoxKey::cancel:
+            return box.reject();
+    }
 }
 
 }  // namespace kivu::hosts

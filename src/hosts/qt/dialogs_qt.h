@@ -1,10 +1,13 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "platform/dialogs.h"
 
 namespace kivu::hosts {
+
+class DialogBox;
 
 // Message and input boxes as windows in the program's style: "MessageBox" and "InputBox" by their
 // object names, their buttons "Ok", "Cancel", "Yes", "No", the line "Input". They block their
@@ -18,9 +21,14 @@ class QtDialogs : public platform::Dialogs {
                                 platform::Buttons buttons, platform::Icon icon) override;
     std::string InputBox(const std::string& prompt, const std::string& title,
                          const std::string& initial) override;
+    // In the topmost one.
+    void PressInBox(BoxKey key) override;
 
  private:
+    int Ask(DialogBox& box);
+
     bool german;
+    std::vector<DialogBox*> open;  // the topmost is the last
 };
 
 }  // namespace kivu::hosts

@@ -1,3 +1,5 @@
+#include <utility>
+
 #include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/system_file.h"
 #include "hosts/windows/wide_path.h"
@@ -49,7 +51,52 @@ void Add(const std::wstring& directory, const WIN32_FIND_DATAW& found,
     listing.Add(Narrow(found.cFileName), isDirectory, isDirectory && isLink);
 }
 
+// The best of the files that a pattern of the disk finds.
+void Offer(const std::wstring& directory, const std::wstring& pattern, std::string_view prefix,
+           std::string_view ending, std::string_view preferredStem,
+           std::optional<std::string>& first) {
+    WIN32_FIND_DATAW found{};
+    Search search(directory + pattern, found);
+    if (!search) return;
+    do {
+        if (!IsShown(found)) continue;
+        const DWORD attributes =
+            IsLink(found) ? AttributesOf(directory + found.cFileName) : found.dwFileAttributes;
+        if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+            continue;
+        std::string name = Narrow(found.cFileName);
+        if (!text::MatchesAround(name, prefix, ending)) continue;
+        if (!first || text::ComesFirst(name, *first, prefix, preferredStem))
+            first = std::move(name);
+    } while (search.Next(found));
+}
+
 }  // namespace
+
+std::optional<std::string> WindowsFileSystem::FirstMatch(const std::string& directory,
+                                                         std::string_view prefix,
+                                                         std::string_view ending,
+                                                         std::string_view preferredStem) const {
+    // What no name holds means something to the disk's search.
+    if (prefix.find_first_of("*?<>\"|/\\:") != std::string_view::npos) return std::nullopt;
+    const auto system = SystemPath(directory);
+    if (!system) return std::nullopt;
+    AskForNoDisk();
+    const std::wstring base = system->ends_with(L'\\') ? *system : *system + L"\\";
+    std::optional<std::string> first;
+    Offer(base, Wide(prefix) + L".*", prefix, ending, preferredStem, first);
+    const bool best =
+        first && text::HasPictureEnding(*first) && text::EqualsNoCase(text::StemOf(*first), prefix);
+    if (!best)
+        Offer(base, Wide(prefix) + L"*" + Wide(ending), prefix, ending, preferredStem, first);
+    return first;
+}
+
+std::optional<std::string> WindowsFileSystem::FindDirectory(const std::string& parent,
+                                                            std::string_view name) const {
+    const std::string path = (EndsInSeparator(parent) ? parent : parent + '\\') + std::string(name);
+    return IsDirectory(path) ? std::optional(std::string(name)) : std::nullopt;
+}
 
 std::optional<platform::FileSystem::Listing> WindowsFileSystem::ReadDirectory(
     const std::string& path) const {

@@ -28,6 +28,12 @@ class WindowsFileSystem : public platform::FileSystem {
     // As the constructor for the calling thread.
     std::optional<Listing> ReadDirectory(const std::string& path) const override;
     bool ServesThreads() const override { return true; }
+    // By the disk's own search. A name's short form counts for nothing.
+    std::optional<std::string> FirstMatch(const std::string& directory, std::string_view prefix,
+                                          std::string_view ending,
+                                          std::string_view preferredStem) const override;
+    std::optional<std::string> FindDirectory(const std::string& parent,
+                                             std::string_view name) const override;
 
     bool FileExists(const std::string& path) const override;
     bool IsDirectory(const std::string& path) const override;

@@ -5,6 +5,7 @@
 // The others need the first.
 // clang-format off
 #include <windows.h>
+#include <dbt.h>
 #include <objbase.h>
 #include <sddl.h>
 #include <shellapi.h>

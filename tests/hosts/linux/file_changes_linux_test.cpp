@@ -36,19 +36,6 @@ TEST_F(FileChangesLinux, DeletesFilesAndLinksOnly) {
     EXPECT_EQ(directory.Count(), 1u);
 }
 
-TEST_F(FileChangesLinux, MovesAFileButNeverOntoAnother) {
-    directory.Write("from", "x");
-    directory.Write("taken", "y");
-    EXPECT_EQ(files.MoveFile(directory.Path("from"), directory.Path("taken")),
-              std::errc::file_exists);
-    EXPECT_EQ(directory.Read("taken"), "y");
-    EXPECT_FALSE(files.MoveFile(directory.Path("from"), directory.Path("to")));
-    EXPECT_EQ(directory.Read("to"), "x");
-    EXPECT_EQ(directory.Count(), 2u);
-    EXPECT_TRUE(files.MoveFile(directory.Path("missing"), directory.Path("other")));
-    EXPECT_TRUE(files.MoveFile("", directory.Path("other")));
-}
-
 TEST_F(FileChangesLinux, AMoveToAFullDiskLeavesTheFileWhereItWas) {
     const std::string disk = directory.Path("disk");
     ASSERT_FALSE(files.MakeDirectory(disk));
@@ -77,15 +64,6 @@ TEST_F(FileChangesLinux, AFileKnowsWhenItWasMade) {
     EXPECT_GE(*made, before - 1);
     EXPECT_LE(*made, std::time(nullptr));
     EXPECT_EQ(files.CreationTime(directory.Path("missing")), std::nullopt);
-}
-
-TEST_F(FileChangesLinux, MakesADirectoryOnceAndTakesOneThatIsThere) {
-    EXPECT_FALSE(files.MakeDirectory(directory.Path("sub")));
-    EXPECT_FALSE(files.MakeDirectory(directory.Path("sub")));
-    EXPECT_TRUE(files.IsDirectory(directory.Path("sub")));
-    directory.Write("file", "x");
-    EXPECT_EQ(files.MakeDirectory(directory.Path("file")), std::errc::file_exists);
-    EXPECT_TRUE(files.MakeDirectory(directory.Path("a/b")));
 }
 
 }  // namespace

@@ -20,20 +20,6 @@ class FileReader : public ::testing::Test {
     LinuxFileSystem files;
 };
 
-TEST_F(FileReader, GivesAFileInBlocks) {
-    std::string bytes;
-    for (int i = 0; i < 10000; ++i)
-        bytes += static_cast<char>(i % 251);
-    directory.Write("file", bytes);
-    for (const std::size_t block : {std::size_t{1}, std::size_t{4096}, std::size_t{100000}}) {
-        const auto reader = files.OpenFile(directory.Path("file"));
-        ASSERT_NE(reader, nullptr);
-        EXPECT_EQ(ReadThrough(*reader, block), bytes);
-        char more = 0;
-        EXPECT_EQ(reader->Read(&more, 1), 0U);
-    }
-}
-
 TEST_F(FileReader, OpensOnlyFiles) {
     directory.Write("empty", "");
     ::mkfifo(directory.Path("pipe").c_str(), 0600);

@@ -59,18 +59,6 @@ class StandardError {
     int before;
 };
 
-TEST_F(LogLinux, ALineHasTimeProcessAndText) {
-    LinuxLog log(path);
-    log.Write("one");
-    log.Write("two\nthree\xFF");
-    const auto lines = Lines(Text());
-    ASSERT_THAT(lines, SizeIs(2));
-    const std::regex form(R"(\d{4}-\d\d-\d\d \d\d:\d\d:\d\d\.\d{3} \[\d+\] .*)");
-    EXPECT_TRUE(std::regex_match(lines[0], form)) << lines[0];
-    EXPECT_THAT(lines[0], EndsWith(" [" + std::to_string(::getpid()) + "] one"));
-    EXPECT_THAT(lines[1], EndsWith("] two<0A>three<FF>"));
-}
-
 TEST_F(LogLinux, NothingIsMadeBeforeTheFirstLine) {
     const EnvironmentVariable state("XDG_STATE_HOME", directory.Path("state"));
     LinuxLog log;
@@ -121,28 +109,6 @@ TEST_F(LogLinux, ALogThatIsDeletedOrMovedBeginsAnew) {
     EXPECT_THAT(Lines(Text()), SizeIs(1));
 }
 
-TEST_F(LogLinux, AFullOneBecomesTheOldOne) {
-    LinuxLog probe(directory.Path("probe"));
-    probe.Write("0000");
-    const std::size_t length = directory.Read("probe").size();
-    LinuxLog log(path, 3 * length);
-    for (const char* text : {"0001", "0002", "0003"})
-        log.Write(text);
-    EXPECT_FALSE(std::filesystem::exists(directory.Path("Kivu.old.log")));
-    EXPECT_EQ(Text().size(), 3 * length);
-    log.Write("0004");
-    EXPECT_THAT(Lines(Text()), SizeIs(1));
-    EXPECT_THAT(Lines(Old()), SizeIs(3));
-    for (int i = 5; i < 100; ++i) {
-        log.Write("00" + std::to_string(10 + i % 90));
-        EXPECT_LE(Text().size(), 3 * length);
-        EXPECT_LE(Old().size(), 3 * length);
-    }
-    // One older file, and no other.
-    EXPECT_EQ(directory.Count(), 3U);
-    EXPECT_THAT(Old() + Text(), AllOf(HasSubstr("] 0016\n"), HasSubstr("] 0019\n")));
-}
-
 TEST_F(LogLinux, OneMegabyteIsTheMost) {
     directory.Write("Kivu.log", std::string(1024 * 1024 - 20, '\n'));
     LinuxLog(path).Write("x");
@@ -157,15 +123,6 @@ TEST_F(LogLinux, ALineLongerThanTheLimitIsWrittenAlone) {
     EXPECT_THAT(Text(), EndsWith("] two\n"));
     EXPECT_THAT(Old(), EndsWith("] one\n"));
     EXPECT_THAT(Lines(Text()), SizeIs(1));
-}
-
-TEST_F(LogLinux, AFullOneThatCannotBeRenamedIsEmptied) {
-    std::filesystem::create_directories(directory.Path("Kivu.old.log/x"));
-    LinuxLog log(path, 200);
-    for (int i = 0; i < 20; ++i)
-        log.Write("line " + std::to_string(i));
-    EXPECT_LE(Text().size(), 200U);
-    EXPECT_THAT(Text(), EndsWith("] line 19\n"));
 }
 
 // Another instance has stopped in the middle of its turning over.

@@ -29,31 +29,6 @@ class FileReaderWindows : public ::testing::Test {
     WindowsFileSystem files;
 };
 
-TEST_F(FileReaderWindows, ReadsWholeFilesOfAnyBytes) {
-    const std::string bytes("a\0b\r\n\xff\x1a", 7);
-    directory.Write("bytes", bytes);
-    directory.Write("empty", "");
-    const std::string large(3'000'000, 'x');
-    directory.Write("large", large);
-    EXPECT_EQ(files.ReadFile(directory.Path("bytes")), bytes);
-    EXPECT_EQ(files.ReadFile(directory.Path("empty")), "");
-    EXPECT_EQ(files.ReadFile(directory.Path("large")), large);
-}
-
-TEST_F(FileReaderWindows, GivesAFileInBlocks) {
-    std::string bytes;
-    for (int i = 0; i < 10000; ++i)
-        bytes += static_cast<char>(i % 251);
-    directory.Write("file", bytes);
-    for (const std::size_t block : {std::size_t{1}, std::size_t{4096}, std::size_t{100000}}) {
-        const auto reader = files.OpenFile(directory.Path("file"));
-        ASSERT_NE(reader, nullptr);
-        EXPECT_EQ(ReadThrough(*reader, block), bytes);
-        char more = 0;
-        EXPECT_EQ(reader->Read(&more, 1), 0U);
-    }
-}
-
 TEST_F(FileReaderWindows, ReadsOnlyFiles) {
     directory.Write("empty", "");
     EXPECT_NE(files.OpenFile(directory.Path("empty")), nullptr);

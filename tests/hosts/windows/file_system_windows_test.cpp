@@ -89,15 +89,6 @@ TEST_F(FileSystemWindows, ANameThatIsNoUtf16Survives) {
     EXPECT_TRUE(files.FileExists(directory.Path(name)));
 }
 
-TEST_F(FileSystemWindows, AListOfAMissingDirectoryOrAFileIsNone) {
-    directory.Write("file", "x");
-    EXPECT_EQ(files.ListDirectory(directory.Path("missing")), std::nullopt);
-    EXPECT_EQ(files.ListDirectory(directory.Path("file")), std::nullopt);
-    EXPECT_EQ(files.ListDirectory(directory.Path("*")), std::nullopt);
-    EXPECT_EQ(files.ListDirectory(""), std::nullopt);
-    EXPECT_EQ(files.ListDirectory(directory.Root() + std::string("\0\\x", 3)), std::nullopt);
-}
-
 TEST_F(FileSystemWindows, OnlyFilesOfThisNameExist) {
     directory.Write("Game.adf", "x");
     for (const std::string name : {"Game.adf", "game.ADF", ".\\Game.adf", "sub\\..\\Game.adf"})
@@ -220,50 +211,12 @@ TEST_F(FileSystemWindows, APathIsResolvedOrStaysAsItIs) {
     EXPECT_EQ(files.ResolvedPath(""), "");
 }
 
-TEST_F(FileSystemWindows, DeletesFilesOnly) {
-    directory.Write("file", "x");
-    directory.MakeDirectory("sub");
-    EXPECT_FALSE(files.DeleteFile(directory.Path("file")));
-    EXPECT_EQ(files.DeleteFile(directory.Path("file")), std::errc::no_such_file_or_directory);
-    EXPECT_TRUE(files.DeleteFile(directory.Path("sub")));
-    EXPECT_TRUE(files.DeleteFile(directory.Path("*")));
-    EXPECT_TRUE(files.DeleteFile(""));
-    EXPECT_EQ(directory.Count(), 1u);
-}
-
-TEST_F(FileSystemWindows, MovesAFileToAFreeNameOnly) {
-    directory.Write("one", "1");
-    directory.Write("two", "2");
-    directory.MakeDirectory("sub");
-    EXPECT_EQ(files.MoveFile(directory.Path("one"), directory.Path("two")), std::errc::file_exists);
-    EXPECT_TRUE(files.MoveFile(directory.Path("one"), directory.Path("sub")));
-    EXPECT_TRUE(files.MoveFile(directory.Path("missing"), directory.Path("three")));
-    EXPECT_TRUE(files.MoveFile(directory.Path("one"), directory.Path("missing\\one")));
-    EXPECT_TRUE(files.MoveFile("", directory.Path("three")));
-    EXPECT_EQ(directory.Read("one"), "1");
-    EXPECT_EQ(directory.Read("two"), "2");
-    EXPECT_FALSE(files.MoveFile(directory.Path("one"), directory.Path("sub\\Gr\xc3\xbc\xc3\x9f")));
-    EXPECT_EQ(directory.Read("sub\\Gr\xc3\xbc\xc3\x9f"), "1");
-    EXPECT_EQ(directory.Count(), 2u);
-}
-
 TEST_F(FileSystemWindows, TellsWhenAFileWasMade) {
     directory.Write("file", "x");
     struct _stat64 status {};
     ASSERT_EQ(::_wstat64(Wide(directory.Path("file")).c_str(), &status), 0);
     EXPECT_EQ(files.CreationTime(directory.Path("file")), status.st_ctime);
     EXPECT_EQ(files.CreationTime(directory.Path("missing")), std::nullopt);
-}
-
-TEST_F(FileSystemWindows, MakesDirectoriesLevelByLevel) {
-    EXPECT_FALSE(files.MakeDirectory(directory.Path("Gr\xc3\xbc\xc3\x9f")));
-    EXPECT_FALSE(files.MakeDirectory(directory.Path("Gr\xc3\xbc\xc3\x9f\\")));
-    EXPECT_THAT(Names(directory.Root()), UnorderedElementsAre("Gr\xc3\xbc\xc3\x9f/"));
-    EXPECT_TRUE(files.MakeDirectory(directory.Path("missing\\sub")));
-    directory.Write("file", "x");
-    EXPECT_TRUE(files.MakeDirectory(directory.Path("file")));
-    EXPECT_EQ(directory.Read("file"), "x");
-    EXPECT_TRUE(files.MakeDirectory(""));
 }
 
 TEST_F(FileSystemWindows, GoesFromDirectoryToDirectory) {

@@ -48,22 +48,6 @@ class InstanceWindows : public ::testing::Test {
     const Handle ready{::CreateEventW(nullptr, TRUE, FALSE, Wide(program + "-ready").c_str())};
 };
 
-TEST_F(InstanceWindows, TheSecondAsksTheFirstToComeUp) {
-    WindowsInstance first(program);
-    EXPECT_FALSE(first.HandOver("Kivu", ""));
-    int summons = 0;
-    first.OnSummoned([&](const std::string&) { ++summons; });
-    Pump();
-    EXPECT_EQ(summons, 0);
-    WindowsInstance second(program);
-    EXPECT_TRUE(second.HandOver("Kivu", ""));
-    EXPECT_EQ(summons, 0);
-    Pump();
-    EXPECT_EQ(summons, 1);
-    Pump();
-    EXPECT_EQ(summons, 1);
-}
-
 TEST_F(InstanceWindows, AnotherProcessAsksTheFirstToComeUp) {
     WindowsInstance first(program);
     ASSERT_FALSE(first.HandOver("Kivu", ""));
@@ -74,59 +58,11 @@ TEST_F(InstanceWindows, AnotherProcessAsksTheFirstToComeUp) {
     EXPECT_EQ(summons, 1);
 }
 
-TEST_F(InstanceWindows, TheFileOfALaterOneIsHandedOver) {
-    WindowsInstance first(program);
-    ASSERT_FALSE(first.HandOver("Kivu", ""));
-    std::vector<std::string> files;
-    first.OnSummoned([&](const std::string& file) { files.push_back(file); });
-    for (const char* file : {"", "C:\\Roms\\B\xc3\xa4r (1).adf"}) {
-        EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", file));
-        Pump();
-    }
-    EXPECT_EQ(files, (std::vector<std::string>{"", "C:\\Roms\\B\xc3\xa4r (1).adf"}));
-    EXPECT_TRUE(WindowsInstance(program).HandOver(
-        "Kivu", std::string(platform::Instance::maxFile + 1, 'n')));
-    Pump();
-    EXPECT_EQ(files.back(), "") << "longer than any path";
-}
-
-TEST_F(InstanceWindows, ACallBeforeAnybodyListensIsNotLost) {
-    WindowsInstance first(program);
-    ASSERT_FALSE(first.HandOver("Kivu", ""));
-    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
-    EXPECT_TRUE(WindowsInstance(program).HandOver("Kivu", ""));
-    Pump();
-    int summons = 0;
-    first.OnSummoned([&](const std::string&) { ++summons; });
-    EXPECT_EQ(summons, 1);
-}
-
-TEST_F(InstanceWindows, AskingTwiceDoesNotFindItself) {
-    WindowsInstance first(program);
-    EXPECT_FALSE(first.HandOver("Kivu", ""));
-    EXPECT_FALSE(first.HandOver("Kivu", ""));
-}
-
-TEST_F(InstanceWindows, AnotherProgramNameIsAnotherInstance) {
-    WindowsInstance first(program);
-    EXPECT_FALSE(first.HandOver("Kivu", ""));
-    EXPECT_FALSE(WindowsInstance(program + "-1.4").HandOver("Kivu", ""));
-}
-
 TEST_F(InstanceWindows, TheProgramNameIsThatOfAFileInAnyCase) {
     WindowsInstance first(program + "-ä");
     EXPECT_FALSE(first.HandOver("Kivu", ""));
     EXPECT_TRUE(WindowsInstance("KIVU-TEST-" + std::to_string(::GetCurrentProcessId()) + "-Ä")
                     .HandOver("Kivu", ""));
-}
-
-TEST_F(InstanceWindows, AfterTheFirstHasEndedTheNextIsFirst) {
-    {
-        WindowsInstance first(program);
-        EXPECT_FALSE(first.HandOver("Kivu", ""));
-    }
-    WindowsInstance next(program);
-    EXPECT_FALSE(next.HandOver("Kivu", ""));
 }
 
 TEST_F(InstanceWindows, WhatAKilledOneLeavesBehindHindersNobody) {

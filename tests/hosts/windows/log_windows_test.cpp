@@ -30,28 +30,10 @@ class LogWindows : public ::testing::Test {
     const std::string path = directory.Path("Kivu.log");
 };
 
-TEST_F(LogWindows, ALineHasTimeProcessAndText) {
-    WindowsLog log(path);
-    log.Write("one");
-    log.Write("Größe\r\nthree\xFF");
-    const auto lines = Lines(Text());
-    ASSERT_THAT(lines, SizeIs(2));
-    EXPECT_EQ(lines[0].substr(4, 1), "-");
-    EXPECT_THAT(lines[0], EndsWith(" [" + std::to_string(::GetCurrentProcessId()) + "] one\r"));
-    EXPECT_THAT(lines[1], EndsWith("] Größe<0D><0A>three<FF>\r"));
-}
-
 TEST_F(LogWindows, ItsPlaceIsBelowTheLocalApplicationData) {
     wchar_t local[MAX_PATH] = {};
     ASSERT_NE(::GetEnvironmentVariableW(L"LOCALAPPDATA", local, std::size(local)), 0U);
     EXPECT_EQ(WindowsLog::UserPath(), Narrow(local) + "\\Kivu\\Kivu.log");
-}
-
-TEST_F(LogWindows, DirectoriesAreMadeWithTheFirstLine) {
-    WindowsLog log(directory.Path("a b\\ä\\Kivu.log"));
-    EXPECT_EQ(directory.Count(), 0U);
-    log.Write("x");
-    EXPECT_THAT(directory.Read("a b\\ä\\Kivu.log"), EndsWith("] x\r\n"));
 }
 
 TEST_F(LogWindows, WhereNothingCanBeWrittenNothingIs) {
@@ -62,28 +44,6 @@ TEST_F(LogWindows, WhereNothingCanBeWrittenNothingIs) {
     WindowsLog(directory.Root()).Write("x");
     EXPECT_EQ(directory.Read("file"), "x");
     EXPECT_EQ(directory.Count(), 1U);
-}
-
-TEST_F(LogWindows, AFullOneBecomesTheOldOne) {
-    WindowsLog(directory.Path("probe")).Write("0000");
-    const std::size_t length = directory.Read("probe").size();
-    WindowsLog log(path, 3 * length + 5);
-    for (int i = 1; i < 60; ++i) {
-        log.Write("00" + std::to_string(10 + i));
-        EXPECT_LE(Text().size(), 3 * length + 5);
-    }
-    EXPECT_THAT(Lines(Old()), SizeIs(3));
-    EXPECT_THAT(Text(), HasSubstr("] 0069\r\n"));
-    EXPECT_EQ(directory.Count(), 3U);
-}
-
-TEST_F(LogWindows, AFullOneThatCannotBeRenamedIsEmptied) {
-    directory.MakeDirectory("Kivu.old.log");
-    WindowsLog log(path, 200);
-    for (int i = 0; i < 20; ++i)
-        log.Write("line " + std::to_string(i));
-    EXPECT_LE(Text().size(), 200U);
-    EXPECT_THAT(Text(), EndsWith("] line 19\r\n"));
 }
 
 TEST_F(LogWindows, SeveralInstancesWriteAndReadersAreInNobodysWay) {

@@ -3,6 +3,7 @@
 #include <QTimer>
 
 #include "forms/on_demand.h"
+#include "hosts/qt/active_window_qt.h"
 #include "view/box_form.h"
 #include "view/screen_windows.h"
 #include "view/shown_form.h"
@@ -151,6 +152,27 @@ TEST_F(X11Windows, IsDraggedByItsSurface) {
     EXPECT_TRUE(Wait([&] { return place() != before; }));
     Xdo({"mouseup", "1"});
     EXPECT_TRUE(Wait([&] { return box.Get().Left() >= left + 1200; })) << box.Get().Left();
+}
+
+// xev is another program with a window of its own, and openbox gives a new window the keyboard.
+TEST_F(X11Windows, AnotherProgramsWindowIsActiveInFrontOfOurs) {
+    using Activity = forms::WindowHost::Activity;
+    windows.SetElsewhere(hosts::IsAnotherProgramActive);
+    EXPECT_EQ(windows.ActiveWindow(), Activity::ours);
+    QProcess other;
+    other.setStandardOutputFile(QProcess::nullDevice());
+    other.start("xev", {"-geometry", "200x100+900+600"});
+    EXPECT_TRUE(Wait([&] { return windows.ActiveWindow() == Activity::others; }));
+    other.kill();
+    EXPECT_TRUE(Wait([&] { return other.state() == QProcess::NotRunning; }));
+    EXPECT_TRUE(Wait([&] { return windows.ActiveWindow() == Activity::ours; }));
+}
+
+TEST_F(X11Windows, WithoutAnActiveWindowNobodyKnows) {
+    using Activity = forms::WindowHost::Activity;
+    windows.SetElsewhere(hosts::IsAnotherProgramActive);
+    mainView.Window().showMinimized();
+    EXPECT_TRUE(Wait([&] { return windows.ActiveWindow() == Activity::unknown; }));
 }
 
 }  // namespace

@@ -1,0 +1,6 @@
+#pragma once
+
+#include "hosts/windows/win32.h"
+
+#define DIRECTINPUT_VERSION 0x0800
+#include <dinput.h>

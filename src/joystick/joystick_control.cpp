@@ -1,0 +1,99 @@
+#include "joystick/joystick_control.h"
+
+#include <string>
+#include <utility>
+
+#include "core/emulator_paths.h"
+#include "core/form1.h"
+#include "core/raised.h"
+#include "joystick/joystick.h"
+#include "joystick/pad_events.h"
+
+namespace kivu::joystick {
+
+void JoystickControl::JoystickEnable(bool bEnable) {
+    if (switching) {
+        offWished = !bEnable;
+        return;
+    }
+    const core::Raised once(switching);
+    offWished = false;
+    Switch(bEnable);
+    if (std::exchange(offWished, false)) Switch(false);
+}
+
+void JoystickControl::Switch(bool on) {
+    if (on) {
+        if (!form.JoystickTimer.Enabled()) SwitchOn();
+        return;
+    }
+    form.JoystickIcon.SetVisible(false);
+    if (!form.JoystickTimer.Enabled()) return;
+    joystick.ShutdownJoystick();
+    form.JoystickTimer.SetEnabled(false);
+}
+
+void JoystickControl::SwitchOn() {
+    form.JoystickTimer.SetEnabled(false);
+    joystick.ShutdownJoystick();
+    joystick.InitJoystick(pad, Joystick::deadZone);
+    if (form.Ended) return;
+    if (joystick.JoystickCount() < 1) {
+        OfferToSwitchOff();
+        return;
+    }
+    form.MyCaptionLabel.SetCaption("Joysticks: " + std::to_string(joystick.JoystickCount()));
+    form.JoystickTimer.SetEnabled(true);
+    form.JoystickIcon.SetVisible(true);
+}
+
+void JoystickControl::OfferToSwitchOff() {
+    // The box may stand for long.
+    ini.StoreWriteBacks();
+    const std::string question = form.Say(
+        "Es wurden keine Joysticks oder Gampads gefunden! (DX8 Fehler?)\r\r"
+        "Soll die Joystick-Bedienung den Optionen ausgeschaltet werden?",
+        "No Joysticks or Gampads found!\r\rDo you want to disable the Joystick-Navigation? ");
+    const auto answer = services.dialogs.MessageBox(
+        question, "Joysticks / Gamepads = 0)", platform::Buttons::YesNo, platform::Icon::Question);
+    if (answer == platform::Answer::Yes)
+        ini.Write(profile::keys::UseJoystick, core::ProfilesOf(form), "0");
+}
+
+void JoystickControl::JoystickTimer_Timer() {
+    // Neither in a game nor behind another program's window is the pad held for the launcher.
+    const bool elsewhere = windows.ActiveWindow() == forms::WindowHost::Activity::others;
+    if (form.GameIsRunning || elsewhere) {
+        silent = true;
+        return;
+    }
+    if (!form.Busy && joystick.HasChanged()) OpenAnew();
+    if (silent) HoldButtonsBack();
+    joystick.PollJoysticks();
+}
+
+void JoystickControl::GameHasEnded() {
+    form.ExitButtonTimer.SetEnabled(false);
+    HoldButtonsBack();
+}
+
+void JoystickControl::HoldButtonsBack() {
+    silent = false;
+    joystick.HoldButtonsBack();
+}
+
+void JoystickControl::JoystickIcon_Click() {
+    OpenAnew();
+    services.beeper.Beep();
+}
+
+void JoystickControl::OpenAnew() {
+    form.JoystickIcon.SetVisible(false);
+    JoystickEnable(false);
+    services.events.DoEvents();
+    JoystickEnable(true);
+    pad.SetJoystickButtonSetupModus(false);
+    form.JoystickIcon.SetVisible(true);
+}
+
+}  // namespace kivu::joystick

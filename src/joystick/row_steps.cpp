@@ -1,0 +1,31 @@
+#include "joystick/row_steps.h"
+
+#include <utility>
+
+#include "core/form1.h"
+
+namespace kivu::joystick {
+
+bool RowSteps::KeepsChosenRows(const forms::ListBox& list) const {
+    return &list == &form.UAE_Short && drives.SelectsByHand();
+}
+
+void RowSteps::SetRow(forms::ListBox& list, int row) {
+    if (KeepsChosenRows(list)) {
+        list.MoveCurrentRow(row);
+    } else {
+        list.SetListIndex(row);
+    }
+}
+
+void RowSteps::SetRowQuietly(forms::ListBox& list, int row) {
+    if (!KeepsChosenRows(list)) {
+        list.SetListIndexQuietly(row);
+        return;
+    }
+    const auto click = std::exchange(list.onClick, {});
+    list.MoveCurrentRow(row);
+    list.onClick = click;
+}
+
+}  // namespace kivu::joystick

@@ -1,0 +1,99 @@
+#include "support/file_dialog_answer.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "support/file_dialog_paths.h"
+#include "text/paths.h"
+#include "text/text.h"
+
+namespace kivu::support {
+
+namespace {
+
+const char* OwnCaption(const FilesForm& form) {
+    if (form.AsksForDirectory()) return "Open Directory";
+    return form.Saves() ? "Save File as" : "Open File";
+}
+
+}  // namespace
+
+void FileDialogAnswer::Ask(const Question& question) {
+    form.SetMode(question.mode);
+    form.Result.clear();
+    const std::string caption = question.caption.empty() ? OwnCaption(form) : question.caption;
+    const bool mask = HasWildcard(question.name);
+    form.SetTitle(CaptionWithMask(caption, mask ? question.name : std::string()));
+    Begin(question.path, question.name);
+    form.MoveFocus(form.AsksForDirectory() ? static_cast<forms::Control*>(&form.Dir1)
+                                           : &form.FileName);
+    form.FileName.SetSelection(0, static_cast<int>(text::CodePointCount(form.FileName.Text())));
+}
+
+void FileDialogAnswer::Begin(const std::string& given, const std::string& name) {
+    const std::string path = lists.PathOf(given);
+    if (!path.empty()) lists.GoToNearest(path);
+    if (IsNetworkPath(path, lists.IsPosix()) && !files.IsDirectory(path)) form.NetworkPath = path;
+    if (!form.AsksForDirectory()) {
+        lists.SetMask(name);
+        if (!HasWildcard(name)) form.FileName.SetText(name);
+        if (files.FileExists(path)) ChooseFile(text::GetFileNameOnly(path));
+    }
+    lists.ShowFullPath();
+}
+
+// The file that was chosen the last time. Its name is filled in where no other is looked for.
+void FileDialogAnswer::ChooseFile(const std::string& name) {
+    const auto& rows = form.File1.Rows();
+    const auto found = std::find(rows.begin(), rows.end(), name);
+    if (found == rows.end()) return;
+    filling = !form.Mask.empty();
+    form.File1.SetListIndex(static_cast<int>(found - rows.begin()));
+    filling = false;
+}
+
+void FileDialogAnswer::File1_Click() {
+    if (!filling) form.FileName.SetText(form.File1.List(form.File1.ListIndex()));
+}
+
+void FileDialogAnswer::Ok_Click() {
+    const std::string directory = lists.Directory();
+    if (form.AsksForDirectory()) {
+        const std::string chosen = lists.ChosenDirectory();
+        Finish(WithSeparator(chosen.empty() ? directory : chosen));
+        return;
+    }
+    const std::string typed = form.FileName.Text();
+    const std::string chosen = lists.ChosenFile();
+    const bool blank = text::Trim(typed).empty();
+    if (blank && form.Saves()) {
+        Finish(WithSeparator(directory));
+    } else if (blank || typed == chosen) {
+        // The row's name as it is, blanks at its ends and signs of a mask too.
+        Finish(JoinedPath(directory, chosen));
+    } else {
+        AnswerName(typed);
+    }
+}
+
+void FileDialogAnswer::AnswerName(const std::string& typed) {
+    const std::string path = lists.PathOf(typed);
+    if (HasWildcard(path)) {
+        lists.TakeMask(path);
+    } else if (files.IsDirectory(path) && lists.GoTo(path)) {
+        form.FileName.SetText("");
+    } else {
+        Finish(path);
+    }
+}
+
+void FileDialogAnswer::Abbruch_Click() {
+    Finish({});
+}
+
+void FileDialogAnswer::Finish(std::string result) {
+    form.Result = std::move(result);
+    form.SetVisible(false);
+}
+
+}  // namespace kivu::support

@@ -1,0 +1,38 @@
+#include "wiring/windows.h"
+
+#include <memory>
+
+#include "forms/look.h"
+#include "ui/window_look.h"
+
+namespace kivu::wiring {
+
+namespace {
+
+forms::Toolkit With(forms::Toolkit toolkit, forms::DirectorySource& directories) {
+    toolkit.directories = &directories;
+    return toolkit;
+}
+
+}  // namespace
+
+Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
+                 forms::WindowHost& windows)
+    : form(form),
+      windows(windows),
+      directories(host.files),
+      toolkit(With(form.GetToolkit(), directories)),
+      fileDialogs(windows, [&form, &host, &dialogs, this] {
+          auto made = std::make_unique<support::FilesWindow>(
+              toolkit, form.CurrentLanguage == 1,
+              support::Files::Services{host.files, host.userStore, host.starter, dialogs});
+          Dress(made->GetForm());
+          return made;
+      }) {
+}
+
+void Windows::Dress(forms::Form& window) const {
+    forms::TakeLook(window, ui::LookOf(form), windows.Room(&form));
+}
+
+}  // namespace kivu::wiring

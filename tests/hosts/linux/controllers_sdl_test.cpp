@@ -1,0 +1,384 @@
+#include "hosts/linux/controllers_sdl.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+
+#include "testing/scripted_host.h"
+#include "virtual_pad.h"
+
+namespace kivu::hosts {
+namespace {
+
+using kivu::testing::VirtualPad;
+using platform::ControllerState;
+using std::chrono::milliseconds;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::StartsWith;
+
+ControllerState At(int x, int y, int rz = 32768) {
+    ControllerState state;
+    state.x = x;
+    state.y = y;
+    state.rz = rz;
+    return state;
+}
+
+ControllerState Down(std::initializer_list<std::size_t> buttons) {
+    ControllerState state;
+    for (const std::size_t button : buttons)
+        state.buttons[button] = true;
+    return state;
+}
+
+// The machine may have controllers of its own: ours are found by their names.
+class ControllersSdl : public ::testing::Test {
+ protected:
+    ControllersSdl() { clock.Set({12, 0, 0}); }
+
+    void Open() {
+        auto opened = controllers.Open();
+        ASSERT_TRUE(opened.has_value());
+        list = std::move(*opened);
+    }
+    // The number of the list's devices, if there is none of that name.
+    std::size_t Place(const std::string& name) const {
+        std::size_t place = 0;
+        while (place < list.size() && list[place].name != name)
+            ++place;
+        return place;
+    }
+    bool IsThere(const std::string& name) const { return Place(name) < list.size(); }
+    // After the pause between two polls.
+    ControllerState Read(const std::string& name = "Pad") {
+        clock.MoveOn(milliseconds(140));
+        ControllerState state;
+        EXPECT_TRUE(controllers.Read(Place(name), state));
+        return state;
+    }
+
+    kivu::testing::ScriptedClock clock;
+    kivu::testing::ScriptedLog log;
+    SdlControllers controllers{clock, log};
+    std::vector<platform::Controller> list;
+};
+
+TEST_F(ControllersSdl, AMouseAndAKeyboardStandInFront) {
+    Open();
+    ASSERT_GE(list.size(), 2U);
+    EXPECT_EQ(list[0].name, "Mouse");
+    EXPECT_EQ(list[1].name, "Keyboard");
+    ControllerState state = At(1, 2);
+    EXPECT_TRUE(controllers.Read(1, state));
+    EXPECT_EQ(state, ControllerState());
+    EXPECT_THAT(log.lines, IsEmpty());
+}
+
+TEST_F(ControllersSdl, OnesBehindTheListAreGone) {
+    Open();
+    ControllerState state = At(1, 2);
+    EXPECT_FALSE(controllers.Read(list.size(), state));
+    EXPECT_FALSE(controllers.Read(static_cast<std::size_t>(-1), state));
+    EXPECT_EQ(state, ControllerState());
+}
+
+TEST_F(ControllersSdl, NamesAndButtonsAreTheDevices) {
+    const VirtualPad pad("Pad", {.buttons = 20}), small("Small", {.buttons = 4});
+    Open();
+    ASSERT_TRUE(IsThere("Pad"));
+    EXPECT_EQ(list[Place("Pad")].buttons, 20);
+    ASSERT_TRUE(IsThere("Small"));
+    EXPECT_EQ(list[Place("Small")].buttons, 4);
+    EXPECT_LT(Place("Pad"), Place("Small"));
+}
+
+TEST_F(ControllersSdl, OfAPadThatNobodyKnowsTheFirstTwoAxesAreXAndY) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 2});
+    Open();
+    EXPECT_EQ(Read(), ControllerState());
+    pad.SetAxis(0, 32767);
+    EXPECT_EQ(Read(), At(65535, 32768));
+    pad.SetAxis(0, -32768);
+    pad.SetAxis(1, 32767);
+    EXPECT_EQ(Read(), At(0, 65535));
+    pad.SetAxis(0, 16384);
+    pad.SetAxis(1, -20000);
+    EXPECT_EQ(Read(), At(32768, 12768));
+}
+
+TEST_F(ControllersSdl, ItsOtherAxesAreTriggersForAllThatIsKnown) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 2});
+    Open();
+    Read();
+    for (int axis = 2; axis < 6; ++axis) {
+        for (const int value : {-32768, 32767}) {
+            pad.SetAxis(axis, value);
+            EXPECT_EQ(Read(), ControllerState()) << axis;
+        }
+    }
+}
+
+TEST_F(ControllersSdl, AxesThatAreNotThereAreInTheCentre) {
+    VirtualPad none("None", {.axes = 0, .buttons = 2}), one("One", {.axes = 1, .buttons = 2});
+    Open();
+    EXPECT_EQ(Read("None"), ControllerState());
+    EXPECT_EQ(Read("One"), ControllerState());
+    one.SetAxis(0, 32767);
+    EXPECT_EQ(Read("One"), At(65535, 32768));
+}
+
+TEST_F(ControllersSdl, OfAKnownPadRzIsTheRightSticksHorizontal) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 11, .known = true});
+    Open();
+    EXPECT_EQ(Read(), ControllerState());
+    pad.SetAxis(SDL_CONTROLLER_AXIS_LEFTX, -32768);
+    pad.SetAxis(SDL_CONTROLLER_AXIS_RIGHTX, 32767);
+    EXPECT_EQ(Read(), At(0, 32768, 65535));
+    pad.SetAxis(SDL_CONTROLLER_AXIS_LEFTX, 0);
+    pad.SetAxis(SDL_CONTROLLER_AXIS_LEFTY, -32768);
+    pad.SetAxis(SDL_CONTROLLER_AXIS_RIGHTX, 0);
+    pad.SetAxis(SDL_CONTROLLER_AXIS_RIGHTY, 32767);
+    EXPECT_EQ(Read(), At(32768, 0));
+    pad.SetAxis(SDL_CONTROLLER_AXIS_LEFTY, 0);
+    pad.SetAxis(SDL_CONTROLLER_AXIS_TRIGGERLEFT, 32767);
+    pad.SetAxis(SDL_CONTROLLER_AXIS_TRIGGERRIGHT, 32767);
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, ButtonsHaveTheirNumbers) {
+    VirtualPad pad("Pad", {.buttons = 40});
+    Open();
+    pad.SetButton(0, true);
+    pad.SetButton(17, true);
+    pad.SetButton(31, true);
+    pad.SetButton(32, true);
+    EXPECT_EQ(Read(), Down({0, 17, 31}));
+    EXPECT_EQ(Read(), Down({0, 17, 31}));
+    pad.SetButton(0, false);
+    EXPECT_EQ(Read(), Down({17, 31}));
+}
+
+TEST_F(ControllersSdl, ArrowButtonsAreDirectionsAndNoButtons) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 15, .known = true});
+    Open();
+    EXPECT_EQ(list[Place("Pad")].buttons, 15);
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_LEFT, true);
+    EXPECT_EQ(Read(), At(0, 32768));
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_LEFT, false);
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_RIGHT, true);
+    EXPECT_EQ(Read(), At(65535, 32768));
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_RIGHT, false);
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_UP, true);
+    EXPECT_EQ(Read(), At(32768, 0));
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_UP, false);
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_DOWN, true);
+    pad.SetButton(SDL_CONTROLLER_BUTTON_A, true);
+    ControllerState both = Down({SDL_CONTROLLER_BUTTON_A});
+    both.y = 65535;
+    EXPECT_EQ(Read(), both);
+}
+
+TEST_F(ControllersSdl, HatsAreDirections) {
+    VirtualPad pad("Pad", {.buttons = 4, .hats = 2});
+    Open();
+    pad.SetHat(0, SDL_HAT_LEFT);
+    EXPECT_EQ(Read(), At(0, 32768));
+    pad.SetHat(0, SDL_HAT_RIGHTDOWN);
+    EXPECT_EQ(Read(), At(65535, 65535));
+    pad.SetHat(0, SDL_HAT_CENTERED);
+    pad.SetHat(1, SDL_HAT_UP);
+    EXPECT_EQ(Read(), At(32768, 0));
+    pad.SetHat(1, SDL_HAT_CENTERED);
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, AShortTapIsSeenOnce) {
+    VirtualPad pad("Pad", {.buttons = 4, .hats = 1}), other("Other", {.buttons = 4});
+    Open();
+    Read();
+    pad.Tap(2);
+    EXPECT_EQ(Read("Other"), ControllerState());
+    EXPECT_EQ(Read(), Down({2}));
+    EXPECT_EQ(Read(), ControllerState());
+    pad.TapHat(0, SDL_HAT_UP);
+    EXPECT_EQ(Read(), At(32768, 0));
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, AShortTapOnAnArrowButtonIsAStep) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 15, .known = true});
+    Open();
+    Read();
+    pad.Tap(SDL_CONTROLLER_BUTTON_DPAD_DOWN);
+    EXPECT_EQ(Read(), At(32768, 65535));
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, AHeldDirectionOfAHatIsNoTapWhenAnotherJoinsIt) {
+    VirtualPad pad("Pad", {.hats = 1});
+    Open();
+    pad.SetHat(0, SDL_HAT_UP);
+    EXPECT_EQ(Read(), At(32768, 0));
+    pad.TapHat(0, SDL_HAT_LEFTUP);
+    EXPECT_EQ(Read(), At(0, 32768));
+}
+
+// The launcher stops reading while another program is in front.
+TEST_F(ControllersSdl, WhatIsTappedWhileNobodyReadsIsForgotten) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    Read();
+    pad.Tap(2);
+    clock.MoveOn(milliseconds(400));
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, WhatIsTappedBeforeItIsOpenedIsNotSeen) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    pad.Tap(1);
+    controllers.Close();
+    pad.Tap(2);
+    Open();
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, AStickHeldOverWhenOpenedWaitsForItsRest) {
+    VirtualPad pad("Pad", {});
+    pad.SetAxis(0, 32767);
+    Open();
+    EXPECT_EQ(Read(), ControllerState());
+    pad.SetAxis(0, 0);
+    EXPECT_EQ(Read(), ControllerState());
+    pad.SetAxis(0, 32767);
+    EXPECT_EQ(Read(), At(65535, 32768));
+    // Opened anew, it waits anew.
+    Open();
+    EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, ADeviceThatIsUnpluggedIsGoneAndReadsAtRest) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    pad.SetAxis(0, 32767);
+    pad.SetButton(1, true);
+    Read();
+    pad.Unplug();
+    for (int time = 0; time < 3; ++time) {
+        ControllerState state = At(5, 5);
+        EXPECT_FALSE(controllers.Read(Place("Pad"), state));
+        EXPECT_EQ(state, ControllerState());
+    }
+    EXPECT_TRUE(controllers.Changed());
+    EXPECT_FALSE(controllers.Changed());
+    Open();
+    EXPECT_FALSE(IsThere("Pad"));
+}
+
+TEST_F(ControllersSdl, OneThatComesIsNewsOnce) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    EXPECT_FALSE(controllers.Changed());
+    VirtualPad late("Late", {.buttons = 2});
+    EXPECT_TRUE(controllers.Changed());
+    EXPECT_FALSE(controllers.Changed());
+    Open();
+    EXPECT_TRUE(IsThere("Late"));
+    EXPECT_FALSE(controllers.Changed());
+}
+
+TEST_F(ControllersSdl, NewsThatAReadHasSeenIsNotLost) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    VirtualPad late("Late", {.buttons = 2});
+    Read();
+    EXPECT_TRUE(controllers.Changed());
+}
+
+TEST_F(ControllersSdl, OneThatComesBackWorksAgainOnceItIsOpened) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    pad.Unplug();
+    pad.Plug();
+    pad.SetButton(1, true);
+    ControllerState state;
+    EXPECT_FALSE(controllers.Read(Place("Pad"), state));
+    EXPECT_TRUE(controllers.Changed());
+    Open();
+    EXPECT_EQ(Read(), Down({1}));
+}
+
+TEST_F(ControllersSdl, TheSecondGoesOnWhenTheFirstIsUnplugged) {
+    VirtualPad first("First", {.buttons = 4}), second("Second", {.buttons = 4});
+    Open();
+    first.Unplug();
+    second.SetButton(3, true);
+    EXPECT_EQ(Read("Second"), Down({3}));
+    second.Tap(2);
+    EXPECT_EQ(Read("Second"), Down({2, 3}));
+}
+
+TEST_F(ControllersSdl, ClosedNothingIsReadAndNothingIsNews) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    ControllerState state;
+    EXPECT_FALSE(controllers.Read(2, state));
+    Open();
+    controllers.Close();
+    controllers.Close();
+    VirtualPad late("Late", {.buttons = 2});
+    EXPECT_FALSE(controllers.Read(Place("Pad"), state));
+    EXPECT_FALSE(controllers.Changed());
+}
+
+// A pad's sticks send hundreds of events a second, and the queue holds some ten thousands.
+TEST_F(ControllersSdl, NewsComesThroughAfterAFloodOfEvents) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    for (int i = 0; i < 70'000; ++i) {
+        pad.SetAxis(0, i % 2 == 0 ? 32767 : -32768);
+        ControllerState state;
+        controllers.Read(Place("Pad"), state);
+    }
+    pad.Tap(1);
+    EXPECT_TRUE(Read().buttons[1]);
+    VirtualPad late("Late", {.buttons = 2});
+    EXPECT_TRUE(controllers.Changed());
+}
+
+// Neither a library that is not there nor one that is another.
+TEST_F(ControllersSdl, WithoutTheLibraryThereAreNoneAndItIsToldOnce) {
+    for (const char* library : {"libKivuHasNone.so.0", "libm.so.6"}) {
+        log.lines.clear();
+        SdlControllers without(clock, log, library);
+        for (int time = 0; time < 2; ++time) {
+            const auto found = without.Open();
+            ASSERT_TRUE(found.has_value());
+            EXPECT_EQ(found->size(), 2U);
+        }
+        ControllerState state;
+        EXPECT_TRUE(without.Read(0, state));
+        EXPECT_FALSE(without.Read(2, state));
+        EXPECT_FALSE(without.Changed());
+        without.Close();
+        EXPECT_THAT(log.lines, ElementsAre(StartsWith("no game controllers: ")));
+    }
+}
+
+std::size_t OpenDescriptors() {
+    const std::filesystem::directory_iterator all("/proc/self/fd");
+    return static_cast<std::size_t>(std::distance(begin(all), end(all)));
+}
+
+TEST_F(ControllersSdl, NothingStaysOpenBehindIt) {
+    Open();
+    controllers.Close();
+    const std::size_t before = OpenDescriptors();
+    for (int time = 0; time < 20; ++time) {
+        Open();
+        controllers.Close();
+    }
+    EXPECT_EQ(OpenDescriptors(), before);
+}
+
+}  // namespace
+}  // namespace kivu::hosts

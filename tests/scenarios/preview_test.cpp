@@ -1,0 +1,201 @@
+// The picture of the selected game, or of the emulator.
+
+#include "scenarios/preview_collection.h"
+
+namespace kivu::scenarios {
+namespace {
+
+class Preview : public PreviewScenario {
+ protected:
+    void StoreBee() {
+        tree.Write("Config/Alpha/Favoriten.ini",
+                   "[Favoriten]\r\nFav0_Name=Bee\r\nFav0_FullPath=/Roms/Alpha/Bee (1991)(Maker).adf"
+                   "\r\n");
+    }
+};
+
+TEST_F(Preview, OfTheFirstGameAtTheStart) {
+    Start();
+    EXPECT_EQ(Shown(), ant);
+    EXPECT_TRUE(InPlace());
+}
+
+TEST_F(Preview, OfTheFirstFavouriteAtTheStart) {
+    StoreBee();
+    Start();
+    EXPECT_EQ(Get("ListMode"), "1");
+    EXPECT_EQ(Shown(), bee);
+    EXPECT_TRUE(InPlace());
+}
+
+TEST_F(Preview, OfTheRowThatIsSelectedInEachList) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), bee);
+    Do("key", "Form1.WIthoutDoubles", "Up");
+    EXPECT_EQ(Shown(), ant);
+    Do("click", "Form1.Label3");
+    Do("select", "Form1.UAE_Short", 2);
+    EXPECT_EQ(Shown(), bee);
+    Do("select", "Form1.UAE_Short", 0);
+    EXPECT_EQ(Shown(), ant);
+    Do("type", "Form1.SearchDblsTxt", "bee");
+    EXPECT_EQ(Shown(), bee) << "the first hit is selected at once";
+    EXPECT_TRUE(InPlace());
+}
+
+TEST_F(Preview, OfTheEmulatorInTheOpenChoiceAndOfTheGameBehindIt) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("focus", "Form1.EmuListbox");
+    EXPECT_EQ(Shown(), "Alpha.bmp");
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    EXPECT_EQ(Shown(), "Loading.bmp");
+    Do("key", "Form1.EmulatorLongListbox", "Escape");
+    EXPECT_EQ(Shown(), bee);
+    // The loaded one, chosen anew.
+    ChooseEmulator(0);
+    EXPECT_EQ(Shown(), bee);
+    Do("focus", "Form1.EmuListbox");
+    EXPECT_EQ(Shown(), "Alpha.bmp");
+    Do("click", "Form1.Label1");
+    Do("click", "Form1.EmulatorLongListbox");
+    EXPECT_EQ(Shown(), "Alpha.bmp");
+}
+
+TEST_F(Preview, OfNothingAfterAChangeToAnEmulatorWithoutPictures) {
+    tree.AddEmulator("Gamma");
+    Start();
+    EXPECT_EQ(Shown(), ant);
+    ChooseEmulator(1);
+    EXPECT_EQ(Shown(), "(none)") << "Cat has no picture";
+    ChooseEmulator(0);
+    EXPECT_EQ(Shown(), ant);
+    ChooseEmulator(2);
+    EXPECT_EQ(Get("UAE_Short.ListCount"), 0);
+    EXPECT_EQ(Shown(), "(none)");
+    EXPECT_EQ(Text("GamePicture.Picture"), "");
+    EXPECT_EQ(Text("GamePictureVis.Picture"), "");
+}
+
+TEST_F(Preview, OfTheEmulatorForGamesWithoutOne) {
+    Paint("Config/Beta/Pictures/Beta.bmp");
+    Start();
+    ChooseEmulator(1);
+    EXPECT_EQ(Shown(), "Beta.bmp");
+}
+
+TEST_F(Preview, FileThatComesOrGoesCountsAtTheNextSelection) {
+    Start();
+    Paint("Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), bee) << "its full name is looked for first";
+    Do("file", "remove", "Roms/Alpha/Bee (1991)(Maker).png");
+    Do("select", "Form1.WIthoutDoubles", 0);
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), "Bee.png");
+    Do("file", "remove", "Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), "(none)");
+    Paint("Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), "Bee.png");
+}
+
+TEST_F(Preview, DamagedFileShowsNoOthersPicture) {
+    Start();
+    tree.Write("Config/Alpha/Pictures/Bee (1991)(Maker).bmp", "no picture");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), "(empty)");
+    EXPECT_EQ(Text("GamePicture.Picture"), "");
+    Do("click", "Form1.GamePictureVis");
+    EXPECT_FALSE(Zoomed());
+    Do("select", "Form1.WIthoutDoubles", 0);
+    EXPECT_EQ(Shown(), ant);
+}
+
+TEST_F(Preview, BelongsToTheSelectedGameAfterARescan) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("click", "Form1.LoadBtn");
+    const int row = Number("UAE_Short.ListIndex");
+    const Json names = Get("UAE_Short.List");
+    EXPECT_EQ(Shown(), row < 0                                                       ? "(none)"
+                       : names[static_cast<std::size_t>(row)] == "Bee (1991)(Maker)" ? bee
+                                                                                     : ant);
+    Do("select", "Form1.WIthoutDoubles", 1);
+    EXPECT_EQ(Shown(), bee);
+}
+
+TEST_F(Preview, StaysWhatItIsWhileAGameRuns) {
+    Start();
+    LaunchBee();
+    EXPECT_EQ(Shown(), bee);
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer", 2);
+    EXPECT_EQ(Shown(), bee);
+    EmulatorGoes();
+    Do("tick", "Form1.EmuActiveTimer", 5);
+    EXPECT_EQ(Shown(), bee);
+}
+
+TEST_F(Preview, OfAHitsEmulatorAndOfTheGameOnceTheHitsAreLeft) {
+    Start();
+    Do("set", "Form1.SearchDblsTxt.Text", "maker");
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    ASSERT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(Shown(), "Alpha.bmp");
+    Do("select", "Form1.GlobalSearchList", Number("GlobalSearchList.ListCount") - 1);
+    EXPECT_EQ(Shown(), "Loading.bmp");
+    Do("click", "Form1.Label2");
+    const int row = Number("UAE_Short.ListIndex");
+    EXPECT_EQ(Shown(), row < 0 ? "(none)" : row == 2 ? bee : ant);
+    // The next search shows its hits' emulator again.
+    Do("set", "Form1.SearchDblsTxt.Text", "cat");
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    EXPECT_EQ(Shown(), "Loading.bmp");
+}
+
+TEST_F(Preview, WithoutAnEmulatorNothingIsShownOrMade) {
+    tree.WriteProgramProfile({});
+    Start();
+    EXPECT_EQ(Shown(), "(none)");
+    Call("ShowGamePreview", 0);
+    EXPECT_EQ(Shown(), "(none)");
+    EXPECT_FALSE(tree.Exists("Config/Pictures"));
+    tree.WriteProgramProfile({{"LastEmulator", "Gone"}});
+    Start();
+    Call("ShowGamePreview", -1);
+    EXPECT_FALSE(tree.Exists("Config/Pictures"));
+    EXPECT_EQ(Get("EmuListbox.List"), Json({"Alpha", "Beta"}));
+}
+
+TEST_F(Preview, PicturesDirectoryIsThereForTheUserToFill) {
+    Start();
+    EXPECT_FALSE(tree.Exists("Config/Beta/Pictures"));
+    ChooseEmulator(1);
+    EXPECT_TRUE(tree.Exists("Config/Beta/Pictures"));
+}
+
+TEST_F(Preview, RoutinesByTheirNames) {
+    Start();
+    EXPECT_EQ(Call("FindPreviewPicture", "Bee.adf"), tree.Path("Roms/Alpha/" + bee));
+    EXPECT_EQ(Call("FindPreviewPicture", "Nobody.adf"), "");
+    Call("ShowGamePreview", 2);
+    EXPECT_EQ(Shown(), bee);
+    Call("ShowEmulatorPreview", 1);
+    EXPECT_EQ(Shown(), "Loading.bmp");
+    Call("ShowEmulatorPreview", 7);
+    EXPECT_EQ(Shown(), "(none)");
+    Call("LoadVorschauImageFromPAth", tree.Path("Roms/Alpha/" + bee));
+    EXPECT_EQ(Shown(), bee);
+    Call("LoadVorschauImageFromPAth", "");
+    EXPECT_EQ(Shown(), "(empty)");
+    Call("SetVorschaubild", false);
+    EXPECT_EQ(Shown(), "(none)");
+    Call("SetVorschaubild", true);
+    EXPECT_EQ(Shown(), "(empty)");
+}
+
+}  // namespace
+}  // namespace kivu::scenarios

@@ -1,0 +1,84 @@
+// A click shows the picture at its natural size, over the lists; whatever comes puts it back.
+
+#include <functional>
+
+#include "scenarios/preview_collection.h"
+
+namespace kivu::scenarios {
+namespace {
+
+class PreviewZoom : public PreviewScenario {
+ protected:
+    PreviewZoom() { Paint("Config/Alpha/Pictures/Ant (1990).bmp", 400, 300); }
+};
+
+TEST_F(PreviewZoom, ClickShowsTheNaturalSizeAndAnotherOneTheOld) {
+    Start();
+    const int left = Number("VorschauBild.Left"), width = Number("VorschauBild.Width");
+    const int frame = Number("SettingsFrame.Top");
+    Zoom();
+    EXPECT_FALSE(Visible("GamePictureVis"));
+    EXPECT_EQ(Number("VorschauBild.Width"), 6000);
+    EXPECT_EQ(Number("VorschauBild.Height"), 4500);
+    EXPECT_EQ(Number("VorschauBild.Left"), Number("Width") - 6300);
+    EXPECT_EQ(Number("SettingsFrame.Top"), frame);
+    Do("click", "Form1.GamePicture");
+    EXPECT_EQ(Number("VorschauBild.Left"), left);
+    EXPECT_EQ(Number("VorschauBild.Width"), width);
+    EXPECT_TRUE(Visible("GamePictureVis"));
+    EXPECT_TRUE(InPlace());
+    // The next game of another size.
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Zoom();
+    EXPECT_EQ(Number("VorschauBild.Width"), 32 * 15);
+}
+
+TEST_F(PreviewZoom, EndsWithWhateverComes) {
+    const std::vector<std::pair<const char*, std::function<void()>>> events{
+        {"size", [&] { Do("resize", "Form1", 16000, 12000); }},
+        {"tab", [&] { Do("click", "Form1.Label3"); }},
+        {"next game", [&] { Do("select", "Form1.WIthoutDoubles", 1); }},
+        {"same game", [&] { Do("select", "Form1.WIthoutDoubles", 0); }},
+        {"emulator", [&] { ChooseEmulator(1); }},
+        {"choice", [&] { Do("focus", "Form1.EmuListbox"); }},
+        {"maximised", [&] { Do("state", "Form1", 2); }},
+        {"font", [&] { Do("set", "Form1.FontSizeCombo.ListIndex", 30); }},
+        {"search", [&] { Do("type", "Form1.SearchDblsTxt", "bee"); }},
+    };
+    for (const auto& [name, event] : events) {
+        Start();
+        Zoom();
+        event();
+        EXPECT_FALSE(Visible("GamePicture")) << name;
+        EXPECT_TRUE(InPlace()) << name;
+    }
+}
+
+TEST_F(PreviewZoom, StaysWhileThePanelIsDraggedOverIt) {
+    tree.AddEmulator("Alpha", {{"RomPath", "/Roms/Alpha"}, {"SmartRomSelection", "1"}});
+    Start();
+    Zoom();
+    const int frame = Number("SettingsFrame.Top");
+    Do("drag", "Form1.SettingsSubPicture", "Form1.GamePicture", 500, 400, 10, 20);
+    EXPECT_TRUE(Zoomed());
+    EXPECT_EQ(Number("SettingsFrame.Top"), frame);
+    EXPECT_EQ(Number("VorschauBild.Width"), 6000);
+    Do("click", "Form1.GamePicture");
+    EXPECT_TRUE(InPlace());
+}
+
+TEST_F(PreviewZoom, PictureOfAnEmulatorStartsItInstead) {
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    Do("answer", "Yes");
+    Do("click", "Form1.GamePictureVis");
+    const Json boxes = Do("boxes")["value"];
+    ASSERT_EQ(boxes.size(), 1U) << boxes;
+    EXPECT_THAT(boxes[0]["text"].get<std::string>(), ::testing::HasSubstr("Beta"));
+    EXPECT_EQ(Do("runs")["value"].size(), 1U);
+    EXPECT_FALSE(Zoomed());
+}
+
+}  // namespace
+}  // namespace kivu::scenarios

@@ -1,0 +1,178 @@
+// Pictures that come late, clicks on them, and the lists that bring them back.
+
+#include <gmock/gmock.h>
+
+#include "ui/preview_room.h"
+
+namespace kivu::ui {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+// What comes later than the selection.
+struct LatePictures : PreviewRoom {
+    LatePictures() {
+        Files({"/roms/amiga/One.png", "/roms/amiga/Two.png"});
+        EXPECT_EQ(ShowGame("One.adf"), "/roms/amiga/One.png");
+        loader.late = true;
+    }
+};
+
+TEST_F(LatePictures, OldPictureStaysUntilTheNewOneComes) {
+    EXPECT_EQ(ShowGame("Two.adf"), "/roms/amiga/One.png");
+    EXPECT_TRUE(form.PreviewTimer.Enabled());
+    loader.Let();
+    EXPECT_EQ(Shown(), "/roms/amiga/Two.png");
+    EXPECT_FALSE(form.PreviewTimer.Enabled());
+}
+
+TEST_F(LatePictures, OldPictureDoesNotStayForLong) {
+    ShowGame("Two.adf");
+    previews.PreviewTimer_Timer();
+    EXPECT_EQ(Shown(), "(none)");
+    EXPECT_FALSE(form.PreviewTimer.Enabled());
+    loader.Let();
+    EXPECT_EQ(Shown(), "/roms/amiga/Two.png");
+}
+
+TEST_F(LatePictures, NothingComesForAGameWithoutAPicture) {
+    ShowGame("Two.adf");
+    EXPECT_EQ(ShowGame("Other.adf"), "(none)");
+    EXPECT_FALSE(form.PreviewTimer.Enabled());
+    loader.Let();
+    EXPECT_EQ(Shown(), "(none)");
+}
+
+TEST_F(LatePictures, NothingComesForAnEmulatorThatWasLeft) {
+    ShowGame("Two.adf");
+    previews.Drop();
+    loader.Let();
+    EXPECT_EQ(form.GamePictureVis.GetPicture(), forms::Picture{});
+}
+
+TEST_F(LatePictures, NothingComesToAnEndedProgram) {
+    ShowGame("Two.adf");
+    form.Ended = true;
+    loader.Let();
+    EXPECT_NE(Shown(), "/roms/amiga/Two.png");
+}
+
+TEST_F(LatePictures, WithNoneOnViewNoneIsShownMeanwhile) {
+    ShowGame("Other.adf");
+    EXPECT_EQ(ShowGame("Two.adf"), "(none)");
+    EXPECT_FALSE(form.PreviewTimer.Enabled());
+    loader.Let();
+    EXPECT_EQ(Shown(), "/roms/amiga/Two.png");
+}
+
+struct Clicks : PreviewRoom {
+    Clicks() {
+        Files({"/roms/amiga/One.png", "/roms/amiga/Two.png"});
+        ShowGame("One.adf");
+    }
+    void Click() {
+        previews.GamePictureVis_MouseDown();
+        previews.GamePictureVis_Click();
+    }
+};
+
+TEST_F(Clicks, PictureIsZoomedAndComesBack) {
+    Click();
+    EXPECT_TRUE(form.GamePicture.Visible());
+    EXPECT_EQ(form.VorschauBild.Left(), 9300);
+    previews.GamePicture_Click();
+    EXPECT_FALSE(form.GamePicture.Visible());
+    EXPECT_EQ(form.VorschauBild.Left(), 9433);
+    EXPECT_THAT(started, IsEmpty());
+}
+
+TEST_F(Clicks, NextGameEndsTheZoom) {
+    for (const char* next : {"Two.adf", "Other.adf"}) {
+        ShowGame("One.adf");
+        Click();
+        ASSERT_TRUE(form.GamePicture.Visible());
+        ShowGame(next);
+        EXPECT_FALSE(form.GamePicture.Visible()) << next;
+        EXPECT_EQ(form.VorschauBild.Left(), 9433) << next;
+    }
+    EXPECT_EQ(Shown(), "(none)");
+}
+
+TEST_F(Clicks, EmptyFrameIsNotZoomed) {
+    previews.LoadVorschauImageFromPAth("");
+    Click();
+    EXPECT_FALSE(form.GamePicture.Visible());
+}
+
+TEST_F(Clicks, PictureOfAnEmulatorStartsItAndIsNotZoomed) {
+    form.EmulatorLongListbox.AddItem("Amiga 500");
+    form.EmulatorLongListbox.SetVisible(true);
+    Click();
+    EXPECT_THAT(started, IsEmpty()) << "no row is selected";
+    form.EmulatorLongListbox.SetListIndex(0);
+    Click();
+    EXPECT_THAT(started, ElementsAre("Amiga 500?"));
+    EXPECT_FALSE(form.GamePicture.Visible());
+    // The start has closed the choice before the button comes up.
+    previews.GamePictureVis_MouseDown();
+    form.EmulatorLongListbox.SetVisible(false);
+    previews.GamePictureVis_Click();
+    EXPECT_FALSE(form.GamePicture.Visible());
+    Click();
+    EXPECT_TRUE(form.GamePicture.Visible());
+}
+
+TEST_F(Clicks, ListThatComesForwardShowsItsGamesPictureAgain) {
+    Files({"/opt/kivu/Config/Amiga 500/Skin/Loading.png"});
+    previews.ShowEmulatorPreview(0);
+    form.EmulatorLongListbox.SetVisible(true);
+    previews.Refresh();
+    EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
+    form.EmulatorLongListbox.SetVisible(false);
+    form.ListsVisible = false;
+    previews.Refresh();
+    EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
+    form.ListsVisible = true;
+    previews.Refresh();
+    EXPECT_EQ(Shown(), "/roms/amiga/One.png");
+    disk.looks.clear();
+    previews.Refresh();
+    EXPECT_THAT(disk.looks, IsEmpty());
+    form.UAE_Short.SetListIndex(-1);
+    previews.Refresh();
+    EXPECT_EQ(Shown(), "(none)");
+}
+
+// A disk that threads may use.
+struct SharedDisk : WatchedDisk {
+    bool ServesThreads() const override { return true; }
+};
+
+TEST(PreviewPreparation, LooksIntoEachDirectoryBesideTheWindow) {
+    SharedDisk disk;
+    kivu::testing::ScriptedHost host{disk};
+    host.background.inlined = false;
+    core::Form1 form{forms::Toolkit{}};
+    Layout layout{form};
+    ScriptedLoader loader;
+    form.StartPfad = "/k/Config/A/";
+    form.TxtRomPath.SetText("/roms/");
+    disk.AddDirectory("/roms");
+    disk.AddDirectory("/k/Config/A/Pictures");
+    {
+        PreviewPictures previews{form, {disk, host.background}, layout, loader};
+        previews.Prepare();
+        EXPECT_THAT(disk.looks, IsEmpty());
+        host.background.Serve(0);
+        EXPECT_THAT(disk.looks, ::testing::Contains("/roms/?*.*"));
+        EXPECT_THAT(disk.looks, ::testing::Contains("/k/Config/A/Pictures/?*.*"));
+        disk.looks.clear();
+        previews.Prepare();
+    }
+    host.background.Serve(0);
+    EXPECT_THAT(disk.looks, IsEmpty()) << "the launcher has gone";
+}
+
+}  // namespace
+}  // namespace kivu::ui
