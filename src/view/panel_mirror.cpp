@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
 
@@ -69,7 +70,16 @@ class PanelWidget : public QWidget {
             DrawOnPlate(painter);
             return;
         }
-        picture.Draw(painter, rect(), devicePixelRatioF(), HowToFit(), resizing.isActive());
+        picture.Draw(painter, ShownPlace(), devicePixelRatioF(), HowToFit(), resizing.isActive());
+    }
+
+    // Something may lie on the lower part of it.
+    QRect ShownPlace() const {
+        QRect place = rect();
+        if (control.GetKind() != forms::Kind::image) return place;
+        const int most = static_cast<const forms::Image&>(control).MostShownHeight();
+        if (most >= 0) place.setHeight(qMin(place.height(), ToPixels(most)));
+        return place;
     }
 
     // In the plate's round corners, with its line.
