@@ -81,7 +81,7 @@ sed -i '/Hi\.x/d' "$work/demo/Config/DOSBox/Kivu_Cache.txt"
 
 # Rows with pictures: 1 is Brick Bay, 7 Moon Miner, 13 Star Drift.
 Dress
-Open 1280 800 13
+Open 1280 800 1
 Take window
 Close
 row=13
