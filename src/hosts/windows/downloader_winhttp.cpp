@@ -266,7 +266,7 @@ Fetched WinHttpDownloader::Fetch(const std::string& url, const std::string& path
     }
     transfer->Cancel();
     // A look-up of a name cannot be cancelled; it ends by itself, and its file goes with it.
-    const auto result = transfer->Wait(std::chrono::seconds(2));
+    const auto result = transfer->Wait(std::chrono::milliseconds(500));
     return result.value_or(Fetched::cancelled);
 }
 
