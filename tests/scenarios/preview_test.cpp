@@ -120,22 +120,24 @@ TEST_F(Preview, IsThatOfTheMarkedRowAfterARescan) {
     Start();
     Do("select", "Form1.WIthoutDoubles", 1);
     Do("click", "Form1.LoadBtn");
-    ASSERT_EQ(Text("WIthoutDoubles.ListIndex"), "1");
+    // No row of the fresh list is marked.
+    EXPECT_EQ(Get("UAE_Short.ListIndex"), -1);
+    EXPECT_EQ(Shown(), "(none)");
+    Do("click", "Form1.Label2");
+    EXPECT_EQ(Get("WIthoutDoubles.ListIndex"), 1);
     EXPECT_EQ(Shown(), bee);
-    tree.Write("Roms/Alpha/Bee (1991)(Maker).adf");
     Do("click", "Form1.Label3");
-    EXPECT_EQ(Shown(), bee);
     Do("select", "Form1.UAE_Short", 0);
     EXPECT_EQ(Shown(), ant);
 }
 
-TEST_F(Preview, DuringARescanItCanBeZoomedAndPutBack) {
+TEST_F(Preview, DuringARescanItCanBeZoomedAndIsPutBack) {
     Start();
-    Do("select", "Form1.WIthoutDoubles", 1);
     Do("meanwhile", "events", 1, Json({"click", "Form1.GamePictureVis"}));
     Do("click", "Form1.LoadBtn");
     EXPECT_FALSE(Visible("GamePicture"));
-    EXPECT_EQ(Shown(), bee);
+    Do("select", "Form1.UAE_Short", 0);
+    EXPECT_EQ(Shown(), ant);
     EXPECT_TRUE(InPlace());
 }
 
@@ -162,10 +164,16 @@ TEST_F(Preview, OfAHitsEmulatorAndOfTheGameOnceTheHitsAreLeft) {
     Do("click", "Form1.Label2");
     const int row = Number("UAE_Short.ListIndex");
     EXPECT_EQ(Shown(), row < 0 ? "(none)" : row == 2 ? bee : ant);
-    // The next search shows its hits' emulator again.
-    Do("set", "Form1.SearchDblsTxt.Text", "cat");
+    // The next search shows its hits' emulator again, also when that was the last one shown.
+    Do("set", "Form1.SearchDblsTxt.Text", "(19");
     Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
-    EXPECT_EQ(Shown(), "Loading.bmp");
+    Do("select", "Form1.GlobalSearchList", 0);
+    EXPECT_EQ(Shown(), "Alpha.bmp");
+    Do("click", "Form1.Label2");
+    EXPECT_NE(Shown(), "Alpha.bmp");
+    Do("set", "Form1.SearchDblsTxt.Text", "bee");
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    EXPECT_EQ(Shown(), "Alpha.bmp");
 }
 
 TEST_F(Preview, WithoutAnEmulatorNothingIsShownOrMade) {
