@@ -1,14 +1,18 @@
 #!/usr/bin/env bash
-# Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench ...
+# Installs what is missing of the Debian packages that a job needs: install-packages.sh build|run|test|bench|assets ...
 set -euo pipefail
 
-build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev libsdl2-dev)
-run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0 libsdl2-2.0-0)
+build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev libsdl2-dev
+       libxcb-randr0-dev libcurl4-openssl-dev)
+run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0 libsdl2-2.0-0
+     libxcb-randr0 libcurl4)
 screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
-test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps)
+test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps
+      xserver-xorg-core xserver-xorg-video-dummy python3 openssl)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 tidy=(clang-tidy)
 wine=(wine wine64 googletest nlohmann-json3-dev fonts-dejavu-core)
+assets=(librsvg2-bin imagemagick fonts-dejavu-core)
 fuzz=(clang libclang-rt-14-dev)
 bench=(libbenchmark-dev libxcb1-dev libpng-dev zlib1g-dev libdeflate-dev dpkg-dev findutils grep)
 

@@ -173,25 +173,29 @@ def forest(width, height, layers, flies, moon=True):
 # --- What lies in front of a window's picture lets it through.
 
 
-def corner(width, height, light, line):
-    return [
+def corner(width, height, light, line=None):
+    parts = [
         "<defs>",
         f'<linearGradient id="veil" x1="0" y1="0" x2="1" y2="0"><stop offset="0" stop-color="{light}" stop-opacity="0"/>'
-        f'<stop offset="0.45" stop-color="{light}" stop-opacity="0.20"/>'
-        f'<stop offset="1" stop-color="{light}" stop-opacity="0.05"/></linearGradient>',
+        f'<stop offset="0.55" stop-color="{light}" stop-opacity="0.12"/>'
+        f'<stop offset="1" stop-color="{light}" stop-opacity="0.04"/></linearGradient>',
         "</defs>",
         shape("rect", x=2, y=2, width=width - 4, height=height - 4, rx=24, fill="url(#veil)"),
-        shape("path", d=f"M{width * 0.25:.0f} {height - 3} H{width - 26}", stroke=line, stroke_opacity=0.55, stroke_width=3,
-              stroke_linecap="round"),
     ]
+    if line:
+        parts.append(shape("path", d=f"M{width * 0.25:.0f} {height - 3} H{width - 26}", stroke=line, stroke_opacity=0.55,
+                           stroke_width=3, stroke_linecap="round"))
+    return parts
 
 
+# The panel is as wide as its column, so that its left and right may be cut.
 def drives(width, height, back, line):
-    parts = [shape("rect", x=1.5, y=1.5, width=width - 3, height=height - 3, rx=10, fill=back, stroke=line, stroke_opacity=0.5,
-                   stroke_width=3)]
+    parts = [shape("rect", width=width, height=height, fill=back)]
+    for y in (1.5, height - 1.5):
+        parts.append(shape("path", d=f"M0 {y} H{width}", stroke=line, stroke_opacity=0.5, stroke_width=3))
     for row in range(4):
         for column in range(2):
-            parts.append(shape("circle", cx=13 + 10 * column, cy=17 + 10 * row, r=2.4, fill=line, fill_opacity=0.7))
+            parts.append(shape("circle", cx=15 + 10 * column, cy=17 + 10 * row, r=2.4, fill=line, fill_opacity=0.7))
     return parts
 
 
@@ -208,7 +212,7 @@ DRAWINGS = {
     "Papier": {
         "colors": ("#f2ecdf", "#22303c"),
         "Background": lambda w, h: paper(w, h, 4, True),
-        "BackgroundTopRight": lambda w, h: corner(w, h, "#ffffff", "#22303c"),
+        "BackgroundTopRight": lambda w, h: corner(w, h, "#ffffff"),
         "Drivebox": lambda w, h: drives(w, h, "#fbf8f1", "#22303c"),
         "Loading": lambda w, h: paper(w, h, 4, False) + plane(w * 0.32, h * 0.20, h * 0.48),
     },

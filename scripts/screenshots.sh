@@ -26,20 +26,28 @@ mkdir -p "$work/config"
 mkdir -m 700 "$work/run"
 StartScreen
 
-# Dress EMULATOR [SKIN]: a skin that ships, or none.
+# Dress [SKIN]: DOSBox in a skin that ships, or in none.
 Dress() {
-  rm -rf "$work/demo/Config/$1/Skin"
-  [ $# -eq 1 ] || cp -R "$here/assets/skins/$2" "$work/demo/Config/$1/Skin"
+  rm -rf "$work/demo/Config/DOSBox/Skin"
+  [ $# -eq 0 ] || cp -R "$here/assets/skins/$1" "$work/demo/Config/DOSBox/Skin"
 }
 
-# Open EMULATOR WIDTH HEIGHT: the program in a window of so many pixels, with the emulator loaded.
+# Open WIDTH HEIGHT ROW: the program in a window of so many pixels, with DOSBox and the title of that row chosen.
 Open() {
-  printf '[Settings]\r\nLastEmulator=%s\r\nWindowX=%d\r\nWindowY=%d\r\nWindowTop=450\r\nWindowLeft=450\r\n' \
-    "$1" $(($2 * 15)) $(($3 * 15)) >"$work/demo/Config/Kivu.ini"
+  printf '[Settings]\r\nWindowX=%d\r\nWindowY=%d\r\nWindowTop=450\r\nWindowLeft=450\r\n' \
+    $(($1 * 15)) $(($2 * 15)) >"$work/demo/Config/Kivu.ini"
   "$work/demo/Kivu" 2>"$work/kivu.log" &
   kivu=$!
   Until 30 FindWindow || Fail "no window came up: $(cat "$work/kivu.log")"
   sleep 1
+  # DOSBox is the second row, behind Disk Box.
+  Click 110 52
+  sleep 0.5
+  Click 100 96
+  xdotool key Down Return
+  sleep 1
+  xdotool key Right
+  for _ in $(seq "$3"); do xdotool key Down; done
 }
 FindWindow() {
   window=$(xdotool search --onlyvisible --pid "$kivu" 2>/dev/null | tail -n 1)
@@ -66,25 +74,23 @@ Close() {
   kivu=0
 }
 
-demo="$here/demo/build.sh"
-"$demo" "$work/demo" >/dev/null
+"$here/demo/build.sh" "$work/demo" >/dev/null
 cp "$program" "$work/demo/Kivu"
+# Its title is its path, which is that of a directory for now.
+sed -i '/Hi\.x/d' "$work/demo/Config/DOSBox/Kivu_Cache.txt"
 
-Dress DOSBox
-Open DOSBox 1280 800
-xdotool key Right
+# Rows with pictures: 1 is Brick Bay, 7 Moon Miner, 13 Star Drift.
+Dress
+Open 1280 800 1
 Take window
 Close
-
+row=13
 for skin in Bernstein Papier Nachtwald; do
-  Dress DOSBox "$skin"
-  Open DOSBox 1024 700
-  xdotool key Right
-  # Star Drift, whose picture is wide.
-  for _ in 1 2 3 4 5 6 7 8 9 10 11 12 13 14; do xdotool key Down; done
-  [ "$skin" = Bernstein ] || for _ in 1 2 3 4 5; do xdotool key Up; done
+  Dress "$skin"
+  Open 1024 700 "$row"
   Take "$skin"
   Close
+  row=$((row == 13 ? 1 : 7))
 done
 
 # Few colours make small files, and nobody sees them missing.

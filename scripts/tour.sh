@@ -4,7 +4,7 @@
 #     scripts/tour.sh PROGRAM_DIR [SCREENSHOT_DIR]
 #
 # Leaves numbered screenshots, and fails when a step does not come about. TOUR_SIZE sets the screen
-# (1024x768), LANG the language as usual.
+# (1024x768), LANG the language as usual. KIVU_FILES is the program of scripts/tour-files.sh, which follows.
 set -euo pipefail
 
 program_dir=$(cd "$1" && pwd)
@@ -94,7 +94,11 @@ Until 15 NotRunning || Fail "the emulator was not ended"
 kill -0 "$kivu" 2>/dev/null || Fail "the launcher has gone too"
 sleep 4
 Shot list "the list again"
-[ "$(Difference "$simple" "$last")" -lt 60000 ] || Fail "the list did not come back"
+# The picture beside it is that of the game.
+ListOf() { convert "$1" -crop 600x580+60+120 +repage "$2"; }
+ListOf "$simple" "$work/simple.png"
+ListOf "$last" "$work/list.png"
+[ "$(Difference "$work/simple.png" "$work/list.png")" -lt 30000 ] || Fail "the list did not come back"
 
 Front() {
   xdotool windowactivate --sync "$window" 2>/dev/null || true
@@ -109,7 +113,7 @@ Front
 # Type Storm; its buttons come up with it.
 Click 100 233
 Shot title "a title chosen"
-Click 707 485
+Click 707 508
 More() { [ "$(Favourites)" -gt "$before" ]; }
 Until 10 More || Fail "the game did not become a favourite"
 xdotool key Left
@@ -137,7 +141,7 @@ Shot search "a search in this list"
 found=$last
 
 # The same in the lists of all emulators.
-Click 664 605
+Click 664 614
 Shot everywhere "the search in all lists"
 [ "$(Difference "$found" "$last")" -gt 2000 ] || Fail "the search in all lists found nothing"
 xdotool key Down
@@ -173,3 +177,7 @@ if [ -x "$colors" ]; then
   kivu=0
 fi
 echo "The tour is through; the pictures are in ${shots#"$here"/}."
+
+# The dialog for files, which the tests' program opens.
+dialog=${KIVU_FILES:-$here/build/test/program/kivu-files}
+[ ! -x "$dialog" ] || "$here/scripts/tour-files.sh" "$dialog" "$shots/files"

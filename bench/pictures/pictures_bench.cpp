@@ -5,7 +5,6 @@
 #include <QApplication>
 #include <QBuffer>
 #include <QImageReader>
-#include <QRandomGenerator>
 #include <QThread>
 #include <algorithm>
 #include <atomic>
@@ -18,6 +17,7 @@
 #include "forms/form.h"
 #include "hosts/qt/background_qt.h"
 #include "hosts/qt/picture_decoder_qt.h"
+#include "pictures.h"
 #include "ratio/ratio.h"
 #include "ui/picture_file.h"
 #include "ui/picture_loader.h"
@@ -43,19 +43,11 @@ void Check(bool held, const char* otherwise) {
     if (!held) throw std::runtime_error(otherwise);
 }
 
-// Slow changes of colour with a little noise, as photographs and painted scenes have them.
-QImage Scene(int seed) {
-    QRandomGenerator random(static_cast<quint32>(seed));
-    QImage image(large, QImage::Format_RGB32);
-    for (int y = 0; y < image.height(); ++y) {
-        auto* row = reinterpret_cast<QRgb*>(image.scanLine(y));
-        for (int x = 0; x < image.width(); ++x) {
-            const int noise = static_cast<int>(random.generate() & 3);
-            row[x] = qRgb((x / 8 + seed * 7 + noise) & 255, (y / 5 + noise) & 255,
-                          ((x + y) / 12 + noise) & 255);
-        }
-    }
-    return image;
+QImage Photo() {
+    const bench::Drawing drawing = bench::DrawPhoto(large.width(), large.height());
+    return QImage(drawing.samples.data(), large.width(), large.height(),
+                  qsizetype{3} * large.width(), QImage::Format_RGB888)
+        .copy();
 }
 
 class Files {
@@ -63,8 +55,8 @@ class Files {
     Files() {
         directory = std::filesystem::temp_directory_path() / "kivu-bench-pictures";
         std::filesystem::create_directories(directory);
-        Save("a.png", Scene(1), "png");
-        Save("a.jpg", Scene(1), "jpg");
+        Save("a.png", Photo(), "png");
+        Save("a.jpg", Photo(), "jpg");
     }
     ~Files() {
         std::error_code ignored;

@@ -5,8 +5,8 @@ set -euo pipefail
 program="$1"
 
 # Those that every Windows 10 has.
-own=' advapi32 authz comdlg32 d2d1 d3d11 d3d9 d3d12 dwmapi dwrite dxgi gdi32 imm32 kernel32 msvcrt mpr netapi32 ole32 '
-own+='oleaut32 rpcrt4 setupapi shcore shell32 shlwapi user32 userenv uxtheme version winmm wtsapi32 ws2_32 comctl32 '
+own=' advapi32 authz comdlg32 d2d1 d3d11 d3d9 d3d12 dinput8 dwmapi dwrite dxgi gdi32 imm32 kernel32 msvcrt mpr netapi32 ole32 '
+own+='oleaut32 rpcrt4 setupapi shcore shell32 shlwapi user32 userenv uxtheme version winhttp winmm wtsapi32 ws2_32 comctl32 '
 
 for dll in $(x86_64-w64-mingw32-objdump -p "$program" | sed -n 's/.*DLL Name: //p'); do
   name="$(echo "${dll%.*}" | tr '[:upper:]' '[:lower:]')"

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "core/busy_state.h"
+#include "core/form1.h"
 #include "text/paths.h"
 
 namespace kivu::library {
@@ -26,6 +28,23 @@ std::string Joined(const std::string& start, const std::string& name) {
 }
 
 }  // namespace
+
+FileScanRecursive::FileScanRecursive(core::Form1& form, ScanSource& source,
+                                     platform::Beeper& beeper, core::EventPacer& pacer)
+    : form(form),
+      controls(form.FileScanRecursive1),
+      source(source),
+      beeper(beeper),
+      pacer(pacer) {
+}
+
+const forms::ListBox& FileScanRecursive::Result_list() const {
+    return controls.ResultList;
+}
+
+forms::ListBox& FileScanRecursive::Result_list() {
+    return controls.ResultList;
+}
 
 std::string FileScanRecursive::PreParePath(const std::string& Path) const {
     return text::PreParePath(Path);

@@ -2,10 +2,19 @@
 
 #include <string>
 
-#include "core/busy_state.h"
-#include "core/form1.h"
 #include "library/scan_source.h"
 #include "platform/beeper.h"
+
+namespace kivu::core {
+class EventPacer;
+struct FileScanControls;
+struct Form1;
+}  // namespace kivu::core
+
+namespace kivu::forms {
+class Label;
+class ListBox;
+}  // namespace kivu::forms
 
 namespace kivu::library {
 
@@ -17,12 +26,7 @@ class FileScanRecursive {
     static constexpr int limit = 31999;
 
     FileScanRecursive(core::Form1& form, ScanSource& source, platform::Beeper& beeper,
-                      core::EventPacer& pacer)
-        : form(form),
-          controls(form.FileScanRecursive1),
-          source(source),
-          beeper(beeper),
-          pacer(pacer) {}
+                      core::EventPacer& pacer);
 
     std::string PreParePath(const std::string& Path) const;
     // Files below `Path` that match `Pattern`; gives the number of results. Progress goes into the
@@ -31,8 +35,8 @@ class FileScanRecursive {
                   const std::string& ProgressText, forms::Label* ProgressLabel);
     // Directories below `Path`, each with a closing separator.
     int ScanDirs(const std::string& Path, const std::string& ProgressText);
-    const forms::ListBox& Result_list() const { return controls.ResultList; }
-    forms::ListBox& Result_list() { return controls.ResultList; }
+    const forms::ListBox& Result_list() const;
+    forms::ListBox& Result_list();
     void BreakScan() { BreakFlag = true; }
 
     // Keeps the inner lists at the control's size.

@@ -53,13 +53,21 @@ bool MarkedGame::SelectToStore() {
 void MarkedGame::ShowName() {
     // In the busy state the label is empty on purpose.
     if (!form.ListsVisible || !form.Current_ProgramNameFull.Caption().empty()) return;
-    const forms::ListBox* list = ListInFront();
-    if (!list || list->ListIndex() < 0) return;
-    const int row = IsInStep(*list) ? form.UAE_Short.ListIndex() : RowOf(*list);
-    const std::string& path = form.UAE_FULL.List(row);
+    const std::string& path = form.UAE_FULL.List(RowInFront());
     if (path.empty()) return;
     form.Current_ProgramNameFull.SetCaption(text::GetFileNameOnly(path));
     form.Current_ProgramNameFull.SetVisible(true);
+}
+
+int MarkedGame::RowOnShow() const {
+    const int selected = form.UAE_Short.ListIndex();
+    return selected >= 0 ? selected : RowInFront();
+}
+
+int MarkedGame::RowInFront() const {
+    const forms::ListBox* list = ListInFront();
+    if (!list || list->ListIndex() < 0) return -1;
+    return IsInStep(*list) ? form.UAE_Short.ListIndex() : RowOf(*list);
 }
 
 int MarkedGame::RowOf(const forms::ListBox& list) const {

@@ -43,9 +43,14 @@ class MarkedGame {
     // does nothing else that the click does.
     void ShowName();
 
+    // The row of UAE_Short of the selected game; with none selected, as after a rescan, that of the
+    // game marked in the list in front. -1 for none.
+    int RowOnShow() const;
+
     Ports ports;
 
  private:
+    int RowInFront() const;
     // The row of UAE_Short that a game's shown name stands for; -1 for none.
     int RowOf(const forms::ListBox& list) const;
     bool IsInStep(const forms::ListBox& list) const;

@@ -53,6 +53,12 @@ bool IsTaken(const platform::FileSystem& files, const std::string& configPath,
            });
 }
 
+// So much of a name that the box stays one.
+std::string Shortened(const std::string& name) {
+    const std::size_t end = text::CodePointOffset(name, longestEmulatorName);
+    return end < name.size() ? name.substr(0, end) + "..." : name;
+}
+
 std::string Reason(NameFault fault, const core::ProgramState& program) {
     switch (fault) {
         case NameFault::tooLong:
@@ -102,8 +108,9 @@ std::string NewEmulatorPrompt(const core::ProgramState& program) {
 }
 
 Box FaultBox(NameFault fault, const std::string& name, const core::ProgramState& program) {
-    return {name + "\r\r" + Reason(fault, program), program.Say("Neuer Emulator", "New emulator"),
-            platform::Buttons::Ok, platform::Icon::Warning};
+    return {Shortened(name) + "\r\r" + Reason(fault, program),
+            program.Say("Neuer Emulator", "New emulator"), platform::Buttons::Ok,
+            platform::Icon::Warning};
 }
 
 std::error_code MakeEmulator(platform::FileSystem& files, const std::string& configPath,

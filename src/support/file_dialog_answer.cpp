@@ -32,12 +32,17 @@ void FileDialogAnswer::Ask(const Question& question) {
 
 void FileDialogAnswer::Begin(const std::string& given, const std::string& name) {
     const std::string path = lists.PathOf(given);
-    if (!path.empty()) lists.GoToNearest(path);
-    if (IsNetworkPath(path, lists.IsPosix()) && !files.IsDirectory(path)) form.NetworkPath = path;
+    // A machine that does not answer takes its time: it is not asked for all that lies above.
+    if (!IsNetworkPath(path, lists.IsPosix())) {
+        lists.GoToNearest(path);
+    } else if (!lists.GoTo(path) && !lists.GoTo(text::GetParentPath(path))) {
+        form.NetworkPath = path;
+    }
     if (!form.AsksForDirectory()) {
         lists.SetMask(name);
         if (!HasWildcard(name)) form.FileName.SetText(name);
-        if (files.FileExists(path)) ChooseFile(text::GetFileNameOnly(path));
+        if (form.NetworkPath.empty() && files.FileExists(path))
+            ChooseFile(text::GetFileNameOnly(path));
     }
     lists.ShowFullPath();
 }

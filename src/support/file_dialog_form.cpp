@@ -40,6 +40,7 @@ void FilesForm::DesignWindow() {
     Place(TitleLabel, margin, 14, wide - 2 * margin - 40, 24);
     TitleLabel.SetFont({"", 11, true});
     Place(AlwaysOnTop1, wide - margin - 28, 10, 28, 28);
+    AlwaysOnTop1.SetIsUserControl(true);
     AOT_Enabled.SetPicture({":/pin-enabled", nullptr});
     AOT_Disabled.SetPicture({":/pin-disabled", nullptr});
     AOT_MouseMove.SetPicture({":/pin-hover", nullptr});
@@ -52,7 +53,7 @@ void FilesForm::DesignWindow() {
 
 void FilesForm::DesignLists() {
     constexpr int pathLeft = margin + 52, upWidth = 104;
-    Place(PathLabel, margin, 54, 48, labelHeight);
+    Place(PathLabel, margin, 56, 48, labelHeight);
     Place(KomplettPfadText, pathLeft, 50, wide - margin - upWidth - 10 - pathLeft, 28);
     Place(UpBtn, wide - margin - upWidth, 48, upWidth, 32);
 

@@ -72,8 +72,14 @@ void FileDialogLists::ShowFullPath() {
     } else {
         path += form.Mask;
     }
+    Show(std::move(path));
+}
+
+void FileDialogLists::Show(std::string path) {
     shownPath = path;
-    form.KomplettPfadText.SetText(std::move(path));
+    // Of a path that is too long the end tells more.
+    const int end = static_cast<int>(text::CodePointCount(path));
+    form.KomplettPfadText.SetField(forms::TextField(std::move(path), end, 0));
 }
 
 void FileDialogLists::SetMask(const std::string& mask) {
@@ -148,8 +154,7 @@ void FileDialogLists::KomplettPfadText_LostFocus() {
     }
     // It stays as it was typed, also while the other machine cannot be reached.
     if (!GoTo(path)) form.NetworkPath = path;
-    shownPath = path;
-    form.KomplettPfadText.SetText(path);
+    Show(path);
 }
 
 // A directory, or a file or a mask in one; whatever leads nowhere changes nothing.

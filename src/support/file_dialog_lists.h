@@ -52,6 +52,7 @@ class FileDialogLists {
     void JumpTo(forms::DirectoryControl& list, char32_t letter);
 
  private:
+    void Show(std::string path);
     void ReadAnew();
     void ShowDrive();
     void TakeTypedPath(const std::string& path);

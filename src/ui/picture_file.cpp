@@ -94,7 +94,7 @@ LoadedPicture LoadByHost(PictureFile& file, platform::PictureDecoder& decoder,
         const bool whole = std::max(header->width, header->height) <= longestShownSide;
         const int width = whole ? decoded->width : header->width;
         const int height = whole ? decoded->height : header->height;
-        const bool opaque = IsOpaque(decoded->pixels);
+        const bool opaque = header->format == PictureFormat::jpeg || IsOpaque(decoded->pixels);
         return {std::make_shared<const forms::Bitmap>(forms::Bitmap{
                     decoded->width, decoded->height, std::move(decoded->pixels), opaque}),
                 width, height, false};

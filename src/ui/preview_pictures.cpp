@@ -8,6 +8,7 @@
 #include "text/paths.h"
 #include "text/text.h"
 #include "ui/layout.h"
+#include "ui/skins.h"
 
 namespace kivu::ui {
 
@@ -130,7 +131,7 @@ void PreviewPictures::ShowGamePreview(int index) {
     } else if (!path.empty()) {
         LoadVorschauImageFromPAth(path);
     } else {
-        Blank();
+        Stop();
     }
 }
 
@@ -141,10 +142,8 @@ void PreviewPictures::ShowEmulatorPreview(int index) {
     if (!name.empty()) {
         const std::string profile =
             text::AddPathSeparator(form.ConfigPath) + name + files.Separator();
-        const std::string skin = Subdirectory(profile, "Skin");
-        auto found = skin.empty() ? std::nullopt : files.FirstMatch(skin, name + ".", "", name);
-        if (!found && !skin.empty()) found = files.FirstMatch(skin, "Loading.", "", "Loading");
-        if (found) path = skin + *found;
+        path = FindSkinFile(files, profile, name);
+        if (path.empty()) path = FindSkinFile(files, profile, "Loading");
     }
     HideForNext();
     if (path.empty()) {
@@ -169,6 +168,7 @@ void PreviewPictures::LoadVorschauImageFromPAth(const std::string& ImagePath) {
     EndZoom();
     if (ImagePath.empty() || !files.FileExists(ImagePath)) {
         SetVorschaubild(false);
+        Blank();
         ShowLoaded();
         return;
     }
@@ -178,8 +178,8 @@ void PreviewPictures::LoadVorschauImageFromPAth(const std::string& ImagePath) {
         PictureCame();
     });
     if (!coming) return;
-    // The old one rather than a gap, for as long as nobody sees that it lingers.
-    form.PreviewTimer.SetEnabled(false);
+    // The old one rather than a gap, for as long as nobody sees that it lingers, which does not
+    // begin anew with each further row.
     form.PreviewTimer.SetEnabled(stays);
     form.VorschauBild.SetVisible(stays);
 }
@@ -198,7 +198,7 @@ void PreviewPictures::ShowLoaded() {
 }
 
 void PreviewPictures::SetVorschaubild(bool showIt) {
-    if (!showIt) Blank();
+    if (!showIt) Stop();
     form.VorschauBild.SetVisible(showIt);
     layout.ResizeSettingsWindow();
     form.GamePictureVis.SetVisible(showIt);
@@ -211,9 +211,13 @@ void PreviewPictures::Drop() {
     shownGame.reset();
 }
 
-void PreviewPictures::Blank() {
+void PreviewPictures::Stop() {
     form.PreviewTimer.SetEnabled(false);
     loader.Drop(form.GamePicture);
+}
+
+void PreviewPictures::Blank() {
+    Stop();
     form.GamePicture.SetPicture({});
     form.GamePictureVis.SetPicture({});
 }
@@ -223,13 +227,12 @@ void PreviewPictures::PreviewTimer_Timer() {
     form.VorschauBild.SetVisible(false);
 }
 
-void PreviewPictures::Refresh() {
+void PreviewPictures::Refresh(int index) {
     // These have pictures of their own.
     if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible() ||
         form.GlobalSearchList.Visible() || !form.ListsVisible)
         return;
-    const int row = form.UAE_Short.ListIndex();
-    if (shownGame != form.UAE_FULL.List(row)) ShowGamePreview(row);
+    if (shownGame != form.UAE_FULL.List(index)) ShowGamePreview(index);
 }
 
 void PreviewPictures::Prepare() {

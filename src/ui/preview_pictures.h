@@ -54,8 +54,9 @@ class PreviewPictures {
     // The whole picture area.
     void SetVorschaubild(bool showIt);
 
-    // The selected game's picture, where a list of games has come to the front over another one's.
-    void Refresh();
+    // A list of games has come to the front: the picture of that row of the game lists, where
+    // another one is on view.
+    void Refresh(int index);
     // Another emulator's data comes: what was on view, or on its way, is nothing's picture.
     void Drop();
     // Gets ready what the next look-ups need, beside the window's thread.
@@ -92,6 +93,8 @@ class PreviewPictures {
     void MakePicturesDirectory();
     void EndZoom();
     void HideForNext();
+    // What is on its way comes to nothing.
+    void Stop();
     void Blank();
     void PictureCame();
     void ShowLoaded();

@@ -66,6 +66,10 @@ class PanelWidget : public QWidget {
 
     void DrawPicture(QPainter& painter) {
         if (!isEnabled()) painter.setOpacity(0.5);
+        if (IsDraggable(control)) {
+            DrawOnPlate(painter);
+            return;
+        }
         picture.Draw(painter, ShownPlace(), devicePixelRatioF(), HowToFit(), resizing.isActive());
     }
 
@@ -78,15 +82,30 @@ class PanelWidget : public QWidget {
         return place;
     }
 
+    // In the plate's round corners, with its line.
+    void DrawOnPlate(QPainter& painter) {
+        const double ratio = devicePixelRatioF();
+        const QImage& image = picture.Scaled((QSizeF(size()) * ratio).toSize(), HowToFit());
+        if (image.isNull()) return;
+        QBrush brush(image);
+        brush.setTransform(QTransform::fromScale(1 / ratio, 1 / ratio));
+        FillRounded(painter, QRectF(rect()), cornerRadius, brush, PlateLine());
+    }
+
+    QColor PlateLine() const {
+        QColor line = ToQt(control.ForeColor());
+        line.setAlphaF(0.3F);
+        return line;
+    }
+
     // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose
     // rows must not show through.
     void DrawPlate(QPainter& painter) {
         const QColor ink = ToQt(control.ForeColor());
         const QColor plate = Mix(ToQt(control.BackColor()).darker(135), ink, 0.05);
-        QColor line = ink, dots = ink;
-        line.setAlphaF(0.3F);
+        QColor dots = ink;
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
-        FillRounded(painter, QRectF(rect()), cornerRadius, plate, line);
+        FillRounded(painter, QRectF(rect()), cornerRadius, plate, PlateLine());
         if (control.GetPicture() != forms::Picture()) return;
         constexpr int step = 5;  // pixels
         const int rows = qBound(1, (height() - 6) / step, 4);

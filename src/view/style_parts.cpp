@@ -26,7 +26,7 @@ QColor DisabledFace(const QPalette& palette) {
 
 }  // namespace
 
-void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
+void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,
                  const QColor& line, double lineWidth) {
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);

@@ -22,7 +22,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
 void DrawArrow(QPainter& painter, const QStyleOption& option, const QRect& place);
 
 // A filled rounded rectangle with an optional line around it, sharp at every scale.
-void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QColor& fill,
+void FillRounded(QPainter& painter, const QRectF& rect, double radius, const QBrush& fill,
                  const QColor& line = Qt::transparent, double lineWidth = 1);
 
 }  // namespace kivu::view

@@ -15,7 +15,7 @@ void Launcher::Routines::JoinLists() {
     listEvents.ports.layout = layout;
     // The picture of the game under the cursor, at each change of the selection.
     listEvents.hooks.ShowGamePreview = [this](int row) { previews.ShowGamePreview(row); };
-    listEvents.hooks.RefreshPreview = [this] { previews.Refresh(); };
+    listEvents.hooks.RefreshPreview = [this] { previews.Refresh(markedGame.RowOnShow()); };
     listEvents.hooks.RefreshHints = [this] { hints.Refresh(); };
 
     form.UAE_FULL.onClick = [this] { listEvents.UAE_FULL_Click(); };

@@ -1,18 +1,13 @@
 #include "hosts/controller_shape.h"
 
+#include "testing/controller_states.h"
+
 namespace kivu::hosts {
 namespace {
 
+using kivu::testing::At;
 using platform::ControllerState;
 using std::chrono::milliseconds;
-
-ControllerState At(int x, int y, int rz = 32768) {
-    ControllerState state;
-    state.x = x;
-    state.y = y;
-    state.rz = rz;
-    return state;
-}
 
 // Of a device that has been seen at rest.
 class ControllerShape : public ::testing::Test {
@@ -83,7 +78,7 @@ TEST(ControllerShapeOpened, AnRzThatBeginsFurtherInIsAStick) {
     }
 }
 
-Arrows Down(std::initializer_list<Arrow> wanted) {
+Arrows Held(std::initializer_list<Arrow> wanted) {
     Arrows arrows;
     for (const Arrow arrow : wanted)
         arrows.Set(arrow);
@@ -91,7 +86,7 @@ Arrows Down(std::initializer_list<Arrow> wanted) {
 }
 
 ControllerState Steered(ControllerState state, std::initializer_list<Arrow> arrows) {
-    Steer(state, Down(arrows));
+    Steer(state, Held(arrows));
     return state;
 }
 

@@ -95,9 +95,11 @@ TEST_F(Preview, FileThatComesOrGoesCountsAtTheNextSelection) {
     Do("select", "Form1.WIthoutDoubles", 1);
     EXPECT_EQ(Shown(), "Bee.png");
     Do("file", "remove", "Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 0);
     Do("select", "Form1.WIthoutDoubles", 1);
     EXPECT_EQ(Shown(), "(none)");
     Paint("Config/Alpha/Pictures/Bee.png");
+    Do("select", "Form1.WIthoutDoubles", 0);
     Do("select", "Form1.WIthoutDoubles", 1);
     EXPECT_EQ(Shown(), "Bee.png");
 }
@@ -114,17 +116,27 @@ TEST_F(Preview, DamagedFileShowsNoOthersPicture) {
     EXPECT_EQ(Shown(), ant);
 }
 
-TEST_F(Preview, BelongsToTheSelectedGameAfterARescan) {
+TEST_F(Preview, IsThatOfTheMarkedRowAfterARescan) {
     Start();
     Do("select", "Form1.WIthoutDoubles", 1);
     Do("click", "Form1.LoadBtn");
-    const int row = Number("UAE_Short.ListIndex");
-    const Json names = Get("UAE_Short.List");
-    EXPECT_EQ(Shown(), row < 0                                                       ? "(none)"
-                       : names[static_cast<std::size_t>(row)] == "Bee (1991)(Maker)" ? bee
-                                                                                     : ant);
-    Do("select", "Form1.WIthoutDoubles", 1);
+    ASSERT_EQ(Text("WIthoutDoubles.ListIndex"), "1");
     EXPECT_EQ(Shown(), bee);
+    tree.Write("Roms/Alpha/Bee (1991)(Maker).adf");
+    Do("click", "Form1.Label3");
+    EXPECT_EQ(Shown(), bee);
+    Do("select", "Form1.UAE_Short", 0);
+    EXPECT_EQ(Shown(), ant);
+}
+
+TEST_F(Preview, DuringARescanItCanBeZoomedAndPutBack) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("meanwhile", "events", 1, Json({"click", "Form1.GamePictureVis"}));
+    Do("click", "Form1.LoadBtn");
+    EXPECT_FALSE(Visible("GamePicture"));
+    EXPECT_EQ(Shown(), bee);
+    EXPECT_TRUE(InPlace());
 }
 
 TEST_F(Preview, StaysWhatItIsWhileAGameRuns) {
@@ -141,7 +153,7 @@ TEST_F(Preview, StaysWhatItIsWhileAGameRuns) {
 
 TEST_F(Preview, OfAHitsEmulatorAndOfTheGameOnceTheHitsAreLeft) {
     Start();
-    Do("set", "Form1.SearchDblsTxt.Text", "maker");
+    Do("set", "Form1.SearchDblsTxt.Text", "(19");
     Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
     ASSERT_TRUE(Visible("GlobalSearchList"));
     EXPECT_EQ(Shown(), "Alpha.bmp");

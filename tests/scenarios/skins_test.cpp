@@ -153,6 +153,24 @@ TEST_F(SkinScenario, NoPicturesAreTheDesignsOwn) {
     EXPECT_EQ(Text("OrgTopLeft.Picture"), ":/top-right");
 }
 
+TEST_F(SkinScenario, FontSizesSetListsAndDropDown) {
+    Start();
+    EXPECT_EQ(Get("FontSizeCombo.ListCount"), 73);
+    EXPECT_EQ(Get("FontSizeCombo.ListIndex"), 16);
+    const auto choose = [&](int row) {
+        Do("set", "Form1.FontSizeCombo.ListIndex", row);
+        return std::pair(Get("UAE_Short.FontSize").get<double>(),
+                         Get("EmuListbox.FontSize").get<double>());
+    };
+    using Sizes = std::pair<double, double>;
+    EXPECT_EQ(Sizes(Get("UAE_Short.FontSize"), Get("EmuListbox.FontSize")), Sizes(11, 16));
+    EXPECT_EQ(choose(5), Sizes(11, 5));
+    EXPECT_EQ(choose(0), Sizes(11, 5));
+    EXPECT_EQ(choose(60), Sizes(55, 52));
+    EXPECT_EQ(choose(72), Sizes(67, 52));
+    EXPECT_EQ(Get("SuchErgList.FontSize"), 67);
+}
+
 struct SkinPictures : SkinScenario {
     void Add(const std::string& emulator, const std::string& name,
              const std::string& bytes = testing::PngFile(4, 3, 0xff204060)) {

@@ -308,5 +308,26 @@ TEST_F(FileDialogTest, ShareIsKeptThoughItCannotBeReached) {
               "D:\\");
 }
 
+TEST_F(FileDialogTest, ShareThatAnswersIsLookedInto) {
+    disk.AddFile("\\\\nas\\roms\\a.adf", "x");
+    for (const char* given : {"\\\\nas\\roms", "\\\\nas\\roms\\", "\\\\nas\\roms\\gone"}) {
+        EXPECT_EQ(Open(given, "", "*.adf",
+                       [](FilesForm& form) {
+                           EXPECT_EQ(form.NetworkPath, "");
+                           DoubleClick(form.File1, 0);
+                       }),
+                  "\\\\nas\\roms\\a.adf");
+    }
+    EXPECT_EQ(Open("\\\\nas\\roms\\a.adf", "", "", [](FilesForm& form) { Click(form.Ok); }),
+              "\\\\nas\\roms\\a.adf");
+}
+
+TEST_F(FileDialogTest, ShareThatDoesNotAnswerIsAskedForLittle) {
+    int asked = 0;
+    disk.beforeRead = [&](const std::string& path) { asked += path.starts_with("\\\\") ? 1 : 0; };
+    Directory("\\\\nas\\a\\b\\c\\d\\e", "", nullptr);
+    EXPECT_LE(asked, 2);
+}
+
 }  // namespace
 }  // namespace kivu::support

@@ -127,20 +127,19 @@ TEST_F(Clicks, ListThatComesForwardShowsItsGamesPictureAgain) {
     Files({"/opt/kivu/Config/Amiga 500/Skin/Loading.png"});
     previews.ShowEmulatorPreview(0);
     form.EmulatorLongListbox.SetVisible(true);
-    previews.Refresh();
+    previews.Refresh(0);
     EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
     form.EmulatorLongListbox.SetVisible(false);
     form.ListsVisible = false;
-    previews.Refresh();
+    previews.Refresh(0);
     EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
     form.ListsVisible = true;
-    previews.Refresh();
+    previews.Refresh(0);
     EXPECT_EQ(Shown(), "/roms/amiga/One.png");
     disk.looks.clear();
-    previews.Refresh();
+    previews.Refresh(0);
     EXPECT_THAT(disk.looks, IsEmpty());
-    form.UAE_Short.SetListIndex(-1);
-    previews.Refresh();
+    previews.Refresh(-1);
     EXPECT_EQ(Shown(), "(none)");
 }
 

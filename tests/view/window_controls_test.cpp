@@ -213,6 +213,22 @@ TEST_F(WindowControlsTest, PictureKeepsItsProportionsAtTheTop) {
     EXPECT_FALSE(isRed(50, 95));
 }
 
+TEST_F(WindowControlsTest, PictureOfWhatCanBeDraggedHasItsRoundCorners) {
+    auto pixels = std::make_shared<forms::Bitmap>();
+    pixels->width = pixels->height = 4;
+    pixels->pixels.assign(16, 0xffff0000);
+    form.front.SetPicture({"", pixels});
+    const auto isRed = [&](int x, int y) {
+        return Find("Front")->grab().toImage().pixelColor(x, y) == QColor(255, 0, 0);
+    };
+    EXPECT_TRUE(isRed(0, 0));
+    EXPECT_TRUE(isRed(50, 30));
+    form.front.SetTag("Pic");
+    form.front.onMouseDown = [](const forms::Mouse&) {};
+    EXPECT_FALSE(isRed(0, 0));
+    EXPECT_TRUE(isRed(50, 30));
+}
+
 TEST_F(WindowControlsTest, PictureGetsSmoothWhenItsPlaceRests) {
     auto stripes = std::make_shared<forms::Bitmap>();
     stripes->width = 400;

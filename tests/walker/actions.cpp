@@ -11,8 +11,8 @@ namespace {
 const std::vector<Action>& All() {
     static const std::vector<Action> all = [] {
         std::vector<Action> joined;
-        for (const auto* table :
-             {&ListActions(), &ControlActions(), &KeyActions(), &PadActions(), &WorldActions()})
+        for (const auto* table : {&ListActions(), &ControlActions(), &KeyActions(), &PadActions(),
+                                  &WindowActions(), &WorldActions()})
             joined.insert(joined.end(), table->begin(), table->end());
         return joined;
     }();
@@ -58,6 +58,11 @@ Step AnyStep(World& world, const Look& look, Random& random) {
     return {"nothing", {}};
 }
 
+// The commands that follow work in the window that it opens.
+bool OpensWindow(const Step& step) {
+    return !step.commands.empty() && step.commands.front()[0] == "call";
+}
+
 // Behind a box there are no hands.
 bool ComesMeanwhile(const Commands& commands, bool atBox) {
     return std::all_of(commands.begin(), commands.end(), [&](const Json& command) {
@@ -71,9 +76,10 @@ bool ComesMeanwhile(const Commands& commands, bool atBox) {
 Step Interrupted(World& world, const Look& look, Random& random, Step step) {
     const bool atBox = random.Chance(30);
     Step other = AnyStep(world, look, random);
-    for (int tries = 0; tries < 20 && !ComesMeanwhile(other.commands, atBox); ++tries)
+    const auto fits = [&] { return !OpensWindow(other) && ComesMeanwhile(other.commands, atBox); };
+    for (int tries = 0; tries < 20 && !fits(); ++tries)
         other = AnyStep(world, look, random);
-    if (!ComesMeanwhile(other.commands, atBox)) return step;
+    if (!fits()) return step;
     // At a start and a switch events run some thirty times.
     Json meanwhile = Json::array({"meanwhile", atBox ? "box" : "events", 1});
     if (!atBox) meanwhile[2] = 1 + random.Below(random.Chance(50) ? 4 : 30);
@@ -92,7 +98,7 @@ Step Interrupted(World& world, const Look& look, Random& random, Step step) {
 Step NextStep(World& world, Random& random) {
     const Look look = world.Now();
     Step step = AnyStep(world, look, random);
-    if (!random.Chance(10) || step.commands.empty()) return step;
+    if (!random.Chance(10) || step.commands.empty() || OpensWindow(step)) return step;
     return Interrupted(world, look, random, std::move(step));
 }
 

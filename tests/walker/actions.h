@@ -24,7 +24,8 @@ const std::vector<Action>& ListActions();     // rows, tabs, the choice of emula
 const std::vector<Action>& ControlActions();  // buttons, boxes to type into, the panel
 const std::vector<Action>& KeyActions();
 const std::vector<Action>& PadActions();
-const std::vector<Action>& WorldActions();  // processes, files, the window's size
+const std::vector<Action>& WindowActions();  // windows beside the main one
+const std::vector<Action>& WorldActions();   // processes, files, the window's size
 
 inline Json Command(std::initializer_list<Json> parts) {
     return Json::array_t(parts);

@@ -18,9 +18,9 @@ std::vector<Expected> Moment::AllExpected() const {
 }
 
 std::optional<Fault> Check(const Moment& moment, const std::set<std::string>& leftOut) {
-    for (const auto* table :
-         {&StartInvariants(), &HandedInvariants(), &RunningInvariants(), &PadInvariants(),
-          &FrontInvariants(), &ListInvariants(), &PreviewInvariants(), &StoreInvariants()}) {
+    for (const auto* table : {&StartInvariants(), &HandedInvariants(), &RunningInvariants(),
+                              &PadInvariants(), &FrontInvariants(), &ListInvariants(),
+                              &PreviewInvariants(), &StoreInvariants(), &WindowInvariants()}) {
         for (const Invariant& invariant : *table) {
             const bool exempt =
                 std::any_of(invariant.exemptions.begin(), invariant.exemptions.end(),

@@ -26,6 +26,12 @@ struct Intrusion {
     bool idle;   // there, or while something was under way: nothing comes of it
 };
 
+// A command that was served while a modal window was open.
+struct Inside {
+    Json command;
+    std::string error;  // empty: it was taken
+};
+
 // One command, with all that was seen around it.
 struct Moment {
     World& world;
@@ -42,6 +48,7 @@ struct Moment {
     int beeps;
     int refusals;                         // of the disk
     const std::vector<Intrusion>& inner;  // what came in the middle of it
+    const std::vector<Inside>& inside;    // what was done in the window that it opened
     const Memory& memory;
 
     bool Taken() const { return error.empty(); }
@@ -77,6 +84,7 @@ const std::vector<Invariant>& RunningInvariants();  // a game and its end
 const std::vector<Invariant>& PadInvariants();      // the pad and its switch
 const std::vector<Invariant>& PreviewInvariants();  // the picture at the right
 const std::vector<Invariant>& StoreInvariants();    // the files
+const std::vector<Invariant>& WindowInvariants();   // windows beside the main one
 
 struct Fault {
     const Invariant* invariant = nullptr;

@@ -24,7 +24,10 @@ bool IsOfGame(const std::string& picture, const std::string& path, const std::st
 
 std::string OfSelectedGame(const Moment& m) {
     if (m.after.preview.empty()) return {};
-    const std::string path = m.after.paths.Text(m.after.At(List::complete).row);
+    const int selected = m.after.At(List::complete).row;
+    const Meaning meant = selected < 0 ? MeaningInFront(m.after, m.stores) : Meaning{};
+    if (meant.kind == Meaning::Kind::untold) return {};
+    const std::string path = selected < 0 ? meant.path : m.after.paths.Text(selected);
     if (!path.empty() && IsOfGame(m.after.preview, path, m.after.Loaded())) return {};
     return m.after.preview + " is to be seen, selected is " + Quoted(path);
 }

@@ -59,13 +59,20 @@ std::string TitleShows(const Moment& m) {
     return Quoted(m.after.title) + " is written into a hidden line";
 }
 
-std::string Known(const Moment& m) {
+std::string Unknown(const std::string& error) {
     for (const char* part :
          {"cannot be reached", "has no row", "takes no focus", " is off", "no process", "already",
-          "has ended", "No such file", "is there", "no such"}) {
-        if (m.error.find(part) != std::string::npos) return {};
+          "has ended", "No such file", "is there", "no such", "no window"}) {
+        if (error.find(part) != std::string::npos) return {};
     }
-    return m.error;
+    return error;
+}
+
+std::string Known(const Moment& m) {
+    std::string unknown = Unknown(m.error);
+    for (const Inside& one : m.inside)
+        unknown += Unknown(one.error);
+    return unknown;
 }
 
 }  // namespace

@@ -27,7 +27,10 @@ Session Without(const Session& session, std::size_t first, std::size_t count) {
 // Answers that change nothing, and what has come in the middle without a need.
 void DropCommands(Session& best, const std::string& invariant) {
     for (std::size_t step = 1; step < best.steps.size(); ++step) {
-        for (std::size_t i = best.steps[step].commands.size(); i-- > 0;) {
+        // Without what closes a window all that follows would be done in it.
+        const Commands& all = best.steps[step].commands;
+        if (!all.empty() && all.front()[0] == "call") continue;
+        for (std::size_t i = all.size(); i-- > 0;) {
             Session tried = best;
             auto& commands = tried.steps[step].commands;
             commands.erase(commands.begin() + static_cast<std::ptrdiff_t>(i));

@@ -25,9 +25,12 @@ class Player {
 
     std::optional<Failure> Play(const Step& step) {
         intruded = false;
-        for (const Json& command : step.commands) {
-            if (auto failure = Play(command)) return failure;
-            if (world.Ended()) break;
+        const Commands& commands = step.commands;
+        for (std::size_t i = 0; i < commands.size() && !world.Ended(); ++i) {
+            const auto next = commands.begin() + static_cast<std::ptrdiff_t>(i) + 1;
+            world.WillFollow({next, commands.end()});
+            if (auto failure = Play(commands[i])) return failure;
+            i += served;
         }
         return {};
     }
@@ -56,6 +59,11 @@ class Player {
     }
 
  private:
+    // Empty: the command was taken.
+    static std::string ErrorOf(const Json& answer) {
+        return answer.value("ok", false) ? std::string() : answer.value("error", std::string());
+    }
+
     static bool IsForHost(const Json& command) {
         return command[0] == "answer" || command[0] == "input" || command[0] == "meanwhile" ||
                command[0] == "device";
@@ -77,15 +85,17 @@ class Player {
         if (IsForHost(command)) {
             if (command[0] == "meanwhile") atBox = command[1] == "box";
             world.Execute(command);
+            served = 0;
             return {};
         }
         const Look before = world.Now();
         const Stores stored = ReadStores(world, before);
         const Expected expected = Expect(before, stored, command);
         const Json answer = world.Execute(command);
-        const bool taken = answer.value("ok", false);
-        return CheckAfter(command, before, stored, expected,
-                          taken ? "" : answer.value("error", std::string()));
+        for (auto& [given, got] : world.TakeInside())
+            inside.push_back({std::move(given), ErrorOf(got)});
+        served = inside.size();
+        return CheckAfter(command, before, stored, expected, ErrorOf(answer));
     }
 
     // Another run of the program on the same disk.
@@ -114,10 +124,12 @@ class Player {
                             world.TakeBeeps(),
                             world.TakeRefusals(),
                             inner,
+                            inside,
                             memory};
         Remember(moment);
         const auto fault = Check(moment, leftOut);
         inner.clear();
+        inside.clear();
         if (!fault) return {};
         return Failure{0, fault->invariant->name, fault->invariant->why, fault->what, command};
     }
@@ -156,6 +168,8 @@ class Player {
     World world;
     const std::set<std::string>& leftOut;
     std::vector<Intrusion> inner;  // of the command that is under way
+    std::vector<Inside> inside;    // of the window that it has opened
+    std::size_t served = 0;        // so many commands has that taken
     bool atBox = false;            // when they come
     bool intruded = false;         // they have come, in the step that is under way
     Memory memory;

@@ -25,6 +25,20 @@ void World::NoteDisk(const Json& command) {
         broken = command.size() > 2 ? command[2].get<std::string>() : std::string();
 }
 
+// As a conversation by lines does.
+void World::ServeWindow(const std::function<bool()>& isOpen) {
+    while (isOpen() && !following.empty() && !Ended()) {
+        const Json command = std::move(following.front());
+        following.pop_front();
+        inside.emplace_back(command, Execute(command));
+    }
+}
+
+bool World::ModalIsOpen() {
+    const auto open = session->Screen().OpenWindows();
+    return std::any_of(open.begin(), open.end(), [](const auto& window) { return window.modal; });
+}
+
 Look World::Now() {
     Look look = TakeLook(Form());
     const testing::ScriptedControllers& controllers = Host().controllers;
@@ -52,6 +66,9 @@ void World::StartAnew() {
 }
 
 void World::Watch() {
+    session->Screen().onModal = [this](forms::Form&, const std::function<bool()>& isOpen) {
+        ServeWindow(isOpen);
+    };
     Host().starter.onRun = [this](const platform::StartRequest& request) { NoteStart(request); };
     Host().dialogs.onShow = [this] {
         boxes.push_back({Host().dialogs.shown.back(), TakeLook(Form())});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -36,6 +37,11 @@ class World {
 
     // A driver's command, and what it answers.
     Json Execute(const Json& command);
+    // What follows the next command: a modal window that this opens takes it until it closes.
+    void WillFollow(std::deque<Json> commands) { following = std::move(commands); }
+    // What a modal window has been given since, each command with its answer.
+    std::vector<std::pair<Json, Json>> TakeInside() { return std::exchange(inside, {}); }
+    bool ModalIsOpen();
     // Another run of the program on the same disk.
     void StartAnew();
 
@@ -66,6 +72,7 @@ class World {
     std::vector<BoxLook> TakeBoxes() { return std::exchange(boxes, {}); }
 
  private:
+    void ServeWindow(const std::function<bool()>& isOpen);
     void Watch();
     void NoteDisk(const Json& command);
     void NoteStart(const platform::StartRequest& request);
@@ -74,6 +81,8 @@ class World {
     testing::MemoryFileSystem disk;
     std::unique_ptr<driver::Session> session;
     std::unique_ptr<driver::Interpreter> interpreter;
+    std::deque<Json> following;
+    std::vector<std::pair<Json, Json>> inside;
     std::vector<Started> starts;
     std::vector<BoxLook> boxes;
     std::optional<std::string> broken;  // what paths hold that cannot be written; empty: all

@@ -1,11 +1,11 @@
 #include "hosts/windows/wide_path.h"
 
 #include <algorithm>
-#include <array>
 #include <vector>
 
 #include "hosts/windows/system_text.h"
 #include "hosts/windows/wide_text.h"
+#include "text/file_names.h"
 
 namespace kivu::hosts {
 
@@ -114,17 +114,7 @@ bool EndsInSeparator(std::string_view path) {
 }
 
 bool EndsInDeviceName(std::wstring_view systemPath) {
-    std::wstring_view name = systemPath.substr(systemPath.rfind(L'\\') + 1);
-    name = name.substr(0, name.find(L'.'));
-    name = name.substr(0, name.find_last_not_of(L' ') + 1);
-    constexpr std::array<std::wstring_view, 6> devices = {L"CON", L"PRN",    L"AUX",
-                                                          L"NUL", L"CONIN$", L"CONOUT$"};
-    const auto is = [&](std::wstring_view device) { return EqualsNoCase(name, device); };
-    if (std::any_of(devices.begin(), devices.end(), is)) return true;
-    // The system counts superscript digits as digits here.
-    return name.size() == 4 &&
-           (EqualsNoCase(name.substr(0, 3), L"COM") || EqualsNoCase(name.substr(0, 3), L"LPT")) &&
-           std::wstring_view(L"123456789\u00B9\u00B2\u00B3").find(name[3]) != std::string::npos;
+    return text::IsDeviceName(Narrow(systemPath.substr(systemPath.rfind(L'\\') + 1)));
 }
 
 }  // namespace kivu::hosts

@@ -3,33 +3,21 @@
 #include <filesystem>
 #include <gmock/gmock.h>
 
+#include "testing/controller_states.h"
 #include "testing/scripted_host.h"
 #include "virtual_pad.h"
 
 namespace kivu::hosts {
 namespace {
 
+using kivu::testing::At;
+using kivu::testing::Down;
 using kivu::testing::VirtualPad;
 using platform::ControllerState;
 using std::chrono::milliseconds;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::StartsWith;
-
-ControllerState At(int x, int y, int rz = 32768) {
-    ControllerState state;
-    state.x = x;
-    state.y = y;
-    state.rz = rz;
-    return state;
-}
-
-ControllerState Down(std::initializer_list<std::size_t> buttons) {
-    ControllerState state;
-    for (const std::size_t button : buttons)
-        state.buttons[button] = true;
-    return state;
-}
 
 // The machine may have controllers of its own: ours are found by their names.
 class ControllersSdl : public ::testing::Test {

@@ -2,27 +2,15 @@
 
 #include "hosts/windows/dinput_device.h"
 #include "hosts/windows/scripted_dinput_device.h"
+#include "testing/controller_states.h"
 
 namespace kivu::hosts {
 namespace {
 
+using kivu::testing::At;
+using kivu::testing::Down;
 using platform::ControllerState;
 using std::chrono::milliseconds;
-
-ControllerState At(int x, int y, int rz = 32768) {
-    ControllerState state;
-    state.x = x;
-    state.y = y;
-    state.rz = rz;
-    return state;
-}
-
-ControllerState Down(std::initializer_list<std::size_t> buttons) {
-    ControllerState state;
-    for (const std::size_t button : buttons)
-        state.buttons[button] = true;
-    return state;
-}
 
 std::string NameOf(BYTE type, const wchar_t* name) {
     DIDEVICEINSTANCEW device{};

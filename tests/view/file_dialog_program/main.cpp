@@ -6,6 +6,7 @@
 // would that stands in the same place.
 
 #include <QApplication>
+#include <QScreen>
 #include <QTimer>
 #include <cstdio>
 #include <string>
@@ -13,6 +14,7 @@
 
 #include "app/desktop_host.h"
 #include "hosts/qt/compositing_qt.h"
+#include "view/fit_into.h"
 #include "view/form_view.h"
 #include "view/screen_windows.h"
 #include "view/style.h"
@@ -47,6 +49,8 @@ int main(int argc, char** argv) {
     windows.SetCompositing(kivu::hosts::IsComposited);
     kivu::wiring::Launcher launcher(
         host.Services(), &measure, [] {}, &windows);
+    if (const QScreen* screen = QApplication::primaryScreen())
+        kivu::view::FitInto(launcher.MainWindow(), screen->availableGeometry());
     launcher.Start();
     kivu::view::FormView view(launcher.MainWindow());
     view.SetCompositing(kivu::hosts::IsComposited);

@@ -6,7 +6,9 @@
 #include <QSlider>
 #include <QTest>
 #include <QWindow>
+#include <algorithm>
 #include <memory>
+#include <utility>
 
 #include "scenarios/scenario.h"
 #include "view/colors.h"
@@ -145,6 +147,32 @@ TEST_F(ColorWindowTest, ButtonsFollowTheWindowsColour) {
     EXPECT_NE(face(), onBlue);
     EXPECT_LT(view::Contrast(face(), QColor(0xf2, 0xec, 0xdf)), 2);
     EXPECT_GT(view::Contrast(face(), QColor(0xf2, 0xec, 0xdf)), 1.1);
+}
+
+TEST_F(ColorWindowTest, WritingIsReadWhateverTheColours) {
+    Show();
+    Form().SetPicture({});
+    for (const auto& [back, fore] : {std::pair<int, int>{0x808080, 0x808080},
+                                     {0x0000ff, 0x0000ff},
+                                     {0xffffff, 0xf0f0f0},
+                                     {0x000000, 0x101010}}) {
+        session->Routines().windowColors.SetColors(Form(), back, fore);
+        QCoreApplication::processEvents();
+        const QImage picture = main->Window().grab().toImage();
+        for (const char* name :
+             {"MyCaptionLabel", "Label2", "ExitBtn", "UAE_Short", "EmuListbox"}) {
+            auto* widget = main->Window().findChild<QWidget*>(QString::fromUtf8(name));
+            if (!widget || !widget->isVisible()) continue;
+            const QRect place(widget->mapTo(&main->Window(), QPoint(0, 0)), widget->size());
+            const QColor ground = picture.pixelColor(place.topLeft() + QPoint(2, 2));
+            double most = 0;
+            for (int y = place.top(); y < place.bottom(); ++y) {
+                for (int x = place.left(); x < place.right(); ++x)
+                    most = std::max(most, view::Contrast(picture.pixelColor(x, y), ground));
+            }
+            EXPECT_GT(most, 3) << name << " in " << fore << " on " << back;
+        }
+    }
 }
 
 }  // namespace

@@ -1,0 +1,70 @@
+#include "hosts/windows/part_file.h"
+
+#include <algorithm>
+
+#include "hosts/windows/wide_path.h"
+
+namespace kivu::hosts {
+
+PartFile::~PartFile() {
+    file.Close();
+    if (!name.empty()) ::DeleteFileW(name.c_str());
+}
+
+bool PartFile::Open(const std::string& path) {
+    constexpr int mostNames = 100;
+    const auto systemPath = SystemPath(path);
+    if (!systemPath || EndsInSeparator(path) || EndsInDeviceName(*systemPath)) return false;
+    const DWORD attributes = ::GetFileAttributesW(systemPath->c_str());
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
+        return false;
+    target = *systemPath;
+    for (int number = 0; number < mostNames; ++number) {
+        const std::wstring tried =
+            target + (number == 0 ? L"" : L"." + std::to_wstring(number)) + L".part";
+        file = Handle(::CreateFileW(tried.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
+                                    CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
+        if (file) {
+            name = tried;
+            return true;
+        }
+        if (::GetLastError() != ERROR_FILE_EXISTS && ::GetLastError() != ERROR_ALREADY_EXISTS)
+            return false;
+    }
+    return false;
+}
+
+bool PartFile::Write(const char* bytes, std::size_t size) {
+    constexpr std::size_t mostAtOnce = std::size_t{1} << 20;
+    while (size > 0) {
+        DWORD written = 0;
+        const auto part = static_cast<DWORD>(std::min(size, mostAtOnce));
+        if (::WriteFile(file.Get(), bytes, part, &written, nullptr) == 0 || written == 0)
+            return false;
+        bytes += written;
+        size -= written;
+    }
+    return true;
+}
+
+bool PartFile::Finish() {
+    constexpr int mostTrials = 10;
+    constexpr DWORD pause = 20;  // milliseconds
+    // A few network drives cannot flush.
+    const bool flushed = ::FlushFileBuffers(file.Get()) != 0 ||
+                         ::GetLastError() == ERROR_INVALID_FUNCTION ||
+                         ::GetLastError() == ERROR_NOT_SUPPORTED;
+    if (!flushed || !file.Close()) return false;
+    // A virus scanner looks at what has just been written, and is gone a moment later.
+    for (int trial = 0; trial < mostTrials; ++trial) {
+        if (::MoveFileExW(name.c_str(), target.c_str(),
+                          MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0) {
+            name.clear();
+            return true;
+        }
+        ::Sleep(pause);
+    }
+    return false;
+}
+
+}  // namespace kivu::hosts

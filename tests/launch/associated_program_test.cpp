@@ -1,0 +1,124 @@
+#include "launch/associated_program.h"
+
+#include <gmock/gmock.h>
+
+#include "testing/memory_file_system.h"
+#include "testing/scripted_host.h"
+
+namespace kivu::launch {
+namespace {
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+class AssociatedProgramTest : public ::testing::Test {
+ protected:
+    AssociatedProgramTest() {
+        files.AddDirectory("/tmp");
+        files.AddDirectory("/k");
+        EXPECT_FALSE(files.ChangeDirectory("/k"));
+    }
+
+    std::string Find(const std::string& file) {
+        AssociatedProgram program({files, dialogs,
+                                   [this](const std::string& path) {
+                                       asked.push_back(path + "=" + files.BytesOf(path));
+                                       return answers.contains(path) ? answers[path] : "";
+                                   },
+                                   "/tmp", "Kivu 1.4b"});
+        return program.FindAssociatedProgram(file);
+    }
+
+    testing::MemoryFileSystem files;
+    testing::ScriptedDialogs dialogs;
+    std::map<std::string, std::string> answers;
+    std::vector<std::string> asked;
+};
+
+TEST_F(AssociatedProgramTest, AFileOfTheCurrentDirectoryIsAskedAbout) {
+    files.AddFile("/k/a.txt", "text");
+    answers["/k/a.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("a.txt"), "/usr/bin/editor");
+    EXPECT_EQ(Find("/elsewhere/a.txt"), "/usr/bin/editor");
+    EXPECT_THAT(asked, ElementsAre("/k/a.txt=text", "/k/a.txt=text"));
+    EXPECT_THAT(files.BytesOf("/k/a.txt"), "text");
+}
+
+TEST_F(AssociatedProgramTest, AnotherFileIsStoodInFor) {
+    files.AddFile("/d/a.txt", "text");
+    answers["/tmp/zzzzzzzTemp_a.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("/d/a.txt"), "/usr/bin/editor");
+    EXPECT_THAT(asked, ElementsAre("/tmp/zzzzzzzTemp_a.txt=  "));
+    EXPECT_EQ(files.BytesOf("/tmp/zzzzzzzTemp_a.txt"), "(no file)");
+    EXPECT_EQ(files.BytesOf("/d/a.txt"), "text");
+}
+
+TEST_F(AssociatedProgramTest, ThenTheEndingAloneIsAskedAbout) {
+    answers["/tmp/RunFileTmp.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("/d/a.b.txt"), "/usr/bin/editor");
+    EXPECT_THAT(asked, ElementsAre("/tmp/zzzzzzzTemp_a.b.txt=  ", "/tmp/RunFileTmp.txt= "));
+    asked.clear();
+    // Too short for an ending, or without one.
+    EXPECT_EQ(Find("/d/a.c"), "");
+    EXPECT_EQ(Find("/d/abcd"), "");
+    EXPECT_THAT(asked, ElementsAre("/tmp/zzzzzzzTemp_a.c=  ", "/tmp/RunFileTmpa.c= ",
+                                   "/tmp/zzzzzzzTemp_abcd=  ", "/tmp/RunFileTmpabcd= "));
+    EXPECT_THAT(*files.ListDirectory("/tmp"), IsEmpty());
+}
+
+TEST_F(AssociatedProgramTest, AFileThatIsNotThereIsMadeForTheQuestionAlone) {
+    answers["/k/new.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("new.txt"), "/usr/bin/editor");
+    EXPECT_THAT(asked, ElementsAre("/k/new.txt="));
+    EXPECT_EQ(files.BytesOf("/k/new.txt"), "(no file)");
+    EXPECT_THAT(*files.ListDirectory("/k"), IsEmpty());
+}
+
+TEST_F(AssociatedProgramTest, StarsAreAskedAbout) {
+    dialogs.answers = {platform::Answer::Yes};
+    EXPECT_EQ(Find("/tmp/*.t*t"), "");
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(dialogs.shown[0].text, "Enthält ungültige Zeichen Abbrechen?\r.t*t");
+    EXPECT_EQ(dialogs.shown[0].buttons, platform::Buttons::YesNo);
+    EXPECT_THAT(asked, IsEmpty());
+    EXPECT_THAT(*files.ListDirectory("/tmp"), IsEmpty());
+    // One in front alone is taken away.
+    answers["/tmp/zzzzzzzTemp_.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("/d/*.txt"), "/usr/bin/editor");
+    EXPECT_EQ(dialogs.shown.size(), 1U);
+}
+
+TEST_F(AssociatedProgramTest, GoingOnWithStarsFindsByTheEnding) {
+    answers["/tmp/RunFileTmp.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("/d/a*b.txt"), "/usr/bin/editor");
+    EXPECT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_THAT(asked, ElementsAre("/tmp/RunFileTmp.txt= "));
+}
+
+TEST_F(AssociatedProgramTest, NothingThatIsThereIsTouched) {
+    files.AddFile("/tmp/zzzzzzzTemp_a.txt", "somebody's");
+    files.AddLink("/tmp/1zzzzzzzTemp_a.txt", "/k/target");
+    answers["/tmp/2zzzzzzzTemp_a.txt"] = "/usr/bin/editor";
+    EXPECT_EQ(Find("/d/a.txt"), "/usr/bin/editor");
+    EXPECT_EQ(files.BytesOf("/tmp/zzzzzzzTemp_a.txt"), "somebody's");
+    EXPECT_EQ(files.BytesOf("/k/target"), "(no file)");
+    EXPECT_TRUE(files.IsLink("/tmp/1zzzzzzzTemp_a.txt"));
+}
+
+TEST_F(AssociatedProgramTest, NoNameLeavesTheTemporaryDirectory) {
+    for (const char* file : {"a\\..\\..\\k\\x.txt", "/d/..", "/d/", "", "a:b", "nul."})
+        Find(file);
+    for (const std::string& path : files.changes)
+        EXPECT_EQ(path.find(".."), std::string::npos) << path;
+    EXPECT_THAT(*files.ListDirectory("/tmp"), IsEmpty());
+    EXPECT_THAT(*files.ListDirectory("/k"), IsEmpty());
+}
+
+TEST_F(AssociatedProgramTest, WhereNothingCanBeWrittenThereIsNoAnswer) {
+    files.SetReadOnly("/tmp");
+    EXPECT_EQ(Find("/d/a.txt"), "");
+    EXPECT_THAT(asked, IsEmpty());
+}
+
+}  // namespace
+}  // namespace kivu::launch

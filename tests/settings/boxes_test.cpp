@@ -1,0 +1,58 @@
+#include "settings/boxes.h"
+
+#include <gtest/gtest.h>
+
+namespace kivu::settings {
+namespace {
+
+using platform::Buttons;
+using platform::Icon;
+
+struct Boxes : ::testing::Test {
+    Boxes() { english.CurrentLanguage = 2; }
+    core::ProgramState german;
+    core::ProgramState english;
+};
+
+TEST_F(Boxes, LeavingWithUnsavedChangesAsks) {
+    EXPECT_EQ(DiscardQuestion(german),
+              (Box{"Sie haben noch nicht gespeichert, Änderungen verwerfen?",
+                   "Änderungen verwerfen?", Buttons::OkCancel, Icon::Question}));
+    EXPECT_EQ(DiscardQuestion(english),
+              (Box{"You have not saved your settings! \r\r Refuse changes?",
+                   "Undo changes and exit?", Buttons::OkCancel, Icon::Question}));
+}
+
+TEST_F(Boxes, ReadingDirectoriesAgain) {
+    EXPECT_EQ(SaveFirstBox(),
+              (Box{"Bitte erst speichern", "Speichern", Buttons::Ok, Icon::Information}));
+    EXPECT_EQ(ScanTitle(german), "Bitte warten! Verzeichniss wird durchsucht...");
+    EXPECT_EQ(ScanTitle(english), "Please wait!  searching directory..");
+    EXPECT_EQ(ReloadAllQuestion(german),
+              (Box{"Sollen alle Rom-Verzeichnisse aller Emulatoren neu eingelesen werden?",
+                   "Reload all", Buttons::OkCancel, Icon::Question}));
+    EXPECT_EQ(ReloadAllQuestion(english), (Box{"Re-scan all directories of all emulators in list?",
+                                               "Reload all", Buttons::OkCancel, Icon::Question}));
+}
+
+TEST_F(Boxes, StartingAndImportingSpeakGerman) {
+    EXPECT_EQ(StartNowQuestion("C:\\Emu\\snes9x.exe"),
+              (Box{"Emulator zum Einstellen jetzt starten?", "snes9x.exe starten?", Buttons::YesNo,
+                   Icon::Question}));
+    EXPECT_EQ(ImportCancelledBox(), (Box{"Abbruch!", "Kivu 1.4b", Buttons::Ok, Icon::None}));
+}
+
+TEST_F(Boxes, WhatCouldNotBeWrittenIsNamed) {
+    for (const core::ProgramState& program : {german, english}) {
+        EXPECT_NE(NotSavedBox("/k/x.ini", program).text.find("\r\r/k/x.ini"), std::string::npos);
+        EXPECT_NE(MasterQuestion("/k/m.uaecfg", program).text.find("\r\r/k/m.uaecfg\r\r"),
+                  std::string::npos);
+        EXPECT_EQ(MasterQuestion("", program).buttons, Buttons::YesNo);
+        EXPECT_EQ(NotSavedBox("", program).icon, Icon::Error);
+    }
+    EXPECT_NE(NotSavedBox("", german), NotSavedBox("", english));
+    EXPECT_NE(MasterQuestion("", german), MasterQuestion("", english));
+}
+
+}  // namespace
+}  // namespace kivu::settings

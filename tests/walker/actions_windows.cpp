@@ -1,0 +1,89 @@
+// The windows beside the main one.
+
+#include "walker/actions.h"
+
+namespace kivu::walker {
+
+namespace {
+
+// Where somebody begins to look, and what for.
+Json Question(Random& random) {
+    static const std::vector<const char*> routines{"FileOpenDialog", "filesaveDialog",
+                                                   "FileDirSelectDialog"};
+    static const std::vector<const char*> places{"", "/Roms", "/Roms/Amiga", "/Emu/no/such",
+                                                 "/Config/Kivu.ini"};
+    static const std::vector<const char*> names{"", "*.adf", "*.exe", "amiga", "*"};
+    const std::string routine = random.Pick(routines);
+    const std::string place = std::string(programDirectory) + random.Pick(places);
+    if (routine == "FileDirSelectDialog") return Command({"call", routine, place});
+    return Command({"call", routine, random.Chance(10) ? "" : place, "", random.Pick(names)});
+}
+
+Json HandInDialog(Random& random) {
+    static const std::vector<const char*> keys{"Down", "Up",   "Enter",  "Tab",   "Backspace",
+                                               "End",  "Home", "Delete", "Alt+p", "a"};
+    static const std::vector<const char*> names{"*.adf", "..", "Roms", "x.adf", "/", "~/", " "};
+    switch (random.Below(7)) {
+        case 0:
+            return Command({"click", "Files.UpBtn"});
+        case 1:
+            return Command({"dblclick", "Files.Dir1", random.Below(3)});
+        case 2:
+            return Command({"click", "Files.File1", random.Below(4)});
+        case 3:
+            return Command({"click", "Files.Drive1", 0});
+        case 4:
+            return Command({"type", "Files.FileName", random.Pick(names)});
+        case 5:
+            return Command({"type", "Files.KomplettPfadText", random.Pick(names)});
+        default:
+            return Command({"key", "Files", random.Pick(keys)});
+    }
+}
+
+// What is tried with the main window meanwhile, and what happens to it by itself.
+Json HandBehind(const Look& look, Random& random) {
+    static const std::vector<const char*> controls{
+        "EmuListbox", "LoadBtn",      "SearchDblsTxt", "Label1", "Label3",
+        "ExitBtn",    "AddToFavorit", "UAE_Short",     "DeLFav", "Current_ProgramNameFull"};
+    static const std::vector<const char*> keys{"Escape", "Enter", "Alt+F4", "Right", "a"};
+    const std::string control = std::string("Form1.") + random.Pick(controls);
+    switch (random.Below(6)) {
+        case 0:
+            return Command({"key", "Form1", random.Pick(keys)});
+        case 1:
+            return Command({"close", "Form1"});
+        case 2:
+            return Command({"tick", look.watching ? "Form1.EmuActiveTimer" : "Form1.Uhrzeit"});
+        case 3:
+            return Command({"summon", look.paths.Text(0)});
+        case 4:
+            return Command({"dblclick", control, 0});
+        default:
+            return Command({"click", control});
+    }
+}
+
+// Opened, worked with, and closed again in whatever way.
+Commands FileDialog(World&, const Look& look, Random& random) {
+    Commands commands{Question(random)};
+    for (int hands = random.Below(6); hands > 0; --hands)
+        commands.push_back(random.Chance(60) ? HandInDialog(random) : HandBehind(look, random));
+    static const std::vector<const char*> buttons{"Files.Ok", "Files.OkBtn2", "Files.Abbruch",
+                                                  "Files.AbbruchBtn2"};
+    if (random.Chance(70)) commands.push_back(Command({"click", random.Pick(buttons)}));
+    if (random.Chance(30)) commands.push_back(Command({"key", "Files", "Escape"}));
+    commands.push_back(Command({"close", "Files"}));
+    return commands;
+}
+
+}  // namespace
+
+const std::vector<Action>& WindowActions() {
+    static const std::vector<Action> actions{
+        {"a file or a directory is chosen", 4, FileDialog},
+    };
+    return actions;
+}
+
+}  // namespace kivu::walker

@@ -1,0 +1,72 @@
+// The windows beside the main one.
+
+#include <algorithm>
+
+#include "walker/invariants.h"
+
+namespace kivu::walker {
+
+namespace {
+
+bool IsHand(const std::string& gesture) {
+    static const std::set<std::string> hands{"click", "dblclick", "rightclick", "select",
+                                             "type",  "key",      "focus",      "close"};
+    return hands.contains(gesture);
+}
+
+bool IsOfMainWindow(const Json& command) {
+    return command.size() > 1 && command[1].is_string() &&
+           command[1].get<std::string>().starts_with("Form1");
+}
+
+std::string CoversTheMainOne(const Moment& m) {
+    for (const Inside& one : m.inside) {
+        if (IsHand(one.command[0]) && IsOfMainWindow(one.command) && one.error.empty())
+            return one.command.dump() + " was taken";
+    }
+    return {};
+}
+
+std::string LeavesTheMainOne(const Moment& m) {
+    if (m.hand.gesture != "call") return {};
+    if (!m.starts.empty()) return "something was started";
+    if (!m.boxes.empty()) return "a box came up: " + m.boxes.front().box.title;
+    for (std::size_t i = 0; i < listCount; ++i) {
+        const ListLook &before = m.before.lists[i], &after = m.after.lists[i];
+        if (before.rows != after.rows || before.row != after.row || before.visible != after.visible)
+            return NameOf(static_cast<List>(i)) + " is another one";
+    }
+    if (m.before.focus != m.after.focus)
+        return "the focus went from " + m.before.focus + " to " + m.after.focus;
+    if (m.before.mode != m.after.mode) return "the mode is " + m.after.mode;
+    if (m.before.searchText != m.after.searchText) return "the search box is another one";
+    if (m.before.Running() != m.after.Running()) return "the watch has gone on";
+    return {};
+}
+
+std::string Closes(const Moment& m) {
+    const bool open = m.world.ModalIsOpen();
+    return open ? "it is still there" : "";
+}
+
+const Exemption ended{"the program has ended",
+                      [](const Moment& m) { return m.after.ended || m.world.Ended(); }};
+
+}  // namespace
+
+const std::vector<Invariant>& WindowInvariants() {
+    static const std::vector<Invariant> invariants{
+        {"no hand reaches behind a modal window",
+         "what it asks would be about something else by then",
+         CoversTheMainOne,
+         {}},
+        {"a window that has been asked leaves the main one as it was",
+         "what to do with the answer is for whoever has asked",
+         LeavesTheMainOne,
+         {ended}},
+        {"a window that has been asked is gone", "the next question starts fresh", Closes, {}},
+    };
+    return invariants;
+}
+
+}  // namespace kivu::walker
