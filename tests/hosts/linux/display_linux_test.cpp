@@ -219,6 +219,22 @@ TEST_F(DisplayLinux, TheGuardStandsSignalsAndAKilledOneIsReplaced) {
     EXPECT_TRUE(Eventually([&] { return current.Current() == desktop; }));
 }
 
+// At 24 bits the fixed mode of 16 is refused, and yet the launcher repairs what an emulator has
+// left when it was killed. Nor does the launcher's own end bring that back.
+TEST_F(DisplayLinux, WhatAKilledEmulatorHasLeftIsRepaired) {
+    LinuxDisplay display({user, "--keep-display"});
+    ASSERT_EQ(display.Current(), desktop);
+    EXPECT_FALSE(display.Change({800, 600, 16, 60}));
+    const auto emulator = X11Screen::Open();
+    const auto left = ChooseMode(*emulator->Modes(), small);
+    ASSERT_TRUE(left && emulator->Set(*left));
+    EXPECT_EQ(display.Current(), small);
+    EXPECT_TRUE(display.Change(desktop));
+    EXPECT_EQ(display.Current(), desktop);
+    // There is nothing to put back, so nobody who would.
+    EXPECT_EQ(GuardOf(::getpid()), 0);
+}
+
 TEST_F(DisplayLinux, WithoutAGuardNoModeIsSetThatWouldStay) {
     LinuxDisplay display({"/nowhere/kivu"});
     EXPECT_FALSE(display.Change(small));
