@@ -4,7 +4,7 @@
 #     scripts/pad-tour.sh DEMO_DIR [SCREENSHOT_DIR]
 #
 # DEMO_DIR is a demo collection (demo/build.sh) of its own: its settings are made anew, and
-# kivu_pad_tour (build/test/tests/tour/program/Kivu) is copied there. Leaves numbered screenshots, and
+# kivu_pad_tour (build/test/tests/tour/program/Kivu, or PAD_TOUR_PROGRAM) is copied there. Leaves numbered screenshots, and
 # fails when a step does not come about. TOUR_SIZE sets the screen (1024x768).
 set -euo pipefail
 
@@ -57,7 +57,7 @@ Moved() { Picture "$work/now.png" && [ "$(Difference "$last" "$work/now.png")" -
 
 StartScreen
 NotRunning || Fail "a DOSBox of the demo runs already"
-cp "$here/build/test/tests/tour/program/Kivu" "$demo/Kivu"
+cp "${PAD_TOUR_PROGRAM:-$here/build/test/tests/tour/program/Kivu}" "$demo/Kivu"
 rm -f "$settings" "$demo/Config/DOSBox/Favoriten.ini"
 printf '[Settings]\nUseJoystick=1\nUseJoystickExitbutton=1\n' >"$settings"
 
@@ -79,7 +79,7 @@ Shot start "the window with a pad"
 Tap $switch
 Until 5 Moved 3000 || Fail "the emulators' list did not open"
 Shot emulators "the emulators, by the pad"
-Tap $down $start
+Tap $down $down $start
 Until 15 Setting LastEmulator DOSBox || Fail "the emulator was not chosen"
 Shot chosen "the second one loaded"
 
@@ -134,8 +134,7 @@ Until 5 Moved 300 || Fail "the pad that came back moves nothing"
 Shot replugged "with the pad again"
 
 # Its picture, between the text sizes and the pin.
-read -r icon_x icon_y < <("$here/scripts/find-icon.sh" "$last" "$here/assets/png/joystick.png" 2>/dev/null || echo 880 640)
-Click "$icon_x" "$icon_y" 2
+Click 888 650 2
 SetUp() { xdotool search --onlyvisible --name 'Joystick / Gamepad'; }
 Until 10 SetUp || Fail "the set-up did not come up"
 sleep 1

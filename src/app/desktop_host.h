@@ -2,13 +2,18 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "platform/host.h"
 
 namespace kivu::app {
 
-// Begins on another core what the toolkit would wait for. To be called before anything else.
+// The program may be started by itself for a small job beside the launcher: the exit code when that
+// is done. Empty: it is to be the launcher. To be called before anything else.
+std::optional<int> RunOtherJob(int argc, char** argv);
+
+// Begins on another core what the toolkit would wait for. To be called first.
 void PrepareToolkit();
 
 // Everything the launcher asks of the machine it runs on. One file for each host implements it.

@@ -1,5 +1,6 @@
 #include <QSocketNotifier>
 #include <fontconfig/fontconfig.h>
+#include <string_view>
 #include <thread>
 
 #include "app/command_line.h"
@@ -8,6 +9,7 @@
 #include "hosts/late_controllers.h"
 #include "hosts/linux/clock_linux.h"
 #include "hosts/linux/controllers_sdl.h"
+#include "hosts/linux/display_guard.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
@@ -25,6 +27,12 @@
 #include "hosts/qt/picture_decoder_qt.h"
 
 namespace kivu::app {
+
+// The guard of the display mode is this program as well.
+std::optional<int> RunOtherJob(int argc, char** argv) {
+    if (argc != 2 || std::string_view(argv[1]) != "--keep-display") return std::nullopt;
+    return hosts::KeepDisplay();
+}
 
 // The toolkit reads the machine's fonts when it first wants one: some milliseconds, in which it has
 // enough else to do.

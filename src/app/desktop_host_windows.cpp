@@ -36,6 +36,11 @@ std::vector<std::string> WideArguments() {
 
 }  // namespace
 
+// The system puts a display mode back by itself.
+std::optional<int> RunOtherJob(int, char**) {
+    return std::nullopt;
+}
+
 void PrepareToolkit() {
 }
 

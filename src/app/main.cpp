@@ -44,6 +44,7 @@ void Reached(const char* stage) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (const auto code = kivu::app::RunOtherJob(argc, argv)) return *code;
     Reached("main");
     kivu::app::PrepareToolkit();
     QApplication application(argc, argv);

@@ -15,7 +15,7 @@ namespace {
 using platform::Buttons;
 using platform::Icon;
 
-constexpr std::array<std::string_view, 4> gameFolders{"roms", "rom", "disks", "games"};
+constexpr std::array<std::string_view, 4> gameFolders{"Roms", "Rom", "Disks", "Games"};
 
 // Here no language counts as German, too.
 Box Mame32Warning(const core::ProgramState& program) {
@@ -56,18 +56,6 @@ bool HoldsFile(const platform::FileSystem& files, const std::string& directory) 
     const auto entries = files.ListDirectory(directory);
     return entries && std::any_of(entries->begin(), entries->end(),
                                   [](const auto& entry) { return !entry.isDirectory; });
-}
-
-// The directories of this name, whatever their case, in an order that does not change.
-std::vector<std::string> FoldersNamed(const std::vector<platform::FileSystem::Entry>& entries,
-                                      std::string_view name) {
-    std::vector<std::string> folders;
-    for (const auto& entry : entries) {
-        if (entry.isDirectory && text::EqualsNoCase(entry.name, name))
-            folders.push_back(entry.name);
-    }
-    std::sort(folders.begin(), folders.end());
-    return folders;
 }
 
 }  // namespace
@@ -126,13 +114,10 @@ std::optional<std::string> GuessRomPath(const std::string& exePath,
                                         const SearchPathTest& isSearchPath) {
     const std::string base = GameBase(exePath, files, isSearchPath);
     if (base.empty()) return {};
-    const auto entries = files.ListDirectory(base);
-    if (!entries) return base;
     for (const std::string_view name : gameFolders) {
-        for (const std::string& folder : FoldersNamed(*entries, name)) {
-            const std::string candidate = base + folder + base.back();
-            if (HoldsFile(files, candidate)) return candidate;
-        }
+        const auto folder = files.FindDirectory(base, name);
+        const std::string candidate = folder ? base + *folder + base.back() : std::string();
+        if (folder && HoldsFile(files, candidate)) return candidate;
     }
     return base;
 }

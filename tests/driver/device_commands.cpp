@@ -1,6 +1,7 @@
 // Game controllers by script.
 
 #include <array>
+#include <utility>
 
 #include "driver/commands.h"
 
@@ -85,7 +86,9 @@ void SetButtons(ControllerState& state, const Json& value) {
 void SetDevice(Session& session, const Json& command) {
     const int number = WholeFrom(command[2], "the device");
     std::vector<Device>& devices = Devices(session);
-    if (number < 0 || static_cast<std::size_t>(number) >= devices.size())
+    // What is there until somebody says otherwise has no state to set.
+    const std::size_t count = session.devicesGiven ? devices.size() : 0;
+    if (number < 0 || static_cast<std::size_t>(number) >= count)
         throw CommandError("no device " + std::to_string(number));
     if (!command[3].is_object()) throw CommandError("the state must be an object");
     ControllerState state;

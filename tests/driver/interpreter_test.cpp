@@ -300,14 +300,18 @@ TEST_F(InterpreterTest, ProgramThatEndsMeanwhileDoesNotGoOn) {
 }
 
 TEST_F(InterpreterTest, DevicesKeepTheirState) {
-    Do("[\"device\",\"add\",\"Pad\",4]");
+    EXPECT_EQ(Do("[\"device\",\"add\",\"Pad\",4]")["value"].size(), 1U);
     Refused("[\"device\",\"set\",0,{\"x\":65536}]");
-    Refused("[\"device\",\"set\",0,{\"x\":1,\"buttons\":[4]}]");
+    Refused("[\"device\",\"set\",0,{\"x\":1,\"buttons\":[32]}]");
     Refused("[\"device\",\"set\",0,{\"w\":1}]");
     const Json pad = Do("[\"device\",\"set\",0,{\"x\":65535,\"buttons\":[1]}]")["value"][0];
     EXPECT_EQ(pad["x"], 65535);
     EXPECT_EQ(pad["y"], 32768);
     EXPECT_EQ(pad["buttons"], Json::array({1}));
+    // Beyond those that it counts, and with the axes that are not named at their centres.
+    const Json other = Do("[\"device\",\"set\",0,{\"buttons\":[31]}]")["value"][0];
+    EXPECT_EQ(other["x"], 32768);
+    EXPECT_EQ(other["buttons"], Json::array({31}));
     EXPECT_TRUE(Do("[\"device\",\"clear\"]")["value"].empty());
 }
 

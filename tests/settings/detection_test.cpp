@@ -220,14 +220,14 @@ TEST_F(Guess, TakesNamesInAnyCase) {
     posix.AddFile("/opt/emu/e", "x");
     posix.AddFile("/opt/emu/ROMS/a.adf", "x");
     EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/ROMS/");
+    posix.AddFile("/opt/emu/rom/a.adf", "x");
+    EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/ROMS/");
+    // The usual spelling is the one that is meant.
     posix.AddDirectory("/opt/emu/Roms");
-    EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/ROMS/");
-    posix.AddFile("/opt/emu/ROM/a.adf", "x");
-    EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/ROMS/");
-    posix.Remove("/opt/emu/ROMS");
-    EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/ROM/");
+    EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/rom/");
     // A file of that name is no folder.
-    posix.Remove("/opt/emu/ROM");
+    posix.Remove("/opt/emu/ROMS");
+    posix.Remove("/opt/emu/rom");
     posix.AddFile("/opt/emu/games", "x");
     EXPECT_EQ(GuessRomPath("/opt/emu/e", posix, nullptr), "/opt/emu/");
 }

@@ -18,6 +18,7 @@
 
 #include "platform/classic_colors.h"
 #include "platform/host.h"
+#include "testing/scripted_controllers.h"
 #include "text/log_text.h"
 
 // A host that plays by a script: nothing in it waits, shows or starts anything. Each service can be
@@ -337,63 +338,6 @@ class ScriptedBackground : public platform::Background {
 class ScriptedColors : public platform::SystemColors {
  public:
     std::uint32_t SystemColor(int index) const override { return platform::ClassicColor(index); }
-};
-
-// Controllers as the test holds them. What is attached later is read once it has been opened, and
-// what was opened goes on being the same device.
-class ScriptedControllers : public platform::Controllers {
- public:
-    struct Device {
-        platform::Controller controller;
-        platform::ControllerState state;
-        int id = NextId();
-    };
-
-    std::optional<std::vector<platform::Controller>> Open() override {
-        ++opened;
-        handles.clear();
-        if (noService) return std::nullopt;
-        std::vector<platform::Controller> list;
-        for (const Device& device : devices) {
-            list.push_back(device.controller);
-            handles.push_back(device.id);
-        }
-        return list;
-    }
-    bool Read(std::size_t device, platform::ControllerState& state) override {
-        ++reads;
-        state = {};
-        if (device >= handles.size()) return false;
-        const auto found = std::find_if(devices.begin(), devices.end(), [&](const Device& one) {
-            return one.id == handles[device];
-        });
-        if (found == devices.end()) return false;
-        state = found->state;
-        return true;
-    }
-    void Close() override {
-        ++closed;
-        handles.clear();
-    }
-    bool Changed() override { return std::exchange(changed, false); }
-    // The device at that place is the one that was opened there.
-    bool IsOpened(std::size_t device) const {
-        return device < devices.size() && device < handles.size() &&
-               devices[device].id == handles[device];
-    }
-
-    std::vector<Device> devices{{{"Mouse", 0}, {}}, {{"Keyboard", 0}, {}}};
-    bool noService = false;
-    bool changed = false;
-    int opened = 0, closed = 0, reads = 0;
-
- private:
-    static int NextId() {
-        static std::atomic<int> last = 0;
-        return ++last;
-    }
-
-    std::vector<int> handles;
 };
 
 struct ScriptedHost {

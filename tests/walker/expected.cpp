@@ -69,7 +69,7 @@ Expected PressKey(const Look& look, const Stores& stores, const std::string& key
 Expected PollPad(const Look& look, const Stores& stores) {
     constexpr int starts = 1, adds = 10;
     if (look.PadIsSilent()) return {};
-    if (look.pad.button == adds) return Press(look, stores, "AddToFavorit");
+    if (look.pad.button == adds && look.pad.adds) return Press(look, stores, "AddToFavorit");
     if (look.pad.button != starts) return {};
     if (look.At(List::emulators).visible || look.pad.focus == 5) {
         Expected expected;

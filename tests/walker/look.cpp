@@ -53,6 +53,7 @@ Look TakeLook(core::Form1& form) {
     look.ended = form.Ended;
     look.pad.on = form.JoystickTimer.Enabled();
     look.pad.focus = form.JoystickFocus;
+    look.pad.adds = form.AddToFavorit.IsReachable();
     return look;
 }
 

@@ -45,9 +45,10 @@ struct TabLook {
 
 // The game controller that is attached first.
 struct PadLook {
-    bool on = false;  // it is opened, and the launcher looks at it
-    int focus = 0;    // number of the list that it drives
-    int button = -1;  // the one that is held, from 0; -1 for none
+    bool on = false;    // it is opened, and the launcher looks at it
+    int focus = 0;      // number of the list that it drives
+    int button = -1;    // the one that is held, from 0; -1 for none
+    bool adds = false;  // the button for a favourite is to be seen
 };
 
 // What somebody sees who looks at the window, and what a routine leaves behind for the next one.

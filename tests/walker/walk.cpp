@@ -136,7 +136,9 @@ class Player {
 
     void Remember(const Moment& moment) {
         const bool anew = moment.hand.gesture == "start";
+        const bool startedNothing = memory.startedNothing;
         if (!anew && moment.before.loaded != moment.after.loaded) memory = {};
+        memory.startedNothing = startedNothing;
         if (moment.refusals > 0) memory.unwritten = true;
         if (!moment.after.gameRuns || moment.after.watching) memory.startedNothing = false;
         if (moment.hand.control == "JoystickTimer" && moment.after.gameRuns)

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "hosts/linux/display_guard.h"
+#include "hosts/linux/x11_screen.h"
 #include "platform/display.h"
 
 namespace kivu::hosts {
@@ -22,8 +23,10 @@ class LinuxDisplay : public platform::Display {
     bool Change(const platform::DisplayMode& mode) override;
 
  private:
+    std::optional<ScreenModes> Look(X11Screen* screen);
+
     DisplayGuard guard;
-    std::optional<std::uint32_t> atStart;  // the mode in front of the first change
+    std::optional<std::uint32_t> atStart;  // the mode at the first look
 };
 
 }  // namespace kivu::hosts

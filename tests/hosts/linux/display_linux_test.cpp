@@ -21,6 +21,18 @@ const std::string user = std::string(KIVU_HELPERS) + "/kivu_display_user";
 constexpr DisplayMode desktop{1920, 1080, 32, 60};
 constexpr DisplayMode small{800, 600, 32, 60};
 
+pid_t GuardOf(pid_t parent) {
+    std::unique_ptr<DIR, int (*)(DIR*)> processes(::opendir("/proc"), ::closedir);
+    while (const dirent* entry = ::readdir(processes.get())) {
+        const std::string path = std::string("/proc/") + entry->d_name;
+        std::ifstream status(path + "/stat");
+        std::string id, name, state, its;
+        if (!(status >> id >> name >> state >> its) || its != std::to_string(parent)) continue;
+        if (name.starts_with("(kivu") && state != "Z") return std::atoi(entry->d_name);
+    }
+    return 0;
+}
+
 // One server for all tests: each leaves it at the desktop's mode.
 class DisplayLinux : public ::testing::Test {
  protected:
@@ -38,6 +50,8 @@ class DisplayLinux : public ::testing::Test {
             GTEST_SKIP() << "no X server with the dummy driver";
         }
         display = std::make_unique<testing::EnvironmentVariable>("DISPLAY", server->Name());
+        // That of the test before may be about to end.
+        ASSERT_TRUE(Eventually([] { return GuardOf(::getpid()) == 0; }));
         ASSERT_EQ(LinuxDisplay().Current(), desktop);
     }
 
@@ -178,18 +192,6 @@ TEST_F(DisplayLinux, ALauncherThatHasPutTheModeBackLeavesTheUsers) {
     EXPECT_TRUE(Eventually([&] { return display.Current() == desktop; }));
 }
 
-pid_t GuardOf(pid_t parent) {
-    std::unique_ptr<DIR, int (*)(DIR*)> processes(::opendir("/proc"), ::closedir);
-    while (const dirent* entry = ::readdir(processes.get())) {
-        const std::string path = std::string("/proc/") + entry->d_name;
-        std::ifstream status(path + "/stat");
-        std::string id, name, state, its;
-        if (!(status >> id >> name >> state >> its) || its != std::to_string(parent)) continue;
-        if (name.starts_with("(kivu") && state != "Z") return std::atoi(entry->d_name);
-    }
-    return 0;
-}
-
 TEST_F(DisplayLinux, TheGuardStandsSignalsAndAKilledOneIsReplaced) {
     LinuxDisplay current;
     {
@@ -217,6 +219,22 @@ TEST_F(DisplayLinux, TheGuardStandsSignalsAndAKilledOneIsReplaced) {
             ::kill(second, signal);
     }
     EXPECT_TRUE(Eventually([&] { return current.Current() == desktop; }));
+}
+
+// At 24 bits the fixed mode of 16 is refused, and yet the launcher repairs what an emulator has
+// left when it was killed. Nor does the launcher's own end bring that back.
+TEST_F(DisplayLinux, WhatAKilledEmulatorHasLeftIsRepaired) {
+    LinuxDisplay display({user, "--keep-display"});
+    ASSERT_EQ(display.Current(), desktop);
+    EXPECT_FALSE(display.Change({800, 600, 16, 60}));
+    const auto emulator = X11Screen::Open();
+    const auto left = ChooseMode(*emulator->Modes(), small);
+    ASSERT_TRUE(left && emulator->Set(*left));
+    EXPECT_EQ(display.Current(), small);
+    EXPECT_TRUE(display.Change(desktop));
+    EXPECT_EQ(display.Current(), desktop);
+    // There is nothing to put back, so nobody who would.
+    EXPECT_EQ(GuardOf(::getpid()), 0);
 }
 
 TEST_F(DisplayLinux, WithoutAGuardNoModeIsSetThatWouldStay) {

@@ -27,13 +27,13 @@ class ButtonSetupView : public ::testing::Test {
     }
     ~ButtonSetupView() override { QCoreApplication::processEvents(); }
 
-    forms::Form& Setup() { return *windows.Find("SetJoystickButtons"); }
+    forms::Form& SetupForm() { return *windows.Find("SetJoystickButtons"); }
     // Opens it by a double click on the picture, and lets the user act once it is there.
     void Open(const std::function<void(QWidget& window)>& act) {
         bool acted = false;
         QTimer::singleShot(0, &mainView, [&] {
             ASSERT_NE(windows.Find("SetJoystickButtons"), nullptr);
-            QWidget& window = windows.ViewOf(Setup())->Window();
+            QWidget& window = windows.ViewOf(SetupForm())->Window();
             ASSERT_TRUE(QTest::qWaitForWindowActive(&window, patience));
             acted = true;
             act(window);
@@ -53,7 +53,7 @@ class ButtonSetupView : public ::testing::Test {
     }
     // What a timer of the window would do.
     void Tick(const char* timer) {
-        ASSERT_TRUE(static_cast<forms::Timer*>(Setup().Find(timer))->Tick());
+        ASSERT_TRUE(static_cast<forms::Timer*>(SetupForm().Find(timer))->Tick());
         QCoreApplication::processEvents();
     }
 
@@ -72,7 +72,7 @@ TEST_F(ButtonSetupView, KeysSkipButtonsAreTakenAndThePromptFollows) {
         auto* info = window.findChild<QWidget*>("InfoLabel");
         ASSERT_TRUE(info);
         EXPECT_TRUE(info->isVisible());
-        auto* label = static_cast<forms::Label*>(Setup().Find("InfoLabel"));
+        auto* label = static_cast<forms::Label*>(SetupForm().Find("InfoLabel"));
         EXPECT_EQ(label->Caption(), "Press Button 1\r\r Quit Kivu\r\r1 / 12");
         host.controllers.devices[0].state.buttons[4] = true;
         Tick("PollingTimer");
@@ -103,8 +103,8 @@ TEST_F(ButtonSetupView, NoTextIsCutInEitherLanguageAtAnySize) {
             launcher.MainWindow().CurrentLanguage = language;
             launcher.MainWindow().WIthoutDoubles.SetFontSize(size);
             Open([&](QWidget& window) {
-                auto* info = static_cast<forms::Label*>(Setup().Find("InfoLabel"));
-                auto* hint = static_cast<forms::Label*>(Setup().Find("Label1"));
+                auto* info = static_cast<forms::Label*>(SetupForm().Find("InfoLabel"));
+                auto* hint = static_cast<forms::Label*>(SetupForm().Find("Label1"));
                 for (int action = 0; action < 12; ++action) {
                     Tick("ShowTimer");
                     EXPECT_LE(info->TextWidth(), info->Width()) << size << info->Caption();

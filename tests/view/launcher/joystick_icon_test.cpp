@@ -65,7 +65,7 @@ TEST_F(JoystickIconView, IsSeenWithItsToolTipWhileControllersAreOn) {
 
 TEST_F(JoystickIconView, LiesInTheWindowAndOnNothing) {
     Show();
-    for (const QSize size : {QSize(900, 640), QSize(1024, 768), QSize(1600, 1000)}) {
+    for (const QSize size : {QSize(960, 680), QSize(1024, 768), QSize(1600, 1000)}) {
         Resize(size.width(), size.height());
         const QRect place = Place("JoystickIcon");
         EXPECT_TRUE(mainView.Window().rect().contains(place)) << size.width();
