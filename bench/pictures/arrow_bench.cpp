@@ -112,6 +112,11 @@ class Holding {
         form.Label3.Click();
         QCoreApplication::processEvents();
         Check(form.UAE_Short.ListCount() == rows, "the list has not been loaded");
+        // What the first picture of a run brings with it, readers and fonts, is there once.
+        form.UAE_Short.SetListIndex(rows - 1);
+        WaitForLast();
+        form.UAE_Short.SetListIndex(0);
+        QCoreApplication::processEvents();
     }
 
     Shares Run() {
