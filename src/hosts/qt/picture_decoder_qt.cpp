@@ -67,11 +67,19 @@ std::size_t PixelsOf(QSize size) {
 }
 
 // `image` lies over the pixels of `picture`, or the reader has made one of its own.
-void TakePixels(QImage& image, platform::DecodedPicture& picture) {
-    image.convertTo(QImage::Format_ARGB32);
+void TakePixels(QImage& image, bool isJpeg, platform::DecodedPicture& picture) {
     picture.width = image.width();
     picture.height = image.height();
-    if (image.constBits() == reinterpret_cast<const uchar*>(picture.pixels.data())) return;
+    const bool own = image.constBits() == reinterpret_cast<const uchar*>(picture.pixels.data());
+    if (own && image.format() == QImage::Format_ARGB32) return;
+    if (own && image.format() == QImage::Format_RGB32) {
+        // Readers may leave the fourth byte as it is; that of JPEG files sets it.
+        if (isJpeg) return;
+        for (std::uint32_t& pixel : picture.pixels)
+            pixel |= 0xff000000U;
+        return;
+    }
+    image.convertTo(QImage::Format_ARGB32);
     picture.pixels.resize(PixelsOf(image.size()));
     const auto rowPixels = static_cast<std::size_t>(image.width());
     for (int y = 0; y < image.height(); ++y)
@@ -96,7 +104,7 @@ std::optional<platform::DecodedPicture> Read(QImageReader& reader, int largestSi
                        size.width() * qsizetype{sizeof(std::uint32_t)}, reader.imageFormat());
     }
     if (!reader.read(&image) || image.isNull() || file.IsOver()) return std::nullopt;
-    TakePixels(image, picture);
+    TakePixels(image, reader.format() == "jpeg", picture);
     return picture;
 }
 
