@@ -141,8 +141,9 @@ class DirectorySource {
     virtual ~DirectorySource() = default;
     // Names in no particular order, valid until the next call. Either list may be null: it is not
     // wanted then. False: the directory cannot be entered; nothing is changed then.
-    virtual bool Read(const std::string& path, std::vector<std::string_view>* directories,
-                      std::vector<std::string_view>* files) = 0;
+    [[nodiscard]] virtual bool Read(const std::string& path,
+                                    std::vector<std::string_view>* directories,
+                                    std::vector<std::string_view>* files) = 0;
     virtual bool Matches(const std::string& pattern, std::string_view name) = 0;
     // The drives or mount points that a user begins at, each by its path.
     virtual std::vector<std::string> Drives() { return {}; }

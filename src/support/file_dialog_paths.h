@@ -8,20 +8,20 @@
 namespace kivu::support {
 
 // "*" or "?", but for the one in the prefix "\\?\".
-bool HasWildcard(std::string_view text);
+[[nodiscard]] bool HasWildcard(std::string_view text);
 
 // A share of another machine. On a POSIX host "//x" is a plain path.
-bool IsNetworkPath(std::string_view text, bool posix);
+[[nodiscard]] bool IsNetworkPath(std::string_view text, bool posix);
 
 // The directory with its own separator at the end. Quotes are plain signs, which names may hold on
 // a POSIX host.
-std::string WithSeparator(std::string_view directory);
+[[nodiscard]] std::string WithSeparator(std::string_view directory);
 
 // The directory's path, its separator and the name.
-std::string JoinedPath(std::string_view directory, std::string_view name);
+[[nodiscard]] std::string JoinedPath(std::string_view directory, std::string_view name);
 
 // Without empty elements and ".", and without "..", which leads up as far as something is above.
-std::string WithoutDots(const std::string& path, bool posix);
+[[nodiscard]] std::string WithoutDots(const std::string& path, bool posix);
 
 // Where a typed text leads from.
 struct TypedFrom {
@@ -31,12 +31,12 @@ struct TypedFrom {
 };
 // The whole path that a user means by what was typed or pasted: blanks and quotes around it, "~/"
 // and a lone name are resolved. Empty: nothing was typed.
-std::string PathTyped(std::string_view typed, const TypedFrom& from);
+[[nodiscard]] std::string PathTyped(std::string_view typed, const TypedFrom& from);
 
 // The files to list for a mask: programs have no ending of their own on a POSIX host.
-std::string PatternOf(const std::string& mask, bool posix);
+[[nodiscard]] std::string PatternOf(const std::string& mask, bool posix);
 
 // The window's title with the mask behind it.
-std::string CaptionWithMask(const std::string& caption, const std::string& mask);
+[[nodiscard]] std::string CaptionWithMask(const std::string& caption, const std::string& mask);
 
 }  // namespace kivu::support

@@ -16,15 +16,17 @@ class FileDialogs {
 
     // `DefaultPath` is where the user begins; empty: in the current directory. `DefaultFilename` is
     // a mask with "*" or "?", or the one file that is looked for.
-    virtual std::string FileOpenDialog(const std::string& DefaultPath,
-                                       const std::string& WindowCaption,
-                                       const std::string& DefaultFilename, forms::Form* over) = 0;
-    virtual std::string filesaveDialog(const std::string& DefaultPath,
-                                       const std::string& WindowCaption,
-                                       const std::string& DefaultFilename, forms::Form* over) = 0;
-    virtual std::string FileDirSelectDialog(const std::string& DefaultPath,
-                                            const std::string& WindowCaption,
-                                            forms::Form* over) = 0;
+    [[nodiscard]] virtual std::string FileOpenDialog(const std::string& DefaultPath,
+                                                     const std::string& WindowCaption,
+                                                     const std::string& DefaultFilename,
+                                                     forms::Form* over) = 0;
+    [[nodiscard]] virtual std::string filesaveDialog(const std::string& DefaultPath,
+                                                     const std::string& WindowCaption,
+                                                     const std::string& DefaultFilename,
+                                                     forms::Form* over) = 0;
+    [[nodiscard]] virtual std::string FileDirSelectDialog(const std::string& DefaultPath,
+                                                          const std::string& WindowCaption,
+                                                          forms::Form* over) = 0;
 };
 
 // By the launcher's own window, which is made for each question.
@@ -34,12 +36,17 @@ class WindowedFileDialogs : public FileDialogs {
     WindowedFileDialogs(forms::WindowHost& windows, Make make)
         : windows(windows), window(windows, std::move(make)) {}
 
-    std::string FileOpenDialog(const std::string& DefaultPath, const std::string& WindowCaption,
-                               const std::string& DefaultFilename, forms::Form* over) override;
-    std::string filesaveDialog(const std::string& DefaultPath, const std::string& WindowCaption,
-                               const std::string& DefaultFilename, forms::Form* over) override;
-    std::string FileDirSelectDialog(const std::string& DefaultPath,
-                                    const std::string& WindowCaption, forms::Form* over) override;
+    [[nodiscard]] std::string FileOpenDialog(const std::string& DefaultPath,
+                                             const std::string& WindowCaption,
+                                             const std::string& DefaultFilename,
+                                             forms::Form* over) override;
+    [[nodiscard]] std::string filesaveDialog(const std::string& DefaultPath,
+                                             const std::string& WindowCaption,
+                                             const std::string& DefaultFilename,
+                                             forms::Form* over) override;
+    [[nodiscard]] std::string FileDirSelectDialog(const std::string& DefaultPath,
+                                                  const std::string& WindowCaption,
+                                                  forms::Form* over) override;
 
  private:
     std::string Ask(const FileDialogAnswer::Question& question, forms::Form* over);

@@ -47,9 +47,10 @@ class Files {
     // `SearchExtension` may have its point or not; empty, or "*": all files. The text file itself
     // is left out. False: `Source` cannot be read, which leaves the text file as it was, or the
     // text file cannot be written.
-    bool ReadDirctoryStructureToFile(const std::string& Source,
-                                     const std::string& TargetTextFileName,
-                                     const std::string& SearchExtension, bool AppendTarget);
+    [[nodiscard]] bool ReadDirctoryStructureToFile(const std::string& Source,
+                                                   const std::string& TargetTextFileName,
+                                                   const std::string& SearchExtension,
+                                                   bool AppendTarget);
 
  private:
     std::string FolderValue(const std::string& path) const;

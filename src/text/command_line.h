@@ -14,33 +14,33 @@ namespace kivu::text {
 // front of a quote does a backslash count: two are one backslash, an odd last one makes the quote
 // plain. A pair of quotes with nothing inside is an empty argument. A quote left open reaches to
 // the end.
-std::vector<std::string> SplitWindowsCommandLine(std::string_view text);
+[[nodiscard]] std::vector<std::string> SplitWindowsCommandLine(std::string_view text);
 
 // One word for a POSIX shell, in single quotes, also where it would need none. A word cannot hold
 // NUL; one that does is cut there, as the system call would.
-std::string QuoteForShell(std::string_view word);
+[[nodiscard]] std::string QuoteForShell(std::string_view word);
 
 // Every "%" twice, as a batch file needs it for one.
-std::string DoublePercent(std::string_view text);
+[[nodiscard]] std::string DoublePercent(std::string_view text);
 
 // One word of a batch file line, bare or in double quotes, made harmless for cmd.exe: a bare word
 // that holds one of & | < > ^ is put in quotes, "%" is doubled. A word without any of these comes
 // back as it is. Empty: nothing makes it harmless (a quote inside, a line end, NUL, or Ctrl+Z,
 // which ends the file).
-std::optional<std::string> EscapeForCmd(std::string_view word);
+[[nodiscard]] std::optional<std::string> EscapeForCmd(std::string_view word);
 
 // The word holds nothing that cmd.exe acts upon once its quotes are gone: none of & | < > ^ %.
-bool IsPlainForCmd(std::string_view word);
+[[nodiscard]] bool IsPlainForCmd(std::string_view word);
 
 // An absolute POSIX path as Windows programs see it under Wine: "/a/b" is "Z:\a\b". Any other text
 // comes back as it is. A name with "\" in it has no such form: its "\" will separate.
-std::string ToWinePath(std::string_view path);
+[[nodiscard]] std::string ToWinePath(std::string_view path);
 
 // By its ending, without regard to case: .exe or .com, which Windows runs itself, and not through
 // another program.
-bool IsProgramFile(std::string_view path);
+[[nodiscard]] bool IsProgramFile(std::string_view path);
 
 // By its ending: .exe, .bat or .cmd without regard to case, inside of enclosing quotes or not.
-bool IsWindowsProgram(std::string_view path);
+[[nodiscard]] bool IsWindowsProgram(std::string_view path);
 
 }  // namespace kivu::text

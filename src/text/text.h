@@ -31,11 +31,11 @@ void AppendUtf8(std::string& text, char32_t codePoint);
 bool IsUtf8(std::string_view text);
 
 // Every byte as its Windows-1252 character. The five bytes without one stand for U+0081 and so on.
-std::string FromWindows1252(std::string_view bytes);
+[[nodiscard]] std::string FromWindows1252(std::string_view bytes);
 
 // Characters outside of Windows-1252 become `replacement`; bytes that are not UTF-8 stay as they
 // are.
-std::string ToWindows1252(std::string_view text, char replacement = '?');
+[[nodiscard]] std::string ToWindows1252(std::string_view text, char replacement = '?');
 
 // A byte that is not UTF-8 counts as one.
 std::size_t CodePointCount(std::string_view text);
@@ -60,10 +60,10 @@ inline char ToLowerAscii(char c) {
 }
 
 // Each code point folded; bytes that are not UTF-8 pass through unchanged.
-std::string ToLower(std::string_view text);
+[[nodiscard]] std::string ToLower(std::string_view text);
 
 // Only a to z; every other byte stays.
-std::string ToUpperAscii(std::string_view text);
+[[nodiscard]] std::string ToUpperAscii(std::string_view text);
 
 // Code point by code point, each folded; a byte that is not UTF-8 counts as its Windows-1252
 // letter.
@@ -86,9 +86,9 @@ class NoCaseNeedle {
 
 // Takes away blanks (the character 32) at both ends, and nothing else: tabs and line ends stay, as
 // they do in the source language's Trim.
-std::string_view Trim(std::string_view text);
-std::string_view TrimLeft(std::string_view text);
-std::string_view TrimRight(std::string_view text);
+[[nodiscard]] std::string_view Trim(std::string_view text);
+[[nodiscard]] std::string_view TrimLeft(std::string_view text);
+[[nodiscard]] std::string_view TrimRight(std::string_view text);
 
 // The decimal number that a profile value begins with, blanks and tabs in front of it passed over;
 // what follows the number does not matter. A fraction behind "." or "," is rounded, halves to the
