@@ -168,8 +168,8 @@ class Control {
     bool takesActivatingClick = true;
     int left = 0, top = 0, width = 0, height = 0;
     Font font;
-    Color backColor = Rgb(0x00, 0x52, 0xbc);
-    Color foreColor = Rgb(0xff, 0xff, 0xff);
+    Color backColor = Rgb(0xff, 0xff, 0xff);
+    Color foreColor = Rgb(0x00, 0x00, 0x00);
     std::string toolTipText;
     std::string tag;
     Picture picture;

@@ -62,6 +62,7 @@ void Layout::PlaceName() {
 // The longest beginning that fits into so many lines, with the sign that something is left out.
 std::string Layout::Shortened(std::string_view whole, int width, int lines) const {
     const forms::Label& name = form.Current_ProgramNameFull;
+    if (name.LinesOf(whole, width) <= lines) return std::string(whole);
     const auto upTo = [&](std::size_t characters) {
         const std::string_view kept = whole.substr(0, text::CodePointOffset(whole, characters));
         return std::string(text::TrimRight(kept)) + ellipsis;

@@ -182,7 +182,10 @@ void DialogBox::StepToButton(int step) {
     if (all.empty()) return;
     const int last = static_cast<int>(all.size()) - 1;
     const int wanted = std::clamp(static_cast<int>(CurrentButton(all)) + step, 0, last);
-    all[static_cast<std::size_t>(wanted)]->setFocus(Qt::TabFocusReason);
+    QPushButton& button = *all[static_cast<std::size_t>(wanted)];
+    button.setFocus(Qt::TabFocusReason);
+    // Enter presses it from now on. The toolkit sees to that in the active window alone.
+    button.setDefault(true);
 }
 
 void DialogBox::PressButton() {
