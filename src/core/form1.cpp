@@ -26,11 +26,23 @@ void TitleLine::SetCaption(std::string value) {
 }
 
 Form1::Form1(forms::Toolkit toolkit) : forms::Form("Form1", toolkit) {
+    DesignColors();
     DesignWindow();
     DesignLists();
     DesignFrame();
     DesignDrives();
     DesignCorner();
+}
+
+// Until a skin's own come.
+void Form1::DesignColors() {
+    const auto color = [](forms::Control& control) {
+        control.SetBackColor(Rgb(0x00, 0x52, 0xbc));
+        control.SetForeColor(Rgb(255, 255, 255));
+    };
+    color(*this);
+    for (forms::Control* control : Controls())
+        color(*control);
 }
 
 bool Form1::ChoiceInFront() const {

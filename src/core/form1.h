@@ -154,6 +154,7 @@ struct Form1 : forms::Form,
     int EmuListboxWidth() const;
 
  private:
+    void DesignColors();
     void DesignWindow();
     void DesignLists();
     void DesignFrame();
