@@ -76,6 +76,36 @@ TEST_F(PictureLoaderTest, BlendsAPngWithTheTargetsBackColour) {
     EXPECT_EQ(FirstPixel(), 0xff0000);
 }
 
+TEST_F(PictureLoaderTest, NothingShinesThroughAPreview) {
+    target.SetBackColor(0x0000ff);
+    files.AddFile("/Game.gif", GifFile(2, 2, {0}));
+    files.AddFile("/X.PNG", PngFile(2, 2, 0));
+    for (const char* path : {"/Game.gif", "/X.PNG"}) {
+        pictures.color = 0x00ffffff;
+        Load(path);
+        EXPECT_EQ(FirstPixel(), 0xff0000) << path;
+        EXPECT_TRUE(target.GetPicture().pixels->opaque) << path;
+        pictures.color = 0x80ffffff;
+        Load(path);
+        EXPECT_EQ(FirstPixel(), 0xff8080) << path;
+    }
+    // As the reader of its own blends.
+    files.AddFile("/Half.png", PngFile(2, 2, 0x80ffffff));
+    Load("/Half.png");
+    EXPECT_EQ(FirstPixel(), 0xff8080);
+}
+
+TEST_F(PictureLoaderTest, TheWindowShinesThroughASkin) {
+    pictures.color = 0x40ffffff;
+    files.AddFile("/Background.gif", GifFile(2, 2, {0}));
+    forms::Picture received;
+    EXPECT_TRUE(loader->LoadSkin("/Background.gif", "Background",
+                                 [&](forms::Picture picture) { received = std::move(picture); }));
+    ASSERT_TRUE(received.pixels);
+    EXPECT_FALSE(received.pixels->opaque);
+    EXPECT_EQ(received.pixels->pixels.at(0), 0x40ffffff);
+}
+
 TEST_F(PictureLoaderTest, TakesTheHostsDecoderForAllElse) {
     files.AddFile("/Game.jpg", JpegHead(64, 48));
     Load("/Game.jpg");
@@ -176,6 +206,32 @@ TEST_F(PictureLoaderTest, TellsOfABadTreeWhenAllElseIsDone) {
     dialogs.onShow = [&] { toldBefore = told.size(); };
     Load("/one.png");
     EXPECT_EQ(toldBefore, 1u);
+}
+
+TEST_F(PictureLoaderTest, TellsOfABadTreeWhenTheCallerHasReturned) {
+    background.inlined = false;
+    files.AddFile("/one.png", PngWithBadTree(4, 4));
+    Load("/one.png");
+    Load("/one.png");
+    EXPECT_EQ(told.size(), 2u) << "a small file is there at once";
+    EXPECT_TRUE(dialogs.shown.empty());
+    ASSERT_EQ(background.waiting.size(), 1u);
+    background.Serve(0);
+    EXPECT_EQ(dialogs.shown.size(), 1u);
+}
+
+TEST_F(PictureLoaderTest, TellsOfNoTreeAfterTheEnd) {
+    background.inlined = false;
+    files.AddFile("/one.png", PngWithBadTree(4, 4));
+    files.AddFile("/two.png", PngWithBadTree(4, 4));
+    Load("/one.png");
+    program.Ended = true;
+    background.Serve(0);
+    program.Ended = false;
+    Load("/two.png");
+    loader.reset();
+    background.Serve(0);
+    EXPECT_TRUE(dialogs.shown.empty());
 }
 
 TEST_F(PictureLoaderTest, LeavesLargeFilesToTheWorker) {
