@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "core/form1.h"
+#include "ui/jpeg_header.h"
 #include "ui/picture_file.h"
 #include "ui/picture_surface.h"
 
@@ -13,12 +14,13 @@ namespace kivu::ui {
 
 namespace {
 
-// A small file may hold a large picture.
+// A small file may hold a large picture, or a small one many times over.
 constexpr std::int64_t mostPixelsAtOnce = 1 << 20;
 
 bool IsQuick(const PictureFile& file, const std::optional<PictureHeader>& header) {
-    return file.IsWhole() && header &&
-           std::int64_t{header->width} * header->height <= mostPixelsAtOnce;
+    if (!file.IsWhole() || !header || header->progressive) return false;
+    if (header->format == PictureFormat::jpeg && HasManyScans(file.Bytes())) return false;
+    return std::int64_t{header->width} * header->height <= mostPixelsAtOnce;
 }
 
 }  // namespace
