@@ -32,7 +32,7 @@ struct PictureLoader::Job {
 
     void Work(platform::PictureDecoder& decoder) {
         if (cancelled) return;
-        result = ownReader ? LoadOwnPng(file, backColor.value_or(0))
+        result = ownReader ? LoadOwnPng(file, backColor.value_or(0), cancelled)
                            : LoadByHost(file, decoder, cancelled);
         if (!backColor || cancelled) return;
         try {
