@@ -96,10 +96,11 @@ QImage Fitted(const ui::LoadedPicture& loaded) {
 
 double PngSeconds(const std::string& path) {
     const HostFiles files;
+    const std::atomic<bool> cancelled = false;
     QImage shown;
     const double seconds = bench::Seconds([&] {
         ui::PictureFile file(files, path);
-        shown = Fitted(ui::LoadOwnPng(file, 0xbc5200));
+        shown = Fitted(ui::LoadOwnPng(file, 0xbc5200, cancelled));
     });
     Check(shown.size() == place, "the PNG file was not read");
     return seconds;

@@ -107,6 +107,29 @@ Until 20 Back || Fail "the list did not come back"
 Shot list "the list again"
 kill -0 "$kivu" || Fail "the launcher has gone too"
 
+# Pictures of one colour each, for all games of the emulator, show that the program holds their decoders. A new one
+# counts from the next row on.
+Pixels() { convert "$1" -fuzz 6% -fill black +opaque "$2" -fuzz 0 -fill white +opaque black -format '%[fx:round(mean*w*h)]' info:; }
+Shown() { import -window root "$work/now.png" && [ "$(Pixels "$work/now.png" "$1")" -gt 5000 ]; }
+PictureShows() {
+  local ending=$1 colour=$2 key=$3
+  ! Shown "$colour" || Fail "the colour of the $ending picture is there already"
+  rm -f "$config/Pictures/Test Machine".*
+  convert -size 64x64 "xc:$colour" -type TrueColor "$config/Pictures/Test Machine.$ending"
+  xdotool key "$key"
+  Until 20 Shown "$colour" || Fail "the $ending picture is not shown"
+  Shot "picture-$ending" "a picture of the kind $ending"
+}
+mkdir -p "$config/Pictures"
+Activate
+Click 100 100
+xdotool key Home
+PictureShows png '#c000ff' Down
+PictureShows jpg '#ff2060' Up
+PictureShows gif '#20ff40' Down
+PictureShows ico '#ff9000' Up
+PictureShows bmp '#2040ff' Down
+
 # Escape asks, and Enter on its OK ends the program.
 Activate
 xdotool key Escape

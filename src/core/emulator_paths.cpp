@@ -1,5 +1,7 @@
 #include "core/emulator_paths.h"
 
+#include <optional>
+
 #include "text/paths.h"
 #include "text/text.h"
 
@@ -15,6 +17,13 @@ std::string FindByName(const platform::FileSystem& files, const std::string& dir
         if (text::EqualsNoCase(entry.name, name)) return directory + entry.name;
     }
     return exact;
+}
+
+std::string SkinDirectory(const platform::FileSystem& files, const std::string& profileDirectory) {
+    const std::string own = text::AddPathSeparator(profileDirectory);
+    // Below nothing would be below the root.
+    const auto found = own.empty() ? std::nullopt : files.FindDirectory(own, "Skin");
+    return own + found.value_or("Skin") + files.Separator();
 }
 
 void AssignProgram(ProgramFiles& program, const platform::FileSystem& files,
@@ -46,8 +55,7 @@ void AssignEmulatorPaths(ProgramFiles& program, const platform::FileSystem& file
     program.VBSFilename = program.StartPfad + "Startscript.vbs";
     program.FavoritenIni = FindByName(files, program.StartPfad, "Favoriten.ini");
     program.IniPath = program.StartPfad + program.EXE + ".ini";
-    const std::string skin = FindByName(files, program.StartPfad, "Skin") + files.Separator();
-    program.ColorsIniName = FindByName(files, skin, "Skin.ini");
+    program.ColorsIniName = FindByName(files, SkinDirectory(files, program.StartPfad), "Skin.ini");
     program.TmpBatName = program.StartPfad + program.EXE + "_tmp.bat";
     program.CacheName = program.StartPfad + program.EXE + "_Cache.txt";
     program.StartScriptName = program.StartPfad + program.EXE + "_StartScript.uaecfg";

@@ -13,6 +13,10 @@ namespace kivu::core {
 std::string FindByName(const platform::FileSystem& files, const std::string& directory,
                        const std::string& name);
 
+// The directory of a skin in that of an emulator, both with a closing separator, by the spelling
+// that is on the disk.
+std::string SkinDirectory(const platform::FileSystem& files, const std::string& profileDirectory);
+
 // Where the program lies, with or without a closing separator, and the base name of its file.
 void AssignProgram(ProgramFiles& program, const platform::FileSystem& files,
                    const std::string& directory, const std::string& name);

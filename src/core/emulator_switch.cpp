@@ -128,6 +128,8 @@ void EmulatorSwitch::InitEmulatorView() {
     FillFontSizes();
     alwaysOnTop.SetToTop();
     settingsLoader.LoadSettings();
+    // All paths are this emulator's now.
+    hooks.PreparePreviews();
     hooks.LoadFavoriten();
     form.EmulatorLongListbox.SetVisible(false);
     ReadTitle();

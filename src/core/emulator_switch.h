@@ -23,6 +23,7 @@ class EmulatorSwitch : public EmulatorSwitching {
  public:
     struct Hooks {
         Hook<void()> DropPreview{"EmulatorSwitch.DropPreview"};
+        Hook<void()> PreparePreviews{"EmulatorSwitch.PreparePreviews"};
         Hook<void()> LoadSkinPictures{"EmulatorSwitch.LoadSkinPictures"};
         Hook<void()> LoadFavoriten{"EmulatorSwitch.LoadFavoriten"};
         Hook<void()> SaveAndSetDisplayMode{"EmulatorSwitch.SaveAndSetDisplayMode"};

@@ -60,12 +60,13 @@ class RowSource {
 // Converts and blends the rows of one picture.
 class RowFinisher {
  public:
-    RowFinisher(const RowConverter& rowConverter, AlphaUse use, const Backdrop& behind, int width)
+    RowFinisher(const RowConverter& rowConverter, const Blending& blending, int width)
         : converter(rowConverter),
-          alphaUse(use),
-          backdrop(behind),
-          scratch(use == AlphaUse::Blend && !behind.IsUniform() ? static_cast<std::size_t>(width)
-                                                                : 0) {}
+          alphaUse(blending.alphaUse),
+          backdrop(blending.backdrop),
+          scratch(alphaUse == AlphaUse::Blend && !backdrop.IsUniform()
+                      ? static_cast<std::size_t>(width)
+                      : 0) {}
 
     void Convert(const std::uint8_t* row, std::span<Pixel> pixels) const {
         converter.Convert(row, pixels);
@@ -87,12 +88,27 @@ class RowFinisher {
     std::vector<Pixel> scratch;
 };
 
+// Asks at each 64th row whether the picture is wanted.
+class Patience {
+ public:
+    explicit Patience(const std::function<bool()>& isGivenUp) : givenUp(isGivenUp) {}
+    bool IsOver() {
+        over = over || (rows++ % 64 == 0 && givenUp());
+        return over;
+    }
+
+ private:
+    const std::function<bool()>& givenUp;
+    unsigned rows = 0;
+    bool over = false;
+};
+
 // Without interlacing, row by row while the row is at hand. With an unknown interlace method the
 // rows are taken as they lie, filter bytes and all.
 void DecodePlain(const ImageHeader& header, RowSource& source, RowFinisher& finisher,
-                 Picture& picture) {
+                 Patience& patience, Picture& picture) {
     source.Begin(header.width);
-    for (int y = 0; y < picture.Height(); ++y) {
+    for (int y = 0; y < picture.Height() && !patience.IsOver(); ++y) {
         const std::span<Pixel> pixels = picture.Row(y);
         finisher.Convert(header.interlacing == 0 ? source.NextFiltered() : source.NextPlain(),
                          pixels);
@@ -101,12 +117,12 @@ void DecodePlain(const ImageHeader& header, RowSource& source, RowFinisher& fini
 }
 
 void DecodePass(const ImageHeader& header, const Pass& pass, RowSource& source,
-                RowFinisher& finisher, Picture& picture) {
+                RowFinisher& finisher, Patience& patience, Picture& picture) {
     const std::uint32_t columns = pass.Columns(header.width);
     if (columns == 0) return;
     source.Begin(columns);
     std::vector<Pixel> passRow(pass.stepX == 1 ? 0 : columns);
-    for (std::uint32_t y = pass.startY; y < header.height; y += pass.stepY) {
+    for (std::uint32_t y = pass.startY; y < header.height && !patience.IsOver(); y += pass.stepY) {
         const std::span<Pixel> pixels = picture.Row(static_cast<int>(y));
         const std::uint8_t* row = source.NextFiltered();
         if (pass.stepX == 1) {
@@ -125,18 +141,20 @@ void DecodePass(const ImageHeader& header, const Pass& pass, RowSource& source,
 }  // namespace
 
 Picture DecodeRows(const ImageHeader& header, std::span<std::uint8_t> data,
-                   const RowConverter& converter, AlphaUse alphaUse, const Backdrop& backdrop) {
+                   const RowConverter& converter, const Blending& blending,
+                   const std::function<bool()>& givenUp) {
     Picture picture(static_cast<int>(header.width), static_cast<int>(header.height));
     RowSource source(header, data);
-    RowFinisher finisher(converter, alphaUse, backdrop, picture.Width());
+    RowFinisher finisher(converter, blending, picture.Width());
+    Patience patience(givenUp);
     if (header.interlacing != 1) {
-        DecodePlain(header, source, finisher, picture);
+        DecodePlain(header, source, finisher, patience, picture);
         return picture;
     }
     for (const Pass& pass : adam7Passes) {
-        DecodePass(header, pass, source, finisher, picture);
+        DecodePass(header, pass, source, finisher, patience, picture);
     }
-    for (int y = 0; y < picture.Height(); ++y) {
+    for (int y = 0; y < picture.Height() && !patience.IsOver(); ++y) {
         finisher.Finish(picture.Row(y), y);
     }
     return picture;

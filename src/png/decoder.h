@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <span>
 
 #include "png/blending.h"
@@ -20,10 +21,17 @@ enum class AlphaUse {
     Blend,
 };
 
+struct Blending {
+    AlphaUse alphaUse;
+    const Backdrop& backdrop;
+};
+
 // Makes the picture of a drawable header from inflated rows: undoes filters and interlacing,
 // converts and blends. Rows that data doesn't reach are taken as zeros. The filters are undone in
-// place. All pixels of the result are opaque.
+// place. All pixels of the result are opaque. givenUp is asked every few rows; true leaves the rest
+// as it is.
 Picture DecodeRows(const ImageHeader& header, std::span<std::uint8_t> data,
-                   const RowConverter& converter, AlphaUse alphaUse, const Backdrop& backdrop);
+                   const RowConverter& converter, const Blending& blending,
+                   const std::function<bool()>& givenUp);
 
 }  // namespace kivu::png

@@ -32,8 +32,10 @@ Inflater::Trees::Trees()
     : literals(literalRootBits, literalSymbols), distances(distanceRootBits, distanceSymbols) {
 }
 
-Inflater::Inflater(std::function<void()> onTreeFailure)
-    : treeFailed(std::move(onTreeFailure)), codeLengths(codeLengthRootBits, 0) {
+Inflater::Inflater(std::function<void()> onTreeFailure, std::function<bool()> isGivenUp)
+    : treeFailed(std::move(onTreeFailure)),
+      givenUp(std::move(isGivenUp)),
+      codeLengths(codeLengthRootBits, 0) {
 }
 
 Inflater::Outcome Inflater::Inflate(std::span<const std::uint8_t> input,
@@ -42,7 +44,7 @@ Inflater::Outcome Inflater::Inflate(std::span<const std::uint8_t> input,
                    output.data() + output.size()},
                   extended,
                   InflateResult::Good};
-    for (bool finalBlock = false; !finalBlock;) {
+    for (bool finalBlock = false; !finalBlock && !(givenUp && givenUp());) {
         finalBlock = stream.Get(1) != 0;
         if (OneBlock(stream, stream.Get(2)) == Next::Stop) break;
     }

@@ -25,8 +25,9 @@ enum class InflateResult {
 // Undoes DEFLATE (RFC 1951). Every input ends in a result, and all output before a fault stays.
 class Inflater {
  public:
-    // treeFailed is called each time a code tree can't be built.
-    explicit Inflater(std::function<void()> treeFailed = {});
+    // treeFailed is called each time a code tree can't be built; givenUp is asked before each
+    // block, and true ends the output there.
+    explicit Inflater(std::function<void()> treeFailed = {}, std::function<bool()> givenUp = {});
 
     struct Outcome {
         InflateResult result;
@@ -67,6 +68,7 @@ class Inflater {
     const Trees& StaticTrees();
 
     std::function<void()> treeFailed;
+    std::function<bool()> givenUp;
     DecodeTable codeLengths;
     Trees dynamicTrees;
     Trees staticTrees;

@@ -52,7 +52,8 @@ ByteBuffer ReadAll(std::ifstream& file, std::uintmax_t size) {
 }  // namespace
 
 LoadPNG::LoadPNG(LoadPNGHooks launcherHooks)
-    : hooks(std::move(launcherHooks)), inflater([this] { ReportTreeFailure(); }) {
+    : hooks(std::move(launcherHooks)),
+      inflater([this] { ReportTreeFailure(); }, [this] { return GivenUp(); }) {
 }
 
 std::error_code LoadPNG::OpenPNG(const std::filesystem::path& fileName) {
@@ -147,7 +148,9 @@ void LoadPNG::Decode(std::span<std::uint8_t> imageData) {
         inflated = inflater.Inflate(rows, ExpectedBytes(header)).bytes;
         rows = inflated.Span();
     }
+    if (GivenUp()) return;
     bitmap = DecodeInflated(rows);
+    if (GivenUp()) bitmap.reset();
 }
 
 void LoadPNG::DrawDecoded() {
@@ -177,7 +180,8 @@ Picture LoadPNG::DecodeInflated(std::span<std::uint8_t> rows) {
         }
         alphaUse = AlphaUse::None;
     }
-    return DecodeRows(header, rows, RowConverter(header, colorTable, key), alphaUse, backdrop);
+    return DecodeRows(header, rows, RowConverter(header, colorTable, key), {alphaUse, backdrop},
+                      [this] { return GivenUp(); });
 }
 
 void LoadPNG::PrepareTable(bool transparent) {

@@ -27,6 +27,9 @@ struct LoadPNGHooks {
     std::function<void(std::string_view text)> showMessage;
     // 8-bit text of the system code page as UTF-8. If empty, WidenText serves.
     std::function<std::string(std::string_view bytes)> widenText;
+    // Asked now and then while a file is decoded: true means that nobody wants the picture any
+    // more, and nothing is drawn. May be empty.
+    std::function<bool()> givenUp = {};
 };
 
 enum PngErrors : std::int32_t {
@@ -159,6 +162,7 @@ class LoadPNG {
     void AppendText(std::string& to, std::span<const std::uint8_t> bytes) const;
 
     void Decode(std::span<std::uint8_t> imageData);
+    bool GivenUp() const { return hooks.givenUp && hooks.givenUp(); }
     Picture DecodeInflated(std::span<std::uint8_t> rows);
     void DrawDecoded();
     void PrepareTable(bool transparent);

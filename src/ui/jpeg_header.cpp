@@ -19,6 +19,12 @@ bool IsFrame(std::uint32_t marker) {
            marker != extensions && marker != arithmeticTables;
 }
 
+// In any number of passes over the whole picture: of each four frames the one that ends in these
+// bits.
+bool IsProgressive(std::uint32_t frame) {
+    return (frame & 3) == 2;
+}
+
 // Followed by no length and no content.
 bool StandsAlone(std::uint32_t marker) {
     return marker == 0 || marker == temporary || (marker >= firstRestart && marker <= startOfImage);
@@ -63,7 +69,7 @@ std::optional<PictureSides> JpegSides(const ByteView& file) {
         const std::uint32_t length = file.Big16(at);
         if (marker == endOfImage || marker == startOfScan || length < 2) return std::nullopt;
         if (IsFrame(marker)) {
-            PictureSides sides{file.Big16(at + 5), file.Big16(at + 3)};
+            PictureSides sides{file.Big16(at + 5), file.Big16(at + 3), IsProgressive(marker)};
             if (onItsSide) std::swap(sides.width, sides.height);
             return sides;
         }
@@ -75,6 +81,17 @@ std::optional<PictureSides> JpegSides(const ByteView& file) {
         at += length;
     }
     return std::nullopt;
+}
+
+// Within the pixels 0xff is followed by 0 or a restart.
+bool HasManyScans(std::string_view jpeg) {
+    constexpr std::string_view scan = "\xff\xda";
+    constexpr int most = 8;
+    int count = 0;
+    for (std::size_t at = jpeg.find(scan); at != std::string_view::npos && count <= most;
+         at = jpeg.find(scan, at + scan.size()))
+        ++count;
+    return count > most;
 }
 
 }  // namespace kivu::ui

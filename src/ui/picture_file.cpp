@@ -25,10 +25,13 @@ bool IsOpaque(const std::vector<std::uint32_t>& pixels) {
                        [](std::uint32_t pixel) { return pixel >> 24 == 0xff; });
 }
 
-LoadedPicture OwnPng(const std::string& bytes, forms::Color backColor) {
+LoadedPicture OwnPng(const std::string& bytes, forms::Color backColor,
+                     const std::atomic<bool>& cancelled) {
     LoadedPicture loaded;
     PictureSurface surface(backColor);
-    png::LoadPNG reader({[&](std::string_view) { loaded.treeFailed = true; }, {}});
+    png::LoadPNG reader({[&](std::string_view) { loaded.treeFailed = true; },
+                         {},
+                         [&] { return cancelled.load(); }});
     reader.PicBox(&surface);
     reader.SetOwnBkgndColor(backColor, true);
     reader.BackgroundPicture(&surface);
@@ -72,10 +75,11 @@ bool PictureFile::ReadAll() {
     return ReadTo(largestFile + 1) && bytes.size() <= largestFile;
 }
 
-LoadedPicture LoadOwnPng(PictureFile& file, forms::Color backColor) {
+LoadedPicture LoadOwnPng(PictureFile& file, forms::Color backColor,
+                         const std::atomic<bool>& cancelled) {
     try {
         if (!file.ReadAll()) return {};
-        LoadedPicture loaded = OwnPng(file.Bytes(), backColor);
+        LoadedPicture loaded = OwnPng(file.Bytes(), backColor, cancelled);
         loaded.bitmap = Shrunk(std::move(loaded.bitmap), longestShownSide);
         return loaded;
     } catch (const std::bad_alloc&) {

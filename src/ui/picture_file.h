@@ -47,7 +47,8 @@ struct LoadedPicture {
 inline constexpr int longestShownSide = 4096;
 
 // By the launcher's own PNG reader, on a control of that back colour.
-LoadedPicture LoadOwnPng(PictureFile& file, forms::Color backColor);
+LoadedPicture LoadOwnPng(PictureFile& file, forms::Color backColor,
+                         const std::atomic<bool>& cancelled);
 
 // By the host's decoder.
 LoadedPicture LoadByHost(PictureFile& file, platform::PictureDecoder& decoder,

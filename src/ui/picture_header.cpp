@@ -112,7 +112,8 @@ std::optional<PictureHeader> ReadPictureHeader(std::string_view bytes) {
     if (!format) return std::nullopt;
     const Sides sides = SidesOf(*format, ByteView(bytes));
     if (!sides || !png::IsWithinLimits(sides->width, sides->height)) return std::nullopt;
-    return PictureHeader{*format, static_cast<int>(sides->width), static_cast<int>(sides->height)};
+    return PictureHeader{*format, static_cast<int>(sides->width), static_cast<int>(sides->height),
+                         sides->progressive};
 }
 
 bool MayTellMore(std::string_view bytes) {

@@ -15,6 +15,8 @@ struct PictureHeader {
     // As it is looked at: a photograph that the camera took on its side stands upright.
     int width = 0;
     int height = 0;
+    // A JPEG file in passes: a small one may hold thousands of them, and take seconds.
+    bool progressive = false;
     bool operator==(const PictureHeader&) const = default;
 };
 

@@ -1,21 +1,26 @@
 #include "ui/picture_loader.h"
 
 #include <atomic>
+#include <new>
+#include <optional>
 #include <utility>
 
 #include "core/form1.h"
+#include "ui/jpeg_header.h"
 #include "ui/picture_file.h"
+#include "ui/picture_surface.h"
 
 namespace kivu::ui {
 
 namespace {
 
-// A small file may hold a large picture.
+// A small file may hold a large picture, or a small one many times over.
 constexpr std::int64_t mostPixelsAtOnce = 1 << 20;
 
 bool IsQuick(const PictureFile& file, const std::optional<PictureHeader>& header) {
-    return file.IsWhole() && header &&
-           std::int64_t{header->width} * header->height <= mostPixelsAtOnce;
+    if (!file.IsWhole() || !header || header->progressive) return false;
+    if (header->format == PictureFormat::jpeg && HasManyScans(file.Bytes())) return false;
+    return std::int64_t{header->width} * header->height <= mostPixelsAtOnce;
 }
 
 }  // namespace
@@ -27,13 +32,22 @@ struct PictureLoader::Job {
 
     void Work(platform::PictureDecoder& decoder) {
         if (cancelled) return;
-        result = ownReader ? LoadOwnPng(file, backColor) : LoadByHost(file, decoder, cancelled);
+        result = ownReader ? LoadOwnPng(file, backColor.value_or(0), cancelled)
+                           : LoadByHost(file, decoder, cancelled);
+        if (!backColor || cancelled) return;
+        try {
+            result.bitmap = OverColor(std::move(result.bitmap), *backColor);
+        } catch (const std::bad_alloc&) {
+            result = {};
+        }
     }
 
     std::string path;
     PictureFile file;
     bool ownReader = false;
-    forms::Color backColor = 0;
+    // What lies below a preview, which shows nothing of the lists behind it. A skin has none: the
+    // window shines through.
+    std::optional<forms::Color> backColor;
     std::atomic<bool> cancelled = false;
     LoadedPicture result;
     std::function<void(const JobPointer&)> finish;
@@ -117,10 +131,17 @@ void PictureLoader::Show(forms::PictureBox& target, const Job& job) {
     target.SetPicture({job.path, loaded.bitmap});
 }
 
+// From the event loop: who loads a picture may be in the midst of something, and no box stands
+// before the window does.
 void PictureLoader::TellOfTree(const std::string& path) {
     if (program.Ended || !toldOfTree.insert(path).second) return;
-    services.dialogs.MessageBox("Error in tree creation (Static)", core::defaultTitle,
-                                platform::Buttons::Ok, platform::Icon::None);
+    services.background.Run([] {},
+                            [this, living = std::weak_ptr(alive)] {
+                                if (living.expired() || program.Ended) return;
+                                services.dialogs.MessageBox(
+                                    "Error in tree creation (Static)", core::defaultTitle,
+                                    platform::Buttons::Ok, platform::Icon::None);
+                            });
 }
 
 bool PictureLoader::LoadSkin(const std::string& path, const std::string& purpose,

@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <utility>
 
+#include "png/blending.h"
+
 namespace kivu::ui {
 
 namespace {
@@ -105,6 +107,20 @@ void PictureSurface::KeepDrawing() {
         bitmap->pixels.insert(bitmap->pixels.end(), row.begin(), row.end());
     }
     kept = std::move(bitmap);
+}
+
+std::shared_ptr<const forms::Bitmap> OverColor(std::shared_ptr<const forms::Bitmap> bitmap,
+                                               forms::Color backColor) {
+    if (!bitmap || bitmap->opaque) return bitmap;
+    auto covering = std::make_shared<forms::Bitmap>();
+    covering->width = bitmap->width;
+    covering->height = bitmap->height;
+    covering->opaque = true;
+    covering->pixels.reserve(bitmap->pixels.size());
+    const png::Pixel below = png::PixelOfColor(backColor);
+    for (const std::uint32_t pixel : bitmap->pixels)
+        covering->pixels.push_back(png::BlendPixel(pixel, below));
+    return covering;
 }
 
 std::shared_ptr<const forms::Bitmap> Shrunk(std::shared_ptr<const forms::Bitmap> bitmap,

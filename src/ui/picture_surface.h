@@ -37,6 +37,11 @@ class PictureSurface : public png::DrawingTarget {
     std::shared_ptr<const forms::Bitmap> kept;
 };
 
+// The picture with that colour wherever it lets something shine through. Null and what lets nothing
+// through stay what they are.
+std::shared_ptr<const forms::Bitmap> OverColor(std::shared_ptr<const forms::Bitmap> bitmap,
+                                               forms::Color backColor);
+
 // A picture that covers what lies below, in a size that no side is longer of: the mean of each
 // square of pixels. Null and what is small enough stay what they are.
 std::shared_ptr<const forms::Bitmap> Shrunk(std::shared_ptr<const forms::Bitmap> bitmap,

@@ -34,6 +34,20 @@ std::string TitleOf(std::string_view entry) {
     return std::string(text::Trim(title));
 }
 
+// A path without a separator would lead to wherever the program happens to stand.
+std::string DirectoryOf(const std::string& path, const platform::FileSystem& files) {
+    if (!HoldsSeparator(path)) return {};
+    return text::AddPathSeparator(text::GetFilePath(
+        path, [&](const std::string& directory) { return files.IsDirectory(directory); }));
+}
+
+std::string Subdirectory(const std::string& directory, std::string_view name,
+                         const platform::FileSystem& files) {
+    if (directory.empty()) return {};
+    const auto found = files.FindDirectory(directory, name);
+    return found ? directory + *found + files.Separator() : std::string();
+}
+
 }  // namespace
 
 PreviewPictures::~PreviewPictures() {
@@ -45,37 +59,28 @@ std::string PreviewPictures::ProfileDirectory() const {
     return text::AddPathSeparator(text::Trim(form.GetStartPfad()));
 }
 
-// A path without a separator would lead to wherever the program happens to stand.
-std::string PreviewPictures::DirectoryOf(const std::string& path) const {
-    if (!HoldsSeparator(path)) return {};
-    return text::AddPathSeparator(text::GetFilePath(
-        path, [this](const std::string& directory) { return files.IsDirectory(directory); }));
-}
-
-std::string PreviewPictures::Subdirectory(const std::string& directory,
-                                          std::string_view name) const {
-    if (directory.empty()) return {};
-    const auto found = files.FindDirectory(directory, name);
-    return found ? directory + *found + files.Separator() : std::string();
+PreviewPictures::Places PreviewPictures::AllPlaces() const {
+    return {ProfileDirectory(), form.TxtRomPath.Text(), form.txtWinUAEExe.Text()};
 }
 
 // The emulator's own pictures first, so that the common case is answered by the first look-up.
-PreviewPictures::Sources PreviewPictures::AllSources() const {
-    const std::string games = DirectoryOf(form.TxtRomPath.Text());
+PreviewPictures::Sources PreviewPictures::SourcesAt(const Places& places,
+                                                    const platform::FileSystem& files) {
+    const std::string games = DirectoryOf(places.games, files);
     const std::string beside = text::GetParentPath(games);
-    const std::string emulator = DirectoryOf(form.txtWinUAEExe.Text());
-    return {{Subdirectory(ProfileDirectory(), "Pictures"), ""},
+    const std::string emulator = DirectoryOf(places.emulator, files);
+    return {{Subdirectory(places.profile, "Pictures", files), ""},
             {games, ".jpg"},
             {games, ".png"},
-            {Subdirectory(beside, "snap"), ""},
-            {Subdirectory(beside, "Titles"), ""},
-            {Subdirectory(emulator, "Titles"), ""},
-            {Subdirectory(emulator, "Pictures"), ""},
+            {Subdirectory(beside, "snap", files), ""},
+            {Subdirectory(beside, "Titles", files), ""},
+            {Subdirectory(emulator, "Titles", files), ""},
+            {Subdirectory(emulator, "Pictures", files), ""},
             {games, ".gif"}};
 }
 
 std::string PreviewPictures::FindPreviewPicture(const std::string& name) const {
-    return Find(AllSources(), name, text::StemOf(name));
+    return Find(SourcesAt(AllPlaces(), files), name, text::StemOf(name));
 }
 
 std::string PreviewPictures::Find(const Sources& sources, const std::string& name,
@@ -95,7 +100,7 @@ std::string PreviewPictures::Find(const Sources& sources, const std::string& nam
 
 // By its file's name, then by its title, then the picture that all the emulator's games have.
 std::string PreviewPictures::FindForGame(const std::string& entry) const {
-    const Sources sources = AllSources();
+    const Sources sources = SourcesAt(AllPlaces(), files);
     const std::string file = text::GetFileNameOnly(text::WithoutQuotes(entry));
     const std::string_view stem = text::StemOf(file);
     std::string directory = ProfileDirectory();
@@ -237,11 +242,11 @@ void PreviewPictures::Refresh(int index) {
 
 void PreviewPictures::Prepare() {
     if (!files.ServesThreads()) return;
-    Sources sources = AllSources();
     background.Run(
-        [&disk = files, sources = std::move(sources), held = lease] {
+        [&disk = files, places = AllPlaces(), held = lease] {
             const std::scoped_lock running(held->running);
-            for (const Source& source : sources) {
+            if (!held->valid) return;
+            for (const Source& source : SourcesAt(places, disk)) {
                 if (!held->valid) return;
                 // Any look-up will do.
                 if (!source.directory.empty()) (void)disk.FirstMatch(source.directory, "?", "", "");

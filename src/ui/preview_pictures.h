@@ -77,6 +77,10 @@ class PreviewPictures {
         std::string_view ending;
     };
     using Sources = std::vector<Source>;
+    // What tells where they are, of the emulator that is loaded.
+    struct Places {
+        std::string profile, games, emulator;  // the last one's program
+    };
     // Whether work beside the window may still use what it was given.
     struct Lease {
         std::mutex running;
@@ -84,9 +88,9 @@ class PreviewPictures {
     };
 
     std::string ProfileDirectory() const;
-    std::string DirectoryOf(const std::string& path) const;
-    std::string Subdirectory(const std::string& directory, std::string_view name) const;
-    Sources AllSources() const;
+    Places AllPlaces() const;
+    // Looks at the disk. Any thread may ask, where the disk serves it.
+    static Sources SourcesAt(const Places& places, const platform::FileSystem& files);
     std::string Find(const Sources& sources, const std::string& name,
                      std::string_view preferredStem) const;
     std::string FindForGame(const std::string& entry) const;

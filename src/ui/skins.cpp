@@ -4,18 +4,12 @@
 
 #include "core/emulator_paths.h"
 #include "core/form1.h"
-#include "text/paths.h"
 
 namespace kivu::ui {
 
-std::string SkinDirectory(const platform::FileSystem& files, const std::string& profileDirectory) {
-    const std::string own = text::AddPathSeparator(profileDirectory);
-    return core::FindByName(files, own, "Skin") + files.Separator();
-}
-
 std::string FindSkinFile(const platform::FileSystem& files, const std::string& profileDirectory,
                          std::string_view name) {
-    const std::string directory = SkinDirectory(files, profileDirectory);
+    const std::string directory = core::SkinDirectory(files, profileDirectory);
     const auto found = files.FirstMatch(directory, std::string(name) + ".", "", name);
     // It may have gone meanwhile.
     return found && files.FileExists(directory + *found) ? directory + *found : "";

@@ -14,12 +14,8 @@ struct Form1;
 
 namespace kivu::ui {
 
-// The directory that an emulator's skin lies in, with a closing separator, whatever the case of its
-// name. `profileDirectory` is the emulator's own.
-std::string SkinDirectory(const platform::FileSystem& files, const std::string& profileDirectory);
-
-// The file "name.*" of that directory, any ending; of several a picture, then the first in the
-// order of names. Empty: there is none.
+// The file "name.*" of an emulator's skin, any ending; of several a picture, then the first in the
+// order of names. Empty: there is none. `profileDirectory` is the emulator's own.
 std::string FindSkinFile(const platform::FileSystem& files, const std::string& profileDirectory,
                          std::string_view name);
 

@@ -12,6 +12,7 @@ void Launcher::Routines::JoinEmulators() {
     emulatorSwitch.ports.watch = watch;
     emulatorSwitch.ports.layout = layout;
     emulatorSwitch.hooks.DropPreview = [this] { previews.Drop(); };
+    emulatorSwitch.hooks.PreparePreviews = [this] { previews.Prepare(); };
     emulatorSwitch.hooks.LoadSkinPictures = [this] { skins.LoadSkinPictures(); };
     emulatorSwitch.hooks.LoadFavoriten = [this] { favoriten.LoadFavoriten(); };
     // A profile with a master configuration has one from its first selection on.

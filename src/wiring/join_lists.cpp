@@ -45,7 +45,7 @@ void Launcher::Routines::JoinLists() {
         listEvents.Current_ProgramNameFull_DblClick();
     };
     form.LoadBtn.onClick = [this] { gameLists.RescanByButton(); };
-    form.TxtRomPath.onChange = [this] { hints.Refresh(), previews.Prepare(); };
+    form.TxtRomPath.onChange = [this] { hints.Refresh(); };
     form.FileScanRecursive1.frame.onResize = [this] { scanner.UserControl_Resize(); };
 }
 

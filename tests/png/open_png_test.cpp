@@ -35,6 +35,38 @@ TEST(OpenPNG, ReadsAFileLikeItsBytes) {
     }
 }
 
+// Asked before each block, before the rows, between them and behind them: whenever the answer
+// comes, nothing is drawn.
+TEST(OpenPNG, DrawsNothingThatIsGivenUp) {
+    PngRecipe recipe;
+    recipe.colorType = 2;
+    recipe.width = 9;
+    recipe.height = 200;
+    for (const bool interlaced : {false, true}) {
+        recipe.interlaced = interlaced;
+        const Bytes bytes = WritePng(recipe);
+        int asked = 0, patience = 1000;
+        LoadPNG reader({{}, {}, [&] { return ++asked > patience; }});
+        const auto opened = [&](int times) {
+            RecordingTarget target;
+            reader.PicBox(&target);
+            asked = 0;
+            patience = times;
+            EXPECT_FALSE(reader.OpenBytes(testing::BufferOf(bytes)));
+            EXPECT_EQ(reader.ErrorNumber(), 0);
+            return target.WasTouched();
+        };
+        ASSERT_TRUE(opened(1000));
+        const int questions = asked;
+        EXPECT_GE(questions, 6) << "the rows too";
+        for (int times = 0; times < questions; ++times) {
+            EXPECT_FALSE(opened(times)) << times;
+            EXPECT_LE(asked, times + 10) << "it ends soon";
+        }
+        EXPECT_TRUE(opened(questions));
+    }
+}
+
 TEST(OpenPNG, WhatCantBeOpenedIsToldToTheCaller) {
     RecordingTarget target;
     LoadPNG reader;

@@ -116,6 +116,22 @@ TEST_F(Preview, DamagedFileShowsNoOthersPicture) {
     EXPECT_EQ(Shown(), ant);
 }
 
+// It stands neither before the window nor within the selection, also for a file that is decoded at
+// once.
+TEST_F(Preview, BoxOfABadFileComesFromTheEventLoop) {
+    tree.Write("Roms/Alpha/" + bee, testing::PngWithBadTree(4, 4));
+    StoreBee();
+    prepare = [](driver::Session& starting) { starting.Host().background.inlined = false; };
+    Start();
+    EXPECT_EQ(Do("boxes").at("value"), Json::array());
+    auto& background = Host().background;
+    while (!background.waiting.empty())
+        background.Serve(0);
+    const Json boxes = Do("boxes").at("value");
+    ASSERT_EQ(boxes.size(), 1U);
+    EXPECT_EQ(boxes[0]["text"], "Error in tree creation (Static)");
+}
+
 TEST_F(Preview, IsThatOfTheMarkedRowAfterARescan) {
     Start();
     Do("select", "Form1.WIthoutDoubles", 1);

@@ -153,12 +153,14 @@ inline std::string ExifSegment(std::uint32_t orientation, bool little = true) {
     return "\xff\xe1" + Big(static_cast<std::uint32_t>(content.size() + 2), 2) + content;
 }
 
-// Up to where the pixels begin; `before` stands in front of the size.
-inline std::string JpegHead(std::uint32_t width, std::uint32_t height,
-                            std::string_view before = {}) {
+// Up to where the pixels begin; `before` stands in front of the size. The frame's marker tells how
+// the pixels are kept.
+inline std::string JpegHead(std::uint32_t width, std::uint32_t height, std::string_view before = {},
+                            char frame = '\xc0') {
     return "\xff\xd8" + std::string("\xff\xe0\0\x10JFIF\0\1\1\0\0\1\0\1\0\0", 18) +
-           std::string(before) + "\xff\xc0" + Big(11, 2) + "\x8" + Big(height, 2) + Big(width, 2) +
-           std::string("\1\1\x11\0", 4) + std::string("\xff\xda\0\x8\1\1\0\0\x3f\0", 10);
+           std::string(before) + '\xff' + frame + Big(11, 2) + "\x8" + Big(height, 2) +
+           Big(width, 2) + std::string("\1\1\x11\0", 4) +
+           std::string("\xff\xda\0\x8\1\1\0\0\x3f\0", 10);
 }
 
 // "VP8 ", "VP8L" or "VP8X".

@@ -305,11 +305,12 @@ class ScriptedPictures : public platform::PictureDecoder {
         if (picture)
             picture->pixels.assign(static_cast<std::size_t>(picture->width) *
                                        static_cast<std::size_t>(picture->height),
-                                   0xff808080);
+                                   color);
         return picture;
     }
     std::function<std::optional<platform::DecodedPicture>(std::string_view bytes)> sizeOf;
     int count = 0;
+    std::uint32_t color = 0xff808080;  // of each pixel, 0xAARRGGBB
 };
 
 // At once, or when the test lets it happen.

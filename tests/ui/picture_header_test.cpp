@@ -86,6 +86,20 @@ TEST(PictureHeader, PassesOverFillBytesAndLoneMarkersOfAJpeg) {
               Header(PictureFormat::jpeg, 6, 4));
 }
 
+TEST(PictureHeader, KnowsAJpegInPasses) {
+    for (int marker = 0xc0; marker <= 0xcf; ++marker) {
+        const auto header = ReadPictureHeader(JpegHead(6, 4, {}, static_cast<char>(marker)));
+        if (marker == 0xc4 || marker == 0xc8 || marker == 0xcc) {
+            EXPECT_FALSE(header) << marker;
+            continue;
+        }
+        ASSERT_TRUE(header) << marker;
+        const bool inPasses = marker == 0xc2 || marker == 0xc6 || marker == 0xca || marker == 0xce;
+        EXPECT_EQ(header->progressive, inPasses) << marker;
+    }
+    EXPECT_FALSE(ReadPictureHeader(PngHead(6, 4))->progressive);
+}
+
 TEST(PictureHeader, GivesAJpegUpAtItsPixels) {
     EXPECT_FALSE(ReadPictureHeader("\xff\xd8\xff\xda" + Big(8, 2) + "xxxxxx" + JpegHead(5, 5)));
     EXPECT_FALSE(ReadPictureHeader("\xff\xd8\xff\xe0" + Big(1, 2) + JpegHead(5, 5)));

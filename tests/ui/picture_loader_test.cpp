@@ -1,59 +1,12 @@
-#include "ui/picture_loader.h"
-
 #include <algorithm>
-#include <gtest/gtest.h>
 #include <random>
 
-#include "forms/form.h"
-#include "testing/memory_file_system.h"
-#include "testing/picture_files.h"
-#include "testing/scripted_host.h"
-#include "ui/picture_header.h"
+#include "ui/picture_loader_room.h"
 
 namespace kivu::ui {
 namespace {
 
-using namespace kivu::testing;
-
-// Beyond what is read and decoded at once.
-std::string LargePng(std::uint32_t color) {
-    return PngFile(200, 100, color);
-}
-
-class PictureLoaderTest : public ::testing::Test {
- protected:
-    PictureLoaderTest() {
-        pictures.sizeOf =
-            [this](std::string_view bytes) -> std::optional<platform::DecodedPicture> {
-            const auto header = ReadPictureHeader(bytes);
-            if (!header || undecodable) return std::nullopt;
-            return platform::DecodedPicture{header->width, header->height, {}};
-        };
-        target.Move(30, 45, 600, 600);
-    }
-
-    void Load(const std::string& path) {
-        loader->Load(path, target, [this](bool shown) { told.push_back(shown); });
-    }
-    std::string ShownSource() const { return target.GetPicture().source; }
-    // 0xRRGGBB of the first pixel, -1 for none.
-    int FirstPixel() const {
-        const auto& pixels = target.GetPicture().pixels;
-        return pixels ? static_cast<int>(pixels->pixels.at(0) & 0xffffff) : -1;
-    }
-
-    MemoryFileSystem files;
-    ScriptedPictures pictures;
-    ScriptedBackground background;
-    ScriptedDialogs dialogs;
-    core::ProgramState program;
-    forms::Form form{"Form1"};
-    forms::PictureBox target{&form, "GamePicture"};
-    std::unique_ptr<PictureLoader> loader = std::make_unique<PictureLoader>(
-        program, PictureLoader::Services{files, pictures, background, dialogs});
-    std::vector<bool> told;
-    bool undecodable = false;
-};
+struct PictureLoaderTest : PictureLoaderRoom {};
 
 TEST_F(PictureLoaderTest, ShowsAPngInItsNaturalSize) {
     files.AddFile("/a/Game.png", PngFile(20, 10, 0xff804020));
@@ -74,6 +27,25 @@ TEST_F(PictureLoaderTest, BlendsAPngWithTheTargetsBackColour) {
     files.AddFile("/Game.png", PngFile(2, 2, 0x00ffffff));
     Load("/Game.png");
     EXPECT_EQ(FirstPixel(), 0xff0000);
+}
+
+TEST_F(PictureLoaderTest, NothingShinesThroughAPreview) {
+    target.SetBackColor(0x0000ff);
+    files.AddFile("/Game.gif", GifFile(2, 2, {0}));
+    files.AddFile("/X.PNG", PngFile(2, 2, 0));
+    for (const char* path : {"/Game.gif", "/X.PNG"}) {
+        pictures.color = 0x00ffffff;
+        Load(path);
+        EXPECT_EQ(FirstPixel(), 0xff0000) << path;
+        EXPECT_TRUE(target.GetPicture().pixels->opaque) << path;
+        pictures.color = 0x80ffffff;
+        Load(path);
+        EXPECT_EQ(FirstPixel(), 0xff8080) << path;
+    }
+    // As the reader of its own blends.
+    files.AddFile("/Half.png", PngFile(2, 2, 0x80ffffff));
+    Load("/Half.png");
+    EXPECT_EQ(FirstPixel(), 0xff8080);
 }
 
 TEST_F(PictureLoaderTest, TakesTheHostsDecoderForAllElse) {
@@ -178,6 +150,32 @@ TEST_F(PictureLoaderTest, TellsOfABadTreeWhenAllElseIsDone) {
     EXPECT_EQ(toldBefore, 1u);
 }
 
+TEST_F(PictureLoaderTest, TellsOfABadTreeWhenTheCallerHasReturned) {
+    background.inlined = false;
+    files.AddFile("/one.png", PngWithBadTree(4, 4));
+    Load("/one.png");
+    Load("/one.png");
+    EXPECT_EQ(told.size(), 2u) << "a small file is there at once";
+    EXPECT_TRUE(dialogs.shown.empty());
+    ASSERT_EQ(background.waiting.size(), 1u);
+    background.Serve(0);
+    EXPECT_EQ(dialogs.shown.size(), 1u);
+}
+
+TEST_F(PictureLoaderTest, TellsOfNoTreeAfterTheEnd) {
+    background.inlined = false;
+    files.AddFile("/one.png", PngWithBadTree(4, 4));
+    files.AddFile("/two.png", PngWithBadTree(4, 4));
+    Load("/one.png");
+    program.Ended = true;
+    background.Serve(0);
+    program.Ended = false;
+    Load("/two.png");
+    loader.reset();
+    background.Serve(0);
+    EXPECT_TRUE(dialogs.shown.empty());
+}
+
 TEST_F(PictureLoaderTest, LeavesLargeFilesToTheWorker) {
     background.inlined = false;
     files.AddFile("/small.png", PngFile(20, 20, 0xff000000));
@@ -202,6 +200,35 @@ TEST_F(PictureLoaderTest, LeavesLargeFilesToTheWorker) {
     EXPECT_EQ(told.size(), 2u);
     EXPECT_EQ(ShownSource(), "/large.png");
     EXPECT_EQ(pictures.count, 0);  // nobody wanted the gif any more
+}
+
+TEST_F(PictureLoaderTest, LeavesPicturesInPassesToTheWorker) {
+    background.inlined = false;
+    files.AddFile("/small.jpg", JpegHead(20, 20));
+    files.AddFile("/passes.jpg", JpegHead(20, 20, {}, '\xc2'));
+    std::string scans = JpegHead(20, 20);
+    for (int i = 0; i < 20; ++i)
+        scans += std::string("\xff\xda\0\x8\1\1\0\0\x3f\0", 10);
+    files.AddFile("/scans.jpg", scans);
+    Load("/small.jpg");
+    EXPECT_EQ(told.size(), 1u);
+    Load("/passes.jpg");
+    EXPECT_EQ(told.size(), 1u);
+    EXPECT_EQ(pictures.count, 1);
+    EXPECT_EQ(target.GetPicture(), forms::Picture());
+    ASSERT_EQ(background.waiting.size(), 1u);
+    background.Serve(0);
+    EXPECT_EQ(told.size(), 2u);
+    EXPECT_EQ(ShownSource(), "/passes.jpg");
+    Load("/scans.jpg");
+    EXPECT_EQ(told.size(), 2u);
+    background.Serve(0);
+    EXPECT_EQ(told.size(), 3u);
+    int received = 0;
+    EXPECT_TRUE(loader->LoadSkin("/passes.jpg", "Corner", [&](auto) { ++received; }));
+    EXPECT_EQ(received, 0);
+    background.Serve(0);
+    EXPECT_EQ(received, 1);
 }
 
 TEST_F(PictureLoaderTest, ShowsTheLastOfTwoHundredInWhateverOrderTheyCome) {
@@ -280,66 +307,6 @@ TEST_F(PictureLoaderTest, MayLoadTheNextOneWhenOneIsThere) {
     files.AddFile("/two.png", PngFile(3, 3, 0xff000002));
     loader->Load("/one.png", target, [this](bool) { Load("/two.png"); });
     EXPECT_EQ(FirstPixel(), 2);
-    EXPECT_EQ(told, std::vector<bool>{true});
-}
-
-TEST_F(PictureLoaderTest, SaysAtOnceWhetherASkinCanBeShown) {
-    background.inlined = false;
-    files.AddFile("/Background.png", PngFile(4, 4, 0x80ff0000));
-    files.AddFile("/Background.jpg", JpegHead(2000, 1000));
-    files.AddFile("/Background.nfo", "text");
-    std::vector<forms::Picture> received;
-    const auto receive = [&](forms::Picture picture) { received.push_back(std::move(picture)); };
-    // Also a PNG file by the host's decoder, which keeps what is transparent.
-    EXPECT_TRUE(loader->LoadSkin("/Background.png", "Background", receive));
-    ASSERT_EQ(received.size(), 1u);
-    EXPECT_EQ(received[0].source, "/Background.png");
-    EXPECT_EQ(received[0].pixels->width, 4);
-    EXPECT_EQ(pictures.count, 1);
-    EXPECT_TRUE(loader->LoadSkin("/Background.jpg", "Background", receive));
-    EXPECT_EQ(received.size(), 1u);
-    EXPECT_FALSE(loader->LoadSkin("/Background.nfo", "Corner", receive));
-    EXPECT_FALSE(loader->LoadSkin("/missing.png", "Corner", receive));
-    background.Serve(0);
-    ASSERT_EQ(received.size(), 2u);
-    EXPECT_EQ(received[1].source, "/Background.jpg");
-}
-
-TEST_F(PictureLoaderTest, GivesOnlyTheLastSkinOfAPurpose) {
-    background.inlined = false;
-    files.AddFile("/a.jpg", JpegHead(2000, 1000));
-    files.AddFile("/b.jpg", JpegHead(1000, 2000));
-    std::vector<std::string> received;
-    const auto receive = [&](const forms::Picture& picture) { received.push_back(picture.source); };
-    EXPECT_TRUE(loader->LoadSkin("/a.jpg", "Background", receive));
-    EXPECT_TRUE(loader->LoadSkin("/b.jpg", "Background", receive));
-    EXPECT_TRUE(loader->LoadSkin("/a.jpg", "Corner", receive));
-    EXPECT_TRUE(loader->LoadSkin("/a.jpg", "Drivebox", receive));
-    EXPECT_FALSE(loader->LoadSkin("", "Drivebox", receive));
-    while (!background.waiting.empty())
-        background.Serve(background.waiting.size() - 1);
-    EXPECT_EQ(received, (std::vector<std::string>{"/a.jpg", "/b.jpg"}));
-}
-
-TEST_F(PictureLoaderTest, KeepsTheSkinUnderWayWhenTheNextOneIsNone) {
-    background.inlined = false;
-    files.AddFile("/a.jpg", JpegHead(2000, 1000));
-    files.AddFile("/bad.png", "no picture");
-    std::vector<std::string> received;
-    const auto receive = [&](const forms::Picture& picture) { received.push_back(picture.source); };
-    EXPECT_TRUE(loader->LoadSkin("/a.jpg", "Background", receive));
-    EXPECT_FALSE(loader->LoadSkin("/bad.png", "Background", receive));
-    background.Serve(0);
-    EXPECT_EQ(received, std::vector<std::string>{"/a.jpg"});
-}
-
-TEST_F(PictureLoaderTest, FindsTheSizeOfASkinBehindItsColourProfile) {
-    const std::string profile = "\xff\xe2" + Big(65535, 2) + std::string(65533, 'x');
-    files.AddFile("/a.jpg", JpegHead(20, 10, profile + profile + profile));
-    int received = 0;
-    EXPECT_TRUE(loader->LoadSkin("/a.jpg", "Background", [&](auto) { ++received; }));
-    EXPECT_EQ(received, 1);
-    Load("/a.jpg");
     EXPECT_EQ(told, std::vector<bool>{true});
 }
 

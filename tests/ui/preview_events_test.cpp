@@ -146,6 +146,16 @@ TEST_F(Clicks, ListThatComesForwardShowsItsGamesPictureAgain) {
 // A disk that threads may use.
 struct SharedDisk : WatchedDisk {
     bool ServesThreads() const override { return true; }
+    std::optional<std::string> FindDirectory(const std::string& parent,
+                                             std::string_view name) const override {
+        ++questions;
+        return WatchedDisk::FindDirectory(parent, name);
+    }
+    bool IsDirectory(const std::string& path) const override {
+        ++questions;
+        return WatchedDisk::IsDirectory(path);
+    }
+    mutable int questions = 0;
 };
 
 TEST(PreviewPreparation, LooksIntoEachDirectoryBesideTheWindow) {
@@ -161,16 +171,22 @@ TEST(PreviewPreparation, LooksIntoEachDirectoryBesideTheWindow) {
     disk.AddDirectory("/k/Config/A/Pictures");
     {
         PreviewPictures previews{form, {disk, host.background}, layout, loader};
+        disk.questions = 0;
         previews.Prepare();
         EXPECT_THAT(disk.looks, IsEmpty());
+        EXPECT_EQ(disk.questions, 0) << "a slow disk stops the window";
+        // The next emulator's look-ups are its own.
+        form.TxtRomPath.SetText("/later/");
         host.background.Serve(0);
         EXPECT_THAT(disk.looks, ::testing::Contains("/roms/?*.*"));
         EXPECT_THAT(disk.looks, ::testing::Contains("/k/Config/A/Pictures/?*.*"));
         disk.looks.clear();
         previews.Prepare();
     }
+    disk.questions = 0;
     host.background.Serve(0);
     EXPECT_THAT(disk.looks, IsEmpty()) << "the launcher has gone";
+    EXPECT_EQ(disk.questions, 0);
 }
 
 }  // namespace

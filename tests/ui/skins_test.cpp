@@ -136,6 +136,26 @@ TEST_F(SkinsTest, FilesAreFoundWhateverTheCaseOfTheDirectory) {
     EXPECT_EQ(FindSkinFile(files, "/k/Config/A", "Loading"), "/k/Config/A/skin/LOADING.jpeg");
 }
 
+TEST_F(SkinsTest, OfTwoDirectoriesTheExactNameCountsThenTheFirst) {
+    files.AddFile("/k/Config/A/skin/Loading.png", "x");
+    files.AddFile("/k/Config/A/SKIN/Loading.png", "x");
+    EXPECT_EQ(FindSkinFile(files, "/k/Config/A/", "Loading"), "/k/Config/A/SKIN/Loading.png");
+    files.AddFile("/k/Config/A/Skin/Loading.png", "x");
+    EXPECT_EQ(FindSkinFile(files, "/k/Config/A/", "Loading"), "/k/Config/A/Skin/Loading.png");
+}
+
+TEST_F(SkinsTest, FileOfTheDirectorysNameHidesNoDirectory) {
+    files.AddFile("/k/Config/A/Skin", "x");
+    files.AddFile("/k/Config/A/skin/Loading.png", "x");
+    EXPECT_EQ(FindSkinFile(files, "/k/Config/A/", "Loading"), "/k/Config/A/skin/Loading.png");
+}
+
+TEST_F(SkinsTest, OlderPictureOfNearlyTheNameIsPassedOver) {
+    Add("Background.old.png");
+    Add("Background.png");
+    EXPECT_EQ(FindSkinFile(files, "/k/Config/A/", "Background"), "/k/Config/A/Skin/Background.png");
+}
+
 TEST_F(SkinsTest, PicturesComeFirst) {
     Add("Loading.bak");
     EXPECT_EQ(FindSkinFile(files, "/k/Config/A/", "Loading"), "/k/Config/A/Skin/Loading.bak");

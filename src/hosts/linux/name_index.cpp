@@ -9,6 +9,11 @@ namespace kivu::hosts {
 
 // All of it folded.
 struct NameIndex::Wish {
+    bool Fits(std::string_view key) const {
+        return key.size() >= prefix.size() + ending.size() && key.starts_with(prefix) &&
+               key.ends_with(ending);
+    }
+
     std::string prefix, ending, preferredStem;
 };
 
@@ -60,14 +65,13 @@ NameIndex::Names::const_iterator NameIndex::From(const Names& names, std::string
         [this](const Name& name, std::string_view wanted) { return KeyOf(name) < wanted; });
 }
 
-// The first whose stem is exactly this one.
+// The first whose stem is exactly this one. The prefix may go on behind the stem ("Background.").
 const NameIndex::Name* NameIndex::WithStem(const Names& names, std::string_view stem,
                                            const Wish& wish) const {
-    if (!stem.starts_with(wish.prefix)) return nullptr;
+    if (!stem.starts_with(wish.prefix) && !wish.prefix.starts_with(stem)) return nullptr;
     const auto fits = [&](const Name& name) {
         const std::string_view key = KeyOf(name);
-        return text::StemOf(key) == stem && key.size() >= wish.prefix.size() + wish.ending.size() &&
-               key.ends_with(wish.ending);
+        return text::StemOf(key) == stem && wish.Fits(key);
     };
     for (auto at = From(names, stem); at != names.end() && KeyOf(*at) == stem; ++at)
         if (fits(*at)) return &*at;
@@ -82,9 +86,7 @@ const NameIndex::Name* NameIndex::First(const Names& names, const Wish& wish) co
     if (const Name* own = WithStem(names, wish.preferredStem, wish)) return own;
     for (auto at = From(names, wish.prefix);
          at != names.end() && KeyOf(*at).starts_with(wish.prefix); ++at) {
-        const std::string_view key = KeyOf(*at);
-        if (key.size() >= wish.prefix.size() + wish.ending.size() && key.ends_with(wish.ending))
-            return &*at;
+        if (wish.Fits(KeyOf(*at))) return &*at;
     }
     return nullptr;
 }

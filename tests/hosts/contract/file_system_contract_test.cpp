@@ -177,12 +177,21 @@ TEST_F(FilesContract, TheFirstMatchIsTheSameOnEachHost) {
     };
     EXPECT_EQ(first("Turrican", "", "Turrican"), "turrican.jpg");
     EXPECT_EQ(first("Turrican", ".png", "Turrican"), "Turrican.png");
-    EXPECT_EQ(first("Turrican", ".png", "other"), "Turrican.png") << "the name that was looked for";
+    EXPECT_EQ(first("Turrican", ".png", "other"), "Turrican.png");
     EXPECT_EQ(first("Turrican", ".gif", "Turrican"), "") << "a directory";
     EXPECT_EQ(first("Ünder", ".png", "Ünder"), "ünder.PNG");
     EXPECT_EQ(first("Game [a]", "", "Game [a]"), "Game [a].gif");
     EXPECT_EQ(first("Z*", "", "Zool"), "");
     EXPECT_EQ(first("Zool", "", "Zool"), "Zool.nfo");
+    // A prefix that ends in a point is no stem; the preferred one still comes first.
+    for (const char* name : {"Background.old.png", "Background.png", "Background.bmp.nfo",
+                             "Corner.old.gif", "Corner.a.txt", "Corner"})
+        directory.Write(name, "x");
+    EXPECT_EQ(first("Background.", "", "Background"), "Background.png");
+    EXPECT_EQ(first("background.", "png", "BACKGROUND"), "Background.png");
+    EXPECT_EQ(first("Background.", "", "other"), "Background.old.png");
+    EXPECT_EQ(first("Corner.", "", "Corner"), "Corner.old.gif");
+    EXPECT_EQ(first("Corner.a", "", "Corner"), "Corner.a.txt");
     EXPECT_EQ(files.FirstMatch(directory.Path("missing"), "a", "", "a"), std::nullopt);
     EXPECT_EQ(files.FirstMatch("", "a", "", "a"), std::nullopt);
 }
