@@ -18,6 +18,8 @@ class StartUp {
  public:
     struct Hooks {
         Hook<void()> KeepDesignPictures{"StartUp.KeepDesignPictures"};
+        // What an emulator brings to the window, apart from its games.
+        Hook<void()> DressWindow{"StartUp.DressWindow"};
         // True: an earlier one runs, and this one has ended.
         Hook<bool()> PreviousInstance{"StartUp.PreviousInstance"};
     };
