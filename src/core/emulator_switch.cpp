@@ -140,7 +140,7 @@ void EmulatorSwitch::DressWindow() {
     hooks.LoadSkinPictures();
     ports.layout->Form_Resize();
     FillFontSizes();
-    settingsLoader.LoadSettings();
+    settingsLoader.LoadLook();
     SelectUsualFontSize();
 }
 

@@ -25,7 +25,6 @@ class StartUp {
     };
     struct Ports {
         Port<EmulatorChoice> choice{"StartUp.choice"};
-        Port<WindowLayout> layout{"StartUp.layout"};
     };
 
     StartUp(Form1& form, profile::Ini& ini, platform::FileSystem& files,

@@ -6,7 +6,6 @@ namespace kivu::wiring {
 
 void Launcher::Routines::JoinWindow() {
     startUp.ports.choice = emulatorBox;
-    startUp.ports.layout = layout;
     // A second start hands over to the first, which comes to the front.
     startUp.hooks.PreviousInstance = [this] { return handedFile.HandOver(); };
     startUp.hooks.KeepDesignPictures = [this] { skins.KeepDesignPictures(); };

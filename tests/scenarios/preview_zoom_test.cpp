@@ -10,6 +10,7 @@ namespace {
 class PreviewZoom : public PreviewScenario {
  protected:
     PreviewZoom() { Paint("Config/Alpha/Pictures/Ant (1990).bmp", 400, 300); }
+    std::string BeePath() { return tree.Path("Roms/Alpha/Bee (1991)(Maker).adf"); }
 };
 
 TEST_F(PreviewZoom, ClickShowsTheNaturalSizeAndAnotherOneTheOld) {
@@ -43,6 +44,14 @@ TEST_F(PreviewZoom, EndsWithWhateverComes) {
         {"maximised", [&] { Do("state", "Form1", 2); }},
         {"font", [&] { Do("set", "Form1.FontSizeCombo.ListIndex", 30); }},
         {"search", [&] { Do("type", "Form1.SearchDblsTxt", "bee"); }},
+        {"search in all", [&] { SearchAll("(19"); }},
+        {"start", [&] { Call("StartGame", BeePath()); }},
+        {"start by a key", [&] { Do("key", "Form1.WIthoutDoubles", "Enter"); }},
+        {"start of a game handed over", [&] { Do("summon", BeePath()); }},
+        {"rescan", [&] { Do("click", "Form1.LoadBtn"); }},
+        {"narrower", [&] { Do("key", "Form1", "Alt+Left"); }},
+        {"higher", [&] { Do("key", "Form1", "Alt+Down"); }},
+        {"key", [&] { Do("key", "Form1", "F2"); }},
     };
     for (const auto& [name, event] : events) {
         tree.WriteProgramProfile({{"LastEmulator", "Alpha"}});
@@ -78,6 +87,26 @@ TEST_F(PreviewZoom, PictureOfAnEmulatorStartsItInstead) {
     EXPECT_THAT(boxes[0]["text"].get<std::string>(), ::testing::HasSubstr("Beta"));
     EXPECT_EQ(Do("runs")["value"].size(), 1U);
     EXPECT_FALSE(Zoomed());
+}
+
+TEST_F(PreviewZoom, EndsWhileTheLaunchAndTheRescanShowTheirSigns) {
+    for (const bool rescan : {false, true}) {
+        Start();
+        Zoom();
+        // The first events of either.
+        Do("meanwhile", "events", 2, Json({"set", "Form1.Tag", "seen"}));
+        const auto zoomedWhenLetIn = [&] {
+            EXPECT_TRUE(Visible("LoadingBtn"));
+            EXPECT_FALSE(Visible("GamePicture"));
+            EXPECT_TRUE(InPlace());
+        };
+        Host().events.onDoEvents = zoomedWhenLetIn;
+        if (rescan) {
+            Do("click", "Form1.LoadBtn");
+        } else {
+            Do("dblclick", "Form1.WIthoutDoubles", 0);
+        }
+    }
 }
 
 }  // namespace
