@@ -44,7 +44,7 @@ TEST_F(PreviewZoom, EndsWithWhateverComes) {
         {"maximised", [&] { Do("state", "Form1", 2); }},
         {"font", [&] { Do("set", "Form1.FontSizeCombo.ListIndex", 30); }},
         {"search", [&] { Do("type", "Form1.SearchDblsTxt", "bee"); }},
-        {"search in all", [&] { SearchAll("(19"); }},
+        {"search in all", [&] { SearchAllFor("(19"); }},
         {"start", [&] { Call("StartGame", BeePath()); }},
         {"start by a key", [&] { Do("key", "Form1.WIthoutDoubles", "Enter"); }},
         {"start of a game handed over", [&] { Do("summon", BeePath()); }},
@@ -89,24 +89,99 @@ TEST_F(PreviewZoom, PictureOfAnEmulatorStartsItInstead) {
     EXPECT_FALSE(Zoomed());
 }
 
-TEST_F(PreviewZoom, EndsWhileTheLaunchAndTheRescanShowTheirSigns) {
+TEST_F(PreviewZoom, EndsBeforeTheSignsOfALaunchAndARescan) {
     for (const bool rescan : {false, true}) {
-        Start();
-        Zoom();
-        // The first events of either.
-        Do("meanwhile", "events", 2, Json({"set", "Form1.Tag", "seen"}));
-        const auto zoomedWhenLetIn = [&] {
-            EXPECT_TRUE(Visible("LoadingBtn"));
-            EXPECT_FALSE(Visible("GamePicture"));
-            EXPECT_TRUE(InPlace());
-        };
-        Host().events.onDoEvents = zoomedWhenLetIn;
-        if (rescan) {
-            Do("click", "Form1.LoadBtn");
-        } else {
-            Do("dblclick", "Form1.WIthoutDoubles", 0);
+        for (int n = 2; n < 5; ++n) {
+            Start();
+            Zoom();
+            Do("meanwhile", "events", n, Json({"get", "Form1.GamePicture.Visible"}),
+               Json({"get", "Form1.LoadingBtn.Visible"}));
+            const Json seen = (rescan ? Do("click", "Form1.LoadBtn")
+                                      : Do("dblclick", "Form1.WIthoutDoubles", 0))["meanwhile"];
+            ASSERT_EQ(seen.size(), 2U) << n;
+            EXPECT_EQ(seen[0]["value"], false) << n;
+            EXPECT_EQ(seen[1]["value"], true) << n;
         }
     }
+}
+
+TEST_F(PreviewZoom, EndsWhenAnEmulatorComesUp) {
+    Start();
+    LaunchBee();
+    Zoom();
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer", 1);
+    ASSERT_TRUE(Visible("AppRunningPicture"));
+    EXPECT_FALSE(Visible("GamePicture"));
+    EXPECT_TRUE(InPlace());
+    EXPECT_EQ(Shown(), bee);
+}
+
+TEST_F(PreviewZoom, StaysOverAMinimisedWindow) {
+    Start();
+    Zoom();
+    Do("state", "Form1", 1);
+    EXPECT_TRUE(Zoomed());
+    Do("state", "Form1", 0);
+    if (!Zoomed()) EXPECT_TRUE(InPlace());
+    if (Zoomed()) Do("key", "Form1", "F2");
+    EXPECT_TRUE(InPlace());
+    EXPECT_EQ(Shown(), ant);
+}
+
+TEST_F(PreviewZoom, KeyTogglesIt) {
+    Start();
+    Do("key", "Form1", "F2");
+    EXPECT_TRUE(Zoomed());
+    EXPECT_EQ(Number("VorschauBild.Width"), 6000);
+    Do("key", "Form1", "Shift+F2");
+    EXPECT_TRUE(Zoomed());
+    Do("key", "Form1", "F2");
+    EXPECT_TRUE(InPlace());
+    Do("key", "Form1", "Ctrl+F2");
+    EXPECT_TRUE(InPlace());
+    // Typed into a box it does the same, and writes nothing.
+    Do("focus", "Form1.SearchDblsTxt");
+    const std::string text = Text("SearchDblsTxt.Text");
+    Do("key", "Form1.SearchDblsTxt", "F2");
+    EXPECT_TRUE(Zoomed());
+    EXPECT_EQ(Text("SearchDblsTxt.Text"), text);
+}
+
+TEST_F(PreviewZoom, KeyDoesNothingInTheChoiceAndWhileAGameRuns) {
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    Do("key", "Form1", "F2");
+    EXPECT_FALSE(Zoomed());
+    Do("click", "Form1.Label1");
+    Do("key", "Form1", "F2");
+    EXPECT_FALSE(Zoomed()) << "the favourites of all lie over the choice";
+    EXPECT_EQ(Do("runs")["value"], Json::array());
+    Do("key", "Form1", "Escape");
+    LaunchBee();
+    Do("key", "Form1", "F2");
+    EXPECT_FALSE(Zoomed());
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer", 1);
+    Do("key", "Form1", "F2");
+    EXPECT_FALSE(Zoomed());
+    EmulatorGoes();
+    Do("tick", "Form1.EmuActiveTimer", 5);
+    Do("key", "Form1", "F2");
+    EXPECT_TRUE(Zoomed());
+}
+
+TEST_F(PreviewZoom, PictureOfACoveredEmulatorStartsNone) {
+    Start();
+    Do("focus", "Form1.EmuListbox");
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    Do("click", "Form1.Label1");
+    ASSERT_TRUE(Visible("FavoritenListeGlobal"));
+    Do("answer", "Yes");
+    Do("click", "Form1.GamePictureVis");
+    EXPECT_EQ(Do("boxes")["value"], Json::array());
+    EXPECT_EQ(Do("runs")["value"], Json::array());
+    EXPECT_FALSE(Zoomed());
 }
 
 }  // namespace
