@@ -134,8 +134,20 @@ void EmulatorSwitch::InitEmulatorView() {
     form.EmulatorLongListbox.SetVisible(false);
     ReadTitle();
     if (ServeCommandLine()) return;
-    if (form.FontSizeCombo.ListIndex() < 1) form.FontSizeCombo.SetListIndex(13);
+    SelectUsualFontSize();
     FinishView();
+}
+
+void EmulatorSwitch::DressWindow() {
+    hooks.LoadSkinPictures();
+    ports.layout->Form_Resize();
+    FillFontSizes();
+    settingsLoader.LoadLook();
+    SelectUsualFontSize();
+}
+
+void EmulatorSwitch::SelectUsualFontSize() {
+    if (form.FontSizeCombo.ListIndex() < 1) form.FontSizeCombo.SetListIndex(13);
 }
 
 void EmulatorSwitch::ShowDefaultTitle() {

@@ -64,6 +64,8 @@ class EmulatorSwitch : public EmulatorSwitching {
 
     void SelectEmulator(bool AddToGlobal) override;
     void InitEmulatorView() override;
+    // The same window with no files: a skin, the colours and the sizes to choose from, no games.
+    void DressWindow();
 
     Hooks hooks;
     Ports ports;
@@ -77,6 +79,7 @@ class EmulatorSwitch : public EmulatorSwitching {
     void ShowDefaultTitle();
     void PrepareMasterConfig();
     void FillFontSizes();
+    void SelectUsualFontSize();
     void ReadTitle();
     // True: the command line has started a game, or shown its box, and the program has ended.
     bool ServeCommandLine();

@@ -21,6 +21,11 @@ void SettingsLoader::LoadSettings() {
     form.SettingsSubPicture.SetVisible(smart == 1);
 }
 
+void SettingsLoader::LoadLook() {
+    form.FontSizeCombo.SetListIndex(ini.Read(keys::Fontsize, ProfilesOf(form)));
+    hooks.SetColors();
+}
+
 void SettingsLoader::LoadButtons() {
     for (std::size_t action = 0; action < keys::Buttons.size(); ++action)
         form.JoystickButtons[action] = ini.Read(keys::Buttons[action], ProfilesOf(form));

@@ -30,6 +30,8 @@ class SettingsLoader {
         : form(form), ini(ini), files(files), dialogs(dialogs) {}
 
     void LoadSettings();
+    // Of it, the font size and the colours.
+    void LoadLook();
     // Of it, which button of the controller does what.
     void LoadButtons();
 

@@ -80,8 +80,9 @@ void StartUp::SelectLastEmulator() {
         emulators.SelectEmulator(false);
         return;
     }
-    // The emulator has gone. Nothing is loaded, and nothing else would lay the window out.
-    ports.layout->Form_Resize();
+    // The emulator has gone. Nothing is loaded, and nothing else would lay the window out, colour
+    // it, or offer the sizes.
+    hooks.DressWindow();
 }
 
 int StartUp::RowOfEmulator(const std::string& stored) const {

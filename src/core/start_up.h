@@ -18,12 +18,13 @@ class StartUp {
  public:
     struct Hooks {
         Hook<void()> KeepDesignPictures{"StartUp.KeepDesignPictures"};
+        // What an emulator brings to the window, apart from its games.
+        Hook<void()> DressWindow{"StartUp.DressWindow"};
         // True: an earlier one runs, and this one has ended.
         Hook<bool()> PreviousInstance{"StartUp.PreviousInstance"};
     };
     struct Ports {
         Port<EmulatorChoice> choice{"StartUp.choice"};
-        Port<WindowLayout> layout{"StartUp.layout"};
     };
 
     StartUp(Form1& form, profile::Ini& ini, platform::FileSystem& files,

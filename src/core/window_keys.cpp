@@ -8,10 +8,20 @@ namespace kivu::core {
 namespace keys = forms::keys;
 namespace shifts = forms::shifts;
 
+namespace {
+constexpr int zoomKey = keys::f1 + 1;
+}
+
 void WindowKeys::Form_KeyDown(forms::Key& key) {
     if (key.code == keys::f4 && key.shift == shifts::alt) {
         key = {};
         CloseKey();
+        return;
+    }
+    if (key.code == zoomKey && key.shift == 0) {
+        // Held down, it would flicker.
+        if (!key.repeat) hooks.TogglePictureZoom();
+        key = {};
         return;
     }
     if (key.code == 'F' && key.shift == shifts::ctrl) form.SearchDblsTxt.SetFocus();

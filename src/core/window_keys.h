@@ -16,6 +16,7 @@ class WindowKeys {
  public:
     struct Hooks {
         Hook<void(int)> JoystickDirection{"WindowKeys.JoystickDirection"};
+        Hook<void()> TogglePictureZoom{"WindowKeys.TogglePictureZoom"};
     };
     struct Ports {
         Port<RunningEmulator> watch{"WindowKeys.watch"};

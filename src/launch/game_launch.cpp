@@ -85,6 +85,7 @@ void GameLaunch::Prepare(Run& run) {
     form.TmpBatName = text::RemoveQuotes(form.TmpBatName);
     routines.alwaysOnTop.SetToNormal();
     busy.HideAll(false);
+    hooks.SetVorschau();
     // The one tab that the busy state leaves; it would stand there alone.
     form.Label4.SetVisible(false);
     // Relative paths in the profile are meant from here.

@@ -32,6 +32,8 @@ class UaeFiles;
 class GameLaunch : public core::Launching {
  public:
     struct Hooks {
+        // The picture in its place, over which the signs of the launch show.
+        core::Hook<void()> SetVorschau{"GameLaunch.SetVorschau"};
         core::Hook<void()> ShowLoadingInfo{"GameLaunch.ShowLoadingInfo"};
         core::Hook<void(const std::string&)> MountGameImage{"GameLaunch.MountGameImage"};
         core::Hook<void()> RunStartScript{"GameLaunch.RunStartScript"};

@@ -40,6 +40,7 @@ void RunningWatch::ShowRunning() {
     if (seenRunning != form.CurrentRunninApplication) {
         seenRunning = form.CurrentRunninApplication;
         log.Write("came up: " + seenRunning);
+        hooks.SetVorschau();
     }
     form.AppRunningPicture.SetVisible(true);
     // A change of emulator looks once, long after the last game: what it shows must go again.

@@ -25,6 +25,8 @@ class RunningWatch : public core::RunningEmulator {
  public:
     struct Hooks {
         core::Hook<void(bool)> JoystickEnable{"RunningWatch.JoystickEnable"};
+        // The picture in its place, not over the sign that something runs.
+        core::Hook<void()> SetVorschau{"RunningWatch.SetVorschau"};
         core::Hook<void()> RestoreDisplayMode{"RunningWatch.RestoreDisplayMode"};
         // Buttons of the controller that are still held from the game.
         core::Hook<void()> HoldButtonsBack{"RunningWatch.HoldButtonsBack"};

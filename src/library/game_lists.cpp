@@ -147,6 +147,7 @@ void GameLists::LoadBtn_Click() {
     const std::string sign = form.LoadingBtn.Caption(), titleLine = form.MyCaptionLabel.Caption();
     form.LoadBtn.SetEnabled(false);
     busy.HideAll(false);
+    hooks.SetVorschau();
     form.UAE_Short.Clear();
     form.UAE_FULL.Clear();
     busy.HideAll(false);

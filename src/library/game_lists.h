@@ -28,6 +28,10 @@ class GameLists : public core::LoadedGames {
         core::Port<core::ListFront> front{"GameLists.front"};
         core::Port<core::RunningEmulator> watch{"GameLists.watch"};
     };
+    struct Hooks {
+        // The picture in its place, not over the sign of the rescan.
+        core::Hook<void()> SetVorschau{"GameLists.SetVorschau"};
+    };
     struct Emulators {
         core::EmulatorChoice& choice;
         core::EmulatorSwitching& switching;
@@ -60,6 +64,7 @@ class GameLists : public core::LoadedGames {
     void AddToALL_LIST() override;
     void ReloadEmulatorsAll();
 
+    Hooks hooks;
     Ports ports;
 
  private:

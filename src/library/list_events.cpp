@@ -85,6 +85,9 @@ void ListEvents::WIthoutDoubles_Click() {
         form.UAE_FULL.SetListIndex(row);
         form.DeLFav.SetVisible(false);
         form.OfferFavourites();
+    } else {
+        // Its game has gone since, and no other's picture is meant.
+        hooks.RefreshPreview();
     }
     ports.drives->FillFromGame(row);
 }

@@ -58,6 +58,9 @@ ColorSelect::ColorSelect(ColorSelectControls& controls, core::Form1& main,
     for (forms::OptionButton* option : {&controls.Option1, &controls.Option2}) {
         option->onClick = [this] { Option_Click(); };
         option->onDblClick = [this, option] { Option_DblClick(*option); };
+        option->onKeyDown = [this, option](forms::Key& key) { Option_KeyDown(*option, key); };
+        option->SetToolTipText(main.Say("Doppelklick oder F2: die Farbe als Text eingeben",
+                                        "Double click or F2: enter the colour as text"));
     }
     Show(main.FormBackColor, main.FormForeColor);
     ShowOnSliders();
@@ -136,6 +139,14 @@ void ColorSelect::Pick(Color color) {
 
 void ColorSelect::Option_Click() {
     ShowOnSliders();
+}
+
+void ColorSelect::Option_KeyDown(forms::OptionButton& option, forms::Key& key) {
+    constexpr int f2 = forms::keys::f1 + 1;
+    if (key.code != f2 || key.shift != 0) return;
+    const bool repeat = key.repeat;
+    key = {};
+    if (!repeat) Option_DblClick(option);
 }
 
 void ColorSelect::Option_DblClick(forms::OptionButton& option) {

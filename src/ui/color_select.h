@@ -57,6 +57,8 @@ class ColorSelect {
 
     void ColSlider1_Change();
     void Option_Click();
+    // F2, for those who have no mouse.
+    void Option_KeyDown(forms::OptionButton& option, forms::Key& key);
     // Asks for the option's colour as text.
     void Option_DblClick(forms::OptionButton& option);
 

@@ -235,7 +235,11 @@ void PreviewPictures::PreviewTimer_Timer() {
 void PreviewPictures::Refresh(int index) {
     // These have pictures of their own.
     if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible() ||
-        form.GlobalSearchList.Visible() || !form.ListsVisible)
+        form.GlobalSearchList.Visible())
+        return;
+    // A list may be in front before the window is out of its busy state.
+    if (!form.ListsVisible && !form.FavoritenListe.Visible() && !form.WIthoutDoubles.Visible() &&
+        !form.UAE_Short.Visible() && !form.SuchErgList.Visible())
         return;
     if (shownGame != form.UAE_FULL.List(index)) ShowGamePreview(index);
 }
@@ -256,7 +260,10 @@ void PreviewPictures::Prepare() {
 }
 
 void PreviewPictures::GamePictureVis_MouseDown() {
-    pressStarted = form.EmulatorLongListbox.Visible() && form.EmulatorLongListbox.ListIndex() >= 0;
+    // With the favourites of all emulators over the choice, its row is not to be seen.
+    const bool inFront = form.EmulatorLongListbox.Visible() &&
+                         !form.FavoritenListeGlobal.Visible() && !form.GlobalSearchList.Visible();
+    pressStarted = inFront && form.EmulatorLongListbox.ListIndex() >= 0;
     if (pressStarted) hooks.StartEmulator(form.EmulatorLongListbox.SelectedText(), true);
 }
 
@@ -264,6 +271,16 @@ void PreviewPictures::GamePictureVis_Click() {
     const bool started = std::exchange(pressStarted, false);
     if (started || form.EmulatorLongListbox.Visible()) return;
     if (form.GamePicture.GetPicture() != forms::Picture{}) layout.ZoomPicture();
+}
+
+void PreviewPictures::ToggleZoom() {
+    if (form.GamePicture.Visible()) {
+        layout.SetVorschau();
+    } else if (form.VorschauBild.Visible() && form.GamePictureVis.Visible() && !form.Busy &&
+               !form.EmulatorRuns()) {
+        pressStarted = false;
+        GamePictureVis_Click();
+    }
 }
 
 void PreviewPictures::GamePicture_Click() {

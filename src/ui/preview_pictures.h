@@ -65,6 +65,8 @@ class PreviewPictures {
     void GamePictureVis_Click();
     void GamePictureVis_MouseDown();
     void GamePicture_Click();
+    // By the keyboard; not over what runs, and not in the choice of emulators.
+    void ToggleZoom();
     // What comes late leaves the frame empty meanwhile.
     void PreviewTimer_Timer();
 

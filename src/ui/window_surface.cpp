@@ -2,6 +2,7 @@
 
 #include "core/emulator_paths.h"
 #include "core/form1.h"
+#include "support/path_forms.h"
 
 namespace kivu::ui {
 
@@ -9,6 +10,9 @@ void WindowSurface::MyCaptionLabel_DblClick() {
     const std::string stored = ini.Read(profile::keys::TitleString, core::ProfilesOf(form));
     const std::string title = services.dialogs.InputBox("New Title", "Title", stored);
     if (title.empty()) return;
+    // An emulator that was never dressed has none. Whether it is there shows in what follows.
+    (void)services.files.MakeDirectory(
+        support::DirectoryOf(services.files, form.GetColorsIniName()));
     ini.Write(profile::keys::TitleString, core::ProfilesOf(form), title);
     busy.MeCaption(title);
 }

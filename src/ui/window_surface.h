@@ -6,6 +6,7 @@
 #include "core/busy_state.h"
 #include "forms/types.h"
 #include "platform/dialogs.h"
+#include "platform/file_system.h"
 #include "platform/program_starter.h"
 #include "profile/ini.h"
 #include "support/always_on_top.h"
@@ -22,6 +23,7 @@ class WindowSurface {
     struct Services {
         platform::Dialogs& dialogs;
         platform::ProgramStarter& starter;
+        platform::FileSystem& files;
     };
 
     // `projectPage`: the address of the project's page, empty while it has none.

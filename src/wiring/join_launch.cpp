@@ -9,6 +9,9 @@ void Launcher::Routines::JoinLaunch() {
     uaeFiles.hooks.Add_CURRENT_PROGRAM_STARTED = [this](std::string& name) {
         gameLaunch.Add_CURRENT_PROGRAM_STARTED(name);
     };
+    // A zoomed picture lies over what tells of a launch.
+    gameLaunch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
+    watch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
     handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
 
     form.EmuActiveTimer.onTimer = [this] { watch.Tick(); };

@@ -7,6 +7,7 @@ namespace kivu::wiring {
 void Launcher::Routines::JoinLists() {
     gameLists.ports.front = listEvents;
     gameLists.ports.watch = watch;
+    gameLists.hooks.SetVorschau = [this] { layout.SetVorschau(); };
     markedGame.ports.favourite = favoritenEvents;
     listEvents.ports.launching = gameLaunch;
     listEvents.ports.drives = driveSlots;

@@ -6,16 +6,17 @@ namespace kivu::wiring {
 
 void Launcher::Routines::JoinWindow() {
     startUp.ports.choice = emulatorBox;
-    startUp.ports.layout = layout;
     // A second start hands over to the first, which comes to the front.
     startUp.hooks.PreviousInstance = [this] { return handedFile.HandOver(); };
     startUp.hooks.KeepDesignPictures = [this] { skins.KeepDesignPictures(); };
+    startUp.hooks.DressWindow = [this] { emulatorSwitch.DressWindow(); };
     settingsLoader.ports.layout = layout;
     // An emulator brings its skin's colours with its settings.
     settingsLoader.hooks.SetColors = [this] { windowColors.SetColors(form, -1, -1); };
     shutDown.ports.layout = layout;
     windowKeys.ports.watch = watch;
     windowKeys.hooks.JoystickDirection = [this](int key) { navigation.JoystickDirection(key); };
+    windowKeys.hooks.TogglePictureZoom = [this] { previews.ToggleZoom(); };
 
     form.onResize = [this] { layout.Form_Resize(); };
     form.VorschauBild.onResize = [this] { layout.VorschauBild_Resize(); };

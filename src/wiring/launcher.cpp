@@ -87,7 +87,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       skins(form, host.files, pictureLoader),
       windowColors(form, ini),
       hints(form),
-      surface(form, ini, {dialogs, host.starter}, busy, alwaysOnTop, core::projectPage),
+      surface(form, ini, {dialogs, host.starter, host.files}, busy, alwaysOnTop, core::projectPage),
       panelDrag(form, layout),
       previews(form, {host.files, host.background}, layout, pictureLoader),
       controllers(form, {host.controllers, dialogs, host.events}),

@@ -57,6 +57,15 @@ TEST_F(ColorScenario, DoubleClickAsks) {
     EXPECT_EQ(colors->changes, 1);
 }
 
+TEST_F(ColorScenario, KeyAsks) {
+    Open();
+    Do("input", "#22303c");
+    Do("key", "Colors.Option2", "F2");
+    EXPECT_EQ(Do("boxes").at("value").size(), 1U);
+    EXPECT_EQ(Text("ForeColor"), "#22303C");
+    EXPECT_EQ(Of("Option2.Value"), 1);
+}
+
 TEST_F(ColorScenario, NothingIsWritten) {
     tree.Write("Config/Alpha/Skin/Skin.ini",
                "[Settings]\r\nBackColor=#010203\r\nFontColor=#040506\r\nTitleString=Mine\r\n");

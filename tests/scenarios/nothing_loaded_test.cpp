@@ -48,6 +48,25 @@ TEST_F(NothingLoaded, WithALastEmulatorThatHasGone) {
     ExpectNoRescan();
 }
 
+TEST_F(NothingLoaded, WithALastEmulatorThatHasGoneTheWindowIsDressedAllTheSame) {
+    tree.WriteProgramProfile({{"LastEmulator", "Gone"}, {"Fontsize", "20"}});
+    Start();
+    EXPECT_EQ(Do("boxes")["value"], Json::array());
+    EXPECT_EQ(Get("FontSizeCombo.ListCount"), 73);
+    EXPECT_EQ(Get("FontSizeCombo.ListIndex"), 20);
+    EXPECT_EQ(Get("WIthoutDoubles.FontSize"), 15);
+    EXPECT_EQ(Text("BackColor"), "#0052BC");
+    EXPECT_EQ(Text("Label2.BackColor"), "#0052BC");
+    EXPECT_EQ(Text("SearchDblsTxt.BackColor"), "#FFFFFF");
+    EXPECT_EQ(Text("SearchDblsTxt.ForeColor"), "#0052BC");
+    EXPECT_EQ(Text("FavoritenListe.BackColor"), "#E0FFF1");
+    EXPECT_FALSE(tree.Exists("Config/Gone"));
+    // A size that no row has is the usual one.
+    tree.WriteProgramProfile({{"LastEmulator", "Gone"}, {"Fontsize", "-1"}});
+    Start();
+    EXPECT_EQ(Get("FontSizeCombo.ListIndex"), 13);
+}
+
 TEST_F(NothingLoaded, WithNoEmulatorLeft) {
     std::filesystem::remove_all(tree.Path("Config/Alpha"));
     std::filesystem::remove_all(tree.Path("Config/Beta"));

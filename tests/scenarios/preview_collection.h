@@ -45,6 +45,10 @@ class PreviewScenario : public LoadedScenario {
                Number("GamePictureVis.Width") == Number("VorschauBild.Width") &&
                Number("GamePictureVis.Height") == Number("VorschauBild.Height");
     }
+    void SearchAllFor(const char* text) {
+        Do("set", "Form1.SearchDblsTxt.Text", text);
+        Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    }
     void ChooseEmulator(int row) {
         Do("focus", "Form1.EmuListbox");
         Do("dblclick", "Form1.EmulatorLongListbox", row);

@@ -1,5 +1,9 @@
 // The picture of the selected game, or of the emulator.
 
+#include <functional>
+#include <tuple>
+#include <vector>
+
 #include "scenarios/preview_collection.h"
 
 namespace kivu::scenarios {
@@ -171,8 +175,7 @@ TEST_F(Preview, StaysWhatItIsWhileAGameRuns) {
 
 TEST_F(Preview, OfAHitsEmulatorAndOfTheGameOnceTheHitsAreLeft) {
     Start();
-    Do("set", "Form1.SearchDblsTxt.Text", "(19");
-    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    SearchAllFor("(19");
     ASSERT_TRUE(Visible("GlobalSearchList"));
     EXPECT_EQ(Shown(), "Alpha.bmp");
     Do("select", "Form1.GlobalSearchList", Number("GlobalSearchList.ListCount") - 1);
@@ -181,15 +184,80 @@ TEST_F(Preview, OfAHitsEmulatorAndOfTheGameOnceTheHitsAreLeft) {
     const int row = Number("UAE_Short.ListIndex");
     EXPECT_EQ(Shown(), row < 0 ? "(none)" : row == 2 ? bee : ant);
     // The next search shows its hits' emulator again, also when that was the last one shown.
-    Do("set", "Form1.SearchDblsTxt.Text", "(19");
-    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    SearchAllFor("(19");
     Do("select", "Form1.GlobalSearchList", 0);
     EXPECT_EQ(Shown(), "Alpha.bmp");
     Do("click", "Form1.Label2");
     EXPECT_NE(Shown(), "Alpha.bmp");
-    Do("set", "Form1.SearchDblsTxt.Text", "bee");
-    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    SearchAllFor("bee");
     EXPECT_EQ(Shown(), "Alpha.bmp");
+}
+
+TEST_F(Preview, OfTheSelectedGameAfterASearchInAllWithoutAHit) {
+    Start();
+    Do("select", "Form1.WIthoutDoubles", 1);
+    SearchAllFor("nobody");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_EQ(Shown(), bee);
+    // Nor does the emulator of an earlier search's hits stay.
+    SearchAllFor("(19");
+    ASSERT_EQ(Shown(), "Alpha.bmp");
+    SearchAllFor("nobody");
+    EXPECT_EQ(Get("GlobalSearchList.ListCount"), 0);
+    EXPECT_EQ(Shown(), bee);
+}
+
+TEST_F(Preview, OfTheGameOnceARunningOneIsEndedOverTheOpenChoice) {
+    Start();
+    LaunchBee();
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer", 1);
+    ASSERT_TRUE(Visible("AppRunningPicture"));
+    Do("focus", "Form1.EmuListbox");
+    EXPECT_EQ(Shown(), "Alpha.bmp");
+    Do("key", "Form1", "Alt+F4");
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
+    EXPECT_EQ(Shown(), bee);
+    Do("tick", "Form1.EmuActiveTimer", 5);
+    EXPECT_EQ(Shown(), bee);
+}
+
+TEST_F(Preview, OfNoGameForARowWhoseGameHasGone) {
+    Start();
+    Do("file", "remove", "Roms/Alpha/Bee (1991)(Maker).adf");
+    // It would be found as a game.
+    Do("file", "remove", "Roms/Alpha/" + bee);
+    Do("click", "Form1.LoadBtn");
+    Do("click", "Form1.Label2");
+    ASSERT_EQ(Get("UAE_Short.ListIndex"), -1);
+    EXPECT_EQ(Shown(), ant) << "that of the marked row";
+    Do("select", "Form1.WIthoutDoubles", 1);
+    ASSERT_EQ(Get("UAE_Short.ListIndex"), -1);
+    EXPECT_EQ(Shown(), "(none)");
+}
+
+TEST_F(Preview, OnItsWayComesToNothingOnceSomethingElseIsShown) {
+    const std::vector<std::tuple<const char*, std::function<void()>, std::string>> events{
+        {"choice", [&] { Do("focus", "Form1.EmuListbox"); }, "Alpha.bmp"},
+        {"search in all", [&] { SearchAllFor("(19"); }, "Alpha.bmp"},
+        {"emulator", [&] { ChooseEmulator(1); }, "(none)"},
+        {"start", [&] { Do("dblclick", "Form1.WIthoutDoubles", 1); }, bee},
+    };
+    // Larger than what is read at once.
+    Paint("Roms/Alpha/Bee (1991)(Maker).png", 1200, 1000);
+    for (const auto& [name, event, shown] : events) {
+        tree.WriteProgramProfile({{"LastEmulator", "Alpha"}});
+        Start();
+        Host().background.inlined = false;
+        Do("select", "Form1.WIthoutDoubles", 1);
+        ASSERT_FALSE(Host().background.waiting.empty()) << name;
+        event();
+        while (!Host().background.waiting.empty())
+            Host().background.Serve(0);
+        EXPECT_EQ(Shown(), shown) << name;
+        EXPECT_FALSE(Visible("GamePicture")) << name;
+        EXPECT_EQ(Get("PreviewTimer.Enabled"), false) << name;
+    }
 }
 
 TEST_F(Preview, WithoutAnEmulatorNothingIsShownOrMade) {

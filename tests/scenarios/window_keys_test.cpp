@@ -113,7 +113,7 @@ TEST_F(WindowKeys, TitleIsChangedByADoubleClickAndAnEmptyAnswerKeepsIt) {
     Json box = Do("boxes")["value"][0];
     EXPECT_EQ(box["text"], "New Title");
     EXPECT_EQ(box["title"], "Title");
-    tree.MakeDirectory("Config/Alpha/Skin");
+    ASSERT_FALSE(tree.Exists("Config/Alpha/Skin"));
     Do("input", "Amiga");
     Do("dblclick", "Form1.MyCaptionLabel");
     EXPECT_EQ(Get("MyCaptionLabel.Caption"), "Amiga");

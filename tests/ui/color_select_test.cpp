@@ -111,6 +111,25 @@ TEST_F(ColorSelectTest, DoubleClickChoosesItsOptionFirst) {
     EXPECT_EQ(changes, 1);
 }
 
+TEST_F(ColorSelectTest, KeyAsksForTheColourOfItsOption) {
+    constexpr int f2 = forms::keys::f1 + 1;
+    picker.SetForeColor(0);
+    dialogs.inputs = {"#01#02#03"};
+    forms::Key key{f2};
+    controls.Option2.onKeyDown(key);
+    EXPECT_EQ(key.code, 0);
+    ASSERT_EQ(dialogs.shown.size(), 1U);
+    EXPECT_EQ(picker.GetForeColor(), 0x030201);
+    EXPECT_EQ(controls.Option2.Value(), 1);
+    EXPECT_EQ(changes, 1);
+    // Neither with a shift key, nor held down, nor any other.
+    for (forms::Key other :
+         {forms::Key{f2, forms::shifts::ctrl}, forms::Key{f2, 0, true}, forms::Key{f2 + 1}}) {
+        controls.Option2.onKeyDown(other);
+        EXPECT_EQ(dialogs.shown.size(), 1U);
+    }
+}
+
 TEST_F(ColorSelectTest, EmptyAnswerChangesNothing) {
     picker.SetBackColor(33023);
     controls.Option1.DoubleClick();

@@ -75,7 +75,12 @@ TEST_F(LayoutSizes, ToldOffsetsOfTheFrame) {
     EXPECT_EQ(form.JoystickIcon.Left(), 3677);
     EXPECT_EQ(form.SettingsBtn.Left(), 3367);
     EXPECT_EQ(form.SettingsShortBtn.Left(), 3367);
+    // Both end where they are told to, and are as wide as the column lets them.
+    EXPECT_EQ(form.ExitBtn.Width(), 1200);
     EXPECT_EQ(form.ExitBtn.Left(), 4867 - form.ExitBtn.Width() - 300);
+    EXPECT_EQ(form.SearchDblsTxt.Width(), 2207);
+    EXPECT_EQ(form.SearchDblsTxt.Left(), form.ExitBtn.Left() - 300 - form.SearchDblsTxt.Width());
+    EXPECT_EQ(form.SearchAllBtn.Left(), 100);
     EXPECT_EQ(form.TopRightPic.Left(), 10900);
     EXPECT_EQ(form.EmuListbox.Width(), 3520);
     EXPECT_EQ(form.Label1.Left(), 4020);

@@ -71,6 +71,15 @@ struct Clicks : PreviewRoom {
         Files({"/roms/amiga/One.png", "/roms/amiga/Two.png"});
         ShowGame("One.adf");
     }
+    std::vector<forms::ListBox*> GameLists() {
+        return {&form.FavoritenListe, &form.WIthoutDoubles, &form.UAE_Short, &form.SuchErgList};
+    }
+    // As in the busy state.
+    void HideLists() {
+        form.ListsVisible = false;
+        for (forms::ListBox* list : GameLists())
+            list->SetVisible(false);
+    }
     void Click() {
         previews.GamePictureVis_MouseDown();
         previews.GamePictureVis_Click();
@@ -85,6 +94,72 @@ TEST_F(Clicks, PictureIsZoomedAndComesBack) {
     EXPECT_FALSE(form.GamePicture.Visible());
     EXPECT_EQ(form.VorschauBild.Left(), 9433);
     EXPECT_THAT(started, IsEmpty());
+}
+
+TEST_F(Clicks, KeyZoomsAndPutsBack) {
+    previews.ToggleZoom();
+    EXPECT_TRUE(form.GamePicture.Visible());
+    previews.ToggleZoom();
+    EXPECT_FALSE(form.GamePicture.Visible());
+    EXPECT_EQ(form.VorschauBild.Left(), 9433);
+    EXPECT_EQ(Shown(), "/roms/amiga/One.png");
+}
+
+TEST_F(Clicks, KeyZoomsNothingOverWhatIsUnderWayOrInTheChoice) {
+    const auto expectNoZoom = [&](const char* when) {
+        previews.ToggleZoom();
+        EXPECT_FALSE(form.GamePicture.Visible()) << when;
+    };
+    form.Busy = true;
+    expectNoZoom("busy");
+    form.Busy = false;
+    form.AppRunningPicture.SetVisible(true);
+    expectNoZoom("running");
+    form.AppRunningPicture.SetVisible(false);
+    form.EmulatorLongListbox.AddItem("Amiga 500");
+    form.EmulatorLongListbox.SetListIndex(0);
+    form.EmulatorLongListbox.SetVisible(true);
+    expectNoZoom("choice");
+    EXPECT_THAT(started, IsEmpty());
+    form.EmulatorLongListbox.SetVisible(false);
+    // What was zoomed before comes back all the same.
+    previews.ToggleZoom();
+    form.Busy = true;
+    expectNoZoom("busy, zoomed");
+    form.Busy = false;
+    ShowGame("Other.adf");
+    expectNoZoom("no picture");
+    previews.LoadVorschauImageFromPAth("");
+    expectNoZoom("empty frame");
+}
+
+TEST_F(Clicks, PressOnThePictureStartsNoEmulatorThatIsCovered) {
+    form.EmulatorLongListbox.AddItem("Amiga 500");
+    form.EmulatorLongListbox.SetListIndex(0);
+    form.EmulatorLongListbox.SetVisible(true);
+    for (forms::ListBox* over : {&form.FavoritenListeGlobal, &form.GlobalSearchList}) {
+        over->SetVisible(true);
+        Click();
+        EXPECT_THAT(started, IsEmpty()) << over->Name();
+        EXPECT_FALSE(form.GamePicture.Visible()) << over->Name();
+        over->SetVisible(false);
+    }
+    Click();
+    EXPECT_THAT(started, ElementsAre("Amiga 500?"));
+}
+
+TEST_F(Clicks, ListInFrontShowsItsGameWhileTheWindowIsStillBusy) {
+    Files({"/opt/kivu/Config/Amiga 500/Skin/Loading.png"});
+    HideLists();
+    for (forms::ListBox* list : GameLists()) {
+        previews.ShowEmulatorPreview(0);
+        previews.Refresh(0);
+        EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
+        list->SetVisible(true);
+        previews.Refresh(0);
+        EXPECT_EQ(Shown(), "/roms/amiga/One.png") << list->Name();
+        list->SetVisible(false);
+    }
 }
 
 TEST_F(Clicks, NextGameEndsTheZoom) {
@@ -130,7 +205,7 @@ TEST_F(Clicks, ListThatComesForwardShowsItsGamesPictureAgain) {
     previews.Refresh(0);
     EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
     form.EmulatorLongListbox.SetVisible(false);
-    form.ListsVisible = false;
+    HideLists();
     previews.Refresh(0);
     EXPECT_EQ(Shown(), "/opt/kivu/Config/Amiga 500/Skin/Loading.png");
     form.ListsVisible = true;

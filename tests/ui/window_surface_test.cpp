@@ -11,7 +11,7 @@ namespace {
 
 struct WindowSurfaceTest : ::testing::Test {
     WindowSurface Surface(const std::string& page) {
-        return {form, ini, {host.dialogs, host.starter}, busy, alwaysOnTop, page};
+        return {form, ini, {host.dialogs, host.starter, files}, busy, alwaysOnTop, page};
     }
 
     testing::MemoryFileSystem files;
@@ -33,6 +33,18 @@ TEST_F(WindowSurfaceTest, TitleOpensTheProjectsPage) {
 TEST_F(WindowSurfaceTest, TitleWithoutAPageOpensNothing) {
     Surface("").TitleStr_Click();
     EXPECT_TRUE(host.starter.runs.empty());
+}
+
+TEST_F(WindowSurfaceTest, FirstTitleMakesTheSkinsDirectory) {
+    files.AddDirectory("/k/Config/Alpha");
+    form.ColorsIniName = "/k/Config/Alpha/Skin/Skin.ini";
+    const auto dblClick = [&] { Surface("").MyCaptionLabel_DblClick(); };
+    dblClick();
+    EXPECT_FALSE(files.IsDirectory("/k/Config/Alpha/Skin")) << "no answer";
+    host.dialogs.inputs.push_back("Amiga");
+    dblClick();
+    EXPECT_TRUE(files.FileExists(form.ColorsIniName));
+    EXPECT_EQ(form.MyCaptionLabel.Caption(), "Amiga");
 }
 
 }  // namespace
