@@ -94,6 +94,7 @@ TEST_F(FileDialogTest, CancelGivesTheEmptyText) {
         [](FilesForm& form) { Strike(form, "Escape"); },
         [](FilesForm& form) { form.SetVisible(false); },
         [](FilesForm& form) { EXPECT_TRUE(form.Close()); },
+        [](FilesForm& form) { form.Unload(); },
     };
     for (const Hands& way : ways) {
         EXPECT_EQ(Open("C:\\Emu", "", "",
