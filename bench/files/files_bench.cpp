@@ -10,6 +10,7 @@
 #include "forms/window_host.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/user_store_linux.h"
+#include "platform/beeper.h"
 #include "ratio/ratio.h"
 #include "support/directory_lists.h"
 #include "support/file_dialog_window.h"
@@ -45,8 +46,9 @@ class Order : public forms::Collation {
     std::uint64_t Rank(std::string_view text) const override { return text::SortRank(text); }
 };
 
-class Silent : public platform::ProgramStarter, public platform::Dialogs {
+class Silent : public platform::ProgramStarter, public platform::Dialogs, public platform::Beeper {
  public:
+    void Beep() override {}
     std::error_code Run(const platform::StartRequest&) override { return {}; }
     bool UsesShell() const override { return true; }
     std::error_code Open(const std::string&) override { return {}; }
@@ -76,7 +78,7 @@ double Ours(const Directory& directory) {
     NoScreen screen;
     support::DirectoryLists lists(disk);
     support::FilesWindow window(forms::Toolkit{nullptr, &order, &lists, &screen}, false,
-                                {disk, store, silent, silent});
+                                {disk, store, silent, silent}, silent);
     const double seconds = bench::Seconds([&] {
         window.Ask({support::FilesForm::openFile, directory.path.string(), "", "*.adf"});
     });

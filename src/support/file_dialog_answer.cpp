@@ -1,6 +1,7 @@
 #include "support/file_dialog_answer.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 #include "support/file_dialog_paths.h"
@@ -58,35 +59,73 @@ void FileDialogAnswer::ChooseFile(const std::string& name) {
 }
 
 void FileDialogAnswer::File1_Click() {
-    if (!filling) form.FileName.SetText(form.File1.List(form.File1.ListIndex()));
+    if (filling) return;
+    // The rows are those of the directory on show, not of a share that was typed.
+    form.NetworkPath.clear();
+    form.FileName.SetText(form.File1.List(form.File1.ListIndex()));
+    lists.ShowFullPath();
 }
 
 void FileDialogAnswer::Ok_Click() {
-    const std::string directory = lists.Directory();
-    if (form.AsksForDirectory()) {
-        const std::string chosen = lists.ChosenDirectory();
-        Finish(WithSeparator(chosen.empty() ? directory : chosen));
-        return;
+    if (lists.TakeRefusedPath()) {
+        form.KomplettPfadText.SetFocus();
+        lists.Refuse();
+    } else if (form.AsksForDirectory()) {
+        AnswerDirectory();
+    } else {
+        AnswerFile();
     }
+}
+
+void FileDialogAnswer::AnswerDirectory() {
+    const std::string chosen = lists.ChosenDirectory();
+    const std::string directory = chosen.empty() ? lists.Directory() : chosen;
+    if (form.NetworkPath.empty() && !files.IsDirectory(directory)) {
+        lists.ReadAnew();
+        lists.Refuse();
+    } else {
+        Finish(WithSeparator(directory));
+    }
+}
+
+void FileDialogAnswer::AnswerFile() {
     const std::string typed = form.FileName.Text();
     const std::string chosen = lists.ChosenFile();
     const bool blank = text::Trim(typed).empty();
-    if (blank && form.Saves()) {
-        Finish(WithSeparator(directory));
+    if (blank && (form.Saves() || chosen.empty())) {
+        AskForName();
     } else if (blank || typed == chosen) {
         // The row's name as it is, blanks at its ends and signs of a mask too.
-        Finish(JoinedPath(directory, chosen));
+        Finish(JoinedPath(lists.Directory(), chosen));
     } else {
         AnswerName(typed);
     }
 }
 
+// The directory alone would be taken for a file by whoever has asked.
+void FileDialogAnswer::AskForName() {
+    if (!lists.ChosenDirectory().empty()) {
+        lists.EnterChosen();
+        return;
+    }
+    form.FileName.SetFocus();
+    lists.Refuse();
+}
+
 void FileDialogAnswer::AnswerName(const std::string& typed) {
     const std::string path = lists.PathOf(typed);
-    if (HasWildcard(path)) {
-        lists.TakeMask(path);
-    } else if (files.IsDirectory(path) && lists.GoTo(path)) {
+    const std::string_view name = text::FileNameView(path);
+    const std::string directory(DirectoryPart(path));
+    if (!name.empty() && HasWildcard(name) && lists.TakeMask(path)) return;
+    if (files.IsDirectory(path) && lists.GoTo(path)) {
         form.FileName.SetText("");
+        return;
+    }
+    // Names of directories may hold the signs of a mask too, but such a one must be there.
+    const bool mask =
+        HasWildcard(name) || (HasWildcard(directory) && !files.IsDirectory(directory));
+    if (name.empty() || mask || files.IsDirectory(path)) {
+        lists.Refuse();
     } else {
         Finish(path);
     }

@@ -23,13 +23,17 @@ class FileDialogAnswer {
 
     void File1_Click();
     void FileName_Change() { lists.ShowFullPath(); }
-    // Leaves the window open where what was typed is a mask or leads into a directory.
+    // Leaves the window open where what was typed is a mask or leads into a directory, and where
+    // there is nothing to answer: a directory is no file.
     void Ok_Click();
     void Abbruch_Click();
 
  private:
     void Begin(const std::string& path, const std::string& name);
     void ChooseFile(const std::string& name);
+    void AnswerDirectory();
+    void AnswerFile();
+    void AskForName();
     void AnswerName(const std::string& typed);
     void Finish(std::string result);
 

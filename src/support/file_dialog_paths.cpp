@@ -30,6 +30,19 @@ std::string WithOneSeparator(std::string path) {
     return path;
 }
 
+// The first line that holds anything: what is copied from a terminal ends in a line break.
+std::string_view FirstLine(std::string_view typed) {
+    typed.remove_prefix(std::min(typed.find_first_not_of("\r\n"), typed.size()));
+    return typed.substr(0, typed.find_first_of("\r\n"));
+}
+
+// "\\nas\roms" of all that lies on it.
+std::string_view ShareOf(std::string_view directory) {
+    const std::size_t machine = directory.find_first_of("/\\", 2);
+    if (machine == std::string_view::npos) return directory;
+    return directory.substr(0, directory.find_first_of("/\\", machine + 1));
+}
+
 std::string WindowsPath(std::string path, const std::string& directory) {
     path = WithOneSeparator(std::move(path));
     if (IsNetworkPath(path, false)) return path;
@@ -38,8 +51,10 @@ std::string WindowsPath(std::string path, const std::string& directory) {
         if (path.size() == 2 || !IsSeparator(path[2])) path.insert(2, 1, '\\');
         return path;
     }
-    if (IsSeparator(path.front()))
+    if (IsSeparator(path.front())) {
+        if (IsNetworkPath(directory, false)) return std::string(ShareOf(directory)) + path;
         return HasDrive(directory) ? path.insert(0, directory, 0, 2) : path;
+    }
     return WithOneSeparator(JoinedPath(directory, path));
 }
 
@@ -76,6 +91,10 @@ std::string JoinedPath(std::string_view directory, std::string_view name) {
     return path;
 }
 
+std::string_view DirectoryPart(std::string_view path) {
+    return path.substr(0, path.size() - text::FileNameView(path).size());
+}
+
 std::string WithoutDots(const std::string& path, bool posix) {
     const std::size_t root = RootLength(path, posix);
     std::vector<std::string> kept;
@@ -102,7 +121,7 @@ std::string WithoutDots(const std::string& path, bool posix) {
 }
 
 std::string PathTyped(std::string_view typed, const TypedFrom& from) {
-    std::string path(text::WithoutQuotes(typed));
+    std::string path(text::Trim(text::WithoutQuotes(FirstLine(typed))));
     if (path.empty()) return path;
     if (IsHome(path) && !from.home.empty()) {
         const std::string_view rest = std::string_view(path).substr(1);

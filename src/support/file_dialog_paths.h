@@ -20,6 +20,9 @@ namespace kivu::support {
 // The directory's path, its separator and the name.
 [[nodiscard]] std::string JoinedPath(std::string_view directory, std::string_view name);
 
+// The directory that a path of a file leads into, with its separator.
+[[nodiscard]] std::string_view DirectoryPart(std::string_view path);
+
 // Without empty elements and ".", and without "..", which leads up as far as something is above.
 [[nodiscard]] std::string WithoutDots(const std::string& path, bool posix);
 
@@ -30,7 +33,7 @@ struct TypedFrom {
     bool posix = true;
 };
 // The whole path that a user means by what was typed or pasted: blanks and quotes around it, "~/"
-// and a lone name are resolved. Empty: nothing was typed.
+// and a lone name are resolved, and of several lines the first is meant. Empty: nothing was typed.
 [[nodiscard]] std::string PathTyped(std::string_view typed, const TypedFrom& from);
 
 // The files to list for a mask: programs have no ending of their own on a POSIX host.

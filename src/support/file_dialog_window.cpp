@@ -10,11 +10,12 @@ namespace kivu::support {
 using forms::Key;
 namespace keys = forms::keys;
 
-FilesWindow::FilesWindow(forms::Toolkit toolkit, bool german, Files::Services services)
+FilesWindow::FilesWindow(forms::Toolkit toolkit, bool german, Files::Services services,
+                         platform::Beeper& beeper)
     : form(toolkit, {german, NamesAreBytes(services.files)}),
       folders(services),
       places(services.files, folders),
-      lists(form, services.files, places),
+      lists(form, services.files, places, beeper),
       answer(form, services.files, lists),
       alwaysOnTop(form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, services.store) {
     form.onLoad = [this] { Form_Load(); };
@@ -59,7 +60,7 @@ void FilesWindow::JoinKeys() {
     };
     form.KomplettPfadText.onKeyDown = [this](Key& key) {
         if (key.code != keys::enter) return;
-        lists.KomplettPfadText_LostFocus();
+        lists.KomplettPfadText_Enter();
         key.code = 0;
     };
     // The arrow keys go through the files while a name is typed.

@@ -11,7 +11,8 @@ namespace kivu::support {
 // The dialog for files and directories, with all that happens in it.
 class FilesWindow {
  public:
-    FilesWindow(forms::Toolkit toolkit, bool german, Files::Services services);
+    FilesWindow(forms::Toolkit toolkit, bool german, Files::Services services,
+                platform::Beeper& beeper);
 
     FilesForm& GetForm() { return form; }
     // Before it is shown.

@@ -29,6 +29,7 @@ std::string ValueOf(std::string_view line, std::string_view name, const std::str
 // As freedesktop.org's xdg-user-dirs keeps it.
 std::string UserPlaces::NamedDesktop() const {
     const std::string home = files.HomeDirectory();
+    if (home.empty()) return {};
     const auto bytes = files.ReadFile(JoinedPath(home, ".config/user-dirs.dirs"));
     std::string desktop;
     for (const std::string_view line : text::SplitLines(bytes ? *bytes : std::string_view())) {
@@ -41,7 +42,8 @@ std::string UserPlaces::NamedDesktop() const {
 std::string UserPlaces::Desktop() const {
     const std::string home = files.HomeDirectory();
     const std::string named = NamesAreBytes(files) ? NamedDesktop() : folders.GetDesktopPath();
-    for (const std::string& path : {named, JoinedPath(home, "Desktop")}) {
+    const std::string usual = home.empty() ? home : JoinedPath(home, "Desktop");
+    for (const std::string& path : {named, usual}) {
         if (!path.empty() && files.IsDirectory(path)) return path;
     }
     return home;

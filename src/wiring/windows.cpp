@@ -25,7 +25,8 @@ Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dia
       fileDialogs(windows, [&form, &host, &dialogs, this] {
           auto made = std::make_unique<support::FilesWindow>(
               toolkit, form.CurrentLanguage == 1,
-              support::Files::Services{host.files, host.userStore, host.starter, dialogs});
+              support::Files::Services{host.files, host.userStore, host.starter, dialogs},
+              host.beeper);
           Dress(made->GetForm());
           return made;
       }) {

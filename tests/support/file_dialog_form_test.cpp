@@ -116,6 +116,41 @@ TEST_F(FileDialogFormTest, PinActsOnTheDialogAlone) {
     });
 }
 
+TEST_F(FileDialogFormTest, PinTellsWhatItDoes) {
+    FileDialogRoom room('/');
+    room.Open("", "", "", [](FilesForm& form) {
+        for (const forms::Image* pin : {&form.AOT_Enabled, &form.AOT_Disabled, &form.AOT_MouseMove})
+            EXPECT_EQ(pin->ToolTipText(), "Always on top");
+        FileDialogRoom::Click(form.AOT_Enabled);
+        forms::UserInput(form).MouseMove(form.AOT_Disabled, {});
+        EXPECT_TRUE(form.AOT_MouseMove.Visible());
+        FileDialogRoom::Click(form.AOT_MouseMove);
+        EXPECT_TRUE(form.IsTopmost());
+        EXPECT_TRUE(form.AOT_Enabled.Visible());
+    });
+}
+
+TEST_F(FileDialogFormTest, IsDraggedByItsTitleAndByItsSurface) {
+    struct Drags : forms::Observer {
+        void Changed(Control&, forms::Aspect) override {}
+        void DragWindow() override { ++count; }
+        int count = 0;
+    } drags;
+    FileDialogRoom room('/');
+    room.Open("", "", "", [&](FilesForm& form) {
+        form.SetObserver(&drags);
+        forms::UserInput hand(form);
+        hand.MouseDown(form.TitleLabel, {forms::buttons::left});
+        EXPECT_EQ(drags.count, 1);
+        hand.MouseDown(form, {forms::buttons::left});
+        EXPECT_EQ(drags.count, 2);
+        hand.MouseDown(form.TitleLabel, {forms::buttons::right});
+        hand.MouseDown(form.File1, {forms::buttons::left});
+        EXPECT_EQ(drags.count, 2);
+        form.SetObserver(nullptr);
+    });
+}
+
 TEST_F(FileDialogFormTest, SpeaksTheUsersLanguage) {
     FileDialogRoom german('\\', true);
     german.Open("", "", "", [](FilesForm& form) {

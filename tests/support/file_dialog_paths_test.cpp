@@ -72,6 +72,11 @@ TEST(FileDialogPaths, TypedTextBecomesAWholePath) {
         {"\\\\nas\\roms", "\\\\nas\\roms"},
         {"C:\\a", "/roms/C:\\a"},
         {"*.adf", "/roms/*.adf"},
+        {"\"\"", ""},
+        {"\"  \"", ""},
+        {"\r\n", ""},
+        {"/home/me/a.adf\n", "/home/me/a.adf"},
+        {"\r\na.adf\r\nb.adf", "/roms/a.adf"},
     };
     for (const Typed& one : table)
         EXPECT_EQ(PathTyped(one.text, from), one.path) << one.text;
@@ -98,6 +103,12 @@ TEST(FileDialogPaths, TypedTextBecomesAWholePathOnWindows) {
     };
     for (const Typed& one : table)
         EXPECT_EQ(PathTyped(one.text, from), one.path) << one.text;
+}
+
+TEST(FileDialogPaths, LoneSeparatorBeginsAtTheTopOfTheShare) {
+    for (const char* directory : {"\\\\nas\\roms\\a\\b", "\\\\nas\\roms", "\\\\nas\\roms\\"})
+        EXPECT_EQ(PathTyped("\\x", {directory, "", false}), "\\\\nas\\roms\\x") << directory;
+    EXPECT_EQ(PathTyped("\\x", {"\\\\nas", "", false}), "\\\\nas\\x");
 }
 
 TEST(FileDialogPaths, WithoutAHomeTheTildeIsAName) {

@@ -61,6 +61,10 @@ class FileDialogRoom {
         return list.Rows();
     }
 
+    struct CountingBeeper : platform::Beeper {
+        void Beep() override { ++count; }
+        int count = 0;
+    } beeper;
     kivu::testing::MemoryFileSystem disk;
     kivu::testing::QuietHost host;
     kivu::testing::ScriptedWindows windows;
@@ -73,7 +77,8 @@ class FileDialogRoom {
     WindowedFileDialogs dialogs{windows, [this] {
                                     ++opened;
                                     return std::make_unique<FilesWindow>(
-                                        toolkit, german, Files::Services{disk, host, host, host});
+                                        toolkit, german, Files::Services{disk, host, host, host},
+                                        beeper);
                                 }};
 
  private:
