@@ -42,6 +42,7 @@ class ControllersSdl : public ::testing::Test {
         clock.MoveOn(milliseconds(140));
         ControllerState state;
         EXPECT_TRUE(controllers.Read(Place(name), state));
+        pressed = std::exchange(state.pressed, {});
         return state;
     }
 
@@ -49,6 +50,7 @@ class ControllersSdl : public ::testing::Test {
     kivu::testing::ScriptedLog log;
     SdlControllers controllers{clock, log};
     std::vector<platform::Controller> list;
+    std::array<bool, 32> pressed{};  // at the last read
 };
 
 TEST_F(ControllersSdl, AMouseAndAKeyboardStandInFront) {
@@ -191,6 +193,21 @@ TEST_F(ControllersSdl, AShortTapIsSeenOnce) {
     pad.TapHat(0, SDL_HAT_UP);
     EXPECT_EQ(Read(), At(32768, 0));
     EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, WhatIsHeldIsPressedOnceAndWhatIsHammeredEachTime) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    pad.SetButton(1, true);
+    Read();
+    EXPECT_EQ(pressed, Down({1}).buttons);
+    for (int time = 0; time < 2; ++time) {
+        pad.Tap(2);
+        EXPECT_EQ(Read(), Down({1, 2}));
+        EXPECT_EQ(pressed, Down({2}).buttons);
+    }
+    EXPECT_EQ(Read(), Down({1}));
+    EXPECT_EQ(pressed, ControllerState().pressed);
 }
 
 TEST_F(ControllersSdl, AShortTapOnAnArrowButtonIsAStep) {
