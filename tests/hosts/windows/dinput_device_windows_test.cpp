@@ -162,6 +162,18 @@ TEST_F(DirectInputDeviceTest, AHatIsADirection) {
     EXPECT_EQ(Read(device), At(65535, 65535));
 }
 
+TEST_F(DirectInputDeviceTest, AHatHeldOverOpenWaitsForItsRest) {
+    script.objects.insert(offsetof(DIJOYSTATE, rgdwPOV));
+    script.state.rgdwPOV[0] = 18000;
+    DirectInputDevice device = Opened();
+    EXPECT_EQ(Read(device), ControllerState());
+    EXPECT_EQ(Read(device), ControllerState());
+    script.state.rgdwPOV[0] = 0xFFFFFFFF;
+    EXPECT_EQ(Read(device), ControllerState());
+    script.state.rgdwPOV[0] = 18000;
+    EXPECT_EQ(Read(device), At(32768, 65535));
+}
+
 TEST_F(DirectInputDeviceTest, AHatThatIsNotThereIsInTheCentre) {
     DirectInputDevice device = Opened();
     std::fill(std::begin(script.state.rgdwPOV), std::end(script.state.rgdwPOV), 0);
