@@ -55,6 +55,7 @@ void Taps::Take(std::chrono::milliseconds now, platform::ControllerState& state,
     if (now - lastRead <= longestPause) {
         for (std::size_t i = 0; i < buttons.size(); ++i)
             state.buttons[i] = state.buttons[i] || buttons[i];
+        state.pressed = buttons;
         held.Add(arrows);
     }
     *this = Taps(now);

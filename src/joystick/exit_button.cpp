@@ -29,6 +29,9 @@ void ExitButton::ExitButtonTimer_Timer() {
     for (const Joystick::Look& look : joystick.LookAtPads()) {
         for (const int button : look.buttons)
             down[{look.device, button}] = ticks[{look.device, button}] + 1;
+        // One that is hammered is down at each look, and never held.
+        for (const int button : look.pressed)
+            down[{look.device, button}] = 1;
     }
     ticks = std::move(down);
     if (SkipLoadingScreen()) return;

@@ -105,14 +105,16 @@ Joystick::Look Joystick::LookAt(int number) {
     Device& device = devices[static_cast<std::size_t>(number)];
     const auto read = StateOf(number);
     // One that is gone rests, wherever its middle was taken to be.
-    if (!read) return {number, {}, {}};
+    if (!read) return {number, {}, {}, {}};
     const platform::ControllerState& state = *read;
-    Look look{number, StickEvents(state, device.rest, JoyDeadZone), {}};
+    Look look{number, StickEvents(state, device.rest, JoyDeadZone), {}, {}};
     std::bitset<lastButton + 1> down;
     for (const int button : PressedButtons(state, device.buttonCount)) {
         const auto place = static_cast<std::size_t>(button);
         down.set(place);
-        if (!device.heldBack.test(place)) look.buttons.push_back(button);
+        if (device.heldBack.test(place)) continue;
+        look.buttons.push_back(button);
+        if (state.pressed[place - 1]) look.pressed.push_back(button);
     }
     device.heldBack &= down;
     return look;

@@ -62,6 +62,7 @@ class Joystick {
         int device;  // from 1
         std::vector<StickEvent> sticks;
         std::vector<int> buttons;
+        std::vector<int> pressed;  // of these, the ones that went down since the last look
     };
     // Each controller that does not rest.
     std::vector<Look> LookAtPads();

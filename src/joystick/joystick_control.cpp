@@ -79,6 +79,8 @@ void JoystickControl::TakeChange() {
     const std::string title = form.MyCaptionLabel.Caption();
     const bool shown = form.MyCaptionLabel.Visible();
     OpenAnew();
+    // One that comes with a button down does not act by that.
+    silent = true;
     const bool first = !std::exchange(changed, true);
     if (!first && joystick.JoystickCount() != before) return;
     form.MyCaptionLabel.SetCaption(title);

@@ -11,7 +11,9 @@ namespace kivu::platform {
 // Axes from 0 (left, up) to 65535; 32768 is the centre, and what an axis reads that is not there.
 struct ControllerState {
     int x = 32768, y = 32768, z = 32768, rx = 32768, ry = 32768, rz = 32768;
-    std::array<bool, 32> buttons{};
+    std::array<bool, 32> buttons{};  // down now, or since the last read
+    // Went down since the last read: what is down, and not in here, has been held all the while.
+    std::array<bool, 32> pressed{};
     bool operator==(const ControllerState&) const = default;
 };
 

@@ -99,7 +99,10 @@ void SetDevice(Session& session, const Json& command) {
             SetAxis(state, key, value);
         }
     }
-    devices[static_cast<std::size_t>(number)].state = state;
+    ControllerState& before = devices[static_cast<std::size_t>(number)].state;
+    for (std::size_t i = 0; i < state.buttons.size(); ++i)
+        state.pressed[i] = before.pressed[i] || (state.buttons[i] && !before.buttons[i]);
+    before = state;
 }
 
 Json DeviceCommand(Session& session, const Json& command) {

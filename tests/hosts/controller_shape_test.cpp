@@ -1,5 +1,7 @@
 #include "hosts/controller_shape.h"
 
+#include <utility>
+
 #include "testing/controller_states.h"
 
 namespace kivu::hosts {
@@ -116,9 +118,11 @@ class ControllerTaps : public ::testing::Test {
         Arrows held;
         taps.Take(now, state, held);
         Steer(state, held);
+        pressed = std::exchange(state.pressed, {});
         return state;
     }
 
+    std::array<bool, 32> pressed{};  // at the last read
     Taps taps{milliseconds(1000)};
 };
 
@@ -138,6 +142,22 @@ TEST_F(ControllerTaps, WhatIsDownStaysDown) {
     both.buttons[2] = true;
     EXPECT_EQ(Read(milliseconds(1140), held), both);
     EXPECT_EQ(Read(milliseconds(1280), held), held);
+}
+
+TEST_F(ControllerTaps, WhatIsHammeredIsPressedAnewAndWhatIsHeldIsNot) {
+    ControllerState held;
+    held.buttons[1] = true;
+    for (int time = 0; time < 3; ++time) {
+        taps.Press(2);
+        Read(milliseconds(1250 + 250 * time), held);
+        EXPECT_EQ(pressed, kivu::testing::Down({2}).buttons);
+    }
+    Read(milliseconds(2000), held);
+    EXPECT_EQ(pressed, ControllerState().pressed);
+    // Nor what was pressed in a long pause.
+    taps.Press(2);
+    Read(milliseconds(3000), held);
+    EXPECT_EQ(pressed, ControllerState().pressed);
 }
 
 TEST_F(ControllerTaps, ATappedArrowIsOneStep) {

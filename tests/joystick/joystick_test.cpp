@@ -286,5 +286,23 @@ TEST_F(JoystickTest, LookTellsOfPadsThatDoNotRest) {
     EXPECT_THAT(window.calls, IsEmpty());
 }
 
+TEST_F(JoystickTest, LookTellsWhatWentDownSinceTheLastOne) {
+    Add("Pad");
+    Init();
+    Press({5, 6});
+    Pad().pressed[5] = true;
+    auto looks = joystick.LookAtPads();
+    ASSERT_EQ(looks.size(), 1U);
+    EXPECT_THAT(looks[0].buttons, ElementsAre(6, 7));
+    EXPECT_THAT(looks[0].pressed, ElementsAre(6));
+    looks = joystick.LookAtPads();
+    ASSERT_EQ(looks.size(), 1U);
+    EXPECT_THAT(looks[0].pressed, IsEmpty());
+    // One that is held back is not told of at all.
+    joystick.HoldButtonsBack();
+    Pad().pressed[5] = true;
+    EXPECT_THAT(joystick.LookAtPads(), IsEmpty());
+}
+
 }  // namespace
 }  // namespace kivu::joystick

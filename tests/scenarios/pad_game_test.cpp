@@ -243,6 +243,27 @@ TEST_F(PadGame, ExitButtonHeldForTwoSecondsEndsIt) {
     EXPECT_FALSE(Visible("EmulatorLongListbox"));
 }
 
+// Four presses a second are down at each look.
+TEST_F(PadGame, HammeredTheExitButtonIsTheGames) {
+    OptionToEndByButton();
+    Start();
+    Do("set", "Form1.ExitButtonAction", 3);
+    Press({1});
+    Poll();
+    EmulatorComesUp();
+    Release();
+    LookForExit(1);
+    for (int press = 0; press < 40; ++press) {
+        Release();
+        Press({2});
+        LookForExit(1);
+    }
+    EXPECT_TRUE(Do("kills")["value"].empty());
+    // Held from the last press on.
+    LookForExit(7);
+    EXPECT_EQ(Do("kills")["value"], Json::array({4711}));
+}
+
 TEST_F(PadGame, OtherButtonsAreTheGames) {
     OptionToEndByButton();
     Start();

@@ -41,6 +41,7 @@ class ScriptedControllers : public platform::Controllers {
         });
         if (found == devices.end()) return false;
         state = found->state;
+        found->state.pressed = {};
         return true;
     }
     void Close() override {

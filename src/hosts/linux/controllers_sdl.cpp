@@ -173,8 +173,9 @@ bool SdlControllers::Read(std::size_t device, platform::ControllerState& state) 
     ReadSticks(read, state);
     ReadButtons(read, state, held);
     read.taps.Take(clock.Steady(), state, held);
-    state = Shape(state, read.shape);
+    // One that is held while the device is opened waits for its rest, as a stick does.
     Steer(state, held);
+    state = Shape(state, read.shape);
     return true;
 }
 

@@ -102,8 +102,9 @@ bool DirectInputDevice::Read(std::chrono::milliseconds now, platform::Controller
         state.buttons[i] = (raw.rgbButtons[i] & pressed) != 0;
     Arrows held = HatsOf(raw);
     taps.Take(now, state, held);
-    state = Shape(state, shape);
+    // One that is held while the device is opened waits for its rest, as a stick does.
     Steer(state, held);
+    state = Shape(state, shape);
     return true;
 }
 

@@ -42,6 +42,7 @@ class ControllersSdl : public ::testing::Test {
         clock.MoveOn(milliseconds(140));
         ControllerState state;
         EXPECT_TRUE(controllers.Read(Place(name), state));
+        pressed = std::exchange(state.pressed, {});
         return state;
     }
 
@@ -49,6 +50,7 @@ class ControllersSdl : public ::testing::Test {
     kivu::testing::ScriptedLog log;
     SdlControllers controllers{clock, log};
     std::vector<platform::Controller> list;
+    std::array<bool, 32> pressed{};  // at the last read
 };
 
 TEST_F(ControllersSdl, AMouseAndAKeyboardStandInFront) {
@@ -149,6 +151,7 @@ TEST_F(ControllersSdl, ButtonsHaveTheirNumbers) {
 TEST_F(ControllersSdl, ArrowButtonsAreDirectionsAndNoButtons) {
     VirtualPad pad("Pad", {.axes = 6, .buttons = 15, .known = true});
     Open();
+    Read();
     EXPECT_EQ(list[Place("Pad")].buttons, 15);
     pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_LEFT, true);
     EXPECT_EQ(Read(), At(0, 32768));
@@ -169,6 +172,7 @@ TEST_F(ControllersSdl, ArrowButtonsAreDirectionsAndNoButtons) {
 TEST_F(ControllersSdl, HatsAreDirections) {
     VirtualPad pad("Pad", {.buttons = 4, .hats = 2});
     Open();
+    Read();
     pad.SetHat(0, SDL_HAT_LEFT);
     EXPECT_EQ(Read(), At(0, 32768));
     pad.SetHat(0, SDL_HAT_RIGHTDOWN);
@@ -193,6 +197,21 @@ TEST_F(ControllersSdl, AShortTapIsSeenOnce) {
     EXPECT_EQ(Read(), ControllerState());
 }
 
+TEST_F(ControllersSdl, WhatIsHeldIsPressedOnceAndWhatIsHammeredEachTime) {
+    VirtualPad pad("Pad", {.buttons = 4});
+    Open();
+    pad.SetButton(1, true);
+    Read();
+    EXPECT_EQ(pressed, Down({1}).buttons);
+    for (int time = 0; time < 2; ++time) {
+        pad.Tap(2);
+        EXPECT_EQ(Read(), Down({1, 2}));
+        EXPECT_EQ(pressed, Down({2}).buttons);
+    }
+    EXPECT_EQ(Read(), Down({1}));
+    EXPECT_EQ(pressed, ControllerState().pressed);
+}
+
 TEST_F(ControllersSdl, AShortTapOnAnArrowButtonIsAStep) {
     VirtualPad pad("Pad", {.axes = 6, .buttons = 15, .known = true});
     Open();
@@ -205,6 +224,7 @@ TEST_F(ControllersSdl, AShortTapOnAnArrowButtonIsAStep) {
 TEST_F(ControllersSdl, AHeldDirectionOfAHatIsNoTapWhenAnotherJoinsIt) {
     VirtualPad pad("Pad", {.hats = 1});
     Open();
+    Read();
     pad.SetHat(0, SDL_HAT_UP);
     EXPECT_EQ(Read(), At(32768, 0));
     pad.TapHat(0, SDL_HAT_LEFTUP);
@@ -243,6 +263,25 @@ TEST_F(ControllersSdl, AStickHeldOverWhenOpenedWaitsForItsRest) {
     // Opened anew, it waits anew.
     Open();
     EXPECT_EQ(Read(), ControllerState());
+}
+
+TEST_F(ControllersSdl, AnArrowHeldOverOpenWaitsForItsRest) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 15, .known = true}), hat("Hat", {.hats = 1});
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_DOWN, true);
+    hat.SetHat(0, SDL_HAT_LEFT);
+    Open();
+    for (int time = 0; time < 2; ++time) {
+        EXPECT_EQ(Read(), ControllerState());
+        EXPECT_EQ(Read("Hat"), ControllerState());
+    }
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_DOWN, false);
+    hat.SetHat(0, SDL_HAT_CENTERED);
+    EXPECT_EQ(Read(), ControllerState());
+    EXPECT_EQ(Read("Hat"), ControllerState());
+    pad.SetButton(SDL_CONTROLLER_BUTTON_DPAD_DOWN, true);
+    hat.SetHat(0, SDL_HAT_LEFT);
+    EXPECT_EQ(Read(), At(32768, 65535));
+    EXPECT_EQ(Read("Hat"), At(0, 32768));
 }
 
 TEST_F(ControllersSdl, ADeviceThatIsUnpluggedIsGoneAndReadsAtRest) {

@@ -69,11 +69,13 @@ class DirectInputDeviceTest : public ::testing::Test {
         now += milliseconds(140);
         ControllerState state;
         EXPECT_TRUE(device.Read(now, state));
+        pressed = std::exchange(state.pressed, {});
         return state;
     }
 
     kivu::testing::ScriptedDirectInputDevice script;
     milliseconds now{10'000};
+    std::array<bool, 32> pressed{};  // at the last read
 };
 
 TEST_F(DirectInputDeviceTest, IsOpenedForTheBackgroundInJoystickFormat) {
@@ -160,6 +162,18 @@ TEST_F(DirectInputDeviceTest, AHatIsADirection) {
     EXPECT_EQ(Read(device), At(65535, 65535));
 }
 
+TEST_F(DirectInputDeviceTest, AHatHeldOverOpenWaitsForItsRest) {
+    script.objects.insert(offsetof(DIJOYSTATE, rgdwPOV));
+    script.state.rgdwPOV[0] = 18000;
+    DirectInputDevice device = Opened();
+    EXPECT_EQ(Read(device), ControllerState());
+    EXPECT_EQ(Read(device), ControllerState());
+    script.state.rgdwPOV[0] = 0xFFFFFFFF;
+    EXPECT_EQ(Read(device), ControllerState());
+    script.state.rgdwPOV[0] = 18000;
+    EXPECT_EQ(Read(device), At(32768, 65535));
+}
+
 TEST_F(DirectInputDeviceTest, AHatThatIsNotThereIsInTheCentre) {
     DirectInputDevice device = Opened();
     std::fill(std::begin(script.state.rgdwPOV), std::end(script.state.rgdwPOV), 0);
@@ -181,6 +195,20 @@ TEST_F(DirectInputDeviceTest, AShortTapIsSeenOnce) {
     expected.y = 65535;
     EXPECT_EQ(Read(device), expected);
     EXPECT_EQ(Read(device), ControllerState());
+}
+
+TEST_F(DirectInputDeviceTest, WhatIsHammeredIsPressedEachTime) {
+    DirectInputDevice device = Opened();
+    Read(device);
+    script.state.rgbButtons[1] = 0x80;
+    for (int time = 0; time < 2; ++time) {
+        script.Event(DIJOFS_BUTTON(4), 0x80);
+        script.Event(DIJOFS_BUTTON(4), 0);
+        EXPECT_EQ(Read(device), Down({1, 4}));
+        EXPECT_EQ(pressed, Down({4}).buttons);
+    }
+    EXPECT_EQ(Read(device), Down({1}));
+    EXPECT_EQ(pressed, ControllerState().pressed);
 }
 
 TEST_F(DirectInputDeviceTest, WhatIsTappedWhileNobodyReadsIsForgotten) {
