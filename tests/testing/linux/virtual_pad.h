@@ -2,6 +2,7 @@
 
 #include <SDL2/SDL.h>
 #include <cstdint>
+#include <gtest/gtest.h>
 #include <string>
 #include <utility>
 
@@ -61,6 +62,18 @@ class VirtualPad {
         SDL_JoystickSetVirtualButton(joystick, button, down ? 1 : 0);
     }
     void SetHat(int hat, Uint8 value) { SDL_JoystickSetVirtualHat(joystick, hat, value); }
+
+    // As that of a pad that SDL knows, once it is opened after this; for good, as far as this
+    // process goes.
+    void MapCrossToHat(int hat) {
+        char id[33] = {};
+        SDL_JoystickGetGUIDString(SDL_JoystickGetGUID(joystick), id, sizeof id);
+        const std::string from = "h" + std::to_string(hat) + ".";
+        const std::string mapping = std::string(id) + "," + name + ",a:b0,b:b1,leftx:a0,lefty:a1" +
+                                    ",rightx:a2,dpup:" + from + "1,dpright:" + from +
+                                    "2,dpdown:" + from + "4,dpleft:" + from + "8,";
+        ASSERT_EQ(SDL_GameControllerAddMapping(mapping.c_str()), 1) << SDL_GetError();
+    }
 
     // Down and up again, as fast as no read sees it down.
     void Tap(int button) {
