@@ -237,7 +237,7 @@ TEST_F(ControllersSdl, AnotherHatOfAKnownPadIsNeitherHeldNorTapped) {
 TEST_F(ControllersSdl, ACrossThatIsAHatIsHeldAndTapped) {
     // SDL knows pads by their names, too.
     VirtualPad pad("Cross", {.axes = 6, .buttons = 11, .hats = 2});
-    pad.MapCrossToHat(1);
+    ASSERT_TRUE(pad.MapCrossToHat(1));
     Open();
     Read("Cross");
     pad.SetHat(1, SDL_HAT_RIGHT);
