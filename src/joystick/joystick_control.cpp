@@ -65,8 +65,7 @@ void JoystickControl::JoystickTimer_Timer() {
         silent = true;
         return;
     }
-    // A box and the window that asks for the buttons look for themselves.
-    if (!form.Busy && windows.Questions() == 0 && joystick.HasChanged()) TakeChange();
+    if (!form.Busy && joystick.HasChanged()) TakeChange();
     // Events have run.
     if (IsForOthers()) return;
     if (silent) HoldButtonsBack();

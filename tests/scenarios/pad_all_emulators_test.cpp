@@ -35,7 +35,7 @@ class PadAllEmulators : public PadScenario {
 
 TEST_F(PadAllEmulators, StepsAreTheHits) {
     Start();
-    SearchAll("Maker");
+    SearchAll("199");
     const forms::ListBox& hits = Form().GlobalSearchList;
     ASSERT_GE(hits.ListCount(), 2);
     const int last = hits.ListCount() - 1;

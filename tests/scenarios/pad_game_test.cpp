@@ -1,4 +1,5 @@
 #include "scenarios/pad.h"
+#include "wiring/routines.h"
 
 namespace kivu::scenarios {
 namespace {
@@ -333,6 +334,30 @@ TEST_F(PadGame, HammeredTheExitButtonIsTheGames) {
     // Held from the last press on.
     LookForExit(7);
     EXPECT_EQ(Do("kills")["value"], Json::array({4711}));
+}
+
+TEST_F(PadGame, NobodyLooksForTheExitButtonBehindABox) {
+    OptionToEndByButton();
+    Start();
+    Do("set", "Form1.ExitButtonAction", 3);
+    Press({1});
+    Poll();
+    EmulatorComesUp();
+    Release();
+    LookForExit(1);
+    int shown = 0;
+    Host().dialogs.onShow = [&] {
+        ++shown;
+        Press({2});
+        const int reads = Host().controllers.reads;
+        LookForExit(12);
+        EXPECT_EQ(Host().controllers.reads, reads);
+        Release();
+    };
+    session->Routines().dialogs.MessageBox("", "", platform::Buttons::Ok, platform::Icon::None);
+    Host().dialogs.onShow = nullptr;
+    EXPECT_EQ(shown, 1);
+    EXPECT_TRUE(Do("kills")["value"].empty());
 }
 
 TEST_F(PadGame, OtherButtonsAreTheGames) {
