@@ -48,7 +48,8 @@ void BoxByPad::BoxButtonTimer_Timer() {
         elsewhere = true;
         return;
     }
-    if (std::exchange(elsewhere, false)) Restart();
+    const bool changed = joystick.TakeChange();
+    if (std::exchange(elsewhere, false) || changed) Restart();
     const std::vector<Joystick::Look> looks = joystick.LookAtPads();
     Step(StepsOf(looks));
     for (const Joystick::Look& look : looks) {

@@ -36,6 +36,8 @@ void ButtonActions::JoystickButtonClick(int Pressed_Button) {
 }
 
 void ButtonActions::Act(Action action, int focus) {
+    forms::ListBox* front = rows.ListOfAllEmulators();
+    if (front && ActOn(*front, action)) return;
     switch (action) {
         case Action::quit:
             return form.ExitBtn.Click();
@@ -59,6 +61,46 @@ void ButtonActions::Act(Action action, int focus) {
         case Action::addFavourite:
             if (form.AddToFavorit.IsReachable()) form.AddToFavorit.Click();
             return;
+    }
+}
+
+// On a list of all emulators, which is in front. False: the action is not one on a list.
+bool ButtonActions::ActOn(forms::ListBox& list, Action action) {
+    const int row = list.ListIndex(), last = list.ListCount() - 1;
+    const auto step = [&](int by) {
+        if (last >= 0) list.SetListIndex(std::clamp(row + by, 0, last));
+    };
+    switch (action) {
+        case Action::select:
+            if (row >= 0) list.Click();
+            return true;
+        case Action::start:
+            if (row < 0) return true;
+            list.Click();
+            list.DoubleClick();
+            // Still held, the button would start what has come to the front.
+            hooks.HoldButtonsBack();
+            return true;
+        case Action::tenDown:
+            step(ten);
+            return true;
+        case Action::tenUp:
+            step(-ten);
+            return true;
+        case Action::hundredDown:
+            step(hundred);
+            return true;
+        case Action::hundredUp:
+            step(-hundred);
+            return true;
+        case Action::toLastRow:
+            step(last - row);
+            return true;
+        case Action::toFirstRow:
+            step(-row);
+            return true;
+        default:
+            return false;
     }
 }
 

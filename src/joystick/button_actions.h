@@ -58,6 +58,7 @@ class ButtonActions {
 
  private:
     void Act(Action action, int focus);
+    bool ActOn(forms::ListBox& list, Action action);
     void Select(int focus);
     void Start(int focus);
     // The mouse's whole gesture on the row that is selected.

@@ -95,10 +95,13 @@ void ButtonSetup::ShowTimer_Timer() {
 void ButtonSetup::PollingTimer_Timer() {
     // A box in front of this window has the pad for itself.
     if (!form.JoystickButtonSetupModus || routines.boxes.BoxIsOpen()) return;
-    if (routines.joystick.HasChanged()) {
-        routines.joystick.ShutdownJoystick();
-        routines.joystick.InitJoystick(routines.pad, Joystick::deadZone);
+    // Behind another program's window the pad is held for that one.
+    if (windows.ActiveWindow() == forms::WindowHost::Activity::others) {
+        elsewhere = true;
+        return;
     }
+    const bool back = std::exchange(elsewhere, false);
+    if (!routines.joystick.TakeChange() && back) routines.joystick.HoldButtonsBack();
     routines.joystick.PollJoysticks();
     events.DoEvents();
 }

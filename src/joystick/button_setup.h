@@ -67,7 +67,8 @@ class ButtonSetup {
     Routines routines;
     bool stored = false;
     bool finished = false;
-    bool repeated = false;  // the key of the next character is one that is held down
+    bool elsewhere = false;  // at the last look the user was in another program
+    bool repeated = false;   // the key of the next character is one that is held down
 };
 
 }  // namespace kivu::joystick

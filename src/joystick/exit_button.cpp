@@ -25,6 +25,7 @@ void ExitButton::ExitButtonTimer_Timer() {
         form.ExitButtonTimer.SetEnabled(false);
         return;
     }
+    if (joystick.TakeChange()) ticks.clear();
     std::map<Button, int> down;
     for (const Joystick::Look& look : joystick.LookAtPads()) {
         for (const int button : look.buttons)

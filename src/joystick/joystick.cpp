@@ -49,26 +49,34 @@ void Joystick::ShutdownJoystick() {
 bool Joystick::OpenJoysticks() {
     if (opening) return false;
     const core::Raised once(opening);
+    std::optional<int> count;
     {
         const Notice notice(form.Current_LoadingSmallBtn);
         services.events.DoEvents();
+        if (form.Ended) return false;
+        count = FindDevices();
     }
-    if (form.Ended) return false;
-    const auto found = services.controllers.Open();
-    ++round;
-    if (!found) {
+    if (!count) {
         services.dialogs.MessageBox(
             "Direct Input konnte nicht initialisiert werden!\r"
             "Joystick initialisierung fehlgeschlagen.",
             core::defaultTitle, platform::Buttons::Ok, platform::Icon::Warning);
         return false;
     }
-    if (found->empty()) return false;
+    return *count > 0;
+}
+
+std::optional<int> Joystick::FindDevices() {
+    const auto list = services.controllers.Open();
+    ++round;
+    if (!list) return {};
+    const int count = static_cast<int>(list->size());
+    if (count == 0) return count;
     devices.assign(1, {});
-    for (const platform::Controller& controller : *found)
+    for (const platform::Controller& controller : *list)
         AddDevice(controller);
-    JoyCount = static_cast<int>(found->size());
-    return true;
+    JoyCount = count;
+    return count;
 }
 
 void Joystick::AddDevice(const platform::Controller& found) {
@@ -99,6 +107,15 @@ std::optional<platform::ControllerState> Joystick::StateOf(int number) const {
     platform::ControllerState state;
     if (!services.controllers.Read(static_cast<std::size_t>(number - 1), state)) return {};
     return state;
+}
+
+bool Joystick::TakeChange() {
+    if (opening || !HasChanged()) return false;
+    ReleaseJoysticks();
+    FindDevices();
+    CalibrateJoysticks();
+    HoldButtonsBack();
+    return true;
 }
 
 Joystick::Look Joystick::LookAt(int number) {

@@ -53,6 +53,9 @@ class Joystick {
 
     // A device came or went since this was last asked.
     bool HasChanged() { return services.controllers.Changed(); }
+    // Then opens all anew, without a word and without letting events run: for those who look while
+    // something else is in front. What is held by now acts once it has been released.
+    bool TakeChange();
     // Buttons that are down now count as released until they have been. A poll that is under way
     // ends.
     void HoldButtonsBack();
@@ -77,6 +80,8 @@ class Joystick {
         std::bitset<lastButton + 1> heldBack;  // by the buttons' numbers
     };
 
+    // How many there are. Nothing: there is no service for them.
+    std::optional<int> FindDevices();
     void AddDevice(const platform::Controller& found);
     // Nothing: it is gone.
     std::optional<platform::ControllerState> StateOf(int number) const;

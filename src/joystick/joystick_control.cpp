@@ -61,15 +61,22 @@ void JoystickControl::OfferToSwitchOff() {
 }
 
 void JoystickControl::JoystickTimer_Timer() {
-    // Neither in a game nor behind another program's window is the pad held for the launcher.
-    const bool elsewhere = windows.ActiveWindow() == forms::WindowHost::Activity::others;
-    if (form.GameIsRunning || elsewhere) {
+    if (IsForOthers()) {
         silent = true;
         return;
     }
     if (!form.Busy && joystick.HasChanged()) TakeChange();
+    // Events have run.
+    if (IsForOthers()) return;
     if (silent) HoldButtonsBack();
     joystick.PollJoysticks();
+}
+
+// Neither in a game, nor in an emulator that runs by itself, nor behind another program's window is
+// the pad held for the launcher.
+bool JoystickControl::IsForOthers() const {
+    return form.GameIsRunning || form.EmulatorRuns() ||
+           windows.ActiveWindow() == forms::WindowHost::Activity::others;
 }
 
 // As a click on the picture does. The title line tells the count where it has become another one;
@@ -103,6 +110,8 @@ void JoystickControl::JoystickIcon_Click() {
 }
 
 void JoystickControl::OpenAnew() {
+    // Events run: a launch that begins in there would leave the devices open.
+    const core::Raised working(form.Busy);
     form.JoystickIcon.SetVisible(false);
     JoystickEnable(false);
     services.events.DoEvents();

@@ -47,6 +47,7 @@ class JoystickControl {
     void OfferToSwitchOff();
     void OpenAnew();
     void TakeChange();
+    bool IsForOthers() const;
     void HoldButtonsBack();
 
     core::Form1& form;

@@ -21,7 +21,10 @@ void ListNavigation::JoystickDirection(int KeyValue) {
     const int step = KeyValue == keys::up ? -1 : 1;
     const std::array<forms::ListBox*, 4> lists{&form.FavoritenListe, &form.WIthoutDoubles,
                                                &form.UAE_Short, &form.SuchErgList};
-    if (focus >= 1 && focus <= 4) {
+    forms::ListBox* all = rows.ListOfAllEmulators();
+    if (all && vertical) {
+        MoveRow(*all, step);
+    } else if (focus >= 1 && focus <= 4) {
         if (vertical) {
             MoveRow(*lists[static_cast<std::size_t>(focus - 1)], step);
         } else if (KeyValue == keys::left || KeyValue == keys::right) {

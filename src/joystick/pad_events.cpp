@@ -9,7 +9,7 @@ namespace kivu::joystick {
 namespace keys = forms::keys;
 
 bool PadEvents::Rests() const {
-    return windows.Questions() > 0 || form.EmulatorRuns();
+    return windows.Questions() > 0;
 }
 
 void PadEvents::Turn(int key) {

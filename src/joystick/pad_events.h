@@ -13,8 +13,7 @@ class ButtonActions;
 class ListNavigation;
 
 // What a poll calls, handed on to the lists. Behind a box or a modal window nothing moves or
-// starts, nor does it while an emulator runs, which the user plays; the window that asks for the
-// buttons gets them all the same.
+// starts; the window that asks for the buttons gets them all the same.
 class PadEvents : public PadReceiver {
  public:
     PadEvents(core::Form1& form, ListNavigation& navigation, ButtonActions& actions,

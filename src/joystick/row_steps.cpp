@@ -10,6 +10,13 @@ bool RowSteps::KeepsChosenRows(const forms::ListBox& list) const {
     return &list == &form.UAE_Short && drives.SelectsByHand();
 }
 
+forms::ListBox* RowSteps::ListOfAllEmulators() const {
+    for (forms::ListBox* list : {&form.FavoritenListeGlobal, &form.GlobalSearchList}) {
+        if (list->Visible()) return list;
+    }
+    return nullptr;
+}
+
 void RowSteps::SetRow(forms::ListBox& list, int row) {
     if (KeepsChosenRows(list)) {
         list.MoveCurrentRow(row);

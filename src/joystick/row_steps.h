@@ -19,6 +19,9 @@ class RowSteps {
     void SetRow(forms::ListBox& list, int row);
     // Of a list that the user does not look at: nothing else follows.
     void SetRowQuietly(forms::ListBox& list, int row);
+    // The hits in all emulators, or the favourites of all: while one of them is in front the
+    // controller's list is behind it, and what it moves or starts is this one's. Else null.
+    forms::ListBox* ListOfAllEmulators() const;
     bool KeepsChosenRows(const forms::ListBox& list) const;
 
  private:

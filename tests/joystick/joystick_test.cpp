@@ -193,6 +193,66 @@ TEST_F(JoystickTest, LabelSaysThatDevicesAreLookedForAndGoesAsItCame) {
     EXPECT_EQ(form.Current_LoadingSmallBtn.Caption(), "meanwhile");
 }
 
+// It says so until they have been found.
+TEST_F(JoystickTest, LabelStandsWhileTheServiceLooks) {
+    Add("Pad");
+    std::string seen;
+    pads.onOpen = [&] {
+        if (form.Current_LoadingSmallBtn.Visible()) seen = form.Current_LoadingSmallBtn.Caption();
+    };
+    EXPECT_TRUE(joystick.OpenJoysticks());
+    EXPECT_EQ(seen, "Init Joysticks...");
+    EXPECT_NE(form.Current_LoadingSmallBtn.Caption(), seen);
+    // And is gone where a box tells that there is none.
+    pads.noService = true;
+    std::string behind = seen;
+    host.dialogs.onShow = [&] { behind = form.Current_LoadingSmallBtn.Caption(); };
+    EXPECT_FALSE(joystick.OpenJoysticks());
+    EXPECT_NE(behind, seen);
+}
+
+TEST_F(JoystickTest, ChangeIsTakenWithoutAWordAndHoldsBackWhatIsDown) {
+    Add("Pad");
+    Init();
+    EXPECT_FALSE(joystick.TakeChange());
+    Add("Second");
+    Press({4}, 1);
+    Pad(1).x = 65535;
+    pads.changed = true;
+    bool yielded = false;
+    host.events.onEvents = [&] { yielded = true; };
+    EXPECT_TRUE(joystick.TakeChange());
+    EXPECT_FALSE(yielded);
+    EXPECT_EQ(joystick.JoystickCount(), 2);
+    EXPECT_THAT(Poll(), IsEmpty());
+    Pad(1).x = 32768;
+    EXPECT_THAT(Poll(), ElementsAre("Left 2 1"));
+    Pad(1).x = 65535;
+    Press({}, 1);
+    EXPECT_THAT(Poll(), IsEmpty());
+    Press({4}, 1);
+    EXPECT_THAT(Poll(), ElementsAre("Button 2 5"));
+    EXPECT_THAT(host.dialogs.shown, IsEmpty());
+    // Without a service there are none, and nobody is told.
+    pads.noService = pads.changed = true;
+    EXPECT_TRUE(joystick.TakeChange());
+    EXPECT_EQ(joystick.JoystickCount(), 0);
+    EXPECT_THAT(host.dialogs.shown, IsEmpty());
+}
+
+TEST_F(JoystickTest, PadsPulledOutInsideAPollRest) {
+    Add("A");
+    Add("B");
+    Init();
+    Press({0, 1}, 0);
+    Press({0}, 1);
+    // What was read of the first one still counts; the second one rests.
+    window.onCall = [&] { pads.devices.clear(); };
+    EXPECT_THAT(Poll(), ElementsAre("Button 1 1", "Button 1 2"));
+    EXPECT_THAT(Poll(), IsEmpty());
+    EXPECT_EQ(joystick.JoystickCount(), 2);
+}
+
 TEST_F(JoystickTest, OpeningIsNotEnteredAgainFromItsOwnEvents) {
     Add("Pad");
     host.events.onEvents = [&] {

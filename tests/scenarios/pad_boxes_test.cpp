@@ -136,6 +136,25 @@ TEST_F(PadBoxes, NobodyLooksWithoutDevicesOrInAnotherProgram) {
     Ask([&] { EXPECT_TRUE(Refused("tick", "Form1.BoxButtonTimer")); });
 }
 
+TEST_F(PadBoxes, OneThatComesMeanwhileAnswers) {
+    Start();
+    Ask([&] {
+        Do("device", "clear");
+        Do("device", "add", "Other", 18);
+        Press({0});
+        Host().controllers.changed = true;
+        // The window's own timer leaves it to the box's.
+        Poll();
+        LookAtBox(2);
+        EXPECT_EQ(Pressed(), Keys{});
+        Release();
+        LookAtBox();
+        Press({0});
+        LookAtBox();
+        EXPECT_EQ(Pressed(), Keys{BoxKey::press});
+    });
+}
+
 TEST_F(PadBoxes, OneOverAnother) {
     Start();
     Ask([&] {

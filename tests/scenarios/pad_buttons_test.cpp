@@ -198,6 +198,21 @@ TEST_F(PadButtons, FocusOutOfItsNumbers) {
     EXPECT_EQ(Focus(), 2);
 }
 
+TEST_F(PadButtons, StartAndAddWithTheFocusOutOfItsNumbers) {
+    for (const int focus : {-1, 0, 6, 7}) {
+        Start();
+        Do("click", "Form1.Label2");
+        Do("select", "Form1.WIthoutDoubles", 1);
+        Form().JoystickFocus = focus;
+        Tap(10);
+        EXPECT_EQ(Get("FavoritenListe.List"), Json::array({"Bee (1991)(Maker)"})) << focus;
+        Form().JoystickFocus = focus;
+        Tap(1);
+        EXPECT_TRUE(Do("runs")["value"].empty()) << focus;
+        EXPECT_EQ(Get("GameIsRunning"), true) << focus;
+    }
+}
+
 TEST_F(PadButtons, NothingLoadedAndNoEmulatorAtAll) {
     tree.WriteProgramProfile({});
     Start();

@@ -208,6 +208,36 @@ TEST_F(PadDevices, ComeAndGoneIsSeenWhereTheHostTells) {
     EXPECT_EQ(Get("WIthoutDoubles.ListIndex"), 1);
 }
 
+TEST_F(PadDevices, OneThatComesWithAButtonDownDoesNotAct) {
+    Start();
+    Do("device", "clear");
+    Do("device", "add", "Other", 18);
+    Press({11});
+    Host().controllers.changed = true;
+    Poll(3);
+    EXPECT_FALSE(session->ended);
+    Release();
+    Poll();
+    Press({11});
+    EXPECT_EQ(Do("tick", "Form1.JoystickTimer").value("ended", false), true);
+}
+
+TEST_F(PadDevices, NothingIsLaunchedWhileTheIconOpensThem) {
+    for (int turn = 1; turn <= 2; ++turn) {
+        Start();
+        Do("click", "Form1.Label2");
+        Do("meanwhile", "events", turn, Json::array({"dblclick", "Form1.WIthoutDoubles", 0}));
+        Do("click", "Form1.JoystickIcon");
+        EXPECT_TRUE(Do("runs")["value"].empty()) << turn;
+        EXPECT_FALSE(Form().GameIsRunning) << turn;
+        EXPECT_FALSE(Form().Busy) << turn;
+        Poll();
+        Do("dblclick", "Form1.WIthoutDoubles", 0);
+        EXPECT_EQ(Do("runs")["value"].size(), 1U) << turn;
+        EXPECT_TRUE(IsSilent()) << turn;
+    }
+}
+
 TEST_F(PadDevices, TitleLineTellsOfOneThatComesAfterTheStart) {
     Start();
     const std::string title = Text("MyCaptionLabel.Caption");

@@ -1,4 +1,5 @@
 #include "scenarios/pad.h"
+#include "wiring/routines.h"
 
 namespace kivu::scenarios {
 namespace {
@@ -198,6 +199,77 @@ TEST_F(PadGame, ExitButtonOfTheTableKillsByItsRoutine) {
     EXPECT_EQ(Do("dump", "Form1")["value"], before);
 }
 
+TEST_F(PadGame, SoDoesTheEventOfTheButton) {
+    Start();
+    LaunchBee();
+    EmulatorComesUp();
+    Do("set", "Form1.ExitButtonAction", 1);
+    Do("call", "Joystick_Button", 1, 1);
+    EXPECT_EQ(Do("kills")["value"], Json::array({4711}));
+}
+
+TEST_F(PadGame, LeftOnByTheFirstActionThePollStaysSilentToo) {
+    tree.WriteProgramProfile(
+        {{"LastEmulator", "Alpha"}, {"UseJoystick", "1"}, {"UseJoystickExitbutton", "1"}});
+    Start();
+    LaunchBee();
+    EmulatorComesUp();
+    Hold({{"x", 65535}, {"buttons", Json::array({1, 4, 11})}});
+    const int reads = Host().controllers.reads;
+    Poll(5);
+    EXPECT_EQ(Host().controllers.reads, reads);
+    EXPECT_FALSE(session->ended);
+    EXPECT_EQ(Runs(), 1U);
+    EXPECT_TRUE(Do("kills")["value"].empty());
+}
+
+TEST_F(PadGame, StartHeldOverItsEndStartsNoSecondOneWhereThePadStaysOn) {
+    OptionToEndByButton();
+    Start();
+    Press({1});
+    Poll();
+    EmulatorComesUp();
+    WatchLooks();
+    LookForExit(12);
+    EmulatorGoes();
+    WatchLooks(4);
+    EXPECT_EQ(Get("GameIsRunning"), false);
+    EXPECT_EQ(Runs(), 1U);
+    Poll(3);
+    EXPECT_EQ(Runs(), 0U);
+    Release();
+    Poll();
+    Press({1});
+    Poll();
+    EXPECT_EQ(Runs(), 1U);
+}
+
+TEST_F(PadGame, APadThatIsPutInDuringItEndsIt) {
+    OptionToEndByButton();
+    Start();
+    EXPECT_EQ(Get("ExitButtonTimer.Interval"), 250);
+    Do("set", "Form1.ExitButtonAction", 3);
+    Press({1});
+    Poll();
+    EmulatorComesUp();
+    LookForExit(1);
+    const std::string title = Text("MyCaptionLabel.Caption");
+    Do("device", "clear");
+    Do("device", "add", "Other", 18);
+    Press({2});
+    Host().controllers.changed = true;
+    // It came with the button down.
+    LookForExit(12);
+    EXPECT_TRUE(Do("kills")["value"].empty());
+    Release();
+    LookForExit(1);
+    Press({2});
+    LookForExit(8);
+    EXPECT_EQ(Do("kills")["value"], Json::array({4711}));
+    EXPECT_EQ(Text("MyCaptionLabel.Caption"), title);
+    EXPECT_TRUE(Do("boxes")["value"].empty());
+}
+
 TEST_F(PadGame, LeftOnInAGameThePollStaysSilent) {
     OptionToEndByButton();
     Start();
@@ -262,6 +334,30 @@ TEST_F(PadGame, HammeredTheExitButtonIsTheGames) {
     // Held from the last press on.
     LookForExit(7);
     EXPECT_EQ(Do("kills")["value"], Json::array({4711}));
+}
+
+TEST_F(PadGame, NobodyLooksForTheExitButtonBehindABox) {
+    OptionToEndByButton();
+    Start();
+    Do("set", "Form1.ExitButtonAction", 3);
+    Press({1});
+    Poll();
+    EmulatorComesUp();
+    Release();
+    LookForExit(1);
+    int shown = 0;
+    Host().dialogs.onShow = [&] {
+        ++shown;
+        Press({2});
+        const int reads = Host().controllers.reads;
+        LookForExit(12);
+        EXPECT_EQ(Host().controllers.reads, reads);
+        Release();
+    };
+    session->Routines().dialogs.MessageBox("", "", platform::Buttons::Ok, platform::Icon::None);
+    Host().dialogs.onShow = nullptr;
+    EXPECT_EQ(shown, 1);
+    EXPECT_TRUE(Do("kills")["value"].empty());
 }
 
 TEST_F(PadGame, OtherButtonsAreTheGames) {

@@ -214,6 +214,14 @@ TEST_F(PadByHand, StepsLeaveTheChosenRows) {
     EXPECT_EQ(Chosen(), Json::array({0, 1}));
 }
 
+// To no row would be to unmark them all.
+TEST_F(PadByHand, TenUpFromTheTenthRowStays) {
+    StartInCompleteList();
+    Lay(3, {250, 20}, {50, 9}, none);
+    Act(6);
+    Expect(0, 9, -1);
+}
+
 TEST_F(PadByHand, SelectTurnsTheMarkOver) {
     StartInCompleteList();
     Act(1);

@@ -1,3 +1,6 @@
+#include <optional>
+
+#include "joystick/button_setup_form.h"
 #include "scenarios/pad.h"
 
 namespace kivu::scenarios {
@@ -274,11 +277,88 @@ TEST_F(PadSetup, PadPulledOutAndPutInMeanwhile) {
         EXPECT_EQ(Of("Position"), 0);
         // A host that tells of it.
         Host().controllers.changed = true;
+        // The window's own timer leaves it to this one.
+        Poll();
+        P();
+        // It came with the button down.
+        EXPECT_EQ(Of("Position"), 0);
+        EXPECT_EQ(Get("JoystickButtonSetupModus"), true);
+        Release();
+        P();
+        Press({3});
         P();
         EXPECT_EQ(Of("Position"), 1);
         Key("Escape");
     });
     EXPECT_EQ(Get("JoystickTimer.Enabled"), true);
+}
+
+TEST_F(PadSetup, BehindAnotherProgramsWindowThePadIsNotOurs) {
+    using Activity = forms::WindowHost::Activity;
+    Start();
+    Open([&] {
+        session->Screen().activity = Activity::others;
+        Press({3});
+        P(3);
+        EXPECT_EQ(Of("Position"), 0);
+        session->Screen().activity = Activity::ours;
+        // Still held, it is not meant.
+        P(2);
+        EXPECT_EQ(Of("Position"), 0);
+        Release();
+        P();
+        Press({3});
+        P();
+        EXPECT_EQ(Of("Position"), 1);
+        Key("Escape");
+    });
+}
+
+// Its own timer goes on as long as the window stands.
+TEST_F(PadSetup, PollsNothingOnceTheModeIsOff) {
+    Start();
+    Open([&] {
+        Do("call", "SetJoystickButtonSetupModus", false);
+        Press({1});
+        const int reads = Host().controllers.reads;
+        P(3);
+        EXPECT_EQ(Host().controllers.reads, reads);
+        EXPECT_EQ(Of("Position"), 0);
+        Release();
+        Key("Escape");
+    });
+    EXPECT_TRUE(Do("runs")["value"].empty());
+}
+
+TEST_F(PadSetup, SaysThatItIsDoneAndStops) {
+    for (const bool german : {false, true}) {
+        options.language = german ? "German" : "English";
+        Start();
+        const joystick::ButtonSetupForm* window = nullptr;
+        std::optional<forms::HeldForm> held;
+        Open([&] {
+            forms::Form* found = session->Screen().Find("SetJoystickButtons");
+            window = dynamic_cast<joystick::ButtonSetupForm*>(found);
+            ASSERT_NE(window, nullptr);
+            held.emplace(*found);
+            EXPECT_TRUE(window->ShowTimer.Enabled());
+            Skip(12);
+        });
+        ASSERT_NE(window, nullptr);
+        EXPECT_EQ(window->InfoLabel.Caption(), german ? "\r\r\rFertig!" : "\r\r\rDone!");
+        EXPECT_FALSE(window->ShowTimer.Enabled());
+        EXPECT_FALSE(window->PollingTimer.Enabled());
+    }
+}
+
+TEST_F(PadSetup, TheIconsDoubleClickLowersTheMainWindowMeanwhile) {
+    Start();
+    ASSERT_TRUE(Form().IsTopmost());
+    Open([&] {
+        EXPECT_FALSE(Form().IsTopmost());
+        Key("Escape");
+    });
+    EXPECT_TRUE(Form().IsTopmost());
 }
 
 TEST_F(PadSetup, IsNotOpenedTwiceNorWhileBusy) {

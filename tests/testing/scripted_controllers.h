@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <atomic>
 #include <cstddef>
+#include <functional>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -23,6 +24,7 @@ class ScriptedControllers : public platform::Controllers {
 
     std::optional<std::vector<platform::Controller>> Open() override {
         ++opened;
+        if (onOpen) onOpen();
         handles.clear();
         if (noService) return std::nullopt;
         std::vector<platform::Controller> list;
@@ -56,6 +58,7 @@ class ScriptedControllers : public platform::Controllers {
     }
 
     std::vector<Device> devices{{{"Mouse", 0}, {}}, {{"Keyboard", 0}, {}}};
+    std::function<void()> onOpen;  // while the service looks
     bool noService = false;
     bool changed = false;
     int opened = 0, closed = 0, reads = 0;

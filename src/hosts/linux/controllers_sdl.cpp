@@ -19,10 +19,9 @@ constexpr std::pair<SDL_GameControllerButton, Arrow> padArrows[] = {
     {SDL_CONTROLLER_BUTTON_DPAD_RIGHT, Arrow::right},
     {SDL_CONTROLLER_BUTTON_DPAD_UP, Arrow::up},
     {SDL_CONTROLLER_BUTTON_DPAD_DOWN, Arrow::down}};
-constexpr std::pair<Uint8, Arrow> hatArrows[] = {{SDL_HAT_LEFT, Arrow::left},
-                                                 {SDL_HAT_RIGHT, Arrow::right},
-                                                 {SDL_HAT_UP, Arrow::up},
-                                                 {SDL_HAT_DOWN, Arrow::down}};
+// In the order of a hat's bits.
+constexpr std::array<Uint8, 4> hatBits{SDL_HAT_UP, SDL_HAT_RIGHT, SDL_HAT_DOWN, SDL_HAT_LEFT};
+constexpr std::array<Arrow, 4> hatArrows{Arrow::up, Arrow::right, Arrow::down, Arrow::left};
 
 // From SDL's signed range.
 int Unsigned(Sint16 value) {
@@ -91,6 +90,9 @@ SdlControllers::Device SdlControllers::OpenDevice(int index, const std::string& 
     if (sdl->isPad(index) == SDL_TRUE) device.pad = sdl->openPad(index);
     device.hats.resize(static_cast<std::size_t>(std::max(0, sdl->numHats(device.joystick))));
     if (device.pad != nullptr) FindArrows(device);
+    for (Hat& hat : device.hats) {
+        if (!device.hasArrows) hat.arrows = hatArrows;
+    }
     return device;
 }
 
@@ -98,9 +100,16 @@ void SdlControllers::FindArrows(Device& device) const {
     for (const auto& [button, arrow] : padArrows) {
         const SDL_GameControllerButtonBind bind = sdl->getPadBind(device.pad, button);
         device.hasArrows |= bind.bindType != SDL_CONTROLLER_BINDTYPE_NONE;
-        if (bind.bindType != SDL_CONTROLLER_BINDTYPE_BUTTON) continue;
-        const auto place = static_cast<std::size_t>(bind.value.button);
-        if (place < device.arrows.size()) device.arrows[place] = arrow;
+        if (bind.bindType == SDL_CONTROLLER_BINDTYPE_BUTTON) {
+            const auto place = static_cast<std::size_t>(bind.value.button);
+            if (place < device.arrows.size()) device.arrows[place] = arrow;
+        } else if (bind.bindType == SDL_CONTROLLER_BINDTYPE_HAT) {
+            const auto place = static_cast<std::size_t>(bind.value.hat.hat);
+            if (place >= device.hats.size()) continue;
+            for (std::size_t i = 0; i < hatBits.size(); ++i) {
+                if (bind.value.hat.hat_mask == hatBits[i]) device.hats[place].arrows[i] = arrow;
+            }
+        }
     }
 }
 
@@ -147,9 +156,11 @@ void SdlControllers::Take(const SDL_Event& event) {
     } else if (event.type == SDL_JOYHATMOTION) {
         Device* device = Find(event.jhat.which);
         if (device == nullptr || event.jhat.hat >= device->hats.size()) return;
-        const Uint8 before = std::exchange(device->hats[event.jhat.hat], event.jhat.value);
-        for (const auto& [bit, arrow] : hatArrows) {
-            if ((event.jhat.value & bit) != 0 && (before & bit) == 0) device->taps.Press(arrow);
+        Hat& hat = device->hats[event.jhat.hat];
+        const Uint8 before = std::exchange(hat.place, event.jhat.value);
+        for (std::size_t i = 0; i < hatBits.size(); ++i) {
+            const bool fresh = (hat.place & hatBits[i]) != 0 && (before & hatBits[i]) == 0;
+            if (fresh && hat.arrows[i] != Arrow::none) device->taps.Press(hat.arrows[i]);
         }
     }
 }
@@ -206,8 +217,8 @@ void SdlControllers::ReadButtons(const Device& device, platform::ControllerState
     }
     for (std::size_t hat = 0; hat < device.hats.size(); ++hat) {
         const Uint8 value = sdl->getHat(device.joystick, static_cast<int>(hat));
-        for (const auto& [bit, arrow] : hatArrows) {
-            if ((value & bit) != 0) held.Set(arrow);
+        for (std::size_t i = 0; i < hatBits.size(); ++i) {
+            if ((value & hatBits[i]) != 0) held.Set(hatArrows[i]);
         }
     }
 }

@@ -33,13 +33,17 @@ class SdlControllers : public platform::Controllers {
     bool Changed() override;
 
  private:
+    struct Hat {
+        Uint8 place = SDL_HAT_CENTERED;
+        std::array<Arrow, 4> arrows{};  // what its directions mean, in the order of their bits
+    };
     struct Device {
         SDL_Joystick* joystick = nullptr;   // null: it could not be opened
         SDL_GameController* pad = nullptr;  // null: SDL does not know its buttons by their meaning
         SDL_JoystickID id = -1;
-        bool hasArrows = false;          // of the pad, and not its hats
+        bool hasArrows = false;          // of the pad; its other hats mean nothing
         std::array<Arrow, 32> arrows{};  // what the buttons mean
-        std::vector<Uint8> hats;
+        std::vector<Hat> hats;
         ShapeMemory shape;
         Taps taps;
     };

@@ -221,6 +221,36 @@ TEST_F(ControllersSdl, AShortTapOnAnArrowButtonIsAStep) {
     EXPECT_EQ(Read(), ControllerState());
 }
 
+// Its cross are buttons.
+TEST_F(ControllersSdl, AnotherHatOfAKnownPadIsNeitherHeldNorTapped) {
+    VirtualPad pad("Pad", {.axes = 6, .buttons = 15, .hats = 1, .known = true});
+    Open();
+    Read();
+    pad.SetHat(0, SDL_HAT_UP);
+    EXPECT_EQ(Read(), ControllerState());
+    pad.TapHat(0, SDL_HAT_LEFT);
+    EXPECT_EQ(Read(), ControllerState());
+    pad.Tap(SDL_CONTROLLER_BUTTON_DPAD_UP);
+    EXPECT_EQ(Read(), At(32768, 0));
+}
+
+TEST_F(ControllersSdl, ACrossThatIsAHatIsHeldAndTapped) {
+    // SDL knows pads by their names, too.
+    VirtualPad pad("Cross", {.axes = 6, .buttons = 11, .hats = 2});
+    ASSERT_TRUE(pad.MapCrossToHat(1));
+    Open();
+    Read("Cross");
+    pad.SetHat(1, SDL_HAT_RIGHT);
+    EXPECT_EQ(Read("Cross"), At(65535, 32768));
+    pad.SetHat(1, SDL_HAT_CENTERED);
+    EXPECT_EQ(Read("Cross"), ControllerState());
+    pad.TapHat(1, SDL_HAT_LEFTDOWN);
+    EXPECT_EQ(Read("Cross"), At(0, 65535));
+    EXPECT_EQ(Read("Cross"), ControllerState());
+    pad.TapHat(0, SDL_HAT_LEFT);
+    EXPECT_EQ(Read("Cross"), ControllerState());
+}
+
 TEST_F(ControllersSdl, AHeldDirectionOfAHatIsNoTapWhenAnotherJoinsIt) {
     VirtualPad pad("Pad", {.hats = 1});
     Open();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <SDL2/SDL.h>
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -22,6 +23,7 @@ class VirtualPad {
     }
     ~VirtualPad() {
         Unplug();
+        if (mapped) SDL_QuitSubSystem(SDL_INIT_GAMECONTROLLER);
         SDL_QuitSubSystem(SDL_INIT_JOYSTICK);
     }
     VirtualPad(const VirtualPad&) = delete;
@@ -62,6 +64,21 @@ class VirtualPad {
     }
     void SetHat(int hat, Uint8 value) { SDL_JoystickSetVirtualHat(joystick, hat, value); }
 
+    // As that of a pad that SDL knows, for who opens it after this. False: SDL does not take it.
+    bool MapCrossToHat(int hat) {
+        // Meanings last as long as somebody keeps the service for them.
+        if (!std::exchange(mapped, true)) SDL_InitSubSystem(SDL_INIT_GAMECONTROLLER);
+        char id[33] = {};
+        SDL_JoystickGetGUIDString(SDL_JoystickGetGUID(joystick), id, sizeof id);
+        // The checksum of the name is no part of it; the name itself is.
+        std::fill(id + 4, id + 8, '0');
+        const std::string from = "h" + std::to_string(hat) + ".";
+        const std::string mapping = std::string(id) + "," + name + ",a:b0,b:b1,leftx:a0,lefty:a1" +
+                                    ",rightx:a2,dpup:" + from + "1,dpright:" + from +
+                                    "2,dpdown:" + from + "4,dpleft:" + from + "8,";
+        return SDL_GameControllerAddMapping(mapping.c_str()) == 1;
+    }
+
     // Down and up again, as fast as no read sees it down.
     void Tap(int button) {
         SetButton(button, true);
@@ -80,6 +97,7 @@ class VirtualPad {
     std::string name;
     Parts parts;
     SDL_Joystick* joystick = nullptr;
+    bool mapped = false;
 };
 
 }  // namespace kivu::testing
