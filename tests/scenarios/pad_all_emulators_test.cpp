@@ -99,8 +99,7 @@ TEST_F(PadAllEmulators, FavouritesOverTheOpenChoiceAreWalkedThroughAndStarted) {
     TapStick("y", 65535);
     EXPECT_EQ(list.ListIndex(), 1);
     EXPECT_TRUE(Visible("FavoritenListeGlobal"));
-    Press({1});
-    Poll(3);
+    Tap(1);
     EXPECT_EQ(Runs(), 1U);
     EXPECT_EQ(Get("CurrentEmuIndex"), 1);
     EXPECT_EQ(Text("CURRENT_PROGRAM_STARTED"), "Cat (1992)(Maker)");

@@ -200,6 +200,7 @@ TEST_F(PadButtons, FocusOutOfItsNumbers) {
 
 TEST_F(PadButtons, StartAndAddWithTheFocusOutOfItsNumbers) {
     for (const int focus : {-1, 0, 6, 7}) {
+        std::filesystem::remove(testing::PathOf(tree.Path("Config/Alpha/Favoriten.ini")));
         Start();
         Do("click", "Form1.Label2");
         Do("select", "Form1.WIthoutDoubles", 1);
