@@ -12,6 +12,22 @@ using platform::Icon;
 
 }  // namespace
 
+// Here no language counts as German, too.
+Box Mame32Warning(const core::ProgramState& program) {
+    if (program.Get_Current_Language() < 2) {
+        return {
+            "Dies ist NICHT die Command-Line Version von Mame!\r"
+            "Sie sollten die Command-Line Version benutzen. Fall noch nicht vorhanden, einfach "
+            "ins Mame-Verzeichnis kopieren (nichts überschreiben!) und anschl. die 'Mame.exe' "
+            "auswählen.",
+            "Achtung: Keine Command Line-Version of Mame!", Buttons::Ok, Icon::Error};
+    }
+    return {
+        "This is NOT the Command line Version of Mame!\r"
+        "Copy the Command line Version into your Mame - directory and choose the 'mame.exe'.",
+        "Caution: This is not the command line version of Mame!", Buttons::Ok, Icon::Error};
+}
+
 Box DiscardQuestion(const core::ProgramState& program) {
     return {program.Say("Sie haben noch nicht gespeichert, Änderungen verwerfen?",
                         "You have not saved your settings! \r\r Refuse changes?"),

@@ -9,6 +9,9 @@
 // wording speaks German on every system.
 namespace kivu::settings {
 
+// That of a program which needs another one of its kind.
+Box Mame32Warning(const core::ProgramState& program);
+
 // Unsaved changes: OK leaves without them.
 Box DiscardQuestion(const core::ProgramState& program);
 // Before a directory is read again.

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "settings/boxes.h"
 #include "settings/linux_emulators.h"
 #include "support/path_forms.h"
 #include "text/command_line.h"
@@ -16,22 +17,6 @@ using platform::Buttons;
 using platform::Icon;
 
 constexpr std::array<std::string_view, 4> gameFolders{"Roms", "Rom", "Disks", "Games"};
-
-// Here no language counts as German, too.
-Box Mame32Warning(const core::ProgramState& program) {
-    if (program.Get_Current_Language() < 2) {
-        return {
-            "Dies ist NICHT die Command-Line Version von Mame!\r"
-            "Sie sollten die Command-Line Version benutzen. Fall noch nicht vorhanden, einfach "
-            "ins Mame-Verzeichnis kopieren (nichts überschreiben!) und anschl. die 'Mame.exe' "
-            "auswählen.",
-            "Achtung: Keine Command Line-Version of Mame!", Buttons::Ok, Icon::Error};
-    }
-    return {
-        "This is NOT the Command line Version of Mame!\r"
-        "Copy the Command line Version into your Mame - directory and choose the 'mame.exe'.",
-        "Caution: This is not the command line version of Mame!", Buttons::Ok, Icon::Error};
-}
 
 Box UnknownQuestion(const core::ProgramState& program) {
     return {program.Say("Emulator nicht bekannt, die Start-Parameter müssen ggf. von Hand "

@@ -20,8 +20,9 @@ bool PartFile::Open(const std::string& path) {
         return false;
     target = *systemPath;
     for (int number = 0; number < mostNames; ++number) {
-        const std::wstring tried =
-            target + (number == 0 ? L"" : L"." + std::to_wstring(number)) + L".part";
+        std::wstring tried = target;
+        if (number > 0) tried += L'.' + std::to_wstring(number);
+        tried += L".part";
         file = Handle(::CreateFileW(tried.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr,
                                     CREATE_NEW, FILE_ATTRIBUTE_NORMAL, nullptr));
         if (file) {
