@@ -16,7 +16,7 @@ void ListEvents::RefreshList() {
     routines.search.LeaveResults();
     ports.layout->ArrangeLists();
     routines.games.UpdateListCaptions();
-    marked.ShowName();
+    marked.ShowNameInFront();
     hooks.RefreshPreview();
     hooks.RefreshHints();
 }

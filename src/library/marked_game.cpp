@@ -2,12 +2,29 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 #include "core/form1.h"
 #include "library/find_list_item.h"
 #include "text/paths.h"
+#include "text/text.h"
 
 namespace kivu::library {
+
+namespace {
+
+// A label breaks its caption to its width; each break has taken one character's place.
+bool IsBrokenFrom(std::string_view caption, std::string_view name) {
+    for (const char character : caption) {
+        if (name.empty()) return false;
+        const bool isBreak = character == '\r';
+        if (!isBreak && character != name.front()) return false;
+        name.remove_prefix(isBreak ? text::CodePointOffset(name, 1) : 1);
+    }
+    return name.empty();
+}
+
+}  // namespace
 
 forms::ListBox* MarkedGame::ListInFront() const {
     if (form.EmulatorLongListbox.Visible() || form.FavoritenListeGlobal.Visible() ||
@@ -53,7 +70,24 @@ bool MarkedGame::SelectToStore() {
 void MarkedGame::ShowName() {
     // In the busy state the label is empty on purpose.
     if (!form.ListsVisible || !form.Current_ProgramNameFull.Caption().empty()) return;
-    const std::string& path = form.UAE_FULL.List(RowInFront());
+    WriteName();
+}
+
+void MarkedGame::ShowNameInFront() {
+    const int selected = form.UAE_Short.ListIndex();
+    if (form.ListsVisible && selected >= 0 && !IsNamed(selected) && NamedRow() >= 0) {
+        WriteName();
+    } else {
+        ShowName();
+    }
+}
+
+void MarkedGame::WriteName() {
+    const forms::ListBox* list = ListInFront();
+    if (!list) return;
+    // With no row marked the selected game counts, whose picture is on view.
+    const int row = list->ListIndex() < 0 ? form.UAE_Short.ListIndex() : RowInFront();
+    const std::string& path = form.UAE_FULL.List(row);
     if (path.empty()) return;
     form.Current_ProgramNameFull.SetCaption(text::GetFileNameOnly(path));
     form.Current_ProgramNameFull.SetVisible(true);
@@ -61,7 +95,25 @@ void MarkedGame::ShowName() {
 
 int MarkedGame::RowOnShow() const {
     const int selected = form.UAE_Short.ListIndex();
-    return selected >= 0 ? selected : RowInFront();
+    if (selected < 0) return RowInFront();
+    if (IsNamed(selected)) return selected;
+    const int named = NamedRow();
+    return named >= 0 ? named : selected;
+}
+
+int MarkedGame::NamedRow() const {
+    if (form.Current_ProgramNameFull.Caption().empty()) return -1;
+    for (const forms::ListBox* list :
+         {&form.WIthoutDoubles, &form.FavoritenListe, &form.SuchErgList}) {
+        const int row = list->ListIndex() < 0 ? -1 : RowOf(*list);
+        if (IsNamed(row)) return row;
+    }
+    return -1;
+}
+
+bool MarkedGame::IsNamed(int row) const {
+    const std::string name = text::GetFileNameOnly(form.UAE_FULL.List(row));
+    return !name.empty() && IsBrokenFrom(form.Current_ProgramNameFull.Caption(), name);
 }
 
 int MarkedGame::RowInFront() const {

@@ -40,17 +40,27 @@ class MarkedGame {
     bool SelectToStore();
 
     // Writes the name of the marked row's game where none is on show, as the row's click would, and
-    // does nothing else that the click does.
+    // does nothing else that the click does. With no row marked it is the selected game's.
     void ShowName();
+    // The same where a list comes to the front: a name that was written for a row marked in another
+    // list, and is not the selected game's, gives way.
+    void ShowNameInFront();
 
-    // The row of UAE_Short of the selected game; with none selected, as after a rescan, that of the
-    // game marked in the list in front. -1 for none.
+    // The row of UAE_Short of the selected game, or of a marked one whose name has been written in
+    // its place; with none selected, as after a rescan, that of the game marked in the list in
+    // front. -1 for none.
     int RowOnShow() const;
 
     Ports ports;
 
  private:
     int RowInFront() const;
+    void WriteName();
+    // The row of UAE_Short of the game that is marked in some list and has its name on show; -1 for
+    // none.
+    int NamedRow() const;
+    // Whether the name on show is that of this row of UAE_FULL.
+    bool IsNamed(int row) const;
     // The row of UAE_Short that a game's shown name stands for; -1 for none.
     int RowOf(const forms::ListBox& list) const;
     bool IsInStep(const forms::ListBox& list) const;

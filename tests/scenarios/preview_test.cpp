@@ -16,6 +16,7 @@ class Preview : public PreviewScenario {
                    "[Favoriten]\r\nFav0_Name=Bee\r\nFav0_FullPath=/Roms/Alpha/Bee (1991)(Maker).adf"
                    "\r\n");
     }
+    std::string NameBegin() { return Text("Current_ProgramNameFull.Caption").substr(0, 3); }
 };
 
 TEST_F(Preview, OfTheFirstGameAtTheStart) {
@@ -168,8 +169,45 @@ TEST_F(Preview, StaysWhatItIsWhileAGameRuns) {
     EmulatorComesUp();
     Do("tick", "Form1.EmuActiveTimer", 2);
     EXPECT_EQ(Shown(), bee);
+    Do("tick", "Form1.EmuActiveTimer", 3);
+    EXPECT_EQ(Shown(), bee);
+}
+
+// The simple list comes to the front behind a game, whichever list it was started from.
+TEST_F(Preview, BehindAGameIsThatOfTheGameWhoseNameIsShown) {
+    Start();
+    LaunchBee();
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer", 2);
     EmulatorGoes();
     Do("tick", "Form1.EmuActiveTimer", 5);
+    ASSERT_EQ(Get("WIthoutDoubles.ListIndex"), 0);
+    ASSERT_EQ(Get("UAE_Short.ListIndex"), 2);
+    EXPECT_EQ(NameBegin(), "Ant");
+    EXPECT_EQ(Shown(), ant);
+    // Over the tabs, too. No favourite is marked.
+    Do("click", "Form1.Label1");
+    EXPECT_EQ(NameBegin(), "Bee");
+    EXPECT_EQ(Shown(), bee);
+    Do("click", "Form1.Label3");
+    EXPECT_EQ(NameBegin(), "Bee");
+    EXPECT_EQ(Shown(), bee);
+    Do("click", "Form1.Label2");
+    EXPECT_EQ(NameBegin(), "Bee");
+    EXPECT_EQ(Shown(), bee);
+}
+
+TEST_F(Preview, BehindAGameWithNoRowMarkedNameAndPictureAreThatGames) {
+    Start();
+    Do("set", "Form1.WIthoutDoubles.ListIndex", -1);
+    LaunchBee();
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer", 2);
+    EmulatorGoes();
+    Do("tick", "Form1.EmuActiveTimer", 5);
+    ASSERT_TRUE(Visible("WIthoutDoubles"));
+    ASSERT_EQ(Get("WIthoutDoubles.ListIndex"), -1);
+    EXPECT_EQ(NameBegin(), "Bee");
     EXPECT_EQ(Shown(), bee);
 }
 
@@ -219,7 +257,8 @@ TEST_F(Preview, OfTheGameOnceARunningOneIsEndedOverTheOpenChoice) {
     EXPECT_TRUE(Visible("WIthoutDoubles"));
     EXPECT_EQ(Shown(), bee);
     Do("tick", "Form1.EmuActiveTimer", 5);
-    EXPECT_EQ(Shown(), bee);
+    EXPECT_EQ(NameBegin(), "Ant") << "its row is marked in front";
+    EXPECT_EQ(Shown(), ant);
 }
 
 TEST_F(Preview, OfNoGameForARowWhoseGameHasGone) {

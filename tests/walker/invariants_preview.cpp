@@ -1,5 +1,7 @@
 // The picture at the right.
 
+#include <algorithm>
+
 #include "text/text.h"
 #include "walker/invariants.h"
 
@@ -22,6 +24,14 @@ bool IsOfGame(const std::string& picture, const std::string& path, const std::st
     return false;
 }
 
+// Behind a game the name that is shown is the marked row's in front, and the picture goes with it.
+bool IsOfNamedGame(const Moment& m) {
+    std::string name = m.world.Form().Current_ProgramNameFull.Caption();
+    // Broken to the label's width, mostly at its blanks.
+    std::replace(name.begin(), name.end(), '\r', ' ');
+    return !name.empty() && IsOfGame(m.after.preview, name, "");
+}
+
 std::string OfSelectedGame(const Moment& m) {
     if (m.after.preview.empty()) return {};
     const int selected = m.after.At(List::complete).row;
@@ -29,6 +39,7 @@ std::string OfSelectedGame(const Moment& m) {
     if (meant.kind == Meaning::Kind::untold) return {};
     const std::string path = selected < 0 ? meant.path : m.after.paths.Text(selected);
     if (!path.empty() && IsOfGame(m.after.preview, path, m.after.Loaded())) return {};
+    if (IsOfNamedGame(m)) return {};
     return m.after.preview + " is to be seen, selected is " + Quoted(path);
 }
 
