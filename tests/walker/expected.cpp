@@ -71,6 +71,12 @@ Expected PollPad(const Look& look, const Stores& stores) {
     if (look.PadIsSilent()) return {};
     if (look.pad.button == adds && look.pad.adds) return Press(look, stores, "AddToFavorit");
     if (look.pad.button != starts) return {};
+    // Those of all emulators lie over the pad's own list.
+    for (const List list : {List::globalHits, List::globalFavourites}) {
+        if (look.At(list).visible)
+            return look.At(list).row < 0 ? Expected{}
+                                         : TakeRow(look, stores, list, look.At(list).row, false);
+    }
     if (look.At(List::emulators).visible || look.pad.focus == 5) {
         Expected expected;
         expected.loads = look.dropDown.Marked();
