@@ -29,7 +29,7 @@ bool IsOfNamedGame(const Moment& m) {
     std::string name = m.world.Form().Current_ProgramNameFull.Caption();
     // Broken to the label's width, mostly at its blanks.
     std::replace(name.begin(), name.end(), '\r', ' ');
-    return !name.empty() && IsOfGame(m.after.preview, name, "");
+    return !name.empty() && IsOfGame(m.after.preview, name, m.after.Loaded());
 }
 
 std::string OfSelectedGame(const Moment& m) {
