@@ -18,11 +18,14 @@ forms::ListBox* RowSteps::ListOfAllEmulators() const {
 }
 
 void RowSteps::SetRow(forms::ListBox& list, int row) {
+    const bool focused = form.Focus() != nullptr;
     if (KeepsChosenRows(list)) {
         list.MoveCurrentRow(row);
     } else {
         list.SetListIndex(row);
     }
+    // A button that has gone with the step takes the focus with it, and no key would do anything.
+    if (focused && !form.Focus()) list.SetFocus();
 }
 
 void RowSteps::SetRowQuietly(forms::ListBox& list, int row) {

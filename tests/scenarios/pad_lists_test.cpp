@@ -100,6 +100,17 @@ TEST_F(PadLists, FewRowsUpInTheCompleteListGoNowhereOrToNone) {
     Expect(0, -1, -1);
 }
 
+TEST_F(PadLists, StepThatTakesTheButtonInFocusAwayLeavesTheKeysAList) {
+    Start();
+    Do("click", "Form1.Label2");
+    Do("select", "Form1.WIthoutDoubles", 1);
+    Do("click", "Form1.Label1");
+    Do("click", "Form1.AddToFavorit");
+    ASSERT_EQ(Form().Focus(), &Form().AddToFavorit);
+    TapStick("y", 65535);
+    EXPECT_EQ(Form().Focus(), &Form().FavoritenListe);
+}
+
 TEST_F(PadLists, FavouritesStepAlone) {
     Start();
     Lay(1, {250, 50}, {250, 50}, {30, 12});
