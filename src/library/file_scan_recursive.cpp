@@ -31,11 +31,7 @@ std::string Joined(const std::string& start, const std::string& name) {
 
 FileScanRecursive::FileScanRecursive(core::Form1& form, ScanSource& source,
                                      platform::Beeper& beeper, core::EventPacer& pacer)
-    : form(form),
-      controls(form.FileScanRecursive1),
-      source(source),
-      beeper(beeper),
-      pacer(pacer) {
+    : form(form), controls(form.FileScanRecursive1), source(source), beeper(beeper), pacer(pacer) {
 }
 
 const forms::ListBox& FileScanRecursive::Result_list() const {
