@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Usage: scripts/tidy.sh BUILD [--all]
-# Runs clang-tidy over the program's sources (src/) in a build that have changed since they were last found clean:
-# whose text, with all that they include of this tree, has another hash than then. The hashes are kept outside of the
-# tree. Where there are none yet, the sources that the last commit touched are looked at; --all: all of them, whatever
-# the hashes say.
+# Runs clang-tidy over the program's sources (src/) in a build that have changed since the last green run: whose text,
+# with all that they include of this tree, has another hash than then. The hashes are kept outside of the tree. Where
+# there are none yet, the sources that the last commit touched are looked at; --all: all of them, whatever the hashes
+# say.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+scripts/install-packages.sh tidy
 build=$(realpath "$1")
 all=${2-}
 root=$PWD
@@ -55,25 +56,20 @@ find "$build" -name cmake_pch.hxx -print0 | while IFS= read -r -d '' header; do
 done
 sed 's|/cmake_pch\.hxx |/tidy_pch.hxx |g; s|-Winvalid-pch ||g' "$build/compile_commands.json" > "$commands/compile_commands.json"
 
-# What is clean is kept at once, so that a run that is cut short was not in vain.
 mkdir -p "$(dirname "$kept")"
-touch "$kept"
 look() {
   local source=${1#* }
   if clang-tidy --quiet -p "$commands" \
       --extra-arg=-Wno-unknown-warning-option "$source" > "$work/out.$$" 2> "$work/err.$$"; then
-    printf '%s\n' "$1" >> "$kept"
-  else
-    cat "$work/out.$$" "$work/err.$$"
-    return 1
+    return 0
   fi
+  cat "$work/out.$$" "$work/err.$$"
+  return 1
 }
 export -f look
-export commands work kept
+export commands work
 failed=0
 xargs -d '\n' -r -n 1 -P "$(nproc)" bash -c 'look "$1"' look < "$work/todo" || failed=1
 
-# Hashes of what is no more are forgotten.
-sort -u "$kept" | grep -xFf "$work/now" > "$work/kept" || true
-cp "$work/kept" "$kept"
+[ $failed -ne 0 ] || cp "$work/now" "$kept"
 exit $failed

@@ -8,6 +8,7 @@ namespace kivu::hosts {
 // The calls of libxcb and its RandR part that a change of the display mode takes. They are loaded
 // when they are first needed, since most users never do. A member has the name of its function.
 struct XcbRandr {
+// NOLINTNEXTLINE(bugprone-macro-parentheses): the member is declared by it.
 #define KIVU_CALL(name) decltype(&::xcb_##name) name = nullptr
     KIVU_CALL(connect);
     KIVU_CALL(connection_has_error);
