@@ -9,7 +9,7 @@ cd "$(dirname "$0")/.."
 scripts/install-packages.sh tidy
 build=$(realpath "$1")
 all=${2-}
-root=$PWD
+root=$(pwd -P)
 kept=${KIVU_CACHE:-$HOME/.cache/kivu}/tidy/clean
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

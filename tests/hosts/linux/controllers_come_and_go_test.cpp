@@ -12,9 +12,7 @@ using kivu::testing::At;
 using kivu::testing::Down;
 using kivu::testing::VirtualPad;
 using platform::ControllerState;
-using std::chrono::milliseconds;
 using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::StartsWith;
 
 // Devices that come and go.

@@ -1,4 +1,3 @@
-#include <filesystem>
 #include <gmock/gmock.h>
 
 #include "hosts/linux/sdl_controllers.h"
@@ -13,9 +12,7 @@ using kivu::testing::Down;
 using kivu::testing::VirtualPad;
 using platform::ControllerState;
 using std::chrono::milliseconds;
-using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::StartsWith;
 
 class ControllersSdl : public kivu::testing::SdlControllersTest {};
 
