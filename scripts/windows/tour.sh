@@ -122,6 +122,8 @@ PictureShows() {
 }
 mkdir -p "$config/Pictures"
 Activate
+# The complete list: the simple one is built anew with the next choice of the emulator.
+Click 564 52
 Click 100 100
 xdotool key Home
 PictureShows png '#c000ff' Down

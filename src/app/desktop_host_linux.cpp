@@ -3,6 +3,7 @@
 #include <string_view>
 #include <thread>
 
+#include "app/build.h"
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
@@ -10,6 +11,8 @@
 #include "hosts/linux/clock_linux.h"
 #include "hosts/linux/controllers_sdl.h"
 #include "hosts/linux/display_guard.h"
+#include "hosts/linux/display_linux.h"
+#include "hosts/linux/downloader_curl.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
@@ -19,6 +22,7 @@
 #include "hosts/linux/program_directory_linux.h"
 #include "hosts/linux/program_starter_linux.h"
 #include "hosts/linux/system_colors_linux.h"
+#include "hosts/linux/user_directories.h"
 #include "hosts/linux/user_store_linux.h"
 #include "hosts/qt/background_qt.h"
 #include "hosts/qt/beeper_qt.h"
@@ -59,6 +63,11 @@ struct DesktopHost::Parts {
     hosts::LinuxSystemColors systemColors;
     hosts::SdlControllers sdl{clock, log};
     hosts::LateControllers controllers{sdl};
+    hosts::LinuxDisplay display;
+    hosts::CurlDownloader downloads;
+    platform::Build build = ThisBuild();
+    std::string runtimeDirectory = hosts::UserRuntimeDirectory();
+    std::string temporaryDirectory = hosts::TemporaryDirectory();
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
 };

@@ -1,5 +1,6 @@
 #include <QCoreApplication>
 
+#include "app/build.h"
 #include "app/command_line.h"
 #include "app/desktop_host.h"
 #include "core/language.h"
@@ -11,6 +12,8 @@
 #include "hosts/qt/picture_decoder_qt.h"
 #include "hosts/windows/clock_windows.h"
 #include "hosts/windows/controllers_dinput.h"
+#include "hosts/windows/display_windows.h"
+#include "hosts/windows/downloader_winhttp.h"
 #include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/instance_windows.h"
 #include "hosts/windows/locale_windows.h"
@@ -62,6 +65,11 @@ struct DesktopHost::Parts {
     hosts::WindowsSystemColors systemColors;
     hosts::DirectInputControllers directInput{clock, log};
     hosts::LateControllers controllers{directInput};
+    hosts::WindowsDisplay display;
+    hosts::WinHttpDownloader downloads;
+    platform::Build build = ThisBuild();
+    std::string runtimeDirectory;
+    std::string temporaryDirectory = hosts::TemporaryDirectory();
     std::string commandLine;
 };
 

@@ -1,8 +1,14 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "forms/types.h"
+
+namespace kivu::forms {
+class Form;
+class Label;
+}  // namespace kivu::forms
 
 // What routines ask of the main window's other routines. Where the one that serves is built first,
 // the other takes a reference to it; where it is built later, a Port (hook.h) that wiring/ sets.
@@ -130,6 +136,41 @@ class Drives {
     virtual void SelectSimilarDisks(int FromRow, int RowsBack, int RowsForward, int Limit) = 0;
     // Disks are chosen row by row by the user.
     virtual bool SelectsByHand() const = 0;
+};
+
+// The small files and tools of a launch that the user has chosen.
+class StartHelpers {
+ public:
+    virtual ~StartHelpers() = default;
+    // Before the start. False: the user has given the launch up.
+    virtual bool MountGameImage(const std::string& GamePath) = 0;
+    virtual void RunStartScript() = 0;
+    // Into the user's editor; made from the template where there is none.
+    virtual void EditStartScript() = 0;
+};
+
+// The loading screen.
+class LoadingScreen {
+ public:
+    virtual ~LoadingScreen() = default;
+    // `owner`: the window that is in front of the user. On a standing one it changes nothing.
+    virtual void ShowLoadingInfo(forms::Form* owner) = 0;
+    virtual bool IsShown() const = 0;
+    virtual void Unload() = 0;
+};
+
+// Addresses outside, and the program's own renewal.
+class ProgramLinks {
+ public:
+    virtual ~ProgramLinks() = default;
+    virtual void ShowHomePage() = 0;
+    virtual bool HasDonations() const = 0;
+    virtual void Donate() = 0;
+    // `link` is disabled and shows how far it has come; `cancelled` is asked meanwhile.
+    virtual void UpdateProgram(forms::Label& link, const std::function<bool()>& cancelled) = 0;
+    // Of the loaded emulator; empty: it has no address.
+    virtual std::string EmuDownloadCaption() = 0;
+    virtual void OpenEmuDownload() = 0;
 };
 
 // Where everything stands in the main window.

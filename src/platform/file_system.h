@@ -110,6 +110,14 @@ class FileSystem {
         return found;
     }
 
+    // Whether a directory holds anything at all, hidden entries aside; stops at the first one.
+    // Empty: it cannot be entered or read.
+    virtual std::optional<bool> HasEntries(const std::string& path) const {
+        const auto entries = ListDirectory(path);
+        if (!entries) return std::nullopt;
+        return !entries->empty();
+    }
+
     // A regular file of exactly this name. Empty or quoted text and directories are no files; "*"
     // and "?" are plain characters.
     virtual bool FileExists(const std::string& path) const = 0;

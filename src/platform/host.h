@@ -5,9 +5,12 @@
 
 #include "platform/background.h"
 #include "platform/beeper.h"
+#include "platform/build.h"
 #include "platform/clock.h"
 #include "platform/controllers.h"
 #include "platform/dialogs.h"
+#include "platform/display.h"
+#include "platform/downloader.h"
 #include "platform/event_pump.h"
 #include "platform/file_system.h"
 #include "platform/instance.h"
@@ -39,6 +42,13 @@ struct Host {
     Background& background;
     SystemColors& systemColors;
     Controllers& controllers;
+    Display& display;
+    Downloader& downloads;
+
+    Build build;
+    // Without a closing separator.
+    std::string runtimeDirectory;    // the user's own while logged in; empty: there is none
+    std::string temporaryDirectory;  // for files that are gone soon
 
     std::string programDirectory;  // where Config lies, with or without a closing separator
     std::string programName;       // base name of the program file, without ".exe"
@@ -64,6 +74,11 @@ Host ServicesOf(Parts& parts, std::string_view programDirectory, std::string_vie
             .background = parts.background,
             .systemColors = parts.systemColors,
             .controllers = parts.controllers,
+            .display = parts.display,
+            .downloads = parts.downloads,
+            .build = parts.build,
+            .runtimeDirectory = parts.runtimeDirectory,
+            .temporaryDirectory = parts.temporaryDirectory,
             .programDirectory = std::string(programDirectory),
             .programName = std::string(programName),
             .commandLine = std::string(commandLine)};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -30,6 +31,12 @@ class ProgramStarter {
     virtual ~ProgramStarter() = default;
     virtual std::error_code Run(const StartRequest& request) = 0;
 
+    // The same, and returns when the program has ended. `goOn` is called on the caller's thread
+    // about ten times a second and may let events run; once it says false, nobody waits any more
+    // and the program is left to itself (errc::operation_canceled).
+    virtual std::error_code RunAndWait(const StartRequest& request,
+                                       const std::function<bool()>& goOn) = 0;
+
     // How this host runs a program: false, and the launcher writes start files for cmd.exe; true,
     // and it writes them for /bin/sh (words in single quotes, lines ended by LF).
     virtual bool UsesShell() const = 0;
@@ -42,6 +49,16 @@ class ProgramStarter {
 
     // A program by its bare name, where the system's search path finds it; empty where it does not.
     virtual std::string FindInPath(const std::string&) const { return {}; }
+
+    // A directory in which FindInPath looks, whatever its spelling.
+    virtual bool SearchesIn(const std::string&) const { return false; }
+
+    // The program with which the user's desktop opens this file; empty: there is no such file, or
+    // none for it.
+    virtual std::string FindExecutable(const std::string&) const { return {}; }
+
+    // Opens a file in the user's editor for plain text, and never in a program that would run it.
+    virtual std::error_code EditText(const std::string& path) = 0;
 
     // Hands an address or a document to the program that the user has chosen for it.
     virtual std::error_code Open(const std::string& addressOrPath) = 0;

@@ -31,6 +31,9 @@ class LoggedFiles : public platform::FileSystem {
                                              std::string_view name) const override {
         return files.FindDirectory(parent, name);
     }
+    std::optional<bool> HasEntries(const std::string& path) const override {
+        return files.HasEntries(path);
+    }
     bool FileExists(const std::string& path) const override { return files.FileExists(path); }
     bool IsDirectory(const std::string& path) const override { return files.IsDirectory(path); }
     std::optional<Identity> IdentityOf(const std::string& path) const override {

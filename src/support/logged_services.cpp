@@ -33,14 +33,27 @@ std::string Result(const char* done, std::error_code failure) {
 
 std::error_code LoggedStarter::Run(const platform::StartRequest& request) {
     const std::error_code failure = starter.Run(request);
-    std::string line = Result(request.wait ? "run to its end" : "started", failure) + ": ";
+    Write(Result(request.wait ? "run to its end" : "started", failure), request);
+    return failure;
+}
+
+std::error_code LoggedStarter::RunAndWait(const platform::StartRequest& request,
+                                          const std::function<bool()>& goOn) {
+    const std::error_code failure = starter.RunAndWait(request, goOn);
+    if (failure == std::errc::operation_canceled)
+        Write("started, and left to itself", request);
+    else
+        Write(Result("run to its end", failure), request);
+    return failure;
+}
+
+void LoggedStarter::Write(std::string line, const platform::StartRequest& request) {
     // The form that this host takes.
-    line += starter.UsesShell() ? text::LogWords(request.words) : request.command;
+    line += ": " + (starter.UsesShell() ? text::LogWords(request.words) : request.command);
     line += "; in " + (request.directory.empty() ? "the current directory" : request.directory);
     line += "; " + std::string(Name(request.style));
     if (request.watched) line += ", watched";
     log.Write(line);
-    return failure;
 }
 
 std::optional<std::string> LoggedStarter::StartFileBytes(std::string_view text) const {
@@ -49,6 +62,12 @@ std::optional<std::string> LoggedStarter::StartFileBytes(std::string_view text) 
         log.Write("refused: the code page of start files lacks a character of: " +
                   std::string(text));
     return bytes;
+}
+
+std::error_code LoggedStarter::EditText(const std::string& path) {
+    const std::error_code failure = starter.EditText(path);
+    log.Write(Result("opened in the editor", failure) + ": " + path);
+    return failure;
 }
 
 std::error_code LoggedStarter::Open(const std::string& addressOrPath) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -18,14 +19,25 @@ class LoggedStarter : public platform::ProgramStarter {
         : starter(starter), log(log) {}
 
     std::error_code Run(const platform::StartRequest& request) override;
+    std::error_code RunAndWait(const platform::StartRequest& request,
+                               const std::function<bool()>& goOn) override;
     bool UsesShell() const override { return starter.UsesShell(); }
     std::optional<std::string> StartFileBytes(std::string_view text) const override;
     std::string FindInPath(const std::string& program) const override {
         return starter.FindInPath(program);
     }
+    bool SearchesIn(const std::string& directory) const override {
+        return starter.SearchesIn(directory);
+    }
+    std::string FindExecutable(const std::string& path) const override {
+        return starter.FindExecutable(path);
+    }
+    std::error_code EditText(const std::string& path) override;
     std::error_code Open(const std::string& addressOrPath) override;
 
  private:
+    void Write(std::string line, const platform::StartRequest& request);
+
     platform::ProgramStarter& starter;
     platform::Log& log;
 };

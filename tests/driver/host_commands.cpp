@@ -161,7 +161,7 @@ Json Time(Session& session, const Json& command) {
 }
 
 Json Display(Session& session, const Json&) {
-    const auto show = [](const ScriptedDisplay::Mode& mode) {
+    const auto show = [](const platform::DisplayMode& mode) {
         Json shown = Json::object();
         shown["width"] = mode.width;
         shown["height"] = mode.height;
@@ -169,9 +169,10 @@ Json Display(Session& session, const Json&) {
         shown["frequency"] = mode.frequency;
         return shown;
     };
-    Json display = show(session.display.mode);
+    const testing::ScriptedDisplay& screen = session.Host().display;
+    Json display = show(screen.current.value_or(platform::DisplayMode{}));
     display["changes"] = Json::array();
-    for (const auto& change : session.display.changes)
+    for (const auto& change : screen.sent)
         display["changes"].push_back(show(change));
     return Told("display", std::move(display));
 }

@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "driver/display.h"
 #include "driver/windows.h"
 #include "testing/faulty_file_system.h"
 #include "testing/scripted_host.h"
@@ -41,7 +40,6 @@ class Session {
     platform::FileSystem& files;  // as others have it, without the faults of the launcher's disk
     testing::FaultyFileSystem disk;
     bool devicesGiven = false;  // what is attached has been said
-    ScriptedDisplay display;
     bool started = false;
     bool ended = false;  // the program has ended by its own doing
 

@@ -11,23 +11,9 @@ using platform::DisplayMode;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// Follows every change, or refuses it.
-class ScriptedDisplay : public platform::Display {
- public:
-    std::optional<DisplayMode> Current() override { return current; }
-    bool Change(const DisplayMode& mode) override {
-        sent.push_back(mode);
-        if (accepts) current = mode;
-        return accepts;
-    }
-    std::optional<DisplayMode> current = DisplayMode{1920, 1080, 32, 60};
-    std::vector<DisplayMode> sent;
-    bool accepts = true;
-};
-
 class DisplayModeTest : public ::testing::Test {
  protected:
-    ScriptedDisplay display;
+    testing::ScriptedDisplay display;
     testing::ScriptedLog log;
     ChangeScreenRes screen{display, log};
 

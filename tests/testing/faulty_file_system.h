@@ -58,6 +58,10 @@ class FaultyFileSystem : public platform::FileSystem {
         if (Fault(Step::List, parent)) return std::nullopt;
         return inner.FindDirectory(parent, name);
     }
+    std::optional<bool> HasEntries(const std::string& path) const override {
+        if (Fails(Step::List, path)) return std::nullopt;
+        return inner.HasEntries(path);
+    }
     bool FileExists(const std::string& path) const override { return inner.FileExists(path); }
     bool IsDirectory(const std::string& path) const override { return inner.IsDirectory(path); }
     std::optional<Identity> IdentityOf(const std::string& path) const override {

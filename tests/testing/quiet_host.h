@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <string>
 #include <system_error>
@@ -33,6 +34,14 @@ class QuietHost : public platform::UserStore,
     }
     std::error_code Run(const platform::StartRequest& request) override {
         runs.push_back(request.command);
+        return {};
+    }
+    std::error_code RunAndWait(const platform::StartRequest& request,
+                               const std::function<bool()>&) override {
+        return Run(request);
+    }
+    std::error_code EditText(const std::string& path) override {
+        opened.push_back(path);
         return {};
     }
     bool UsesShell() const override { return false; }

@@ -57,6 +57,27 @@ struct QuietWatch : core::RunningEmulator {
     void KillRunning() override {}
 };
 
+struct QuietStartHelpers : core::StartHelpers {
+    bool MountGameImage(const std::string&) override { return true; }
+    void RunStartScript() override {}
+    void EditStartScript() override {}
+};
+
+struct QuietLoadingScreen : core::LoadingScreen {
+    void ShowLoadingInfo(forms::Form*) override {}
+    bool IsShown() const override { return false; }
+    void Unload() override {}
+};
+
+struct QuietLinks : core::ProgramLinks {
+    void ShowHomePage() override {}
+    bool HasDonations() const override { return false; }
+    void Donate() override {}
+    void UpdateProgram(forms::Label&, const std::function<bool()>&) override {}
+    std::string EmuDownloadCaption() override { return {}; }
+    void OpenEmuDownload() override {}
+};
+
 struct QuietDrives : core::Drives {
     void FillFromFile() override {}
     void FillFromGame(int) override {}

@@ -19,6 +19,8 @@
 #include "platform/classic_colors.h"
 #include "platform/host.h"
 #include "testing/scripted_controllers.h"
+#include "testing/scripted_display.h"
+#include "testing/scripted_downloads.h"
 #include "text/log_text.h"
 
 // A host that plays by a script: nothing in it waits, shows or starts anything. Each service can be
@@ -252,12 +254,22 @@ class ScriptedStarter : public platform::ProgramStarter {
     struct Start {
         platform::StartRequest request;
         bool opened = false;  // handed to the user's own program for it
+        bool edited = false;  // or to the editor for plain text
     };
 
     std::error_code Run(const platform::StartRequest& request) override {
-        runs.push_back({request, false});
+        runs.push_back({request, false, false});
         if (onRun) onRun(request);
         return result;
+    }
+    std::error_code RunAndWait(const platform::StartRequest& request,
+                               const std::function<bool()>& goOn) override {
+        platform::StartRequest waited = request;
+        waited.wait = true;
+        if (const auto failure = Run(waited)) return failure;
+        for (int left = looksWhileWaiting; left != 0; --left)
+            if (!goOn()) return std::make_error_code(std::errc::operation_canceled);
+        return {};
     }
     bool UsesShell() const override { return usesShell; }
     std::optional<std::string> StartFileBytes(std::string_view text) const override {
@@ -267,10 +279,23 @@ class ScriptedStarter : public platform::ProgramStarter {
         const auto found = path.find(program);
         return found == path.end() ? "" : found->second;
     }
+    bool SearchesIn(const std::string& directory) const override {
+        return std::find(searched.begin(), searched.end(), directory) != searched.end();
+    }
+    std::string FindExecutable(const std::string& file) const override {
+        const auto found = executables.find(file);
+        return found == executables.end() ? "" : found->second;
+    }
+    std::error_code EditText(const std::string& file) override {
+        platform::StartRequest request;
+        request.command = file;
+        runs.push_back({request, false, true});
+        return result;
+    }
     std::error_code Open(const std::string& addressOrPath) override {
         platform::StartRequest request;
         request.command = addressOrPath;
-        runs.push_back({request, true});
+        runs.push_back({request, true, false});
         return result;
     }
 
@@ -280,6 +305,9 @@ class ScriptedStarter : public platform::ProgramStarter {
     bool usesShell = true;
     std::function<std::optional<std::string>(std::string_view)> startFileBytes;  // unset: UTF-8
     std::map<std::string, std::string> path;  // programs on the search path, by their bare names
+    std::vector<std::string> searched;        // the directories of the search path, as asked for
+    std::map<std::string, std::string> executables;  // what opens a file, by its path
+    int looksWhileWaiting = 1;  // before what is waited for ends; below 0: it never does
 };
 
 // Keeps the lines as a file would have them, without their times.
@@ -342,7 +370,7 @@ class ScriptedColors : public platform::SystemColors {
 };
 
 struct ScriptedHost {
-    explicit ScriptedHost(platform::FileSystem& files) : files(files) {}
+    explicit ScriptedHost(platform::FileSystem& files) : files(files), downloads(files) {}
 
     platform::Host Services(std::string_view programDirectory,
                             std::string_view programName = "Kivu",
@@ -365,6 +393,12 @@ struct ScriptedHost {
     ScriptedBackground background;
     ScriptedColors systemColors;
     ScriptedControllers controllers;
+    ScriptedDisplay display;
+    ScriptedDownloads downloads;
+
+    platform::Build build;
+    std::string runtimeDirectory;
+    std::string temporaryDirectory;
 };
 
 }  // namespace kivu::testing

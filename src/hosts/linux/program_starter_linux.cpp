@@ -4,6 +4,7 @@
 
 #include "hosts/linux/detached_process.h"
 #include "hosts/linux/start_words.h"
+#include "hosts/run_and_wait.h"
 
 namespace kivu::hosts {
 
@@ -31,6 +32,23 @@ std::error_code LinuxProgramStarter::Run(const platform::StartRequest& request) 
     if (started.failure) return started.failure;
     if (request.watched && !request.wait) session.Begin(started.session);
     return {};
+}
+
+std::error_code LinuxProgramStarter::RunAndWait(const platform::StartRequest& request,
+                                                const std::function<bool()>& goOn) {
+    platform::StartRequest waited = request;
+    waited.wait = true;
+    waited.watched = false;
+    return RunBeside(
+        [waited] {
+            LaunchSession none;
+            return LinuxProgramStarter(none).Run(waited);
+        },
+        goOn);
+}
+
+std::error_code LinuxProgramStarter::EditText(const std::string&) {
+    return std::make_error_code(std::errc::not_supported);
 }
 
 std::string LinuxProgramStarter::FindInPath(const std::string& name) const {

@@ -17,6 +17,9 @@ class LinuxProgramStarter : public platform::ProgramStarter {
     explicit LinuxProgramStarter(LaunchSession& session) : session(session) {}
 
     std::error_code Run(const platform::StartRequest& request) override;
+    std::error_code RunAndWait(const platform::StartRequest& request,
+                               const std::function<bool()>& goOn) override;
+    std::error_code EditText(const std::string& path) override;
     bool UsesShell() const override { return true; }
     // A name with a directory is no bare one: empty.
     std::string FindInPath(const std::string& name) const override;

@@ -61,6 +61,11 @@ std::string UserRuntimeDirectory() {
     return S_ISDIR(status.st_mode) && status.st_uid == ::getuid() ? path : std::string();
 }
 
+std::string TemporaryDirectory() {
+    const std::string path = AbsoluteVariable("TMPDIR");
+    return IsDirectory(path) ? path : "/tmp";
+}
+
 std::error_code MakeUserDirectory(const std::string& path) {
     for (std::size_t end = path.find('/', 1);; end = path.find('/', end + 1)) {
         const std::string part = path.substr(0, end);

@@ -14,6 +14,8 @@ std::string UserStateDirectory();   // $XDG_STATE_HOME
 // $XDG_RUNTIME_DIR, which has no default; empty unless it is a directory of the user's own.
 std::string UserRuntimeDirectory();
 
+std::string TemporaryDirectory();  // $TMPDIR, else /tmp
+
 // Makes a directory and those above it, for the user alone. One that is there is no error.
 std::error_code MakeUserDirectory(const std::string& path);
 

@@ -29,4 +29,11 @@ std::string ProgramDirectory(const std::string& programFile) {
     return programFile.substr(0, isDrive ? separator + 1 : separator);
 }
 
+std::string TemporaryDirectory() {
+    std::string path = Narrow(
+        SystemText([](wchar_t* buffer, DWORD size) { return ::GetTempPathW(size, buffer); }));
+    if (path.size() > 3 && path.ends_with('\\')) path.pop_back();
+    return path;
+}
+
 }  // namespace kivu::hosts

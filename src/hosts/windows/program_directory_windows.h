@@ -13,4 +13,7 @@ std::string ProgramName(const std::string& programFile);
 // Where Config lies: the program file's directory, without a closing "\" but for that of a drive.
 std::string ProgramDirectory(const std::string& programFile);
 
+// The user's own, without a closing "\".
+std::string TemporaryDirectory();
+
 }  // namespace kivu::hosts

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string_view>
 
+#include "hosts/run_and_wait.h"
 #include "hosts/windows/batch_command.h"
 #include "hosts/windows/code_page.h"
 #include "hosts/windows/handle.h"
@@ -209,6 +210,17 @@ std::error_code WindowsProgramStarter::Run(const platform::StartRequest& request
     if (!IsFile(Wide(command.program))) return Failure(ERROR_FILE_NOT_FOUND);
     if (request.startFile || IsBatchFile(command.program)) return RunBatch(request, command);
     return RunProgram(request, command);
+}
+
+std::error_code WindowsProgramStarter::RunAndWait(const platform::StartRequest& request,
+                                                  const std::function<bool()>& goOn) {
+    platform::StartRequest waited = request;
+    waited.wait = true;
+    return RunBeside([waited] { return WindowsProgramStarter().Run(waited); }, goOn);
+}
+
+std::error_code WindowsProgramStarter::EditText(const std::string&) {
+    return std::make_error_code(std::errc::not_supported);
 }
 
 std::optional<std::string> WindowsProgramStarter::StartFileBytes(std::string_view text) const {

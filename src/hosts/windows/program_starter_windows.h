@@ -17,6 +17,9 @@ namespace kivu::hosts {
 class WindowsProgramStarter : public platform::ProgramStarter {
  public:
     std::error_code Run(const platform::StartRequest& request) override;
+    std::error_code RunAndWait(const platform::StartRequest& request,
+                               const std::function<bool()>& goOn) override;
+    std::error_code EditText(const std::string& path) override;
     bool UsesShell() const override { return false; }
     std::optional<std::string> StartFileBytes(std::string_view text) const override;
     // In the system's directories, then in those of PATH; those that are not absolute may hold
