@@ -101,8 +101,7 @@ void WinuaeGroup::EmptyMasterText() {
 
 void WinuaeGroup::WinUAEBtn_Click() {
     EnableMasterControls();
-    form.UAEFrame.SetVisible(!form.UAEFrame.Visible());
-    if (form.UAEFrame.Visible()) form.UAEFrame.BringToFront();
+    form.TogglePanel(form.UAEFrame);
 }
 
 void WinuaeGroup::UseMasterConfig_Click() {
