@@ -95,7 +95,7 @@ void ProgramGroup::FontSizeCombo_Click() {
 }
 
 void ProgramGroup::DeamonButton_Click() {
-    form.DeamonFrame.SetVisible(!form.DeamonFrame.Visible());
+    form.TogglePanel(form.DeamonFrame);
 }
 
 void ProgramGroup::DeamonPath_Change() {
@@ -150,7 +150,7 @@ void ProgramGroup::EmuDownload_Click() {
 
 void ProgramGroup::DonateBtn_Click() {
     const DisabledMeanwhile off(form.DonateBtn);
-    main.DonateBtn.Click();
+    routines.links.Donate();
 }
 
 }  // namespace kivu::settings
