@@ -45,8 +45,9 @@ class KnownGroup {
     void KnownEmuCombo_KeyDown(forms::Key& key);
     void KnownEmuCombo_LostFocus();
 
-    // A file is there that this text names as a program; see NamesProgram.
-    bool IsProgram(const std::string& text) const;
+    // The file that a text names as a program; empty: there is none.
+    std::string ProgramOf(const std::string& text) const;
+    bool IsProgram(const std::string& text) const { return !ProgramOf(text).empty(); }
     // A directory in which the host looks for programs.
     bool IsSearchPath(const std::string& directory) const;
 

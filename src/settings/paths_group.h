@@ -25,7 +25,7 @@ class WinuaeGroup;
 class PathsGroup {
  public:
     struct Services {
-        const platform::FileSystem& files;
+        platform::FileSystem& files;
         platform::Dialogs& dialogs;
         support::FileDialogs& fileDialogs;
         launch::EmulatorSetup& setup;
@@ -59,7 +59,6 @@ class PathsGroup {
     void ShowProgramFault();
     void ShowRomPathFault();
     bool IsUsable(const std::string& romPath) const;
-    void ResolveProgram();
     void GuessGames();
 
     SettingsForm& form;

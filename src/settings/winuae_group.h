@@ -30,6 +30,7 @@ class WinuaeGroup {
         platform::ProgramStarter& starter;
         platform::Dialogs& dialogs;
         support::FileDialogs& fileDialogs;
+        platform::Log& log;
         core::LoadingScreen& loadingScreen;
         launch::UaeFiles& uaeFiles;
         launch::GameLaunch& launch;
@@ -67,11 +68,11 @@ class WinuaeGroup {
 
  private:
     void EnableMasterControls();
+    void ShowKickstartFault();
     // The master's path, of a file that is there; empty where the emulator has none.
     std::string PathOfMaster();
-    void StartWithMaster();
+    void StartWith(const std::string& masterPath);
     bool WriteMaster(const std::string& path);
-    void ReloadMaster();
 
     SettingsForm& form;
     core::Form1& main;
