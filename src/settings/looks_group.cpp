@@ -35,7 +35,7 @@ void LooksGroup::Command5_Click() {
     };
     colors.SetBackColor(colorOf(keys::BackColorInSettings, main.BackColor()));
     colors.SetForeColor(colorOf(keys::FontColorInSettings, main.Label1.ForeColor()));
-    form.DarstellungFrame.SetVisible(!form.DarstellungFrame.Visible());
+    form.TogglePanel(form.DarstellungFrame);
 }
 
 // A click turns the frame, whatever the box says: what it opened with is how the window is.

@@ -5,6 +5,7 @@
 #include "favourites/repair_favoriten.h"
 #include "joystick/button_setup_opener.h"
 #include "settings/disabled_meanwhile.h"
+#include "settings/path_box.h"
 #include "settings/path_fields.h"
 #include "settings/settings_form.h"
 #include "settings/settings_store.h"
@@ -95,16 +96,17 @@ void ProgramGroup::FontSizeCombo_Click() {
 }
 
 void ProgramGroup::DeamonButton_Click() {
-    form.DeamonFrame.SetVisible(!form.DeamonFrame.Visible());
+    form.TogglePanel(form.DeamonFrame);
 }
 
 void ProgramGroup::DeamonPath_Change() {
     form.MarkUnsaved();
-    if (form.Loading || !IsTestedOnLeaving(form.DeamonPath.Text())) ShowFault();
+    if (CanBeTested(form.DeamonPath)) ShowFault();
 }
 
 void ProgramGroup::DeamonPath_LostFocus() {
-    form.DeamonPath.SetText(TypedPath(form.DeamonPath.Text(), services.files.HomeDirectory()));
+    ResolveTyped(form.DeamonPath, services.files,
+                 [this](const std::string& text) { return NamesFile(main, services.files, text); });
     ShowFault();
 }
 
@@ -150,7 +152,7 @@ void ProgramGroup::EmuDownload_Click() {
 
 void ProgramGroup::DonateBtn_Click() {
     const DisabledMeanwhile off(form.DonateBtn);
-    main.DonateBtn.Click();
+    routines.links.Donate();
 }
 
 }  // namespace kivu::settings

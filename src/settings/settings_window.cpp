@@ -59,7 +59,9 @@ void SettingsWindow::JoinEvents() {
         if (mouse.button == forms::buttons::left) form.BeginDrag();
     };
     for (forms::Control* surface :
-         std::initializer_list<forms::Control*>{&form, &form.BackgroundFrame, &form.TitleLabel})
+         std::initializer_list<forms::Control*>{&form, &form.BackgroundFrame, &form.TitleLabel,
+                                                &form.EmulatorGroup, &form.StartGroup,
+                                                &form.ProgramGroup})
         surface->onMouseDown = drag;
 
     form.SaveBtn.onClick = [this] { SaveBtn_Click(); };

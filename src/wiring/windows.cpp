@@ -17,7 +17,8 @@ forms::Toolkit With(forms::Toolkit toolkit, forms::DirectorySource& directories)
 }  // namespace
 
 Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-                 forms::WindowHost& windows)
+                 forms::WindowHost& windows, profile::Ini& ini,
+                 settings::SettingsWindow::Routines settingsRoutines)
     : form(form),
       windows(windows),
       directories(host.files),
@@ -27,6 +28,14 @@ Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dia
               toolkit, form.CurrentLanguage == 1,
               support::Files::Services{host.files, host.userStore, host.starter, dialogs},
               host.beeper);
+          Dress(made->GetForm());
+          return made;
+      }),
+      settings(windows, [&form, &host, &dialogs, &windows, &ini, settingsRoutines, this] {
+          auto made = std::make_unique<settings::SettingsWindow>(
+              form, form.GetToolkit(),
+              settings::SettingsWindow::Services{ini, host, dialogs, windows, fileDialogs},
+              settingsRoutines);
           Dress(made->GetForm());
           return made;
       }) {
