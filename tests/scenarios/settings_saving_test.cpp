@@ -29,7 +29,8 @@ TEST_F(Saving, SecondsThatAreNoNumberEndIt) {
         SCOPED_TRACE(seconds);
         Start();
         Open([&] {
-            Set("DirBefehleTxt.Text", std::string("*.") + std::to_string(std::string(seconds).size()));
+            Set("DirBefehleTxt.Text",
+                std::string("*.") + std::to_string(std::string(seconds).size()));
             Set("SecondsTimerTxt.Text", seconds);
             Set("UAELaunchParaneter.Text", "-new");
             Do("beeps");
@@ -101,8 +102,9 @@ TEST_F(Saving, OneProfileOfTwoFails) {
 TEST_F(Saving, KeepsWhatIsNotItsOwn) {
     Start();
     Open([&] {
-        tree.Write(profile, "; mine\r\n[Settings]\r\nEmulatorParameter=-a ; b\r\nOwn=1\r\n"
-                            "[Other]\r\nEmulatorParameter=z\r\n");
+        tree.Write(profile,
+                   "; mine\r\n[Settings]\r\nEmulatorParameter=-a ; b\r\nOwn=1\r\n"
+                   "[Other]\r\nEmulatorParameter=z\r\n");
         Set("UAELaunchParaneter.Text", "-x");
         Save();
         const std::string bytes = tree.Read(profile);
