@@ -202,7 +202,7 @@ TEST_F(Closing, TheSizeOfTheTextAndTheFrameOutliveIt) {
         EXPECT_EQ(Get("FontSizeCombo.ListIndex"), 25);
         EXPECT_EQ(Get("UAE_Short.FontSize"), 20);
         EXPECT_TRUE(open());
-        EXPECT_EQ(Of("Focus"), "FontSizeCombo");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.FontSizeCombo");
         EXPECT_TRUE(Unsaved());
         Do("answer", "OK");
         Key("Escape");

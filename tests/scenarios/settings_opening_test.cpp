@@ -90,10 +90,10 @@ TEST_F(Opening, ShowsTheEmulatorsFiles) {
 TEST_F(Opening, TheFieldInFocusKnowsItsText) {
     Start();
     Open([&] {
-        EXPECT_EQ(Of("Focus"), "txtWinUAEExe");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.txtWinUAEExe");
         EXPECT_EQ(Of("ExeAtFocus"), TextOf("txtWinUAEExe"));
         Key("Tab");
-        EXPECT_NE(Of("Focus"), "txtWinUAEExe");
+        EXPECT_NE(Of("Focus"), "SettingsForm.txtWinUAEExe");
         EXPECT_FALSE(Unsaved());
         Key("Escape");
     });
@@ -130,7 +130,7 @@ TEST_F(Opening, ShapeGoesByTheButton) {
              {"SecondsTimerTxt", "txtWinUAEExe", "TxtRomPath", "LoadBtn", "ReloadAllBtn",
               "NewEmuBtn", "Command5", "IniBtn", "WinUAEBtn", "DonateBtn", "EmuDownload"})
             EXPECT_FALSE(Shown(hidden)) << hidden;
-        EXPECT_EQ(Of("Focus"), "Joystickcheck");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.Joystickcheck");
         EXPECT_FALSE(Unsaved());
         Set("ResetScreenRes.Value", 1);
         Save();
