@@ -46,8 +46,8 @@ SettingsValues ValuesOf(const SettingsForm& form) {
     values.UseAnfz = form.UseAnfz.Value();
     values.DeMulAutostart = form.DeMulAutostart.Value();
     // The reduced shape hides it, and turns no script off by that.
-    values.OpenVBS = form.OpenVBS.Visible() ||
-                     (form.MainSettingsOnly && form.DeMulAutostart.Value() == 1);
+    values.OpenVBS =
+        form.OpenVBS.Visible() || (form.MainSettingsOnly && form.DeMulAutostart.Value() == 1);
     values.SecondsTimerTxt = form.SecondsTimerTxt.Text();
     values.UAEMasterConfigLaunchParameter = form.UAEMasterConfigLaunchParameter.Text();
     values.UAELaunchParaneter = form.UAELaunchParaneter.Text();

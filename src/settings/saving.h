@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <utility>
 
 #include "platform/beeper.h"
 #include "platform/dialogs.h"
@@ -40,11 +41,7 @@ class Saving {
 
     Saving(SettingsForm& form, core::Form1& main, SettingsStore& store, Services services,
            Routines routines)
-        : form(form),
-          main(main),
-          store(store),
-          services(services),
-          routines(std::move(routines)) {}
+        : form(form), main(main), store(store), services(services), routines(std::move(routines)) {}
 
     void SaveBtn_Click();
 

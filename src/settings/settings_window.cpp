@@ -19,23 +19,22 @@ SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Servic
       services(services),
       routines(routines),
       form(toolkit, main.Get_Current_Language()),
-      store(main, services.ini, services.host.files),
+      store(main, services.ini, services.files),
       alwaysOnTop(form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove},
-                  services.host.userStore),
+                  services.userStore),
       winuae(form, main,
-             {services.host.files, services.host.starter, services.dialogs, services.fileDialogs,
-              services.host.log, routines.loadingScreen, routines.uaeFiles, routines.launch}),
-      known(form, main, {services.host.files, services.host.starter, services.dialogs}, winuae),
-      newEmulator(form, main, {services.host.files, services.dialogs, routines.emulators}),
-      paths(form, main,
-            {services.host.files, services.dialogs, services.fileDialogs, routines.setup},
+             {services.files, services.starter, services.dialogs, services.fileDialogs,
+              services.log, routines.loadingScreen, routines.uaeFiles, routines.launch}),
+      known(form, main, {services.files, services.starter, services.dialogs}, winuae),
+      newEmulator(form, main, {services.files, services.dialogs, routines.emulators}),
+      paths(form, main, {services.files, services.dialogs, services.fileDialogs, routines.setup},
             {known, winuae, newEmulator}),
       launch(form, routines.startHelpers),
-      program(form, main, {services.host.files, services.windows, services.fileDialogs},
+      program(form, main, {services.files, services.windows, services.fileDialogs},
               {routines.buttons, routines.repair, routines.links, alwaysOnTop}),
       looks(form, main, routines.windowColors,
-            {services.ini, services.dialogs, services.host.systemColors}),
-      saving(form, main, store, {services.ini, services.dialogs, services.host.beeper},
+            {services.ini, services.dialogs, services.systemColors}),
+      saving(form, main, store, {services.ini, services.dialogs, services.beeper},
              {routines.settings, routines.windowColors, [this] { return winuae.SaveMaster(); },
               [this](int value) { program.TakeJoystick(value); }}),
       designPicture(form.BackgroundFrame.GetPicture()) {
@@ -58,10 +57,9 @@ void SettingsWindow::JoinEvents() {
     const auto drag = [this](const forms::Mouse& mouse) {
         if (mouse.button == forms::buttons::left) form.BeginDrag();
     };
-    for (forms::Control* surface :
-         std::initializer_list<forms::Control*>{&form, &form.BackgroundFrame, &form.TitleLabel,
-                                                &form.EmulatorGroup, &form.StartGroup,
-                                                &form.ProgramGroup})
+    for (forms::Control* surface : std::initializer_list<forms::Control*>{
+             &form, &form.BackgroundFrame, &form.TitleLabel, &form.EmulatorGroup, &form.StartGroup,
+             &form.ProgramGroup})
         surface->onMouseDown = drag;
 
     form.SaveBtn.onClick = [this] { SaveBtn_Click(); };
@@ -155,7 +153,7 @@ void SettingsWindow::LoadBtn_Click() {
     const std::string title = form.Caption();
     SetTitle(ScanTitle(main));
     routines.busy.HideAll(false);
-    services.host.events.DoEvents();
+    services.events.DoEvents();
     if (main.Ended) return;
     routines.lists.LoadBtn_Click();
     if (main.Ended) return;
@@ -174,17 +172,16 @@ void SettingsWindow::ReloadAllBtn_Click() {
 void SettingsWindow::IniBtn_Click() {
     services.ini.StoreWriteBacks();
     EditProfile(form.IniPath);
-    platform::FileSystem& files = services.host.files;
-    if (!files.FileExists(form.ColorsIniName)) {
+    if (!services.files.FileExists(form.ColorsIniName)) {
         // What could not be made shows in what follows.
-        (void)files.MakeDirectory(text::GetParentPath(form.ColorsIniName));
-        (void)files.WriteFile(form.ColorsIniName, "");
+        (void)services.files.MakeDirectory(text::GetParentPath(form.ColorsIniName));
+        (void)services.files.WriteFile(form.ColorsIniName, "");
     }
     EditProfile(form.ColorsIniName);
 }
 
 void SettingsWindow::EditProfile(const std::string& path) {
-    if (services.host.starter.EditText(path)) Show(services.dialogs, NotEditedBox(path, main));
+    if (services.starter.EditText(path)) Show(services.dialogs, NotEditedBox(path, main));
 }
 
 }  // namespace kivu::settings

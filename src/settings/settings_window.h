@@ -3,7 +3,14 @@
 #include "core/busy_state.h"
 #include "core/ports.h"
 #include "forms/window_host.h"
-#include "platform/host.h"
+#include "platform/beeper.h"
+#include "platform/dialogs.h"
+#include "platform/event_pump.h"
+#include "platform/file_system.h"
+#include "platform/log.h"
+#include "platform/program_starter.h"
+#include "platform/system_colors.h"
+#include "platform/user_store.h"
 #include "profile/ini.h"
 #include "settings/known_group.h"
 #include "settings/launch_group.h"
@@ -49,8 +56,14 @@ class SettingsWindow {
  public:
     struct Services {
         profile::Ini& ini;
-        platform::Host& host;
+        platform::FileSystem& files;
+        platform::ProgramStarter& starter;
         platform::Dialogs& dialogs;
+        platform::Beeper& beeper;
+        platform::EventPump& events;
+        platform::UserStore& userStore;
+        platform::Log& log;
+        const platform::SystemColors& systemColors;
         forms::WindowHost& windows;
         support::FileDialogs& fileDialogs;
     };
@@ -72,8 +85,7 @@ class SettingsWindow {
         core::ProgramLinks& links;
     };
 
-    SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Services services,
-                   Routines routines);
+    SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Services services, Routines routines);
 
     SettingsForm& GetForm() { return form; }
 

@@ -71,8 +71,7 @@ void SettingsWindow::RunChangeHandlers() {
 }
 
 void SettingsWindow::ShowSkin() {
-    const std::string path =
-        ui::FindSkinFile(services.host.files, form.StartPfad, skinPurpose);
+    const std::string path = ui::FindSkinFile(services.files, form.StartPfad, skinPurpose);
     if (path.empty()) form.BackgroundFrame.SetPicture(designPicture);
     (void)routines.pictures.LoadSkin(path, skinPurpose, [this](forms::Picture picture) {
         form.BackgroundFrame.SetPicture(std::move(picture));

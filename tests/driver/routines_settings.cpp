@@ -19,8 +19,8 @@ void AddSettingsRoutines(RoutineTable& table, Session& session) {
     table.push_back(Bind("DetectKnownEmulator", [&window](string exePath) {
         window.Get().Known().DetectKnownEmulator(exePath);
     }));
-    table.push_back(Bind("SetEmulatorDefaults",
-                         [&window] { window.Get().Known().SetEmulatorDefaults(); }));
+    table.push_back(
+        Bind("SetEmulatorDefaults", [&window] { window.Get().Known().SetEmulatorDefaults(); }));
     table.push_back(Bind("ImportOfConfigStringAllowedValue", [](string line) {
         return settings::ImportOfConfigStringAllowedValue(line);
     }));

@@ -13,9 +13,12 @@ TEST_F(Closing, OpenedAndClosedAtOnceAsksNothing) {
         SCOPED_TRACE(way);
         Open([&] {
             EXPECT_FALSE(Unsaved());
-            if (std::string(way) == "ExitBtn") Click("ExitBtn");
-            else if (std::string(way) == "close") Do("close", "SettingsForm");
-            else Key("Escape");
+            if (std::string(way) == "ExitBtn")
+                Click("ExitBtn");
+            else if (std::string(way) == "close")
+                Do("close", "SettingsForm");
+            else
+                Key("Escape");
             EXPECT_FALSE(open());
         });
         EXPECT_TRUE(Boxes().empty());
@@ -45,9 +48,12 @@ TEST_F(Closing, UnsavedItAsksInBothLanguages) {
         Open([&] {
             Do("type", "SettingsForm.UAELaunchParaneter", "-x");
             for (const char* way : {"ExitBtn", "close", "Escape"}) {
-                if (std::string(way) == "ExitBtn") Click("ExitBtn");
-                else if (std::string(way) == "close") Do("close", "SettingsForm");
-                else Key("Escape");
+                if (std::string(way) == "ExitBtn")
+                    Click("ExitBtn");
+                else if (std::string(way) == "close")
+                    Do("close", "SettingsForm");
+                else
+                    Key("Escape");
                 EXPECT_TRUE(open()) << way;
                 const Json boxes = Boxes();
                 ASSERT_EQ(boxes.size(), 1u) << way;
@@ -91,9 +97,9 @@ TEST_F(Closing, EscapeDoesNothingWhileAPanelIsOpen) {
                 Set(std::string(panel) + ".Visible", true);
             Key("Escape");
             EXPECT_TRUE(open());
-            for (const auto& [panel, cross] :
-                 {std::pair{"UAEFrame", "RemovePicEnabled"}, {"DeamonFrame", "Picture2"},
-                  {"DarstellungFrame", "Picture1"}}) {
+            for (const auto& [panel, cross] : {std::pair{"UAEFrame", "RemovePicEnabled"},
+                                               {"DeamonFrame", "Picture2"},
+                                               {"DarstellungFrame", "Picture1"}}) {
                 EXPECT_TRUE(Shown(panel));
                 Click(cross);
                 EXPECT_FALSE(Shown(panel)) << panel;
@@ -196,7 +202,7 @@ TEST_F(Closing, TheSizeOfTheTextAndTheFrameOutliveIt) {
         EXPECT_EQ(Get("FontSizeCombo.ListIndex"), 25);
         EXPECT_EQ(Get("UAE_Short.FontSize"), 20);
         EXPECT_TRUE(open());
-        EXPECT_EQ(Of("Focus"), "FontSizeCombo");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.FontSizeCombo");
         EXPECT_TRUE(Unsaved());
         Do("answer", "OK");
         Key("Escape");

@@ -30,10 +30,10 @@ TEST_F(Opening, StoresTheToldDefaultsAndNothingElse) {
     std::erase_if(added, [&](const std::string& line) {
         return std::find(before.begin(), before.end(), line) != before.end();
     });
-    EXPECT_THAT(added, UnorderedElementsAre("Dir_Parameter=*.adf", "SplashTimer=4",
-                                            "AutoMountDeamonTool=0", "UseQuote=0",
-                                            "EmulatorParameterAddDiskPath=0",
-                                            "EmulatorParameterAddDiskPathWithoutPath=0"));
+    EXPECT_THAT(
+        added, UnorderedElementsAre("Dir_Parameter=*.adf", "SplashTimer=4", "AutoMountDeamonTool=0",
+                                    "UseQuote=0", "EmulatorParameterAddDiskPath=0",
+                                    "EmulatorParameterAddDiskPathWithoutPath=0"));
     EXPECT_EQ(Stored("WinUAE_UseMasterConfig"), "1");
     for (const char* key : {"RomPath", "EmulatorPath", "RunVBS_Script"})
         EXPECT_EQ(Stored(key), "(none)") << key;
@@ -90,10 +90,10 @@ TEST_F(Opening, ShowsTheEmulatorsFiles) {
 TEST_F(Opening, TheFieldInFocusKnowsItsText) {
     Start();
     Open([&] {
-        EXPECT_EQ(Of("Focus"), "txtWinUAEExe");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.txtWinUAEExe");
         EXPECT_EQ(Of("ExeAtFocus"), TextOf("txtWinUAEExe"));
         Key("Tab");
-        EXPECT_NE(Of("Focus"), "txtWinUAEExe");
+        EXPECT_NE(Of("Focus"), "SettingsForm.txtWinUAEExe");
         EXPECT_FALSE(Unsaved());
         Key("Escape");
     });
@@ -130,7 +130,7 @@ TEST_F(Opening, ShapeGoesByTheButton) {
              {"SecondsTimerTxt", "txtWinUAEExe", "TxtRomPath", "LoadBtn", "ReloadAllBtn",
               "NewEmuBtn", "Command5", "IniBtn", "WinUAEBtn", "DonateBtn", "EmuDownload"})
             EXPECT_FALSE(Shown(hidden)) << hidden;
-        EXPECT_EQ(Of("Focus"), "Joystickcheck");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.Joystickcheck");
         EXPECT_FALSE(Unsaved());
         Set("ResetScreenRes.Value", 1);
         Save();

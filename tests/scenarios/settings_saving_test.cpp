@@ -29,14 +29,15 @@ TEST_F(Saving, SecondsThatAreNoNumberEndIt) {
         SCOPED_TRACE(seconds);
         Start();
         Open([&] {
-            Set("DirBefehleTxt.Text", std::string("*.") + std::to_string(std::string(seconds).size()));
+            Set("DirBefehleTxt.Text",
+                std::string("*.") + std::to_string(std::string(seconds).size()));
             Set("SecondsTimerTxt.Text", seconds);
             Set("UAELaunchParaneter.Text", "-new");
             Do("beeps");
             Click("SaveBtn");
             EXPECT_TRUE(Unsaved());
             EXPECT_EQ(Do("beeps")["value"], 1);
-            EXPECT_EQ(Of("Focus"), "SecondsTimerTxt");
+            EXPECT_EQ(Of("Focus"), "SettingsForm.SecondsTimerTxt");
             EXPECT_EQ(Stored("Dir_Parameter"),
                       std::string("*.") + std::to_string(std::string(seconds).size()));
             EXPECT_EQ(Stored("SplashTimer"), "7");
@@ -101,8 +102,9 @@ TEST_F(Saving, OneProfileOfTwoFails) {
 TEST_F(Saving, KeepsWhatIsNotItsOwn) {
     Start();
     Open([&] {
-        tree.Write(profile, "; mine\r\n[Settings]\r\nEmulatorParameter=-a ; b\r\nOwn=1\r\n"
-                            "[Other]\r\nEmulatorParameter=z\r\n");
+        tree.Write(profile,
+                   "; mine\r\n[Settings]\r\nEmulatorParameter=-a ; b\r\nOwn=1\r\n"
+                   "[Other]\r\nEmulatorParameter=z\r\n");
         Set("UAELaunchParaneter.Text", "-x");
         Save();
         const std::string bytes = tree.Read(profile);
@@ -123,14 +125,14 @@ TEST_F(Saving, ByKeysFromAnyField) {
         Key("Ctrl+S");
         EXPECT_FALSE(Unsaved());
         EXPECT_EQ(Stored("EmulatorParameter"), "-x");
-        EXPECT_EQ(Of("Focus"), "UAELaunchParaneter");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.UAELaunchParaneter");
         EXPECT_EQ(TextOf("UAELaunchParaneter"), "-x");
         // What a field makes of its text when it is left is there, too.
         Set("TxtRomPath.Text", "\"" + tree.Path("Roms/Beta") + "\"");
         Do("focus", "SettingsForm.TxtRomPath");
         Key("Ctrl+S");
         EXPECT_EQ(Stored("RomPath"), testing::HostPath("/Roms/Beta"));
-        EXPECT_EQ(Of("Focus"), "TxtRomPath");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.TxtRomPath");
         Key("Escape");
     });
     EXPECT_TRUE(Boxes().empty());
@@ -142,7 +144,7 @@ TEST_F(Saving, TheFocusLeavesAButtonThatGoesOff) {
         Set("UAELaunchParaneter.Text", "-x");
         Do("focus", "SettingsForm.SaveBtn");
         Click("SaveBtn");
-        EXPECT_EQ(Of("Focus"), "ExitBtn");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.ExitBtn");
         Key("Escape");
     });
 }
