@@ -4,7 +4,8 @@
 
 namespace kivu::settings {
 
-bool CanBeTested(const forms::TextBox& box) {
+bool CanBeTested(const SettingsForm& form, const forms::TextBox& box) {
+    if (form.Loading) return false;
     return !box.HasFocus() || !IsTestedOnLeaving(box.Text());
 }
 

@@ -21,6 +21,11 @@ constexpr const char* romMask = "*.rom";
 
 }  // namespace
 
+void WinuaeGroup::RunChangeHandlers() {
+    form.MarkUnsaved();
+    ShowKickstartFault();
+}
+
 void WinuaeGroup::JoinEvents() {
     const auto markUnsaved = [this] { form.MarkUnsaved(); };
     form.WinUAEBtn.onClick = [this] { WinUAEBtn_Click(); };
@@ -122,7 +127,7 @@ void WinuaeGroup::EnableMasterControls() {
 
 void WinuaeGroup::TxtKickstartRomFile_Change() {
     form.MarkUnsaved();
-    if (CanBeTested(form.TxtKickstartRomFile)) ShowKickstartFault();
+    if (CanBeTested(form, form.TxtKickstartRomFile)) ShowKickstartFault();
 }
 
 void WinuaeGroup::ShowKickstartFault() {

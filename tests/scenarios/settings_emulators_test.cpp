@@ -183,9 +183,11 @@ TEST_F(Emulators, TheFieldsTextAtTheFocusIsKept) {
         EXPECT_EQ(Of("ExeAtFocus"), exe);
         Do("type", "SettingsForm.txtWinUAEExe", "x");
         EXPECT_EQ(Of("ExeAtFocus"), exe);
+        // Closing asks nothing about a path that is given up.
         Do("answer", "OK");
         Key("Escape");
     });
+    EXPECT_THAT(Titles(), ElementsAre("Undo changes and exit?"));
 }
 
 TEST_F(Emulators, AKnownOneIsChosenFromItsRows) {
