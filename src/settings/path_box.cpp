@@ -4,9 +4,12 @@
 
 namespace kivu::settings {
 
-bool CanBeTested(const SettingsForm& form, const forms::TextBox& box) {
-    if (form.Loading) return false;
+bool CanBeTested(const forms::TextBox& box) {
     return !box.HasFocus() || !IsTestedOnLeaving(box.Text());
+}
+
+bool CanBeTested(const SettingsForm& form, const forms::TextBox& box) {
+    return !form.Loading && CanBeTested(box);
 }
 
 void ResolveTyped(forms::TextBox& box, const platform::FileSystem& files,

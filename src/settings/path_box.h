@@ -8,8 +8,9 @@
 // The settings window's text boxes for paths.
 namespace kivu::settings {
 
-// False while values are being read, after which each is tested once, and while a share's path is
-// being typed: its server would be asked at each key.
+// False while a share's path is being typed: its server would be asked at each key.
+bool CanBeTested(const forms::TextBox& box);
+// The same, and false while values are being read, after which each is tested once.
 bool CanBeTested(const SettingsForm& form, const forms::TextBox& box);
 
 // What has been typed or pasted, as it is meant; see TypedPath. A text for which `isThere` holds
