@@ -166,9 +166,6 @@ void Form1::DesignFrame() {
         // One of the first two always shows.
         button->SetVisible(button == &SettingsBtn);
     }
-    // Nothing opens them yet.
-    SettingsBtn.SetEnabled(false);
-    SettingsShortBtn.SetEnabled(false);
     DonateBtn.SetCaption("Spenden");
     ExitBtn.SetCaption("&Exit");
     ExitBtn.Move(0, 0, 1050, 420);

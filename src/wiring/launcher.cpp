@@ -101,7 +101,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       buttonSetupWindow(windows, [this] { return MakeButtonSetup(); }),
       buttonSetup(form, buttonSetupWindow, windows,
                   {controllers, padEvents, settingsLoader, alwaysOnTop}),
-      windowsBeside(form, host, dialogs, windows) {
+      windowsBeside(form, host, dialogs, windows, ini, SettingsRoutines()),
+      settingsOpener(form, windowsBeside.settings, windows, alwaysOnTop) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);
     JoinWindow();
@@ -112,6 +113,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
     JoinLaunch();
     JoinDrives();
     JoinJoystick();
+    JoinSettings();
 }
 
 }  // namespace kivu::wiring

@@ -42,6 +42,7 @@
 #include "library/scan_source.h"
 #include "platform/host.h"
 #include "profile/ini.h"
+#include "settings/settings_opener.h"
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/hints.h"
@@ -55,6 +56,7 @@
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 #include "wiring/logged_host.h"
+#include "wiring/still_to_come.h"
 #include "wiring/windows.h"
 
 namespace kivu::wiring {
@@ -142,7 +144,13 @@ struct Launcher::Routines {
     forms::OnDemand<joystick::ButtonSetupWindow> buttonSetupWindow;
     joystick::ButtonSetupOpener buttonSetup;
 
+    // Until they are built.
+    QuietStartHelpers startHelpers;
+    QuietLoadingScreen loadingScreen;
+    QuietLinks links;
+
     Windows windowsBeside;
+    settings::SettingsOpener settingsOpener;
 
  private:
     // One topic a file: what its events run, and what its routines ask of later ones.
@@ -154,7 +162,9 @@ struct Launcher::Routines {
     void JoinLaunch();
     void JoinDrives();
     void JoinJoystick();
+    void JoinSettings();
     std::unique_ptr<joystick::ButtonSetupWindow> MakeButtonSetup();
+    settings::SettingsWindow::Routines SettingsRoutines();
 };
 
 }  // namespace kivu::wiring

@@ -3,6 +3,7 @@
 #include "core/form1.h"
 #include "forms/window_host.h"
 #include "platform/host.h"
+#include "settings/settings_window.h"
 #include "support/directory_lists.h"
 #include "support/file_dialogs.h"
 
@@ -12,7 +13,8 @@ namespace kivu::wiring {
 class Windows {
  public:
     Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-            forms::WindowHost& windows);
+            forms::WindowHost& windows, profile::Ini& ini,
+            settings::SettingsWindow::Routines settingsRoutines);
 
  private:
     // Their looks are those of the main window at the moment.
@@ -25,6 +27,7 @@ class Windows {
 
  public:
     support::WindowedFileDialogs fileDialogs;
+    forms::OnDemand<settings::SettingsWindow> settings;
 };
 
 }  // namespace kivu::wiring
