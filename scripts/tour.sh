@@ -4,7 +4,8 @@
 #     scripts/tour.sh PROGRAM_DIR [SCREENSHOT_DIR]
 #
 # Leaves numbered screenshots, and fails when a step does not come about. TOUR_SIZE sets the screen
-# (1024x768), LANG the language as usual. KIVU_FILES is the program of scripts/tour-files.sh, which follows.
+# (1024x768), LANG the language as usual. KIVU_FILES is the program of scripts/tour-files.sh, which follows, as does
+# scripts/tour-settings.sh.
 set -euo pipefail
 
 program_dir=$(cd "$1" && pwd)
@@ -181,3 +182,6 @@ echo "The tour is through; the pictures are in ${shots#"$here"/}."
 # The dialog for files, which the tests' program opens.
 dialog=${KIVU_FILES:-$here/build/test/program/kivu-files}
 [ ! -x "$dialog" ] || "$here/scripts/tour-files.sh" "$dialog" "$shots/files"
+
+# A newcomer's way through the settings, from an empty directory.
+"$here/scripts/tour-settings.sh" "$program_dir/Kivu" "$shots/settings"

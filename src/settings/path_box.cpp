@@ -8,6 +8,10 @@ bool CanBeTested(const forms::TextBox& box) {
     return !box.HasFocus() || !IsTestedOnLeaving(box.Text());
 }
 
+bool CanBeTested(const SettingsForm& form, const forms::TextBox& box) {
+    return !form.Loading && CanBeTested(box);
+}
+
 void ResolveTyped(forms::TextBox& box, const platform::FileSystem& files,
                   const text::PathTest& isThere) {
     const std::string typed = TypedPath(box.Text(), files.HomeDirectory());

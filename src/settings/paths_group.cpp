@@ -27,13 +27,15 @@ void PathsGroup::JoinEvents() {
 }
 
 void PathsGroup::RunChangeHandlers() {
-    txtWinUAEExe_Change();
-    TxtRomPath_Change();
+    form.MarkUnsaved();
+    ShowProgramFault();
+    routines.winuae.TakeProgram(form.txtWinUAEExe.Text());
+    ShowRomPathFault();
 }
 
 void PathsGroup::txtWinUAEExe_Change() {
     form.MarkUnsaved();
-    if (CanBeTested(form.txtWinUAEExe)) ShowProgramFault();
+    if (CanBeTested(form, form.txtWinUAEExe)) ShowProgramFault();
     routines.winuae.TakeProgram(form.txtWinUAEExe.Text());
 }
 
@@ -67,7 +69,7 @@ void PathsGroup::GuessGames() {
 
 void PathsGroup::TxtRomPath_Change() {
     form.MarkUnsaved();
-    if (CanBeTested(form.TxtRomPath)) ShowRomPathFault();
+    if (CanBeTested(form, form.TxtRomPath)) ShowRomPathFault();
 }
 
 bool PathsGroup::IsUsable(const std::string& romPath) const {

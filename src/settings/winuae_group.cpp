@@ -21,6 +21,11 @@ constexpr const char* romMask = "*.rom";
 
 }  // namespace
 
+void WinuaeGroup::RunChangeHandlers() {
+    form.MarkUnsaved();
+    ShowKickstartFault();
+}
+
 void WinuaeGroup::JoinEvents() {
     const auto markUnsaved = [this] { form.MarkUnsaved(); };
     form.WinUAEBtn.onClick = [this] { WinUAEBtn_Click(); };
@@ -101,8 +106,7 @@ void WinuaeGroup::EmptyMasterText() {
 
 void WinuaeGroup::WinUAEBtn_Click() {
     EnableMasterControls();
-    form.UAEFrame.SetVisible(!form.UAEFrame.Visible());
-    if (form.UAEFrame.Visible()) form.UAEFrame.BringToFront();
+    form.TogglePanel(form.UAEFrame);
 }
 
 void WinuaeGroup::UseMasterConfig_Click() {
@@ -123,7 +127,7 @@ void WinuaeGroup::EnableMasterControls() {
 
 void WinuaeGroup::TxtKickstartRomFile_Change() {
     form.MarkUnsaved();
-    if (CanBeTested(form.TxtKickstartRomFile)) ShowKickstartFault();
+    if (CanBeTested(form, form.TxtKickstartRomFile)) ShowKickstartFault();
 }
 
 void WinuaeGroup::ShowKickstartFault() {

@@ -42,7 +42,7 @@ class WinuaeGroup {
     // The handlers of the panel's controls, of WinUAEBtn and of FehlerIcon 2.
     void JoinEvents();
     // With the values of an opening window.
-    void RunChangeHandlers() { TxtKickstartRomFile_Change(); }
+    void RunChangeHandlers();
 
     // The master's text into its box, as the window opens.
     void LoadMaster();

@@ -37,12 +37,21 @@ void Hints::ShowFirstSteps() {
 std::string Hints::NoEmulator() const {
     if (form.EmuListbox.ListCount() > 0)
         return form.Say("Wähle oben links einen Emulator.", "Choose an emulator at the top left.");
-    return form.Say("Noch kein Emulator.\rLege in\r", "No emulator yet.\rIn\r") + form.ConfigPath +
-           form.Say("\rfür jeden ein Verzeichnis mit seinem Namen an\rund starte das Programm neu.",
-                    "\rmake a directory with the name of each\rand start the program anew.");
+    return form.Say("Noch kein Emulator.\rDrücke unten rechts auf \"",
+                    "No emulator yet.\rPress \"") +
+           form.SettingsBtn.Caption() +
+           form.Say("\"\rund dort auf \"Neuer Emulator..\".",
+                    "\" at the bottom right\rand there \"New emulator..\".");
 }
 
 std::string Hints::NoGames() const {
+    // Nobody has said yet where they are.
+    if (form.TxtRomPath.Text() == form.AppDir) {
+        return form.Say("Noch keine Spiele.\r\"", "No games yet.\r\"") +
+               form.SettingsBtn.Caption() +
+               form.Say("\" fragt nach dem Emulator\rund dem Verzeichnis der Spiele.",
+                        "\" asks for the emulator\rand the directory of the games.");
+    }
     return form.Say("Keine Spiele in der Liste. Gesucht wird in\r",
                     "No games in the list. They are looked for in\r") +
            form.TxtRomPath.Text() +
