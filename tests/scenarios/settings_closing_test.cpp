@@ -186,6 +186,16 @@ TEST_F(Closing, TheMainWindowIsOnTopAgain) {
     EXPECT_EQ(Get("Topmost"), true);
 }
 
+TEST_F(Closing, AnEscapeThatIsHeldDownIsNotMeantForIt) {
+    Start();
+    Open([&] {
+        Do("key", "SettingsForm", "Escape", "repeat");
+        EXPECT_TRUE(open());
+        Key("Escape");
+        EXPECT_FALSE(open());
+    });
+}
+
 TEST_F(Closing, NobodyClosesIt) {
     Start();
     Open([] {});
