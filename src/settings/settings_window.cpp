@@ -157,7 +157,7 @@ void SettingsWindow::LoadBtn_Click() {
     routines.busy.HideAll(false);
     services.events.DoEvents();
     if (main.Ended) return;
-    routines.lists.LoadBtn_Click();
+    routines.lists.RescanByButton();
     if (main.Ended) return;
     SetTitle(title);
     form.Unload();

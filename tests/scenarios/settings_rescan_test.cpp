@@ -19,6 +19,7 @@ TEST_F(SettingsWork, RescanClosesTheWindow) {
     });
     EXPECT_EQ(Get("UAE_Short.ListCount"), 4);
     EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_EQ(Get("Focus"), "Form1.UAE_Short");
     EXPECT_TRUE(Visible("EmuListbox"));
     EXPECT_EQ(Get("LoadBtn.Enabled"), true);
     EXPECT_EQ(Get("Busy"), false);
@@ -115,6 +116,7 @@ TEST_F(SettingsWork, RescanOfAllAsksInBothLanguages) {
         EXPECT_EQ(tree.Stored("Config/Beta/Kivu.ini", "RomCount"), "2");
         EXPECT_EQ(Stored("RomCount"), "3");
         EXPECT_EQ(Get("Busy"), false);
+        EXPECT_NE(Get("Focus"), "");
     }
 }
 
