@@ -70,7 +70,8 @@ void WindowKeys::ResizeBy(int keyCode) {
 }
 
 void WindowKeys::Form_KeyPress(forms::Character& character) {
-    if (character.code != keys::escape || form.Mode() == Front::choice) return;
+    if (character.code != keys::escape || hooks.GiveUpWaiting()) return;
+    if (form.Mode() == Front::choice) return;
     const std::string text = form.CurrentLanguage == 1 ? form.EXE + " jetzt wirklich beenden?"
                                                        : "Quit " + form.EXE + " now?";
     const std::string title =

@@ -17,6 +17,8 @@ class WindowKeys {
     struct Hooks {
         Hook<void(int)> JoystickDirection{"WindowKeys.JoystickDirection"};
         Hook<void()> TogglePictureZoom{"WindowKeys.TogglePictureZoom"};
+        // The wait for a tool, with its launch. False: nothing is waited for.
+        Hook<bool()> GiveUpWaiting{"WindowKeys.GiveUpWaiting"};
     };
     struct Ports {
         Port<RunningEmulator> watch{"WindowKeys.watch"};

@@ -4,6 +4,7 @@
 #include "core/form1.h"
 #include "core/raised.h"
 #include "launch/emulator_program.h"
+#include "launch/refused_name.h"
 #include "launch/uae_files.h"
 #include "launch/wait.h"
 #include "library/find_game.h"
@@ -53,7 +54,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     form.TmpBatName =
         "\"" + text::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
     EnterEmulatorDirectory(run);
-    ShowLoadingAndMount(run);
+    if (!ShowLoadingAndMount(run)) return GiveUp(focus, notedTitle);
     form.CurrentRunninApplication = WatchedName(run.emulator);
     LogRun(run);
     StartEmulatorProgram(run);
@@ -177,12 +178,9 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
     }
     if (!safe) {
         LogRefusal(run);
-        services.dialogs.MessageBox(
-            form.Say("Dieser Name kann einer Batch-Datei nicht sicher übergeben werden:\r",
-                     "This name cannot be given to a batch file safely:\r") +
-                run.path,
-            form.Say("Start nicht möglich", "Start not possible"), platform::Buttons::Ok,
-            platform::Icon::Warning);
+        services.dialogs.MessageBox(RefusedNameText(form, run.path),
+                                    form.Say("Start nicht möglich", "Start not possible"),
+                                    platform::Buttons::Ok, platform::Icon::Warning);
         return false;
     }
     const auto failed = services.files.WriteFile(form.TmpBatName, ShellStartFile(directory, words));
@@ -232,15 +230,24 @@ void GameLaunch::EnterEmulatorDirectory(const Run& run) {
     (void)services.files.ChangeDirectory(directory);
 }
 
-void GameLaunch::ShowLoadingAndMount(const Run& run) {
+bool GameLaunch::ShowLoadingAndMount(const Run& run) {
     form.SplashSeconds = ini.Read(keys::SplashTimer, core::ProfilesOf(form));
     if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
-    if (ini.Read(keys::AutoMountDeamonTool, core::ProfilesOf(form)) <= 0) return;
+    if (ini.Read(keys::AutoMountDeamonTool, core::ProfilesOf(form)) <= 0) return true;
     const std::string noted = form.LoadingBtn.Caption();
     form.LoadingBtn.SetCaption("Deamon Tools..");
     pacer.DoEvents();
-    hooks.MountGameImage(run.path);
+    const bool goOn = routines.helpers.MountGameImage(run.path);
     form.LoadingBtn.SetCaption(noted);
+    return goOn;
+}
+
+void GameLaunch::GiveUp(forms::Control* focus, const std::string& notedTitle) {
+    (void)services.files.ChangeDirectory(form.AppDir);
+    form.SetCaption(notedTitle);
+    // Of another game that runs it goes on telling.
+    if (!form.EmulatorRuns()) form.MyCaptionLabel.SetCaption(notedTitle);
+    ReturnToLists(focus);
 }
 
 // What the start file says, which is all that the host's starter is given.
@@ -303,7 +310,7 @@ void GameLaunch::FinishStart(const std::string& notedTitle) {
         form.LoadingBtn.SetCaption("Gamestart..");
         WAIT(1, services.clock, pacer);
         form.LoadingBtn.SetCaption("Running Startscript.vbs");
-        hooks.RunStartScript();
+        routines.helpers.RunStartScript();
     }
     // In its quotes the path names no file: the start file stays until the next launch, as a look
     // at what was started.

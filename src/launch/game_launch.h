@@ -35,8 +35,6 @@ class GameLaunch : public core::Launching {
         // The picture in its place, over which the signs of the launch show.
         core::Hook<void()> SetVorschau{"GameLaunch.SetVorschau"};
         core::Hook<void()> ShowLoadingInfo{"GameLaunch.ShowLoadingInfo"};
-        core::Hook<void(const std::string&)> MountGameImage{"GameLaunch.MountGameImage"};
-        core::Hook<void()> RunStartScript{"GameLaunch.RunStartScript"};
         core::Hook<void(bool)> JoystickEnable{"GameLaunch.JoystickEnable"};
         core::Hook<void()> WatchExitButton{"GameLaunch.WatchExitButton"};
     };
@@ -55,6 +53,7 @@ class GameLaunch : public core::Launching {
         core::ListFront& front;
         support::AlwaysOnTop& alwaysOnTop;
         UaeFiles& uaeFiles;
+        core::StartHelpers& helpers;
     };
 
     GameLaunch(core::Form1& form, profile::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
@@ -101,7 +100,9 @@ class GameLaunch : public core::Launching {
     std::string CompanionName() const;
     void TellOfMissingStartFile(const std::string& path);
     void EnterEmulatorDirectory(const Run& run);
-    void ShowLoadingAndMount(const Run& run);
+    // False: the user has given the launch up meanwhile.
+    bool ShowLoadingAndMount(const Run& run);
+    void GiveUp(forms::Control* focus, const std::string& notedTitle);
     void StartEmulatorProgram(Run& run);
     void FinishStart(const std::string& notedTitle);
     void ReturnToLists(forms::Control* focus);

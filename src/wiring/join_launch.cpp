@@ -12,6 +12,10 @@ void Launcher::Routines::JoinLaunch() {
     // A zoomed picture lies over what tells of a launch.
     gameLaunch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
     watch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
+    // While a mount is waited for, Escape means the launch and not the program.
+    windowKeys.hooks.GiveUpWaiting = [this] { return startHelpers.GiveUpWaiting(); };
+    emulatorSwitch.hooks.SaveAndSetDisplayMode = [this] { displayMode.SaveAndSetDisplayMode(); };
+    watch.hooks.RestoreDisplayMode = [this] { displayMode.RestoreDisplayMode(); };
     handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
 
     form.EmuActiveTimer.onTimer = [this] { watch.Tick(); };

@@ -10,11 +10,9 @@ struct WaitingWish {
 // Wishes that nobody serves yet: they do nothing until then. Whoever builds what one waits for
 // joins it and takes it off here.
 inline constexpr WaitingWish waitingWishes[] = {
-    {"EmulatorSwitch.SaveAndSetDisplayMode", "the change of the display mode"},
-    {"RunningWatch.RestoreDisplayMode", "the change of the display mode"},
     {"GameLaunch.ShowLoadingInfo", "the loading screen"},
-    {"GameLaunch.MountGameImage", "the mounting of disc images"},
-    {"GameLaunch.RunStartScript", "the start script"},
+    {"StartHelpers.GivenUp", "the loading screen"},
+    {"StartHelpers.UnloadLoadingInfo", "the loading screen"},
 };
 
 }  // namespace kivu::wiring
