@@ -19,6 +19,25 @@ namespace kivu::launch {
 
 namespace keys = profile::keys;
 
+// What others may know of a launch while it lasts.
+class GameLaunch::Underway {
+ public:
+    Underway(core::LaunchState& state, const std::string& path) : state(state) {
+        state.StartingGame = path;
+        state.StartCanBeGivenUp = true;
+        state.StartGivenUp = false;
+    }
+    ~Underway() {
+        state.StartingGame.clear();
+        state.StartCanBeGivenUp = false;
+    }
+    Underway(const Underway&) = delete;
+    Underway& operator=(const Underway&) = delete;
+
+ private:
+    core::LaunchState& state;
+};
+
 void GameLaunch::LaunchBtn_Click() {
     // A switch or a rescan that is under way goes on with the lists.
     if (form.Busy) return;
@@ -40,6 +59,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     run.path = text::RemoveQuotes(GamePath);
     // A name may end in a blank; trimmed, it would be another one.
     if (services.files.FileExists(GamePath)) run.path = GamePath;
+    const Underway underway(form, run.path);
     Prepare(run);
     BuildParameters(run);
     library::FindGameInFullList(form, busy, pacer, run.path);
@@ -54,11 +74,21 @@ void GameLaunch::StartGame(const std::string& GamePath) {
         "\"" + text::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
     EnterEmulatorDirectory(run);
     ShowLoadingAndMount(run);
+    form.StartCanBeGivenUp = false;
+    if (form.StartGivenUp) return GiveUp(run, notedTitle, focus);
     form.CurrentRunninApplication = WatchedName(run.emulator);
     LogRun(run);
     StartEmulatorProgram(run);
     (void)services.files.ChangeDirectory(form.AppDir);
     FinishStart(notedTitle);
+}
+
+// The user has stopped it: what the last game has left to be watched or ended stays that.
+void GameLaunch::GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus) {
+    services.log.Write("given up: " + run.path);
+    (void)services.files.ChangeDirectory(form.AppDir);
+    busy.MeCaption(notedTitle);
+    ReturnToLists(focus);
 }
 
 // Nothing has been started: the window is as it was, with the focus where it was.

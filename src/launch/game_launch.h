@@ -89,6 +89,8 @@ class GameLaunch : public core::Launching {
         StartParameters parameters;
     };
 
+    class Underway;
+
     void Prepare(Run& run);
     void BuildParameters(Run& run);
     void AppendGame(Run& run);
@@ -104,6 +106,7 @@ class GameLaunch : public core::Launching {
     void ShowLoadingAndMount(const Run& run);
     void StartEmulatorProgram(Run& run);
     void FinishStart(const std::string& notedTitle);
+    void GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus);
     void ReturnToLists(forms::Control* focus);
 
     core::Form1& form;

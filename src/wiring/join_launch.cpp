@@ -11,6 +11,8 @@ void Launcher::Routines::JoinLaunch() {
     };
     // A zoomed picture lies over what tells of a launch.
     gameLaunch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
+    gameLaunch.hooks.ShowLoadingInfo = [this] { windowsBeside.loading.ShowLoadingInfo(&form); };
+    windows.onQuestions = [this] { windowsBeside.loading.QuestionsChanged(); };
     watch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
     handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
 

@@ -42,9 +42,12 @@ class ScriptedClock : public platform::Clock {
         if (onRest) onRest();
     }
 
+    // The time until then has gone by.
     void Set(platform::TimeOfDay time) {
-        ofDay = std::chrono::hours(time.hour) + std::chrono::minutes(time.minute) +
-                std::chrono::seconds(time.second);
+        const std::chrono::milliseconds set = std::chrono::hours(time.hour) +
+                                              std::chrono::minutes(time.minute) +
+                                              std::chrono::seconds(time.second);
+        MoveOn((set - ofDay + std::chrono::hours(24)) % std::chrono::hours(24));
     }
     void MoveOn(std::chrono::milliseconds duration) {
         running += duration;

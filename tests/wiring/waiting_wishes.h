@@ -12,7 +12,6 @@ struct WaitingWish {
 inline constexpr WaitingWish waitingWishes[] = {
     {"EmulatorSwitch.SaveAndSetDisplayMode", "the change of the display mode"},
     {"RunningWatch.RestoreDisplayMode", "the change of the display mode"},
-    {"GameLaunch.ShowLoadingInfo", "the loading screen"},
     {"GameLaunch.MountGameImage", "the mounting of disc images"},
     {"GameLaunch.RunStartScript", "the start script"},
 };
