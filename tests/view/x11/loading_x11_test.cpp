@@ -96,7 +96,7 @@ TEST_F(X11Loading, LiesAboveAFullscreenProgramAndTakesItsClicksAndNotItsKeys) {
 // A box of the launcher's, which must be seen, and which lasts when the screen goes behind it.
 TEST_F(X11Loading, BoxesLieAboveIt) {
     Show();
-    hosts::QtDialogs dialogs;
+    hosts::QtDialogs dialogs(false);
     bool seen = false, left = false;
     QTimer::singleShot(0, &mainView, [&] {
         ASSERT_TRUE(Wait([] { return QApplication::activeModalWidget() != nullptr; }));
