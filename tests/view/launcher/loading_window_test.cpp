@@ -77,7 +77,7 @@ TEST_F(LoadingView, ClickAnywhereTakesItAway) {
 
 TEST_F(LoadingView, ButtonEndsTheGame) {
     launcher.MainWindow().CurrentRunninApplication = "alpha";
-    host.processes.entries.push_back({4711, "alpha"});
+    host.processes.entries.push_back({4711, {"alpha"}, false, false});
     Show();
     ClickOn("Command1");
     EXPECT_FALSE(IsUp());

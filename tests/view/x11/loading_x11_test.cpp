@@ -85,7 +85,7 @@ TEST_F(X11Loading, LiesAboveAFullscreenProgramAndTakesItsClicksAndNotItsKeys) {
         EXPECT_TRUE(full.isActiveWindow());
     }
     launcher.MainWindow().CurrentRunninApplication = "alpha";
-    host.processes.entries.push_back({4711, "alpha"});
+    host.processes.entries.push_back({4711, {"alpha"}, false, false});
     Show();
     EXPECT_TRUE(Wait([&] { return LiesAbove(Screen(), full); }));
     ClickOn("Command1");
