@@ -15,7 +15,9 @@ shots=${2:-$here/tour/loading}
 
 export XDG_RUNTIME_DIR=$work/run XDG_CONFIG_HOME=$work/config XDG_STATE_HOME=$work/state QT_QPA_PLATFORM=xcb
 export LANG=${LANG:-C.UTF-8}
-mkdir -p "$work/config" "$work/state"
+# By which the emulators of this tour are told from others.
+export TMPDIR=$work/tmp
+mkdir -p "$work/config" "$work/state" "$TMPDIR"
 mkdir -m 700 "$work/run"
 
 kivu=0
