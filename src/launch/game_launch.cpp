@@ -73,7 +73,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     form.TmpBatName =
         "\"" + text::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
     EnterEmulatorDirectory(run);
-    ShowLoadingAndMount(run);
+    if (!form.StartGivenUp) ShowLoadingAndMount(run);
     form.StartCanBeGivenUp = false;
     if (form.StartGivenUp) return GiveUp(run, notedTitle, focus);
     form.CurrentRunninApplication = WatchedName(run.emulator);

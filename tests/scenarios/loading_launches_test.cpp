@@ -66,6 +66,17 @@ TEST_F(LoadingLaunches, EscapeBeforeTheStartGivesTheLaunchUpWithAndWithoutAScree
     }
 }
 
+// While it looks for the game, which may take long in a long list.
+TEST_F(LoadingLaunches, EscapeBeforeTheScreenComesGivesTheLaunchUp) {
+    Start();
+    Do("click", "Form1.Label3");
+    Do("select", "Form1.UAE_Short", 2);
+    Do("meanwhile", "events", 1, Json::array({"key", "Form1", "Escape"}));
+    const Json answer = Do("dblclick", "Form1.UAE_Short", 2);
+    ASSERT_EQ(answer["meanwhile"].size(), 1U);
+    ExpectGivenUp();
+}
+
 TEST_F(LoadingLaunches, ClickBeforeTheStartSkipsTheScreenAloneAndItComesAnew) {
     SplashWithMount("6");
     Start();
