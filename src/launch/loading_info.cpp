@@ -67,25 +67,24 @@ void LoadingInfo::LoadBackground(const std::string& path) {
 // The preview, if it is that of the game: one that is started from elsewhere has another one.
 void LoadingInfo::LoadGameImage(const std::string& loadingPath) {
     const std::string& game = form.StartingGame;
+    PlaceText(false);
     const bool about = game.empty() || routines.previews.IsAbout(game);
     const forms::Picture& preview = form.GamePictureVis.GetPicture();
     if (about && form.VorschauBild.Visible() && preview != forms::Picture{}) {
-        PlaceText(true);
         ShowGameImage(preview);
         return;
     }
     const std::string own = about ? "" : routines.previews.FindForGame(game);
     const auto show = [this](const forms::Picture& loaded) { ShowGameImage(loaded); };
-    bool found = false;
     for (const std::string& path : {own, loadingPath}) {
-        found = found || (!path.empty() && routines.pictures.LoadSkin(path, gameImage, show));
+        if (!path.empty() && routines.pictures.LoadSkin(path, gameImage, show)) return;
     }
-    PlaceText(found);
 }
 
 // In the middle of its area, and as large as fits there.
 void LoadingInfo::ShowGameImage(const forms::Picture& shown) {
     window.GameImage.SetPicture(shown);
+    PlaceText(true);
     if (!shown.pixels || shown.pixels->width <= 0 || shown.pixels->height <= 0) return;
     const std::int64_t width = shown.pixels->width, height = shown.pixels->height;
     const int fitting = static_cast<int>(
@@ -97,14 +96,15 @@ void LoadingInfo::ShowGameImage(const forms::Picture& shown) {
 }
 
 void LoadingInfo::PlaceText(bool besidePicture) {
-    const int left = besidePicture ? picture.Right() + picture.left : picture.left;
+    const int margin = picture.left;
+    const int left = besidePicture ? picture.Right() + margin : margin;
     for (forms::Label* label : {&window.Label1, &window.TxtTitle}) {
-        label->Move(left, label->Top(), label->Right() - left, label->Height());
+        label->Move(left, label->Top(), window.Width() - margin - left, label->Height());
         label->SetAlignment(besidePicture ? forms::Alignment::left : forms::Alignment::center);
     }
-    if (besidePicture) return;
-    window.GameImage.SetVisible(false);
-    window.Command1.SetLeft((window.Width() - window.Command1.Width()) / 2);
+    const int spare = window.Width() - window.Command1.Width();
+    window.Command1.SetLeft(besidePicture ? spare - margin : spare / 2);
+    window.GameImage.SetVisible(besidePicture);
 }
 
 // In the middle of the screen that the launcher is on, where the emulator comes up.

@@ -50,7 +50,7 @@ class LoadingInfo {
     void LoadBackground(const std::string& path);
     void LoadGameImage(const std::string& loadingPath);
     void ShowGameImage(const forms::Picture& picture);
-    // Beside a picture that is there or on its way, or over all of the window.
+    // Beside a picture, or over all of the window as long as none is there.
     void PlaceText(bool besidePicture);
     void Place();
     void ShowMainWindow();

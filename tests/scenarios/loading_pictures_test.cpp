@@ -134,12 +134,13 @@ TEST_F(LoadingPictures, LargeOnesComeLater) {
     prepare = [](driver::Session& made) { made.Host().background.inlined = false; };
     LaunchBeeWithoutPicture();
     EXPECT_EQ(Runs(), 1U);
-    EXPECT_EQ(GameImage(), "");
-    EXPECT_EQ(Screen("GameImage.Visible"), true);
+    ExpectTextOnly();
     auto& background = Host().background;
     while (!background.waiting.empty())
         background.Serve(0);
     EXPECT_EQ(GameImage(), "Loading.bmp");
+    EXPECT_EQ(Screen("GameImage.Visible"), true);
+    EXPECT_LT(Length("TxtTitle.Width"), Length("Width") / 2);
     EXPECT_NE(Screen("Picture1.Picture"), "");
 }
 
