@@ -13,6 +13,10 @@ constexpr int zoomKey = keys::f1 + 1;
 }
 
 void WindowKeys::Form_KeyDown(forms::Key& key) {
+    if (ports.loading->TakesKey(key)) {
+        key = {};
+        return;
+    }
     if (key.code == keys::f4 && key.shift == shifts::alt) {
         key = {};
         CloseKey();
@@ -70,8 +74,7 @@ void WindowKeys::ResizeBy(int keyCode) {
 }
 
 void WindowKeys::Form_KeyPress(forms::Character& character) {
-    if (character.code != keys::escape || hooks.GiveUpWaiting()) return;
-    if (form.Mode() == Front::choice) return;
+    if (character.code != keys::escape || form.Mode() == Front::choice) return;
     const std::string text = form.CurrentLanguage == 1 ? form.EXE + " jetzt wirklich beenden?"
                                                        : "Quit " + form.EXE + " now?";
     const std::string title =

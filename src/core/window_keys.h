@@ -17,11 +17,10 @@ class WindowKeys {
     struct Hooks {
         Hook<void(int)> JoystickDirection{"WindowKeys.JoystickDirection"};
         Hook<void()> TogglePictureZoom{"WindowKeys.TogglePictureZoom"};
-        // The wait for a tool, with its launch. False: nothing is waited for.
-        Hook<bool()> GiveUpWaiting{"WindowKeys.GiveUpWaiting"};
     };
     struct Ports {
         Port<RunningEmulator> watch{"WindowKeys.watch"};
+        Port<LoadingScreen> loading{"WindowKeys.loading"};
     };
 
     WindowKeys(Form1& form, platform::Dialogs& dialogs, platform::Beeper& beeper,

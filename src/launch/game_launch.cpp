@@ -20,6 +20,25 @@ namespace kivu::launch {
 
 namespace keys = profile::keys;
 
+// What others may know of a launch while it lasts.
+class GameLaunch::Underway {
+ public:
+    Underway(core::LaunchState& state, const std::string& path) : state(state) {
+        state.StartingGame = path;
+        state.StartCanBeGivenUp = true;
+        state.StartGivenUp = false;
+    }
+    ~Underway() {
+        state.StartingGame.clear();
+        state.StartCanBeGivenUp = false;
+    }
+    Underway(const Underway&) = delete;
+    Underway& operator=(const Underway&) = delete;
+
+ private:
+    core::LaunchState& state;
+};
+
 void GameLaunch::LaunchBtn_Click() {
     // A switch or a rescan that is under way goes on with the lists.
     if (form.Busy) return;
@@ -41,6 +60,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     run.path = text::RemoveQuotes(GamePath);
     // A name may end in a blank; trimmed, it would be another one.
     if (services.files.FileExists(GamePath)) run.path = GamePath;
+    const Underway underway(form, run.path);
     Prepare(run);
     BuildParameters(run);
     library::FindGameInFullList(form, busy, pacer, run.path);
@@ -54,12 +74,22 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     form.TmpBatName =
         "\"" + text::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
     EnterEmulatorDirectory(run);
-    if (!ShowLoadingAndMount(run)) return GiveUp(focus, notedTitle);
+    if (!form.StartGivenUp && !ShowLoadingAndMount(run)) form.StartGivenUp = true;
+    form.StartCanBeGivenUp = false;
+    if (form.StartGivenUp) return GiveUp(run, notedTitle, focus);
     form.CurrentRunninApplication = WatchedName(run.emulator);
     LogRun(run);
     StartEmulatorProgram(run);
     (void)services.files.ChangeDirectory(form.AppDir);
     FinishStart(notedTitle);
+}
+
+// The user has stopped it: what the last game has left to be watched or ended stays that.
+void GameLaunch::GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus) {
+    services.log.Write("given up: " + run.path);
+    (void)services.files.ChangeDirectory(form.AppDir);
+    busy.MeCaption(notedTitle);
+    ReturnToLists(focus);
 }
 
 // Nothing has been started: the window is as it was, with the focus where it was.
@@ -240,14 +270,6 @@ bool GameLaunch::ShowLoadingAndMount(const Run& run) {
     const bool goOn = routines.helpers.MountGameImage(run.path);
     form.LoadingBtn.SetCaption(noted);
     return goOn;
-}
-
-void GameLaunch::GiveUp(forms::Control* focus, const std::string& notedTitle) {
-    (void)services.files.ChangeDirectory(form.AppDir);
-    form.SetCaption(notedTitle);
-    // Of another game that runs it goes on telling.
-    if (!form.EmulatorRuns()) form.MyCaptionLabel.SetCaption(notedTitle);
-    ReturnToLists(focus);
 }
 
 // What the start file says, which is all that the host's starter is given.

@@ -88,6 +88,8 @@ class GameLaunch : public core::Launching {
         StartParameters parameters;
     };
 
+    class Underway;
+
     void Prepare(Run& run);
     void BuildParameters(Run& run);
     void AppendGame(Run& run);
@@ -102,9 +104,9 @@ class GameLaunch : public core::Launching {
     void EnterEmulatorDirectory(const Run& run);
     // False: the user has given the launch up meanwhile.
     bool ShowLoadingAndMount(const Run& run);
-    void GiveUp(forms::Control* focus, const std::string& notedTitle);
     void StartEmulatorProgram(Run& run);
     void FinishStart(const std::string& notedTitle);
+    void GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus);
     void ReturnToLists(forms::Control* focus);
 
     core::Form1& form;

@@ -2,7 +2,6 @@
 
 #include "core/emulator_paths.h"
 #include "core/form1.h"
-#include "core/raised.h"
 #include "launch/refused_name.h"
 #include "launch/start_script.h"
 #include "launch/wait.h"
@@ -41,14 +40,11 @@ std::string StartHelpers::ToolSetting() {
 }
 
 bool StartHelpers::MountGameImage(const std::string& GamePath) {
-    givenUp = false;
     // A name may end in a blank; trimmed, it would be another one.
     const bool plain = services.files.FileExists(GamePath);
     Mount(plain ? GamePath : text::RemoveQuotes(GamePath));
-    if (!HasGivenUp()) return true;
-    services.log.Write("launch given up before its start");
-    hooks.UnloadLoadingInfo();
-    return false;
+    // Also in the moment in which the tool has ended.
+    return !ports.loading->GivenUp();
 }
 
 void StartHelpers::Mount(const std::string& game) {
@@ -87,23 +83,11 @@ void StartHelpers::RunMountFile(const MountFile& file) {
 }
 
 bool StartHelpers::RunToItsEnd(const platform::StartRequest& request) {
-    const core::Raised now(waiting);
     const auto failure = services.starter.RunAndWait(request, [this] {
         pacer.DoEvents();
-        return !HasGivenUp() && !form.Ended;
+        return !ports.loading->GivenUp() && !form.Ended;
     });
     return failure != std::errc::operation_canceled;
-}
-
-bool StartHelpers::HasGivenUp() {
-    givenUp = givenUp || hooks.GivenUp();
-    return givenUp;
-}
-
-bool StartHelpers::GiveUpWaiting() {
-    if (!waiting) return false;
-    givenUp = true;
-    return true;
 }
 
 void StartHelpers::TellOfRefusedName(const std::string& tool, const std::string& game) {

@@ -24,10 +24,8 @@ namespace kivu::launch {
 // user's script. The small files for them are written, run and taken away again.
 class StartHelpers : public core::StartHelpers {
  public:
-    struct Hooks {
-        // The user has had enough of what the loading screen shows.
-        core::Hook<bool()> GivenUp{"StartHelpers.GivenUp"};
-        core::Hook<void()> UnloadLoadingInfo{"StartHelpers.UnloadLoadingInfo"};
+    struct Ports {
+        core::Port<core::LoadingScreen> loading{"StartHelpers.loading"};
     };
     struct Services {
         platform::FileSystem& files;
@@ -46,15 +44,11 @@ class StartHelpers : public core::StartHelpers {
     void EditStartScript() override;
     const std::string& GetVBSFilename() const;
 
-    // Ends the wait for a tool, and the launch with it. False: nothing is waited for.
-    bool GiveUpWaiting();
-
-    Hooks hooks;
+    Ports ports;
 
  private:
     std::string ToolSetting();
     void Mount(const std::string& game);
-    bool HasGivenUp();
     MountFile MountFileFor(const std::string& tool, const std::string& game) const;
     void RunMountFile(const MountFile& file);
     // While events run. False: given up.
@@ -71,8 +65,6 @@ class StartHelpers : public core::StartHelpers {
     profile::Ini& ini;
     core::EventPacer& pacer;
     Services services;
-    bool waiting = false;
-    bool givenUp = false;
 };
 
 }  // namespace kivu::launch

@@ -11,9 +11,10 @@ void Launcher::Routines::JoinLaunch() {
     };
     // A zoomed picture lies over what tells of a launch.
     gameLaunch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
+    gameLaunch.hooks.ShowLoadingInfo = [this] { windowsBeside.loading.ShowLoadingInfo(&form); };
+    windows.onQuestions = [this] { windowsBeside.loading.QuestionsChanged(); };
     watch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
-    // While a mount is waited for, Escape means the launch and not the program.
-    windowKeys.hooks.GiveUpWaiting = [this] { return startHelpers.GiveUpWaiting(); };
+    startHelpers.ports.loading = windowsBeside.loading;
     emulatorSwitch.hooks.SaveAndSetDisplayMode = [this] { displayMode.SaveAndSetDisplayMode(); };
     watch.hooks.RestoreDisplayMode = [this] { displayMode.RestoreDisplayMode(); };
     handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };

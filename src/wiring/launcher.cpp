@@ -101,12 +101,12 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       padEvents(form, navigation, buttonActions, windows),
       joystickControl(form, ini, controllers, padEvents, windows,
                       {dialogs, host.events, host.beeper}),
-      exitButton(form, controllers, buttonActions, windows),
+      exitButton(form, controllers, buttonActions),
       boxByPad(form, controllers, windows, dialogs),
       buttonSetupWindow(windows, [this] { return MakeButtonSetup(); }),
       buttonSetup(form, buttonSetupWindow, windows,
                   {controllers, padEvents, settingsLoader, alwaysOnTop}),
-      windowsBeside(form, host, dialogs, windows) {
+      windowsBeside(form, host, dialogs, windows, {pictureLoader, previews, watch}) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);
     JoinWindow();

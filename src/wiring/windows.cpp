@@ -17,18 +17,24 @@ forms::Toolkit With(forms::Toolkit toolkit, forms::DirectorySource& directories)
 }  // namespace
 
 Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-                 forms::WindowHost& windows)
+                 forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines)
     : form(form),
       windows(windows),
       directories(host.files),
       toolkit(With(form.GetToolkit(), directories)),
-      fileDialogs(windows, [&form, &host, &dialogs, this] {
-          auto made = std::make_unique<support::FilesWindow>(
-              toolkit, form.CurrentLanguage == 1,
-              support::Files::Services{host.files, host.userStore, host.starter, dialogs},
-              host.beeper);
-          Dress(made->GetForm());
-          return made;
+      fileDialogs(
+          windows,
+          [&form, &host, &dialogs, this] {
+              auto made = std::make_unique<support::FilesWindow>(
+                  toolkit, form.CurrentLanguage == 1,
+                  support::Files::Services{host.files, host.userStore, host.starter, dialogs},
+                  host.beeper);
+              Dress(made->GetForm());
+              return made;
+          }),
+      loading(form, windows, host.clock, [&form, &host, &windows, loadingRoutines] {
+          return std::make_unique<launch::LoadingWindow>(
+              form, launch::LoadingInfo::Services{host.files, windows}, loadingRoutines);
       }) {
 }
 

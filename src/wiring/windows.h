@@ -2,6 +2,7 @@
 
 #include "core/form1.h"
 #include "forms/window_host.h"
+#include "launch/loading_opener.h"
 #include "platform/host.h"
 #include "support/directory_lists.h"
 #include "support/file_dialogs.h"
@@ -12,7 +13,7 @@ namespace kivu::wiring {
 class Windows {
  public:
     Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-            forms::WindowHost& windows);
+            forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines);
 
  private:
     // Their looks are those of the main window at the moment.
@@ -25,6 +26,7 @@ class Windows {
 
  public:
     support::WindowedFileDialogs fileDialogs;
+    launch::LoadingOpener loading;
 };
 
 }  // namespace kivu::wiring

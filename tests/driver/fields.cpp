@@ -4,6 +4,7 @@
 #include "driver/field_table.h"
 #include "driver/windows.h"
 #include "joystick/button_setup_form.h"
+#include "launch/loading_form.h"
 #include "support/file_dialog_form.h"
 
 namespace kivu::driver {
@@ -100,12 +101,22 @@ const FieldTable& ButtonSetupFields() {
     return fields;
 }
 
+const FieldTable& LoadingScreenFields() {
+    using launch::LoadingForm;
+    static const FieldTable fields{
+        FieldOf<LoadingForm>("Seconds", &LoadingForm::Seconds),
+        FieldOf<LoadingForm>("SecondsPassed", &LoadingForm::SecondsPassed),
+    };
+    return fields;
+}
+
 // One table a window.
 const FieldTable& FieldsOf(const forms::Form& form) {
     static const FieldTable none;
     if (dynamic_cast<const Form1*>(&form)) return MainWindowFields();
     if (dynamic_cast<const support::FilesForm*>(&form)) return FileDialogFields();
     if (dynamic_cast<const joystick::ButtonSetupForm*>(&form)) return ButtonSetupFields();
+    if (dynamic_cast<const launch::LoadingForm*>(&form)) return LoadingScreenFields();
     return none;
 }
 

@@ -104,6 +104,10 @@ void AddLaunchRoutines(RoutineTable& table, Session& session) {
         return processes.IsProcessRunning(name, launch::Reach::nameOnly);
     }));
     table.push_back(Bind("KillProcess", [&processes](int id) { processes.KillProcess(id); }));
+    auto& loading = all.windowsBeside.loading;
+    table.push_back(
+        Bind("ShowLoadingInfo", [&all, &loading] { loading.ShowLoadingInfo(&all.form); }));
+    table.push_back(Bind("GivenUp", [&loading] { return loading.GivenUp(); }));
     auto& watch = all.watch;
     table.push_back(Bind("EmuActiveTimer_Timer", [&watch] { watch.EmuActiveTimer_Timer(); }));
     table.push_back(Bind("AppRunningPicture_Click", [&watch] { watch.AppRunningPicture_Click(); }));

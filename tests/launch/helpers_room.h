@@ -1,13 +1,21 @@
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "core/form1.h"
 #include "launch/start_helpers.h"
 #include "testing/memory_file_system.h"
+#include "testing/quiet_ports.h"
 #include "testing/scripted_host.h"
 
 namespace kivu::launch {
+
+// The user gives up once it says so.
+struct GivenUpLoading : kivu::testing::QuietLoadingScreen {
+    bool GivenUp() const override { return givenUp && givenUp(); }
+    std::function<bool()> givenUp;
+};
 
 // The start helpers of an emulator "A" over a disk in memory.
 struct HelpersRoom {
@@ -25,7 +33,7 @@ struct HelpersRoom {
         files.AddDirectory(form.StartPfad);
         files.AddFile(form.BaseIniName, "[Settings]\r\n");
         files.AddFile(form.IniPath, "[Settings]\r\n");
-        helpers.hooks.UnloadLoadingInfo = [this] { ++unloaded; };
+        helpers.ports.loading = loading;
     }
 
     void Tool(const std::string& path) {
@@ -56,12 +64,12 @@ struct HelpersRoom {
     core::Form1 form{forms::Toolkit{}};
     profile::Ini ini{files};
     core::EventPacer pacer{host.events, host.clock};
+    GivenUpLoading loading;
     StartHelpers helpers{
         form,
         ini,
         pacer,
         {files, host.starter, host.clock, host.dialogs, host.log, "/run/user/1000"}};
-    int unloaded = 0;  // the loading screen
 };
 
 }  // namespace kivu::launch

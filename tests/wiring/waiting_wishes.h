@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 namespace kivu::wiring {
 
 struct WaitingWish {
@@ -9,10 +11,6 @@ struct WaitingWish {
 
 // Wishes that nobody serves yet: they do nothing until then. Whoever builds what one waits for
 // joins it and takes it off here.
-inline constexpr WaitingWish waitingWishes[] = {
-    {"GameLaunch.ShowLoadingInfo", "the loading screen"},
-    {"StartHelpers.GivenUp", "the loading screen"},
-    {"StartHelpers.UnloadLoadingInfo", "the loading screen"},
-};
+inline constexpr std::array<WaitingWish, 0> waitingWishes{};
 
 }  // namespace kivu::wiring
