@@ -267,7 +267,7 @@ bool GameLaunch::ShowLoadingAndMount(const Run& run) {
     const std::string noted = form.LoadingBtn.Caption();
     form.LoadingBtn.SetCaption("Deamon Tools..");
     pacer.DoEvents();
-    const bool goOn = routines.helpers.MountGameImage(run.path);
+    const bool goOn = !form.StartGivenUp && routines.helpers.MountGameImage(run.path);
     form.LoadingBtn.SetCaption(noted);
     return goOn;
 }
