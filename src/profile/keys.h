@@ -111,7 +111,7 @@ inline constexpr Number UseJoystickExitbuttonInLaunch{UseJoystickExitbutton, "1"
 inline constexpr Number Fontsize{program, "Fontsize", "16", "core/settings_loader"};
 inline constexpr Text DeamonToolPath{program, "DeamonToolPath", "", settingsStore};
 // An emulator's own, where the program's has none.
-inline constexpr Text DeamonToolPathOfEmulator{emulator, DeamonToolPath, "to come: image mounting"};
+inline constexpr Text DeamonToolPathOfEmulator{emulator, DeamonToolPath, "launch/start_helpers"};
 // The device's button for each action.
 inline constexpr std::array<Number, 12> Buttons{{
     {program, "Button1", "0", "core/settings_loader"},

@@ -15,6 +15,7 @@ void Launcher::Routines::JoinWindow() {
     settingsLoader.hooks.SetColors = [this] { windowColors.SetColors(form, -1, -1); };
     shutDown.ports.layout = layout;
     windowKeys.ports.watch = watch;
+    windowKeys.ports.loading = windowsBeside.loading;
     windowKeys.hooks.JoystickDirection = [this](int key) { navigation.JoystickDirection(key); };
     windowKeys.hooks.TogglePictureZoom = [this] { previews.ToggleZoom(); };
 

@@ -74,9 +74,14 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       watch(form, ini, prozess, busy, host.events, dialogs, host.log,
             {emulatorBox, listEvents, alwaysOnTop}),
       uaeFiles(form, host.files, host.log),
+      displayMode(host.display, host.log),
+      runFile({host.files, host.starter, dialogs, host.temporaryDirectory}, pacer),
+      startHelpers(
+          form, ini, pacer,
+          {host.files, host.starter, host.clock, dialogs, host.log, host.runtimeDirectory}),
       gameLaunch(form, ini, busy, pacer,
                  {host.files, host.starter, host.clock, dialogs, host.beeper, host.log},
-                 {emulatorBox, listEvents, alwaysOnTop, uaeFiles}),
+                 {emulatorBox, listEvents, alwaysOnTop, uaeFiles, startHelpers}),
       handedFile(form, {host.files, host.beeper, host.instance, host.log},
                  {emulatorBox, gameLaunch, shutDown, alwaysOnTop}, host.commandLine),
       emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, dialogs, host.log},
@@ -96,12 +101,13 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       padEvents(form, navigation, buttonActions, windows),
       joystickControl(form, ini, controllers, padEvents, windows,
                       {dialogs, host.events, host.beeper}),
-      exitButton(form, controllers, buttonActions, windows),
+      exitButton(form, controllers, buttonActions),
       boxByPad(form, controllers, windows, dialogs),
       buttonSetupWindow(windows, [this] { return MakeButtonSetup(); }),
       buttonSetup(form, buttonSetupWindow, windows,
                   {controllers, padEvents, settingsLoader, alwaysOnTop}),
-      windowsBeside(form, host, dialogs, windows, ini, SettingsRoutines()),
+      windowsBeside(form, host, dialogs, windows, {pictureLoader, previews, watch}, ini,
+                    SettingsRoutines()),
       settingsOpener(form, windowsBeside.settings, windows, alwaysOnTop) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);

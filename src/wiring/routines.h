@@ -25,12 +25,15 @@
 #include "joystick/joystick_control.h"
 #include "joystick/list_navigation.h"
 #include "joystick/pad_events.h"
+#include "launch/display_mode.h"
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/handed_file.h"
 #include "launch/prozess.h"
+#include "launch/run_file.h"
 #include "launch/running_watch.h"
+#include "launch/start_helpers.h"
 #include "launch/uae_files.h"
 #include "library/emulator_box.h"
 #include "library/file_scan_recursive.h"
@@ -120,6 +123,9 @@ struct Launcher::Routines {
     launch::Prozess prozess;
     launch::RunningWatch watch;
     launch::UaeFiles uaeFiles;
+    launch::ChangeScreenRes displayMode;
+    launch::RunFile runFile;
+    launch::StartHelpers startHelpers;
     launch::GameLaunch gameLaunch;
     launch::HandedFile handedFile;
     launch::EmulatorSetup emulatorSetup;

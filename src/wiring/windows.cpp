@@ -17,8 +17,8 @@ forms::Toolkit With(forms::Toolkit toolkit, forms::DirectorySource& directories)
 }  // namespace
 
 Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-                 forms::WindowHost& windows, profile::Ini& ini,
-                 settings::SettingsWindow::Routines settingsRoutines)
+                 forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines,
+                 profile::Ini& ini, settings::SettingsWindow::Routines settingsRoutines)
     : form(form),
       windows(windows),
       directories(host.files),
@@ -33,6 +33,11 @@ Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dia
               Dress(made->GetForm());
               return made;
           }),
+      loading(form, windows, host.clock,
+              [&form, &host, &windows, loadingRoutines] {
+                  return std::make_unique<launch::LoadingWindow>(
+                      form, launch::LoadingInfo::Services{host.files, windows}, loadingRoutines);
+              }),
       settings(windows, [&form, &host, &dialogs, &windows, &ini, settingsRoutines, this] {
           auto made = std::make_unique<settings::SettingsWindow>(
               form, form.GetToolkit(),

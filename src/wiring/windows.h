@@ -2,6 +2,7 @@
 
 #include "core/form1.h"
 #include "forms/window_host.h"
+#include "launch/loading_opener.h"
 #include "platform/host.h"
 #include "settings/settings_window.h"
 #include "support/directory_lists.h"
@@ -13,8 +14,8 @@ namespace kivu::wiring {
 class Windows {
  public:
     Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-            forms::WindowHost& windows, profile::Ini& ini,
-            settings::SettingsWindow::Routines settingsRoutines);
+            forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines,
+            profile::Ini& ini, settings::SettingsWindow::Routines settingsRoutines);
 
  private:
     // Their looks are those of the main window at the moment.
@@ -27,6 +28,7 @@ class Windows {
 
  public:
     support::WindowedFileDialogs fileDialogs;
+    launch::LoadingOpener loading;
     forms::OnDemand<settings::SettingsWindow> settings;
 };
 

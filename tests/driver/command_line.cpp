@@ -33,6 +33,10 @@ bool Take(Options& options, const std::string& name, const std::string& value) {
         const auto time = TimeFromText(value);
         if (time) options.time = *time;
         return time.has_value();
+    } else if (name == "--runtime-dir") {
+        options.runtimeDirectory = value.empty() ? "" : Absolute(value);
+    } else if (name == "--temporary-dir") {
+        options.temporaryDirectory = value.empty() ? "" : Absolute(value);
     } else if (name == "--start-files" && (value == "windows" || value == "shell")) {
         options.windowsStartFiles = value == "windows";
     } else {

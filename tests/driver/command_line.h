@@ -10,7 +10,8 @@ namespace kivu::driver {
 
 inline constexpr const char* usage =
     "usage: kivu-drive --program-dir DIR [--program NAME] [--command-line TEXT]\n"
-    "                  [--language NAME] [--time HH:MM:SS] [--start-files shell|windows]\n";
+    "                  [--language NAME] [--time HH:MM:SS] [--start-files shell|windows]\n"
+    "                  [--runtime-dir DIR] [--temporary-dir DIR]\n";
 
 // Empty: the arguments (without the program's own) make no sense, and `error` says why.
 std::optional<Options> ParseCommandLine(const std::vector<std::string>& arguments,

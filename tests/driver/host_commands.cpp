@@ -104,6 +104,8 @@ Json Runs(Session& session, const Json&) {
         run["startFile"] = start.request.startFile;
         run["watched"] = start.request.watched;
         run["opened"] = start.opened;
+        run["edited"] = start.edited;
+        if (start.script) run["script"] = *start.script;
         runs.push_back(std::move(run));
     }
     session.Host().starter.runs.clear();
@@ -160,20 +162,42 @@ Json Time(Session& session, const Json& command) {
     return Json::object();
 }
 
-Json Display(Session& session, const Json&) {
-    const auto show = [](const platform::DisplayMode& mode) {
-        Json shown = Json::object();
-        shown["width"] = mode.width;
-        shown["height"] = mode.height;
-        shown["bits"] = mode.bits;
-        shown["frequency"] = mode.frequency;
-        return shown;
-    };
-    const testing::ScriptedDisplay& screen = session.Host().display;
-    Json display = show(screen.current.value_or(platform::DisplayMode{}));
+// What is not told stays as it is.
+void SetDisplay(testing::ScriptedDisplay& screen, const Json& told) {
+    if (!told.is_object()) throw CommandError("display set takes an object");
+    platform::DisplayMode mode = screen.current.value_or(platform::DisplayMode{});
+    bool accepts = screen.accepts;
+    for (const auto& [name, value] : told.items()) {
+        if (name == "width") {
+            mode.width = WholeFrom(value, name);
+        } else if (name == "height") {
+            mode.height = WholeFrom(value, name);
+        } else if (name == "bits") {
+            mode.bits = WholeFrom(value, name);
+        } else if (name == "frequency") {
+            mode.frequency = WholeFrom(value, name);
+        } else if (name == "accepts") {
+            accepts = FlagFrom(value, name);
+        } else {
+            throw CommandError("a display has no " + name);
+        }
+    }
+    screen.current = mode;
+    screen.accepts = accepts;
+}
+
+Json Display(Session& session, const Json& command) {
+    testing::ScriptedDisplay& screen = session.Host().display;
+    if (command.size() > 1) {
+        if (command.size() != 3 || TextFrom(command[1], "the action") != "set")
+            throw CommandError("display takes nothing or \"set\" and an object");
+        SetDisplay(screen, command[2]);
+        return Json::object();
+    }
+    Json display = ModeJson(screen.current.value_or(platform::DisplayMode{}));
     display["changes"] = Json::array();
     for (const auto& change : screen.sent)
-        display["changes"].push_back(show(change));
+        display["changes"].push_back(ModeJson(change));
     return Told("display", std::move(display));
 }
 
@@ -185,6 +209,15 @@ Json Summon(Session& session, const Json& command) {
 }
 
 }  // namespace
+
+Json ModeJson(const platform::DisplayMode& mode) {
+    Json shown = Json::object();
+    shown["width"] = mode.width;
+    shown["height"] = mode.height;
+    shown["bits"] = mode.bits;
+    shown["frequency"] = mode.frequency;
+    return shown;
+}
 
 Json Told(const char* name, Json what) {
     Json more = Value(what);
@@ -203,7 +236,7 @@ const std::vector<Command>& HostCommands() {
         {"log", 0, 0, false, Log},
         {"process", 2, 3, false, Process},
         {"time", 1, 1, false, Time},
-        {"display", 0, 0, false, Display},
+        {"display", 0, 2, false, Display},
         {"summon", 0, 1, true, Summon},
     };
     return commands;

@@ -20,6 +20,8 @@ testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& optio
     host.clock.Set(options.time);
     host.starter.usesShell = !options.windowsStartFiles;
     host.pictureDecoder.sizeOf = PictureOf;
+    host.runtimeDirectory = options.runtimeDirectory;
+    host.temporaryDirectory = options.temporaryDirectory;
     return host;
 }
 
