@@ -20,6 +20,7 @@ testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& optio
     host.clock.Set(options.time);
     host.starter.usesShell = !options.windowsStartFiles;
     host.pictureDecoder.sizeOf = PictureOf;
+    host.build = options.build;
     return host;
 }
 

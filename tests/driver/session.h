@@ -18,6 +18,7 @@ struct Options {
     std::string language = "English";  // English name of the system language
     platform::TimeOfDay time{12, 0, 0};
     bool windowsStartFiles = false;  // start files for cmd.exe instead of /bin/sh
+    platform::Build build{};         // addresses; none, as in a build that names none
     const forms::TextMeasure* measure = nullptr;
 };
 
