@@ -2,6 +2,7 @@
 
 #include "core/form1.h"
 #include "library/list_search.h"
+#include "support/writable.h"
 #include "text/text.h"
 
 namespace kivu::ui {
@@ -30,16 +31,30 @@ void Hints::Refresh() {
 }
 
 void Hints::ShowFirstSteps() {
-    if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible())
-        form.LoadingBtn.SetHint(NoEmulator());
+    if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
+    storesNothing = !support::CanWriteIn(files, form.ConfigPath);
+    Refresh();
+    form.LoadingBtn.SetHint(NoEmulator());
 }
 
 std::string Hints::NoEmulator() const {
     if (form.EmuListbox.ListCount() > 0)
-        return form.Say("Wähle oben links einen Emulator.", "Choose an emulator at the top left.");
+        return std::string(form.Say("Wähle oben links einen Emulator.",
+                                    "Choose an emulator at the top left.")) +
+               (storesNothing ? "\r\r" + NotStored() : "");
+    if (storesNothing) return NotStored();
     return form.Say("Noch kein Emulator.\rLege in\r", "No emulator yet.\rIn\r") + form.ConfigPath +
            form.Say("\rfür jeden ein Verzeichnis mit seinem Namen an\rund starte das Programm neu.",
                     "\rmake a directory with the name of each\rand start the program anew.");
+}
+
+std::string Hints::NotStored() const {
+    return form.Say("In das Verzeichnis\r", "The directory\r") + form.ConfigPath +
+           form.Say(
+               "\rkann nicht geschrieben werden: nichts wird gespeichert.\r"
+               "\"Kivu --data VERZEICHNIS\" nimmt ein anderes.",
+               "\rcannot be written to: nothing will be stored.\r"
+               "\"Kivu --data DIRECTORY\" takes another one.");
 }
 
 std::string Hints::NoGames() const {

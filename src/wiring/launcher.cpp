@@ -88,7 +88,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       fontSize(form, layout),
       skins(form, host.files, pictureLoader),
       windowColors(form, ini),
-      hints(form),
+      hints(form, host.files),
       surface(form, ini, {dialogs, host.files}, busy, alwaysOnTop),
       panelDrag(form, layout),
       previews(form, {host.files, host.background}, layout, pictureLoader),

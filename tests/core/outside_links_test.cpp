@@ -56,7 +56,7 @@ struct OutsideLinksTest : ::testing::Test {
     testing::MemoryFileSystem files;
     testing::ScriptedHost host{files};
     Form1 form{forms::Toolkit{}};
-    forms::Form settings{forms::Toolkit{}, "SettingsForm"};
+    forms::Form settings{"SettingsForm", forms::Toolkit{}};
     forms::Label link{&settings, "Label5"};
     platform::Build build;
     std::optional<OutsideLinks> links;
