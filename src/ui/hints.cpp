@@ -8,8 +8,8 @@
 namespace kivu::ui {
 
 void Hints::Refresh() {
-    const std::string none = form.CurrentEmuIndex < 0 ? NoEmulator() : "";
-    form.EmulatorLongListbox.SetHint(NoEmulator());
+    const std::string none = form.CurrentEmuIndex < 0 ? FirstStep() : "";
+    form.EmulatorLongListbox.SetHint(FirstStep());
     const std::string games = none.empty() ? NoGames() : none;
     form.WIthoutDoubles.SetHint(games);
     form.UAE_Short.SetHint(games);
@@ -34,18 +34,13 @@ void Hints::ShowFirstSteps() {
     if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
     storesNothing = !support::CanWriteIn(files, form.ConfigPath);
     Refresh();
-    form.LoadingBtn.SetHint(NoEmulator());
+    form.LoadingBtn.SetHint(FirstStep());
 }
 
-std::string Hints::NoEmulator() const {
-    if (form.EmuListbox.ListCount() > 0)
-        return std::string(form.Say("Wähle oben links einen Emulator.",
-                                    "Choose an emulator at the top left.")) +
-               (storesNothing ? "\r\r" + NotStored() : "");
-    if (storesNothing) return NotStored();
-    return form.Say("Noch kein Emulator.\rLege in\r", "No emulator yet.\rIn\r") + form.ConfigPath +
-           form.Say("\rfür jeden ein Verzeichnis mit seinem Namen an\rund starte das Programm neu.",
-                    "\rmake a directory with the name of each\rand start the program anew.");
+// Where nothing can be stored, there is no sense in making an emulator.
+std::string Hints::FirstStep() const {
+    if (!storesNothing) return NoEmulator();
+    return form.EmuListbox.ListCount() > 0 ? NoEmulator() + "\r\r" + NotStored() : NotStored();
 }
 
 std::string Hints::NotStored() const {
@@ -55,6 +50,14 @@ std::string Hints::NotStored() const {
                "\"Kivu --data VERZEICHNIS\" nimmt ein anderes.",
                "\rcannot be written to: nothing will be stored.\r"
                "\"Kivu --data DIRECTORY\" takes another one.");
+}
+
+std::string Hints::NoEmulator() const {
+    if (form.EmuListbox.ListCount() > 0)
+        return form.Say("Wähle oben links einen Emulator.", "Choose an emulator at the top left.");
+    return form.Say("Noch kein Emulator.\rLege in\r", "No emulator yet.\rIn\r") + form.ConfigPath +
+           form.Say("\rfür jeden ein Verzeichnis mit seinem Namen an\rund starte das Programm neu.",
+                    "\rmake a directory with the name of each\rand start the program anew.");
 }
 
 std::string Hints::NoGames() const {

@@ -22,8 +22,9 @@ class Hints {
     void ShowFirstSteps();
 
  private:
-    std::string NoEmulator() const;
+    std::string FirstStep() const;
     std::string NotStored() const;
+    std::string NoEmulator() const;
     std::string NoGames() const;
     std::string NoHits(const char* where) const;
 
