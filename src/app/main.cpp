@@ -48,6 +48,7 @@ int main(int argc, char** argv) {
     Reached("main");
     kivu::app::PrepareToolkit();
     QApplication application(argc, argv);
+    if (const auto code = kivu::app::RunOtherJob(argc, argv)) return *code;
     QApplication::setQuitOnLastWindowClosed(false);
     // Ready when the launcher is.
     kivu::view::PreloadPicture(":/background");

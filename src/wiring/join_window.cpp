@@ -49,7 +49,8 @@ void Launcher::Routines::JoinWindow() {
         control->onDblClick = [this] { surface.Form_DblClick(); };
     }
     form.MyCaptionLabel.onMouseDown = drag;
-    form.TitleStr.onClick = [this] { surface.TitleStr_Click(); };
+    form.TitleStr.onClick = [this] { links.ShowHomePage(); };
+    form.DonateBtn.onClick = [this] { links.Donate(); };
     form.MyCaptionLabel.onDblClick = [this] { surface.MyCaptionLabel_DblClick(); };
     form.NormalMaxCapt.onClick = [this] { surface.NormalMaxCapt_Click(); };
 

@@ -6,6 +6,7 @@
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
 #include "core/form1.h"
+#include "core/outside_links.h"
 #include "core/settings_loader.h"
 #include "core/shut_down.h"
 #include "core/start_up.h"
@@ -105,6 +106,7 @@ struct Launcher::Routines {
     core::EmulatorSwitch emulatorSwitch;
     core::StartUp startUp;
     core::WindowKeys windowKeys;
+    core::OutsideLinks links;
 
     library::FileScanRecursive scanner;
     library::EmulatorBox emulatorBox;
