@@ -10,6 +10,7 @@ screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps
       xserver-xorg-core xserver-xorg-video-dummy python3 openssl)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
+package=(debhelper dpkg-dev fakeroot git lintian nasm desktop-file-utils appstream man-db)
 tidy=(clang-tidy)
 wine=(wine wine64 googletest nlohmann-json3-dev fonts-dejavu-core)
 assets=(librsvg2-bin imagemagick fonts-dejavu-core)
