@@ -4,6 +4,7 @@
 if(NOT KIVU_WINDOW OR WIN32)
   return()
 endif()
+set(CMAKE_INSTALL_DOCDIR "share/doc/kivu" CACHE PATH "Where the documents go")
 include(GNUInstallDirs)
 set(KIVU_SCREENSHOT_URL "" CACHE STRING "Address of a screenshot for software catalogues")
 kivu_check_address(KIVU_SCREENSHOT_URL "https")

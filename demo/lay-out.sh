@@ -81,7 +81,7 @@ InstallEmulator() {
     local patterns count kept
     mkdir -p -- "$config"
     rm -rf -- "$config.new"
-    cp -R -- "$template/." "$config.new"
+    cp -R --no-preserve=mode -- "$template/." "$config.new"
     # Profiles and lists are read on Windows as well: lines end in CR LF.
     for kept in AliasList.txt Favoriten.ini Kivu.ini; do
         if [[ -e $config.new/$kept ]]; then sed -i 's/\r*$/\r/' "$config.new/$kept"; fi
@@ -101,10 +101,10 @@ InstallEmulator() {
 # InstallLook NAME SKIN: an emulator's skin and its games' pictures, each if it has none yet.
 InstallLook() {
     local config=$out/Config/$1 picture
-    if [[ ! -e $config/Skin ]]; then cp -R -- "$skins/$2" "$config/Skin"; fi
+    if [[ ! -e $config/Skin ]]; then cp -R --no-preserve=mode -- "$skins/$2" "$config/Skin"; fi
     mkdir -p -- "$config/Pictures"
     for picture in "$here"/pictures/*.png "$here"/pictures/*.jpg; do
-        if [[ ! -e $config/Pictures/${picture##*/} ]]; then cp -- "$picture" "$config/Pictures/"; fi
+        if [[ ! -e $config/Pictures/${picture##*/} ]]; then cp --no-preserve=mode -- "$picture" "$config/Pictures/"; fi
     done
 }
 
@@ -120,7 +120,7 @@ InstallGlobalFavourites() {
 
 if [[ $games != "$out/Games" ]]; then
     mkdir -p -- "$out/Games"
-    cp -R -- "$games/." "$out/Games"
+    cp -R --no-preserve=mode -- "$games/." "$out/Games"
 fi
 mkdir -p -- "$out/Emulators"
 install -m 755 -- "$here/kivu-dosbox.sh" "$out/Emulators/"
