@@ -4,7 +4,6 @@
 if(NOT KIVU_WINDOW OR WIN32)
   return()
 endif()
-set(CMAKE_INSTALL_DOCDIR "share/doc/kivu" CACHE PATH "Where the documents go")
 include(GNUInstallDirs)
 set(KIVU_SCREENSHOT_URL "" CACHE STRING "Address of a screenshot for software catalogues")
 kivu_check_address(KIVU_SCREENSHOT_URL "https")
@@ -15,6 +14,7 @@ endif()
 set(packaging ${PROJECT_SOURCE_DIR}/packaging/linux)
 set(made ${PROJECT_BINARY_DIR}/packaging)
 set(data ${CMAKE_INSTALL_DATADIR})
+set(documents ${CMAKE_INSTALL_DATAROOTDIR}/doc)
 
 install(TARGETS Kivu RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 
@@ -52,9 +52,9 @@ configure_file(${packaging}/Kivu.1.in ${made}/Kivu.1 @ONLY)
 install(FILES ${made}/Kivu.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # Those for players; the others are for those who build it.
-install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${CMAKE_INSTALL_DOCDIR})
+install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${documents}/kivu)
 install(FILES docs/guide.md docs/profiles.md docs/skins.md docs/screenshot.png docs/skins.png
-        DESTINATION ${CMAKE_INSTALL_DOCDIR}/docs)
+        DESTINATION ${documents}/kivu/docs)
 
 # Beside bin/ it also tells the program that it is installed and keeps its data with the user's.
 install(DIRECTORY assets/skins/ DESTINATION ${data}/kivu/skins)
@@ -77,7 +77,7 @@ file(WRITE ${made}/version "${PROJECT_VERSION}\n")
 install(PROGRAMS ${packaging}/kivu-demo DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${made}/${KIVU_APP_ID}.Demo.desktop DESTINATION ${data}/applications)
 install(FILES ${made}/kivu-demo.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
-install(FILES demo/README.md DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/kivu-demo)
+install(FILES demo/README.md DESTINATION ${documents}/kivu-demo)
 install(PROGRAMS demo/lay-out.sh demo/kivu-dosbox.sh DESTINATION ${data}/kivu-demo)
 install(FILES ${made}/version DESTINATION ${data}/kivu-demo)
 install(DIRECTORY demo/config DESTINATION ${data}/kivu-demo)
