@@ -12,7 +12,7 @@ test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdefl
       desktop-file-utils appstream man-db imagemagick nasm mawk)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 package=(debhelper dpkg-dev fakeroot git lintian nasm)
-tarball=(patchelf binutils xz-utils dpkg-dev qt6-wayland qt6-qpa-plugins)
+tarball=(patchelf binutils xz-utils dpkg-dev qt6-wayland qt6-image-formats-plugins)
 installer=(nsis)
 tree=(mmdebstrap debian-archive-keyring util-linux)
 tidy=(clang-tidy)
