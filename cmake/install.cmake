@@ -53,7 +53,7 @@ install(FILES ${made}/Kivu.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # Those for players; the others are for those who build it.
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${documents}/kivu)
-install(FILES docs/guide.md docs/profiles.md docs/skins.md docs/screenshot.png docs/skins.png
+install(FILES docs/guide.md docs/install.md docs/profiles.md docs/skins.md docs/screenshot.png docs/skins.png
         DESTINATION ${documents}/kivu/docs)
 
 # Beside bin/ it also tells the program that it is installed and keeps its data with the user's.
