@@ -51,10 +51,10 @@ install(FILES ${icons}/svg/kivu.svg DESTINATION ${data}/icons/hicolor/scalable/a
 configure_file(${packaging}/Kivu.1.in ${made}/Kivu.1 @ONLY)
 install(FILES ${made}/Kivu.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
-# Those for players; the others are for those who build it.
+# Those for players, with their pictures; the others are for those who build it.
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${documents}/kivu)
-install(FILES docs/guide.md docs/install.md docs/profiles.md docs/skins.md docs/screenshot.png docs/skins.png
-        DESTINATION ${documents}/kivu/docs)
+file(GLOB chapters CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/guide*.md ${PROJECT_SOURCE_DIR}/docs/*.png)
+install(FILES ${chapters} docs/install.md docs/profiles.md docs/skins.md DESTINATION ${documents}/kivu/docs)
 
 # Beside bin/ it also tells the program that it is installed and keeps its data with the user's.
 install(DIRECTORY assets/skins/ DESTINATION ${data}/kivu/skins)
