@@ -6,6 +6,10 @@
 
 namespace kivu::app {
 
+// The name by which desktops know the program: that of its desktop file, which gives its windows
+// their icon and their group.
+const char* ApplicationId();
+
 // The addresses that this program has been built with.
 platform::Build ThisBuild();
 
