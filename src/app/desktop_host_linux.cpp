@@ -13,6 +13,7 @@
 #include "hosts/linux/display_guard.h"
 #include "hosts/linux/display_linux.h"
 #include "hosts/linux/downloader_curl.h"
+#include "hosts/linux/end_signals.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
@@ -70,6 +71,8 @@ struct DesktopHost::Parts {
     std::string temporaryDirectory = hosts::TemporaryDirectory();
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
+    std::unique_ptr<hosts::EndSignals> endSignals;
+    std::unique_ptr<QSocketNotifier> endCalls;
 };
 
 // The arguments byte for byte: a file name need not be text.
@@ -99,6 +102,17 @@ void DesktopHost::ListenForInstances(std::function<void(const std::string&)> sum
     parts->calls = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
     QObject::connect(parts->calls.get(), &QSocketNotifier::activated, parts->calls.get(),
                      [this] { parts->instance.Serve(); });
+}
+
+void DesktopHost::ListenForEnd(std::function<void()> end) {
+    parts->endSignals = std::make_unique<hosts::EndSignals>();
+    const int fd = parts->endSignals->WaitFd();
+    if (fd < 0) return;
+    parts->endCalls = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
+    QObject::connect(parts->endCalls.get(), &QSocketNotifier::activated, parts->endCalls.get(),
+                     [this, end = std::move(end)] {
+                         if (parts->endSignals->Take()) end();
+                     });
 }
 
 }  // namespace kivu::app

@@ -37,6 +37,14 @@ void Launcher::StartHandedFile(const std::string& path) {
     routines->handedFile.StartHandedFile(path);
 }
 
+void Launcher::SessionEnds() {
+    routines->shutDown.StoreForSession();
+}
+
+void Launcher::EndFromOutside() {
+    routines->shutDown.EndFromOutside();
+}
+
 Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
                              std::function<void()> end, forms::WindowHost* windowHost)
     : logged(std::move(hostServices)),
