@@ -32,6 +32,9 @@ class DesktopHost {
     // Listens for later instances from now on; `summon` is called when one asks this to come up,
     // with the file that it was given to start, if any.
     void ListenForInstances(std::function<void(const std::string& file)> summon);
+    // `end` is called when somebody asks the process to end: by a signal, or by closing its
+    // console.
+    void ListenForEnd(std::function<void()> end);
 
  private:
     struct Parts;

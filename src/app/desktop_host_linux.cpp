@@ -15,6 +15,7 @@
 #include "hosts/linux/display_guard.h"
 #include "hosts/linux/display_linux.h"
 #include "hosts/linux/downloader_curl.h"
+#include "hosts/linux/end_signals.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
@@ -106,6 +107,8 @@ struct DesktopHost::Parts {
     std::string temporaryDirectory = hosts::TemporaryDirectory();
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
+    std::unique_ptr<hosts::EndSignals> endSignals;
+    std::unique_ptr<QSocketNotifier> endCalls;
 };
 
 DesktopHost::DesktopHost(int argc, char** argv)
@@ -134,6 +137,17 @@ void DesktopHost::ListenForInstances(std::function<void(const std::string&)> sum
     parts->calls = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
     QObject::connect(parts->calls.get(), &QSocketNotifier::activated, parts->calls.get(),
                      [this] { parts->instance.Serve(); });
+}
+
+void DesktopHost::ListenForEnd(std::function<void()> end) {
+    parts->endSignals = std::make_unique<hosts::EndSignals>();
+    const int fd = parts->endSignals->WaitFd();
+    if (fd < 0) return;
+    parts->endCalls = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
+    QObject::connect(parts->endCalls.get(), &QSocketNotifier::activated, parts->endCalls.get(),
+                     [this, end = std::move(end)] {
+                         if (parts->endSignals->Take()) end();
+                     });
 }
 
 }  // namespace kivu::app

@@ -14,6 +14,7 @@
 #include "hosts/windows/controllers_dinput.h"
 #include "hosts/windows/display_windows.h"
 #include "hosts/windows/downloader_winhttp.h"
+#include "hosts/windows/end_events_windows.h"
 #include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/instance_windows.h"
 #include "hosts/windows/locale_windows.h"
@@ -120,6 +121,11 @@ void DesktopHost::WindowStands() {
 // The toolkit's own event loop serves the messages of later instances.
 void DesktopHost::ListenForInstances(std::function<void(const std::string&)> summon) {
     parts->instance.OnSummoned(std::move(summon));
+}
+
+void DesktopHost::ListenForEnd(std::function<void()> end) {
+    hosts::ListenForConsoleEnd(
+        [end = std::move(end)] { QMetaObject::invokeMethod(qApp, end, Qt::QueuedConnection); });
 }
 
 }  // namespace kivu::app

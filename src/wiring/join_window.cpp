@@ -14,8 +14,12 @@ void Launcher::Routines::JoinWindow() {
     // An emulator brings its skin's colours with its settings.
     settingsLoader.hooks.SetColors = [this] { windowColors.SetColors(form, -1, -1); };
     shutDown.ports.layout = layout;
+    shutDown.hooks.DrivesAreOf = [this](const std::string& profile) {
+        return settingsLoader.DrivesAreOf(profile);
+    };
     windowKeys.ports.watch = watch;
     windowKeys.ports.loading = windowsBeside.loading;
+    windowKeys.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
     windowKeys.hooks.JoystickDirection = [this](int key) { navigation.JoystickDirection(key); };
     windowKeys.hooks.TogglePictureZoom = [this] { previews.ToggleZoom(); };
 

@@ -37,6 +37,14 @@ void Launcher::StartHandedFile(const std::string& path) {
     routines->handedFile.StartHandedFile(path);
 }
 
+void Launcher::SessionEnds() {
+    routines->shutDown.StoreForSession();
+}
+
+void Launcher::EndFromOutside() {
+    routines->shutDown.EndFromOutside();
+}
+
 Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
                              std::function<void()> end, forms::WindowHost* windowHost)
     : logged(std::move(hostServices)),
@@ -109,7 +117,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       buttonSetup(form, buttonSetupWindow, windows,
                   {controllers, padEvents, settingsLoader, alwaysOnTop}),
       windowsBeside(form, host, dialogs, windows, {pictureLoader, previews, watch}, ini,
-                    SettingsRoutines()),
+                    [this] { return SettingsRoutines(); }),
       settingsOpener(form, windowsBeside.settings, windows, alwaysOnTop) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);

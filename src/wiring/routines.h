@@ -60,7 +60,6 @@
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 #include "wiring/logged_host.h"
-#include "wiring/still_to_come.h"
 #include "wiring/windows.h"
 
 namespace kivu::wiring {
@@ -151,11 +150,6 @@ struct Launcher::Routines {
     joystick::BoxByPad boxByPad;
     forms::OnDemand<joystick::ButtonSetupWindow> buttonSetupWindow;
     joystick::ButtonSetupOpener buttonSetup;
-
-    // Until they are built.
-    QuietStartHelpers startHelpers;
-    QuietLoadingScreen loadingScreen;
-    QuietLinks links;
 
     Windows windowsBeside;
     settings::SettingsOpener settingsOpener;

@@ -18,7 +18,8 @@ forms::Toolkit With(forms::Toolkit toolkit, forms::DirectorySource& directories)
 
 Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
                  forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines,
-                 profile::Ini& ini, settings::SettingsWindow::Routines settingsRoutines)
+                 profile::Ini& ini,
+                 std::function<settings::SettingsWindow::Routines()> settingsRoutines)
     : form(form),
       windows(windows),
       directories(host.files),
@@ -52,7 +53,7 @@ Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dia
                                                  .systemColors = host.systemColors,
                                                  .windows = windows,
                                                  .fileDialogs = fileDialogs},
-              settingsRoutines);
+              settingsRoutines());
           Dress(made->GetForm());
           return made;
       }) {

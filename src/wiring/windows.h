@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "core/form1.h"
 #include "forms/window_host.h"
 #include "launch/loading_opener.h"
@@ -15,7 +17,8 @@ class Windows {
  public:
     Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
             forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines,
-            profile::Ini& ini, settings::SettingsWindow::Routines settingsRoutines);
+            profile::Ini& ini,
+            std::function<settings::SettingsWindow::Routines()> settingsRoutines);
 
  private:
     // Their looks are those of the main window at the moment.

@@ -255,6 +255,16 @@ Json Downloads(Session& session, const Json&) {
 }
 
 // A later instance calls, as the program's main joins it.
+Json Signal(Session& session, const Json&) {
+    session.Program().EndFromOutside();
+    return Json::object();
+}
+
+Json SessionEnds(Session& session, const Json&) {
+    session.Program().SessionEnds();
+    return Json::object();
+}
+
 Json Summon(Session& session, const Json& command) {
     const std::string file = command.size() > 1 ? TextFrom(command[1], "the file") : "";
     if (!file.empty()) session.Program().StartHandedFile(file);
@@ -293,6 +303,8 @@ const std::vector<Command>& HostCommands() {
         {"download", 1, 3, false, Download},
         {"downloads", 0, 0, false, Downloads},
         {"summon", 0, 1, true, Summon},
+        {"signal", 0, 0, true, Signal},
+        {"session", 0, 0, true, SessionEnds},
     };
     return commands;
 }
