@@ -82,12 +82,12 @@ TEST_F(LoadingPictures, BrokenOnesLeaveText) {
 
 TEST_F(LoadingPictures, OnesOfAnyShapeKeepTheirs) {
     for (const auto& [width, height] :
-         std::vector<std::pair<unsigned, unsigned>>{{10000, 20}, {20, 3000}, {320, 200}, {1, 1}}) {
+         std::vector<std::pair<unsigned, unsigned>>{{10000, 100}, {30, 3000}, {320, 200}, {1, 1}}) {
         Paint("Config/Alpha/Skin/Loading.bmp", width, height);
         LaunchBeeWithoutPicture();
         const double shown = double(Length("GameImage.Width")) / Length("GameImage.Height");
         const double own = double(width) / height;
-        EXPECT_NEAR(shown / own, 1, 0.35) << width << "x" << height;
+        EXPECT_NEAR(shown / own, 1, 0.05) << width << "x" << height;
         EXPECT_GE(Length("GameImage.Left"), 0);
         EXPECT_GE(Length("GameImage.Top"), 0);
         EXPECT_LE(Length("GameImage.Left") + Length("GameImage.Width"), Length("TxtTitle.Left"));
