@@ -10,7 +10,7 @@ class LoadingLaunches : public LoadingScreen {
  protected:
     // Nothing has been started, and the window is as it was.
     void ExpectGivenUp(std::size_t runsBefore = 0) {
-        EXPECT_EQ(Host().starter.starts.size(), runsBefore);
+        EXPECT_EQ(Host().starter.runs.size(), runsBefore);
         EXPECT_TRUE(Do("kills")["value"].empty());
         EXPECT_FALSE(IsUp());
         EXPECT_FALSE(Visible("LoadingBtn"));
@@ -106,7 +106,7 @@ TEST_F(LoadingLaunches, EndedWhileItStandsTheProgramStartsNothing) {
     interpreter->Execute(
         Json::array({"call", "StartGame", tree.Path("Roms/Alpha/Bee (1991)(Maker).adf")}));
     EXPECT_TRUE(session->ended);
-    EXPECT_TRUE(Host().starter.starts.empty());
+    EXPECT_TRUE(Host().starter.runs.empty());
 }
 
 TEST_F(LoadingLaunches, KeysSkipItAfterHalfASecond) {

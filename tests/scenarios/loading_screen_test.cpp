@@ -220,7 +220,7 @@ TEST_F(LoadingScreenTest, StartsAFileOfTheCommandLine) {
     options.commandLine = "\"" + tree.Path("Roms/Alpha/Bee (1991)(Maker).adf") + "\"";
     Start();
     EXPECT_TRUE(session->ended);
-    EXPECT_EQ(Host().starter.starts.size(), 1U);
+    EXPECT_EQ(Host().starter.runs.size(), 1U);
 }
 
 }  // namespace
