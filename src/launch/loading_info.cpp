@@ -23,7 +23,8 @@ constexpr const char* gameImage = "LoadingInfo.GameImage";
 
 void LoadingInfo::Form_Load() {
     const std::string loading = ui::FindSkinFile(services.files, form.GetStartPfad(), "Loading");
-    const std::string settings = ui::FindSkinFile(services.files, form.GetStartPfad(), "Settings");
+    // Names of files count without case.
+    const std::string settings = ui::FindSkinFile(services.files, form.GetStartPfad(), "settings");
     TakeLook();
     LoadBackground(settings);
     LoadGameImage(loading);
