@@ -102,7 +102,10 @@ TEST_F(LoadingLaunches, TicksBeforeTheStartCountOn) {
 TEST_F(LoadingLaunches, EndedWhileItStandsTheProgramStartsNothing) {
     SplashWithMount("6");
     Start();
-    DuringLaunch([this] { interpreter->Execute(Json::array({"click", "Form1.ExitBtn"})); });
+    DuringLaunch([this] {
+        interpreter->Execute(Json::array({"click", "Form1.ExitBtn"}));
+        if (session->ended) throw driver::ProgramEnded{};
+    });
     interpreter->Execute(
         Json::array({"call", "StartGame", tree.Path("Roms/Alpha/Bee (1991)(Maker).adf")}));
     EXPECT_TRUE(session->ended);

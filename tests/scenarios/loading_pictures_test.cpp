@@ -56,8 +56,8 @@ TEST_F(LoadingPictures, WithoutOneItIsTheSkins) {
 }
 
 TEST_F(LoadingPictures, NamesOfTheSkinsFilesCountWithoutCase) {
-    Paint("Config/Alpha/sKIN/LOADING.BMP");
-    Paint("Config/Alpha/sKIN/settings.bMP");
+    Paint("Config/Alpha/Skin/LOADING.BMP");
+    Paint("Config/Alpha/Skin/settings.bMP");
     LaunchBeeWithoutPicture();
     EXPECT_EQ(GameImage(), "LOADING.BMP");
     const std::string background = Screen("Picture1.Picture");
@@ -191,7 +191,7 @@ TEST_F(LoadingPictures, StandsInTheMiddleOfTheScreenAtAnyFont) {
     Do("resize", "Form1", 9000, 7000);
     for (const int row : {8, 16, 40, 72}) {
         Do("select", "Form1.FontSizeCombo", row);
-        LaunchBee();
+        StartAway("Roms/Alpha/Bee (1991)(Maker).adf");
         ExpectInTheMiddle();
         for (const char* control : {"Label1", "TxtTitle", "Command1", "GameImage"}) {
             const std::string name = control;
