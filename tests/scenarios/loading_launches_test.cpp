@@ -261,7 +261,10 @@ TEST_F(LoadingLaunches, ComesUpForEachWayToStartAGame) {
         {"hits of all emulators",
          [this] {
              SearchAllFor("Cat");
+             // Loads its emulator, and the game is there.
              Do("dblclick", "Form1.GlobalSearchList", 0);
+             Do("dblclick", Visible("SuchErgList") ? "Form1.SuchErgList" : "Form1.WIthoutDoubles",
+                0);
          }},
         {"handed over", [this] { Do("summon", tree.Path("Roms/Alpha/Bee (1991)(Maker).adf")); }},
     };
