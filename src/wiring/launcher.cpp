@@ -37,6 +37,14 @@ void Launcher::StartHandedFile(const std::string& path) {
     routines->handedFile.StartHandedFile(path);
 }
 
+void Launcher::SessionEnds() {
+    routines->shutDown.StoreForSession();
+}
+
+void Launcher::EndFromOutside() {
+    routines->shutDown.EndFromOutside();
+}
+
 Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
                              std::function<void()> end, forms::WindowHost* windowHost)
     : logged(std::move(hostServices)),
@@ -56,6 +64,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
                      {busy, settingsLoader, shutDown, alwaysOnTop}, host.commandLine),
       startUp(form, ini, host.files, host.locale, host.clock, emulatorSwitch),
       windowKeys(form, dialogs, host.beeper, shutDown),
+      links(form, {host.files, host.starter, dialogs, host.events, host.downloads, host.log},
+            host.build),
       scanner(form, scanSource, host.beeper, pacer),
       emulatorBox(form, ini, host.files, busy, emulatorSwitch),
       gameLists(form, ini, host.files, busy, pacer, scanner, {emulatorBox, emulatorSwitch}),
@@ -91,8 +101,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       fontSize(form, layout),
       skins(form, host.files, pictureLoader),
       windowColors(form, ini),
-      hints(form),
-      surface(form, ini, {dialogs, host.starter, host.files}, busy, alwaysOnTop, core::projectPage),
+      hints(form, host.files),
+      surface(form, ini, {dialogs, host.files}, busy, alwaysOnTop),
       panelDrag(form, layout),
       previews(form, {host.files, host.background}, layout, pictureLoader),
       controllers(form, {host.controllers, dialogs, host.events}),
@@ -106,7 +116,9 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       buttonSetupWindow(windows, [this] { return MakeButtonSetup(); }),
       buttonSetup(form, buttonSetupWindow, windows,
                   {controllers, padEvents, settingsLoader, alwaysOnTop}),
-      windowsBeside(form, host, dialogs, windows, {pictureLoader, previews, watch}) {
+      windowsBeside(form, host, dialogs, windows, {pictureLoader, previews, watch}, ini,
+                    [this] { return SettingsRoutines(); }),
+      settingsOpener(form, windowsBeside.settings, windows, alwaysOnTop) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);
     JoinWindow();
@@ -117,6 +129,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
     JoinLaunch();
     JoinDrives();
     JoinJoystick();
+    JoinSettings();
 }
 
 }  // namespace kivu::wiring

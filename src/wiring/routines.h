@@ -6,6 +6,7 @@
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
 #include "core/form1.h"
+#include "core/outside_links.h"
 #include "core/settings_loader.h"
 #include "core/shut_down.h"
 #include "core/start_up.h"
@@ -45,6 +46,7 @@
 #include "library/scan_source.h"
 #include "platform/host.h"
 #include "profile/ini.h"
+#include "settings/settings_opener.h"
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/hints.h"
@@ -103,6 +105,7 @@ struct Launcher::Routines {
     core::EmulatorSwitch emulatorSwitch;
     core::StartUp startUp;
     core::WindowKeys windowKeys;
+    core::OutsideLinks links;
 
     library::FileScanRecursive scanner;
     library::EmulatorBox emulatorBox;
@@ -149,6 +152,7 @@ struct Launcher::Routines {
     joystick::ButtonSetupOpener buttonSetup;
 
     Windows windowsBeside;
+    settings::SettingsOpener settingsOpener;
 
  private:
     // One topic a file: what its events run, and what its routines ask of later ones.
@@ -160,7 +164,9 @@ struct Launcher::Routines {
     void JoinLaunch();
     void JoinDrives();
     void JoinJoystick();
+    void JoinSettings();
     std::unique_ptr<joystick::ButtonSetupWindow> MakeButtonSetup();
+    settings::SettingsWindow::Routines SettingsRoutines();
 };
 
 }  // namespace kivu::wiring

@@ -1,7 +1,9 @@
 // The scripted host: answers for boxes, what has been started, processes, clock, display.
 
+#include <array>
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 #include "driver/commands.h"
 #include "driver/time_text.h"
@@ -201,7 +203,68 @@ Json Display(Session& session, const Json& command) {
     return Told("display", std::move(display));
 }
 
+using Fetched = platform::Fetched;
+constexpr std::array<std::pair<const char*, Fetched>, 8> endings{
+    {{"ok", Fetched::ok},
+     {"badAddress", Fetched::badAddress},
+     {"unreachable", Fetched::unreachable},
+     {"refused", Fetched::refused},
+     {"incomplete", Fetched::incomplete},
+     {"tooLarge", Fetched::tooLarge},
+     {"cancelled", Fetched::cancelled},
+     {"notWritable", Fetched::notWritable}}};
+
+const char* Name(Fetched result) {
+    for (const auto& [name, ending] : endings)
+        if (ending == result) return name;
+    return "";
+}
+
+Fetched FailureFrom(const Json& value) {
+    const std::string& text = TextFrom(value, "the failure");
+    for (const auto& [name, ending] : endings)
+        if (ending != Fetched::ok && SameName(text, name)) return ending;
+    throw CommandError("no download ends with " + text);
+}
+
+Json Download(Session& session, const Json& command) {
+    const std::string& action = TextFrom(command[1], "the action");
+    testing::ScriptedDownloads& downloads = session.Host().downloads;
+    if (action == "serve" && command.size() == 4) {
+        downloads.served[TextFrom(command[2], "the address")] = TextFrom(command[3], "the text");
+    } else if (action == "fail" && command.size() <= 3) {
+        downloads.served.clear();
+        downloads.otherwise = command.size() > 2 ? FailureFrom(command[2]) : Fetched::unreachable;
+    } else {
+        throw CommandError("download takes \"serve\", address, text or \"fail\"");
+    }
+    return Json::object();
+}
+
+Json Downloads(Session& session, const Json&) {
+    Json downloads = Json::array();
+    for (const auto& request : session.Host().downloads.requests) {
+        Json shown = Json::object();
+        shown["url"] = request.url;
+        shown["path"] = request.path;
+        shown["result"] = Name(request.result);
+        downloads.push_back(std::move(shown));
+    }
+    session.Host().downloads.requests.clear();
+    return Told("downloads", std::move(downloads));
+}
+
 // A later instance calls, as the program's main joins it.
+Json Signal(Session& session, const Json&) {
+    session.Program().EndFromOutside();
+    return Json::object();
+}
+
+Json SessionEnds(Session& session, const Json&) {
+    session.Program().SessionEnds();
+    return Json::object();
+}
+
 Json Summon(Session& session, const Json& command) {
     const std::string file = command.size() > 1 ? TextFrom(command[1], "the file") : "";
     if (!file.empty()) session.Program().StartHandedFile(file);
@@ -237,7 +300,11 @@ const std::vector<Command>& HostCommands() {
         {"process", 2, 3, false, Process},
         {"time", 1, 1, false, Time},
         {"display", 0, 2, false, Display},
+        {"download", 1, 3, false, Download},
+        {"downloads", 0, 0, false, Downloads},
         {"summon", 0, 1, true, Summon},
+        {"signal", 0, 0, true, Signal},
+        {"session", 0, 0, true, SessionEnds},
     };
     return commands;
 }

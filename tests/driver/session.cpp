@@ -22,6 +22,7 @@ testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& optio
     host.pictureDecoder.sizeOf = PictureOf;
     host.runtimeDirectory = options.runtimeDirectory;
     host.temporaryDirectory = options.temporaryDirectory;
+    host.build = options.build;
     return host;
 }
 

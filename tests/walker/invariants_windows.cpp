@@ -50,6 +50,19 @@ std::string Closes(const Moment& m) {
     return open ? "it is still there" : "";
 }
 
+// Saved or not, what is in front of the user stays there.
+std::string KeepsTheLists(const Moment& m) {
+    const bool settings = m.hand.control == "SettingsBtn" || m.hand.control == "SettingsShortBtn";
+    if (m.hand.gesture != "click" || !settings) return {};
+    for (std::size_t i = 0; i < listCount; ++i) {
+        const ListLook &before = m.before.lists[i], &after = m.after.lists[i];
+        if (before.rows != after.rows || before.row != after.row || before.visible != after.visible)
+            return NameOf(static_cast<List>(i)) + " is another one";
+    }
+    if (m.before.mode != m.after.mode) return "the mode is " + m.after.mode;
+    return m.before.Running() != m.after.Running() ? "the watch has gone on" : "";
+}
+
 const forms::Form* LoadingScreen(const Moment& m) {
     return m.world.Form().GetToolkit().windows->Find("LoadingInfo");
 }
@@ -100,6 +113,10 @@ const std::vector<Invariant>& WindowInvariants() {
          LeavesTheMainOne,
          {ended}},
         {"a window that has been asked is gone", "the next question starts fresh", Closes, {}},
+        {"the settings leave the lists as they were",
+         "the user goes on where they were opened",
+         KeepsTheLists,
+         {ended}},
         {"the loading screen goes by itself", "nobody need click it", GoesByItself, {ended}},
         {"the loading screen stands above all", "it is meant to be seen", StandsAbove, {ended}},
         {"the loading screen comes with a game", "else it tells of nothing", ComesWithAGame, {}},
