@@ -4,8 +4,8 @@
 #     scripts/tour.sh PROGRAM_DIR [SCREENSHOT_DIR]
 #
 # Leaves numbered screenshots, and fails when a step does not come about. TOUR_SIZE sets the screen
-# (1024x768), LANG the language as usual. KIVU_FILES is the program of scripts/tour-files.sh, which follows, as does
-# scripts/tour-settings.sh.
+# (1024x768), LANG the language as usual. scripts/tour-loading.sh, scripts/tour-files.sh with its program KIVU_FILES and
+# scripts/tour-settings.sh follow.
 set -euo pipefail
 
 program_dir=$(cd "$1" && pwd)
@@ -178,6 +178,8 @@ if [ -x "$colors" ]; then
   kivu=0
 fi
 echo "The tour is through; the pictures are in ${shots#"$here"/}."
+
+"$here/scripts/tour-loading.sh" "$program_dir" "$shots/loading"
 
 # The dialog for files, which the tests' program opens.
 dialog=${KIVU_FILES:-$here/build/test/program/kivu-files}

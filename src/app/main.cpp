@@ -8,12 +8,14 @@
 #include <cstdlib>
 #include <string>
 
+#include "app/build.h"
 #include "app/desktop_host.h"
 #include "hosts/qt/active_window_qt.h"
 #include "hosts/qt/compositing_qt.h"
 #include "view/cover_picture.h"
 #include "view/fit_into.h"
 #include "view/form_view.h"
+#include "view/program_end.h"
 #include "view/screen_windows.h"
 #include "view/style.h"
 #include "view/text_measure.h"
@@ -34,6 +36,9 @@ void EndAtOnce() {
 
 Q_LOGGING_CATEGORY(startStages, "kivu.start", QtWarningMsg)
 
+// For exit(), which the toolkit calls where its display has gone: many a session ends so.
+kivu::wiring::Launcher* storesAtExit = nullptr;
+
 // How far the start has come, by the steady clock in nanoseconds, for who has asked for these
 // messages.
 void Reached(const char* stage) {
@@ -48,7 +53,9 @@ int main(int argc, char** argv) {
     Reached("main");
     kivu::app::PrepareToolkit();
     QApplication application(argc, argv);
+    if (const auto code = kivu::app::RunOtherJob(argc, argv)) return *code;
     QApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(kivu::app::ApplicationId()));
     // Ready when the launcher is.
     kivu::view::PreloadPicture(":/background");
     kivu::view::ApplyStyle();
@@ -70,6 +77,13 @@ int main(int argc, char** argv) {
     view.SetCompositing(kivu::hosts::IsComposited);
     view.onClosed = EndAtOnce;
     windows.AdoptView(launcher.MainWindow(), view);
+    const kivu::view::ProgramEnd sessionEnd([&] { launcher.SessionEnds(); },
+                                            [&] { launcher.EndFromOutside(); });
+    host.ListenForEnd([&] { launcher.EndFromOutside(); });
+    storesAtExit = &launcher;
+    std::atexit([] {
+        if (storesAtExit) storesAtExit->SessionEnds();
+    });
     Reached("view");
     view.Show();
     Reached("shown");
@@ -82,5 +96,7 @@ int main(int argc, char** argv) {
         view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon")));
         host.WindowStands();
     });
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    storesAtExit = nullptr;
+    return code;
 }

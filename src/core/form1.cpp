@@ -167,6 +167,7 @@ void Form1::DesignFrame() {
         button->SetVisible(button == &SettingsBtn);
     }
     DonateBtn.SetCaption("Spenden");
+    DonateBtn.SetToolTipText("PayPal");
     ExitBtn.SetCaption("&Exit");
     ExitBtn.Move(0, 0, 1050, 420);
     FontSizeCombo.Move(0, 0, 2100, 420);

@@ -142,7 +142,9 @@ void ProgramGroup::Label5_Click() {
     if (updating) return;
     const core::Raised once(updating);
     cancelled = false;
+    const bool hadFocus = form.Label5.HasFocus();
     routines.links.UpdateProgram(form.Label5, [this] { return cancelled || form.IsUnloaded(); });
+    if (hadFocus && !form.Focus()) form.Label5.SetFocus();
 }
 
 void ProgramGroup::EmuDownload_Click() {

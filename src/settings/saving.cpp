@@ -13,9 +13,36 @@
 
 namespace kivu::settings {
 
+namespace {
+
+// The open choice of emulators gives its drop-down other colours than the skin's, which it takes
+// away again as it closes.
+class KeptChoiceColors {
+ public:
+    explicit KeptChoiceColors(core::Form1& main)
+        : main(main), back(main.EmuListbox.BackColor()), fore(main.EmuListbox.ForeColor()) {
+        own = back != main.EmuListboxBackColor || fore != main.EmuListboxForeColor;
+    }
+    ~KeptChoiceColors() {
+        if (!own) return;
+        main.EmuListbox.SetBackColor(back);
+        main.EmuListbox.SetForeColor(fore);
+    }
+    KeptChoiceColors(const KeptChoiceColors&) = delete;
+    KeptChoiceColors& operator=(const KeptChoiceColors&) = delete;
+
+ private:
+    core::Form1& main;
+    forms::Color back, fore;
+    bool own = false;
+};
+
+}  // namespace
+
 void Saving::SaveBtn_Click() {
     if (saving || main.Busy) return;
     const core::Raised once(saving);
+    const KeptChoiceColors kept(main);
     const bool written = Write();
     if (main.Ended || !written) return;
     // A button that goes off loses the focus.

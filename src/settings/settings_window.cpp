@@ -107,10 +107,12 @@ void SettingsWindow::Form_KeyPress(forms::Character& character) {
     }
     if (character.code != keys::escape || form.HasOpenPanel()) return;
     character.code = 0;
-    ExitBtn_Click();
+    // One that is held down was meant for what it has closed before.
+    if (!heldDown) ExitBtn_Click();
 }
 
 void SettingsWindow::Form_KeyDown(forms::Key& key) {
+    heldDown = key.repeat;
     // Escape comes once more as a character.
     if (program.IsUpdating() && key.code != keys::escape) {
         key = {};
@@ -155,7 +157,7 @@ void SettingsWindow::LoadBtn_Click() {
     routines.busy.HideAll(false);
     services.events.DoEvents();
     if (main.Ended) return;
-    routines.lists.LoadBtn_Click();
+    routines.lists.RescanByButton();
     if (main.Ended) return;
     SetTitle(title);
     form.Unload();

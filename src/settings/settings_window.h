@@ -141,6 +141,7 @@ class SettingsWindow {
     LooksGroup looks;
     Saving saving;
     forms::Picture designPicture;
+    bool heldDown = false;  // the key of the next character
 };
 
 }  // namespace kivu::settings

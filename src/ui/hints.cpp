@@ -2,13 +2,14 @@
 
 #include "core/form1.h"
 #include "library/list_search.h"
+#include "support/writable.h"
 #include "text/text.h"
 
 namespace kivu::ui {
 
 void Hints::Refresh() {
-    const std::string none = form.CurrentEmuIndex < 0 ? NoEmulator() : "";
-    form.EmulatorLongListbox.SetHint(NoEmulator());
+    const std::string none = form.CurrentEmuIndex < 0 ? FirstStep() : "";
+    form.EmulatorLongListbox.SetHint(FirstStep());
     const std::string games = none.empty() ? NoGames() : none;
     form.WIthoutDoubles.SetHint(games);
     form.UAE_Short.SetHint(games);
@@ -30,8 +31,25 @@ void Hints::Refresh() {
 }
 
 void Hints::ShowFirstSteps() {
-    if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible())
-        form.LoadingBtn.SetHint(NoEmulator());
+    if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
+    storesNothing = !support::CanWriteIn(files, form.ConfigPath);
+    Refresh();
+    form.LoadingBtn.SetHint(FirstStep());
+}
+
+// Where nothing can be stored, there is no sense in making an emulator.
+std::string Hints::FirstStep() const {
+    if (!storesNothing) return NoEmulator();
+    return form.EmuListbox.ListCount() > 0 ? NoEmulator() + "\r\r" + NotStored() : NotStored();
+}
+
+std::string Hints::NotStored() const {
+    return form.Say("In das Verzeichnis\r", "The directory\r") + form.ConfigPath +
+           form.Say(
+               "\rkann nicht geschrieben werden: nichts wird gespeichert.\r"
+               "\"Kivu --data VERZEICHNIS\" nimmt ein anderes.",
+               "\rcannot be written to: nothing will be stored.\r"
+               "\"Kivu --data DIRECTORY\" takes another one.");
 }
 
 std::string Hints::NoEmulator() const {

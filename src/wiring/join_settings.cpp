@@ -23,7 +23,7 @@ settings::SettingsWindow::Routines Launcher::Routines::SettingsRoutines() {
             .uaeFiles = uaeFiles,
             .launch = gameLaunch,
             .startHelpers = startHelpers,
-            .loadingScreen = loadingScreen,
+            .loadingScreen = windowsBeside.loading,
             .links = links};
 }
 

