@@ -4,6 +4,7 @@
 #include "launch/emulator_setup.h"
 #include "settings/boxes.h"
 #include "settings/detection.h"
+#include "settings/disabled_meanwhile.h"
 #include "settings/known_group.h"
 #include "settings/new_emulator_group.h"
 #include "settings/path_box.h"
@@ -113,11 +114,10 @@ void PathsGroup::BrowseDir_Click() {
 void PathsGroup::LaunchButton_Click() {
     // Events run while the emulator comes up.
     if (main.Busy) return;
-    form.LaunchButton.SetEnabled(false);
+    const DisabledMeanwhile off(form.LaunchButton);
     const std::string program = routines.known.ProgramOf(form.txtWinUAEExe.Text());
     if (!program.empty()) services.setup.StartProgram(program, form.EmuNameLabel.Caption());
     (void)services.files.ChangeDirectory(main.AppDir);
-    form.LaunchButton.SetEnabled(true);
     routines.newEmulator.ShowState();
 }
 

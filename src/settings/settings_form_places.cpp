@@ -13,7 +13,7 @@ constexpr double designPoints = 10;
 // A screen of four to three holds it in the largest text.
 constexpr int wide = 800, high = 606, margin = 20;
 // Inside the groups: labels, what they name, buttons in a column of their own at the right edge.
-constexpr int left = margin + 12, field = 186, right = wide - margin - 12;
+constexpr int edge = margin + 12, field = 186, right = wide - margin - 12;
 constexpr int actions = 624, actionWidth = right - actions;
 // Buttons that browse stand in front of it, behind the sign of a fault.
 constexpr int browseWidth = 36, browse = actions - 8 - browseWidth;
@@ -67,28 +67,28 @@ void SettingsForm::PlaceEmulator() {
 
     Place(EmulatorGroup, margin, emulatorTop, wide - 2 * margin, startTop - emulatorTop - 4);
     constexpr int top = emulatorTop + 20;
-    Place(EmuNameLabel, left, top + 2, fieldEnd - left, 25);
+    Place(EmuNameLabel, edge, top + 2, fieldEnd - edge, 25);
     EmuNameLabel.SetFont({"", 13, true});
     Place(NewEmuBtn, actions, top, actionWidth, row);
 
-    Place(Label1, left, top + 32, actions - 8 - left, labelHeight);
-    Place(txtWinUAEExe, left, top + 52, fieldEnd - left, row);
+    Place(Label1, edge, top + 32, actions - 8 - edge, labelHeight);
+    Place(txtWinUAEExe, edge, top + 52, fieldEnd - edge, row);
     Place(FehlerIcon[faultyEmulator], sign, top + 55, signSize, signSize);
     Place(Command2, browse, top + 52, browseWidth, row);
     Place(LaunchButton, actions, top + 52, actionWidth, row);
 
-    Place(KnownEmuLabel, left, top + 86 + inRow, field - left - 4, labelHeight);
+    Place(KnownEmuLabel, edge, top + 86 + inRow, field - edge - 4, labelHeight);
     Place(KnownEmuCombo, field, top + 86, 218, row);
     Place(EmuDownload, field + 230, top + 86 + inRow, actions - 8 - field - 230, labelHeight);
     Place(WinUAEBtn, actions, top + 86, actionWidth, row);
 
-    Place(Label2, left, top + 118, actions - 8 - left, labelHeight);
-    Place(TxtRomPath, left, top + 138, fieldEnd - left, row);
+    Place(Label2, edge, top + 118, actions - 8 - edge, labelHeight);
+    Place(TxtRomPath, edge, top + 138, fieldEnd - edge, row);
     Place(FehlerIcon[faultyRomPath], sign, top + 141, signSize, signSize);
     Place(BrowseDir, browse, top + 138, browseWidth, row);
     Place(LoadBtn, actions, top + 138, actionWidth, row);
 
-    Place(ErwLabel, left, top + 172 + inRow, field - left - 4, labelHeight);
+    Place(ErwLabel, edge, top + 172 + inRow, field - edge - 4, labelHeight);
     Place(DirBefehleTxt, field, top + 172, browse + browseWidth - field, row);
     Place(ReloadAllBtn, actions, top + 172, actionWidth, row);
 }
@@ -96,14 +96,14 @@ void SettingsForm::PlaceEmulator() {
 void SettingsForm::PlaceStart() {
     Place(StartGroup, margin, startTop, wide - 2 * margin, programTop - startTop - 4);
     constexpr int top = startTop + 20;
-    Place(Label3, left, top + inRow, field - left - 4, labelHeight);
+    Place(Label3, edge, top + inRow, field - edge - 4, labelHeight);
     Place(UAELaunchParaneter, field, top, right - field, row);
 
     constexpr int boxes = top + 34, step = 31;
-    Place(ParameterFrame, left, boxes, second - 8 - left, 2 * step + row);
-    Place(UAELaunchParameterAddPath, 0, 0, second - 8 - left, row);
-    Place(UseAnfz, 0, step, second - 8 - left, row);
-    Place(ParameterWithoutPath, 0, 2 * step, second - 8 - left, row);
+    Place(ParameterFrame, edge, boxes, second - 8 - edge, 2 * step + row);
+    Place(UAELaunchParameterAddPath, 0, 0, second - 8 - edge, row);
+    Place(UseAnfz, 0, step, second - 8 - edge, row);
+    Place(ParameterWithoutPath, 0, 2 * step, second - 8 - edge, row);
 
     Place(ScriptFrame, second, boxes, right - second, row);
     Place(OpenVBS, actions - second, 0, actionWidth, row);
@@ -122,22 +122,22 @@ void SettingsForm::PlaceScriptBox() {
 void SettingsForm::PlaceProgram() {
     Place(ProgramGroup, margin, programTop, wide - 2 * margin, footTop - 8 - programTop);
     constexpr int top = programTop + 20, step = 34, combo = 476;
-    Place(Joystickcheck, left, top, second - 8 - left, row);
+    Place(Joystickcheck, edge, top, second - 8 - edge, row);
     Place(KillButtonLabel, second, top + inRow, combo - 4 - second, labelHeight);
     Place(KillButtonKombo, combo, top, browse + browseWidth - combo, row);
     Place(SetJOyBtn, actions, top, actionWidth, row);
 
-    Place(ResetScreenRes, left, top + step, second - 8 - left, row);
+    Place(ResetScreenRes, edge, top + step, second - 8 - edge, row);
     Place(ResetScreenHint, second, top + step + inRow, combo - 12 - second, labelHeight);
     Place(FontSizeCombo, combo - 20, top + step, browse + browseWidth - combo + 20, row);
     Place(Command5, actions, top + step, actionWidth, row);
 
-    Place(FensterRahmChk, left, top + 2 * step, second - 8 - left, row);
+    Place(FensterRahmChk, edge, top + 2 * step, second - 8 - edge, row);
     Place(FavoritenReparierenLabel, second, top + 2 * step + inRow, 150, labelHeight);
     Place(IniBtn, actions, top + 2 * step, actionWidth, row);
 
-    Place(Label7, left, footTop + inRow, 80, labelHeight);
-    Place(Label5, left + 100, footTop + inRow, 110, labelHeight);
+    Place(Label7, edge, footTop + inRow, 80, labelHeight);
+    Place(Label5, edge + 100, footTop + inRow, 110, labelHeight);
     Place(DonateBtn, second, footTop, 110, row);
     Place(SaveBtn, actions - 8 - actionWidth, footTop, actionWidth, row);
     Place(ExitBtn, actions, footTop, actionWidth, row);

@@ -5,6 +5,7 @@
 #include "launch/game_launch.h"
 #include "launch/uae_files.h"
 #include "settings/boxes.h"
+#include "settings/disabled_meanwhile.h"
 #include "settings/linux_emulators.h"
 #include "settings/path_box.h"
 #include "settings/path_fields.h"
@@ -180,10 +181,9 @@ void WinuaeGroup::Command1_Click() {
 }
 
 void WinuaeGroup::Command3_Click() {
-    form.Command3.SetEnabled(false);
+    const DisabledMeanwhile off(form.Command3);
     StartWith(PathOfMaster());
     services.loadingScreen.ShowLoadingInfo(&form);
-    form.Command3.SetEnabled(true);
     form.MarkUnsaved();
 }
 

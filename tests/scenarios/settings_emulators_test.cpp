@@ -43,30 +43,30 @@ class FirstEmulator : public Emulators {
  protected:
     FirstEmulator() {
         std::filesystem::remove_all(testing::PathOf(tree.Path("Config")));
-        tree.Write("Games/Ant (1990)(Maker).smc", "x");
-        tree.Write("Games/sub/Bee (1991)(Maker).smc", "x");
+        tree.Write("Games/Ant (1990)(Maker).bin", "x");
+        tree.Write("Games/sub/Bee (1991)(Maker).bin", "x");
         tree.Write("Games/readme.txt", "x");
     }
 };
 
 TEST_F(FirstEmulator, IsThereWithoutATextEditor) {
-    const std::string exe = Program("snes9x.exe");
+    const std::string exe = Program("stella.exe");
     Start();
     EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("New emulator.."));
     Boxes();
     Open([&] {
         EXPECT_EQ(Of("EmuNameLabel.Caption"), "No Emulator found");
-        Do("input", "Super Nintendo");
+        Do("input", "Atari 2600");
         Click("NewEmuBtn");
-        EXPECT_EQ(Of("EmuNameLabel.Caption"), "Super Nintendo");
+        EXPECT_EQ(Of("EmuNameLabel.Caption"), "Atari 2600");
         EXPECT_EQ(Of("Focus"), "txtWinUAEExe");
-        EXPECT_EQ(Of("IniPath"), tree.Path("Config/Super Nintendo/Kivu.ini"));
+        EXPECT_EQ(Of("IniPath"), tree.Path("Config/Atari 2600/Kivu.ini"));
         EXPECT_THAT(Titles(), ElementsAre("New emulator"));
         AnswerFile(exe);
         Do("answer", "Yes", "Yes", "No");
         Click("Command2");
-        EXPECT_THAT(Titles(), ElementsAre("set defaults?", "set defaults?", "snes9x.exe starten?"));
-        EXPECT_EQ(TextOf("DirBefehleTxt"), "*.smc, *.zip");
+        EXPECT_THAT(Titles(), ElementsAre("set defaults?", "set defaults?", "stella.exe starten?"));
+        EXPECT_EQ(TextOf("DirBefehleTxt"), "*.bin, *.zip");
         EXPECT_EQ(TextOf("TxtRomPath"), tree.Path("Emu") + testing::HostPath("/"));
         AnswerDirectory(tree.Path("Games"));
         Click("BrowseDir");
@@ -77,39 +77,37 @@ TEST_F(FirstEmulator, IsThereWithoutATextEditor) {
         EXPECT_FALSE(open());
     });
     EXPECT_EQ(Get("UAE_Short.ListCount"), 2);
-    EXPECT_EQ(tree.Stored("Config/Super Nintendo/Kivu.ini", "EmulatorPath"),
-              testing::HostPath("/Emu/snes9x.exe"));
-    EXPECT_EQ(tree.Stored(programProfile, "LastEmulator"), "Super Nintendo");
+    EXPECT_EQ(tree.Stored("Config/Atari 2600/Kivu.ini", "EmulatorPath"),
+              testing::HostPath("/Emu/stella.exe"));
+    EXPECT_EQ(tree.Stored(programProfile, "LastEmulator"), "Atari 2600");
     Do("runs");
     Do("click", "Form1.Label3");
     Do("dblclick", "Form1.UAE_Short", 0);
     EXPECT_EQ(Do("runs")["value"].size(), 1u);
-    EXPECT_THAT(tree.Read("Config/Super Nintendo/Kivu_tmp.bat"),
-                HasSubstr("Ant (1990)(Maker).smc"));
+    EXPECT_THAT(tree.Read("Config/Atari 2600/Kivu_tmp.bat"), HasSubstr("Ant (1990)(Maker).bin"));
     // And it is all there at the next start.
     Start();
-    EXPECT_EQ(Text("EmuListbox.Text"), "Super Nintendo");
+    EXPECT_EQ(Text("EmuListbox.Text"), "Atari 2600");
     EXPECT_EQ(Get("UAE_Short.ListCount"), 2);
 }
 
 TEST_F(FirstEmulator, TakesWhatWasTypedBeforeIt) {
-    const std::string exe = Program("snes9x.exe");
+    const std::string exe = Program("stella.exe");
     Start();
     Boxes();
     Open([&] {
         Do("answer", "Yes");
-        Do("type", "SettingsForm.txtWinUAEExe", "");
         Set("txtWinUAEExe.Text", exe);
         Do("focus", "SettingsForm.DirBefehleTxt");
         EXPECT_THAT(Titles(), ElementsAre("set defaults?"));
-        Do("input", "SNES");
+        Do("input", "VCS");
         Click("NewEmuBtn");
         EXPECT_THAT(Titles(), ElementsAre("New emulator"));
         EXPECT_EQ(TextOf("txtWinUAEExe"), exe);
-        EXPECT_EQ(TextOf("DirBefehleTxt"), "*.smc, *.zip");
-        EXPECT_EQ(tree.Stored("Config/SNES/Kivu.ini", "Dir_Parameter"), "*.*");
+        EXPECT_EQ(TextOf("DirBefehleTxt"), "*.bin, *.zip");
+        EXPECT_EQ(tree.Stored("Config/VCS/Kivu.ini", "Dir_Parameter"), "*.*");
         Save();
-        EXPECT_EQ(tree.Stored("Config/SNES/Kivu.ini", "Dir_Parameter"), "*.smc, *.zip");
+        EXPECT_EQ(tree.Stored("Config/VCS/Kivu.ini", "Dir_Parameter"), "*.bin, *.zip");
         // The path was asked about once.
         Do("focus", "SettingsForm.txtWinUAEExe");
         Click("ExitBtn");

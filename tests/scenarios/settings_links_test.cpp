@@ -1,174 +1,114 @@
-// What leads out of the launcher from the settings window.
+// What leads out of the settings window: pages, the program's renewal, the start script.
+
+#include <vector>
 
 #include "scenarios/settings.h"
-#include "support/sha256.h"
 
 namespace kivu::scenarios {
 namespace {
 
 class SettingsLinks : public SettingsScenario {
  protected:
-    void NameUpdates() {
-        options.build.updateBase = "https://h";
-        options.build.replacesItself = true;
-        options.build.updaterHash = support::Sha256::Of(updater);
+    std::vector<std::string> Opened() {
+        std::vector<std::string> addresses;
+        for (const Json& run : Do("runs")["value"]) {
+            if (run["opened"] == true) addresses.push_back(run["command"]);
+        }
+        return addresses;
     }
-    void Serve() { Do("download", "serve", "https://h/Update.exe", updater); }
-    Json Runs() { return Do("runs")["value"]; }
-    std::string Opened() {
-        const Json runs = Runs();
-        if (runs.size() != 1 || runs[0]["opened"] != true) return runs.dump();
-        return runs[0]["command"];
+    void WriteDownload(const char* address) {
+        tree.Write("Config/Alpha/Skin/Skin.ini",
+                   std::string("[Settings]\r\nDownloadURL=") + address + "\r\n");
     }
-    void ExpectBox(const std::string& title, const std::string& text) {
-        const Json boxes = Boxes();
-        ASSERT_EQ(boxes.size(), 1U);
-        EXPECT_EQ(boxes[0]["title"], title);
-        EXPECT_EQ(boxes[0]["text"], text);
-    }
-
-    const std::string updater = "MZ" + std::string(0x3A, '\0') + std::string("\x40\0\0\0PE\0\0", 8);
 };
 
-TEST_F(SettingsLinks, HomePageAndDonationsOpenInTheBrowser) {
-    options.build.homePage = "https://kivu.example/";
-    options.build.donateUrl = "https://pay.example/";
+TEST_F(SettingsLinks, OpenTheirPagesByMouseAndKey) {
+    options.build.homePage = "https://kivu.invalid/";
+    options.build.donateUrl = "https://give.invalid/";
+    WriteDownload("a.invalid/alpha");
     Start();
-    for (const char* button : {"SettingsBtn", "SettingsShortBtn"}) {
-        if (button == std::string("SettingsShortBtn")) Do("click", "Form1.EmuListbox");
-        Open(
-            [&] {
-                Click("Label7");
-                EXPECT_EQ(Opened(), "https://kivu.example/");
-                EXPECT_TRUE(On("Label7"));
-                EXPECT_TRUE(Shown("DonateBtn"));
-                Click("DonateBtn");
-                EXPECT_EQ(Opened(), "https://pay.example/");
-                EXPECT_TRUE(On("DonateBtn"));
-                EXPECT_FALSE(Unsaved());
-                Key("Escape");
-            },
-            button);
-    }
+    Do("runs");
+    Open([&] {
+        EXPECT_TRUE(Shown("DonateBtn"));
+        EXPECT_EQ(Of("EmuDownload.Caption"), "Download: Alpha");
+        EXPECT_TRUE(Shown("EmuDownload"));
+        for (const char* link : {"Label7", "EmuDownload", "DonateBtn"}) {
+            Click(link);
+            Do("focus", std::string("SettingsForm.") + link);
+            Key("Enter");
+            EXPECT_TRUE(On(link));
+            EXPECT_EQ(Of("Focus"), std::string("SettingsForm.") + link);
+        }
+        EXPECT_EQ(Opened(),
+                  (std::vector<std::string>{"https://kivu.invalid/", "https://kivu.invalid/",
+                                            "http://a.invalid/alpha", "http://a.invalid/alpha",
+                                            "https://give.invalid/", "https://give.invalid/"}));
+        EXPECT_FALSE(Unsaved());
+        Key("Escape");
+    });
+    EXPECT_TRUE(Boxes().empty());
 }
 
-TEST_F(SettingsLinks, WithoutAddressesTheWindowSaysSo) {
+TEST_F(SettingsLinks, WithoutAddressesTheUserIsTold) {
     Start();
     Open([&] {
         EXPECT_FALSE(Shown("DonateBtn"));
+        EXPECT_FALSE(Shown("EmuDownload"));
         Click("Label7");
-        ExpectBox("Homepage", "No home page is set in this version.");
         Click("Label5");
-        ExpectBox("Online-Update", "No update address is set in this version.");
-        EXPECT_EQ(Runs(), Json::array());
-        EXPECT_EQ(Do("downloads")["value"], Json::array());
+        const Json boxes = Boxes();
+        ASSERT_EQ(boxes.size(), 2u);
+        EXPECT_EQ(boxes[0]["title"], "Homepage");
+        EXPECT_EQ(boxes[1]["title"], "Online-Update");
         EXPECT_TRUE(On("Label5"));
-        EXPECT_TRUE(open());
         Key("Escape");
     });
 }
 
-TEST_F(SettingsLinks, TheDownloadPageIsOffered) {
-    tree.Write("Config/Alpha/Skin/Skin.ini", ProgramDirectory::Profile({{"DownloadURL", "a.b/c"}}));
+// While the program is renewed Escape calls that off, and nothing else closes the window.
+TEST_F(SettingsLinks, EscapeCallsAnUpdateOff) {
+    options.build.updateBase = "https://kivu.invalid/";
+    options.build.replacesItself = true;
     Start();
     Open([&] {
-        EXPECT_TRUE(Shown("EmuDownload"));
-        EXPECT_EQ(Of("EmuDownload.Caption"), "Download: Alpha");
-        Click("EmuDownload");
-        EXPECT_EQ(Opened(), "http://a.b/c");
-        EXPECT_TRUE(On("EmuDownload"));
-        Key("Escape");
-    });
-}
-
-TEST_F(SettingsLinks, AnUpdateIsFetchedAndHandedOver) {
-    NameUpdates();
-    Start();
-    Serve();
-    const std::string caption = "Online-Update";
-    Open([&] {
-        std::vector<std::string> shown;
-        Host().events.onEvents = [&] {
-            EXPECT_FALSE(On("Label5"));
-            EXPECT_TRUE(Refused("click", "SettingsForm.Label5"));
-            shown.push_back(Of("Label5.Caption"));
-        };
-        Click("Label5");
-        Host().events.onEvents = {};
-        EXPECT_EQ(shown, (std::vector<std::string>{caption, "0 %", "100 %"}));
-        EXPECT_EQ(Of("Label5.Caption"), caption);
-        EXPECT_TRUE(On("Label5"));
-        const Json runs = Runs();
-        ASSERT_EQ(runs.size(), 1U);
-        EXPECT_EQ(runs[0]["command"], tree.Path("Updater.exe") + " " + tree.Path("Kivu.exe") +
-                                          " [PATH] https://h/Kivu/Kivu.exe [URL]");
-        EXPECT_TRUE(Boxes().empty());
-        EXPECT_TRUE(open()) << "the launcher stays open";
-        EXPECT_FALSE(Unsaved());
-        // There is one now.
-        Do("downloads");
-        Click("Label5");
-        EXPECT_EQ(Do("downloads")["value"], Json::array());
-        EXPECT_EQ(Runs().size(), 1U);
-        Key("Escape");
-    });
-}
-
-TEST_F(SettingsLinks, EscapeCancelsAnUpdateAndNothingElseIsTaken) {
-    NameUpdates();
-    Start();
-    Serve();
-    Open([&] {
+        const Json caption = Of("Label5.Caption");
+        Set("UAELaunchParaneter.Text", "-x");
         int looks = 0;
         Host().events.onEvents = [&] {
-            if (++looks != 2) return;
-            Key("Enter");
+            ++looks;
+            EXPECT_FALSE(On("Label5"));
+            EXPECT_EQ(Do("close", "SettingsForm")["value"], false);
             Key("Ctrl+S");
-            Do("close", "SettingsForm");
-            EXPECT_TRUE(open());
+            Key("a");
+            EXPECT_TRUE(Unsaved());
+            Click("ExitBtn");
             Key("Escape");
+            EXPECT_TRUE(open());
         };
         Click("Label5");
         Host().events.onEvents = {};
-        ExpectBox("Kivu 1.4b", "Download Failed! \r\rhttps://h/Update.exe");
-        EXPECT_EQ(Do("downloads")["value"][0]["result"], "cancelled");
-        EXPECT_FALSE(tree.Exists("Updater.exe"));
-        EXPECT_EQ(Runs(), Json::array());
+        EXPECT_GE(looks, 1);
+        EXPECT_TRUE(open());
         EXPECT_TRUE(On("Label5"));
-        EXPECT_EQ(Of("Label5.Caption"), "Online-Update");
-        EXPECT_TRUE(open()) << "it has cancelled the update and not closed the window";
+        EXPECT_EQ(Of("Label5.Caption"), caption);
+        EXPECT_EQ(TextOf("UAELaunchParaneter"), "-x");
+        Boxes();
+        Do("answer", "OK");
         Key("Escape");
         EXPECT_FALSE(open());
     });
 }
 
-TEST_F(SettingsLinks, AFileHandedOverMeanwhileWaitsForNobody) {
-    NameUpdates();
+TEST_F(SettingsLinks, TheStartScriptOpensInTheEditor) {
     Start();
-    Serve();
     Open([&] {
-        int looks = 0;
-        Host().events.onEvents = [&] {
-            if (++looks == 2) Do("summon", tree.Path("Roms/Alpha/Bee (1991)(Maker).adf"));
-        };
-        Click("Label5");
-        Host().events.onEvents = {};
-        EXPECT_EQ(Do("beeps")["value"], 1);
-        EXPECT_EQ(Runs().size(), 1U) << "the updater alone";
-        Key("Escape");
-    });
-}
-
-TEST_F(SettingsLinks, AReadOnlyDirectoryIsToldBeforeAnythingIsFetched) {
-    NameUpdates();
-    Start();
-    Serve();
-    Open([&] {
-        Do("disk", "read-only");
-        Click("Label5");
-        ExpectBox("Online-Update", "The program's directory cannot be written to.");
-        EXPECT_EQ(Do("downloads")["value"], Json::array());
-        Do("disk", "fine");
+        Set("DeMulAutostart.Value", 1);
+        Do("runs");
+        Click("OpenVBS");
+        const Json runs = Do("runs")["value"];
+        ASSERT_EQ(runs.size(), 1u);
+        EXPECT_EQ(runs[0]["command"], Get("VBSFilename"));
+        Do("answer", "OK");
         Key("Escape");
     });
 }

@@ -450,7 +450,7 @@ TEST_F(Paths, LaunchButtonStartsTheProgramAndLooksWhetherItRuns) {
         busy = form.Busy;
         enabled = window.LaunchButton.Enabled();
     };
-    window.LaunchButton.Click();
+    input.Click(window.LaunchButton);
     ASSERT_EQ(host.starter.runs.size(), 1U);
     const auto& request = host.starter.runs[0].request;
     EXPECT_EQ(request.command, "D:\\Emu\\winuae.exe");
@@ -465,6 +465,7 @@ TEST_F(Paths, LaunchButtonStartsTheProgramAndLooksWhetherItRuns) {
     EXPECT_TRUE(form.EmuActiveTimer.Enabled());
     EXPECT_EQ(files.CurrentDirectory(), "C:\\Kivu");
     EXPECT_TRUE(window.LaunchButton.Enabled());
+    EXPECT_TRUE(window.LaunchButton.HasFocus());
     EXPECT_FALSE(window.NewEmuBtn.Enabled());
     EXPECT_FALSE(window.SaveBtn.Enabled());
 }
