@@ -87,7 +87,7 @@ TEST_F(Links, DonationsOpenTheirPage) {
     Do("click", "Form1.DonateBtn");
     EXPECT_EQ(Opened(), options.build.donateUrl);
     EXPECT_EQ(Get("DonateBtn.Enabled"), true);
-    EXPECT_EQ(Text("Focus"), "DonateBtn");
+    EXPECT_EQ(Text("Focus"), "Form1.DonateBtn");
     Call("DonateBtn_Click");
     EXPECT_EQ(Opened(), options.build.donateUrl);
 }
