@@ -64,6 +64,10 @@ TEST_F(SettingsUpdate, EscapeCancelsAnUpdateAndNothingElseIsTaken) {
         int looks = 0;
         Host().events.onEvents = [&] {
             if (++looks != 2) return;
+            for (const char* command : {"IniBtn", "Label7", "LoadBtn", "ExitBtn"})
+                Click(command);
+            EXPECT_EQ(Runs(), Json::array());
+            EXPECT_TRUE(Boxes().empty());
             Key("Enter");
             Key("Ctrl+S");
             Do("close", "SettingsForm");
@@ -79,6 +83,8 @@ TEST_F(SettingsUpdate, EscapeCancelsAnUpdateAndNothingElseIsTaken) {
         EXPECT_TRUE(On("Label5"));
         EXPECT_EQ(Of("Label5.Caption"), "Online-Update");
         EXPECT_TRUE(open()) << "it has cancelled the update and not closed the window";
+        Click("IniBtn");
+        EXPECT_FALSE(Runs().empty()) << "what is pressed is taken again";
         Key("Escape");
         EXPECT_FALSE(open());
     });
