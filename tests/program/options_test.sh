@@ -7,7 +7,11 @@ version=$2
 work=$(mktemp -d)
 started=()
 Finish() {
-  for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; done
+  for process in "${started[@]}"; do
+    kill "$process" 2>/dev/null || true
+    # It stores its window's place as it ends.
+    wait "$process" 2>/dev/null || true
+  done
   rm -rf "$work"
 }
 trap Finish EXIT
