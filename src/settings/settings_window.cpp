@@ -1,6 +1,8 @@
 #include "settings/settings_window.h"
 
+#include <functional>
 #include <initializer_list>
+#include <utility>
 
 #include "core/form1.h"
 #include "library/game_lists.h"
@@ -12,6 +14,27 @@ namespace kivu::settings {
 
 namespace keys = forms::keys;
 namespace shifts = forms::shifts;
+
+namespace {
+
+// What is pressed with the mouse does nothing while `isHeld` says so. Check boxes and fields hold
+// values, and keep what has been made of them.
+void HoldCommandsBack(const forms::Container& container, const std::function<bool()>& isHeld) {
+    for (forms::Control* control : container.Children()) {
+        const forms::Kind kind = control->GetKind();
+        const bool isCommand = kind == forms::Kind::commandButton || kind == forms::Kind::label ||
+                               kind == forms::Kind::image;
+        if (isCommand && control->onClick) {
+            control->onClick = [isHeld, run = std::move(control->onClick)] {
+                if (!isHeld()) run();
+            };
+        }
+        const auto* inner = dynamic_cast<const forms::Container*>(control);
+        if (inner) HoldCommandsBack(*inner, isHeld);
+    }
+}
+
+}  // namespace
 
 SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Services services,
                                Routines routines)
@@ -40,6 +63,7 @@ SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Servic
       designPicture(form.BackgroundFrame.GetPicture()) {
     JoinEvents();
     JoinPin();
+    HoldCommandsBack(form, [this] { return program.IsUpdating(); });
 }
 
 void SettingsWindow::JoinEvents() {
