@@ -2,7 +2,13 @@
 
 add_library(kivu_options INTERFACE)
 target_include_directories(kivu_options INTERFACE ${PROJECT_SOURCE_DIR}/src)
-target_compile_options(kivu_options INTERFACE -Wall -Wextra -Wpedantic -Werror)
+target_compile_options(kivu_options INTERFACE -Wall -Wextra -Wpedantic)
+# A package must build with a compiler that warns of more, and alike on every day.
+if(KIVU_WERROR)
+  target_compile_options(kivu_options INTERFACE -Werror)
+else()
+  target_compile_options(kivu_options INTERFACE -Werror=date-time)
+endif()
 if(NOT WIN32)
   # Of another size there, many a number would warn of what is right here.
   target_compile_options(kivu_options INTERFACE -Wconversion)

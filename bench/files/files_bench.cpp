@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -50,6 +51,11 @@ class Silent : public platform::ProgramStarter, public platform::Dialogs, public
  public:
     void Beep() override {}
     std::error_code Run(const platform::StartRequest&) override { return {}; }
+    std::error_code RunAndWait(const platform::StartRequest&,
+                               const std::function<bool()>&) override {
+        return {};
+    }
+    std::error_code EditText(const std::string&) override { return {}; }
     bool UsesShell() const override { return true; }
     std::error_code Open(const std::string&) override { return {}; }
     platform::Answer MessageBox(const std::string&, const std::string&, platform::Buttons,

@@ -74,26 +74,16 @@ void MakePictures(const std::filesystem::path& directory) {
     std::filesystem::remove(first);
 }
 
+// The two hide those of the host itself.
+struct HostWithPictures : platform::Host {
+    platform::PictureDecoder& pictureDecoder;
+    platform::Background& background;
+};
+
 platform::Host WithPictures(const platform::Host& host, platform::PictureDecoder& decoder,
                             platform::Background& background) {
-    return {.files = host.files,
-            .processes = host.processes,
-            .starter = host.starter,
-            .clock = host.clock,
-            .dialogs = host.dialogs,
-            .beeper = host.beeper,
-            .events = host.events,
-            .locale = host.locale,
-            .userStore = host.userStore,
-            .instance = host.instance,
-            .log = host.log,
-            .pictureDecoder = decoder,
-            .background = background,
-            .systemColors = host.systemColors,
-            .controllers = host.controllers,
-            .programDirectory = host.programDirectory,
-            .programName = host.programName,
-            .commandLine = host.commandLine};
+    HostWithPictures parts{host, decoder, background};
+    return platform::ServicesOf(parts, host.programDirectory, host.programName, host.commandLine);
 }
 
 struct Shares {

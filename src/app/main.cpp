@@ -8,6 +8,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "app/build.h"
 #include "app/desktop_host.h"
 #include "hosts/qt/active_window_qt.h"
 #include "hosts/qt/compositing_qt.h"
@@ -52,7 +53,9 @@ int main(int argc, char** argv) {
     Reached("main");
     kivu::app::PrepareToolkit();
     QApplication application(argc, argv);
+    if (const auto code = kivu::app::RunOtherJob(argc, argv)) return *code;
     QApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication::setDesktopFileName(QString::fromLatin1(kivu::app::ApplicationId()));
     // Ready when the launcher is.
     kivu::view::PreloadPicture(":/background");
     kivu::view::ApplyStyle();

@@ -13,6 +13,10 @@ constexpr int zoomKey = keys::f1 + 1;
 }
 
 void WindowKeys::Form_KeyDown(forms::Key& key) {
+    if (ports.loading->TakesKey(key)) {
+        key = {};
+        return;
+    }
     if (key.code == keys::f4 && key.shift == shifts::alt) {
         key = {};
         CloseKey();

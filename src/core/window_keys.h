@@ -21,6 +21,7 @@ class WindowKeys {
     };
     struct Ports {
         Port<RunningEmulator> watch{"WindowKeys.watch"};
+        Port<LoadingScreen> loading{"WindowKeys.loading"};
     };
 
     WindowKeys(Form1& form, platform::Dialogs& dialogs, platform::Beeper& beeper,

@@ -43,12 +43,15 @@ class LabelWidget : public QWidget {
         const QColor window = ToQt(label.ParentForm()->BackColor());
         const bool tab = IsClickable(label);
         const bool marked = IsMarked(label);
+        // A label over a whole area is no tab, and would light it up.
+        const bool oneLine =
+            rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
         QColor text = ToQt(label.ForeColor());
-        if (marked) {
+        if (marked && oneLine) {
             FillRounded(painter, rect(), cornerRadius, back);
             FillRounded(painter, QRectF(8, height() - 3, width() - 16, 3), 1.5, AccentOn(back));
             text = Readable(text, back);
-        } else if (label.IsOpaque()) {
+        } else if (label.IsOpaque() || marked) {
             FillRounded(painter, rect(), cornerRadius, back);
             text = Readable(text, back);
         } else {
@@ -56,9 +59,6 @@ class LabelWidget : public QWidget {
             constexpr double swallowed = 1.5;
             text = Readable(text, window, swallowed);
         }
-        // A label over a whole area would light it up.
-        const bool oneLine =
-            rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
         if (tab && !marked && oneLine && underMouse() && isEnabled()) {
             const QColor veil = InkOn(window, 34);
             text = Readable(text, Mix(window, InkOn(window, 255), veil.alphaF()));

@@ -59,7 +59,7 @@ class FaultyFileSystem : public platform::FileSystem {
         return inner.FindDirectory(parent, name);
     }
     std::optional<bool> HasEntries(const std::string& path) const override {
-        if (Fails(Step::List, path)) return std::nullopt;
+        if (Fault(Step::List, path)) return std::nullopt;
         return inner.HasEntries(path);
     }
     bool FileExists(const std::string& path) const override { return inner.FileExists(path); }

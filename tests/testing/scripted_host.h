@@ -21,6 +21,7 @@
 #include "testing/scripted_controllers.h"
 #include "testing/scripted_display.h"
 #include "testing/scripted_downloads.h"
+#include "testing/scripted_starter.h"
 #include "text/log_text.h"
 
 // A host that plays by a script: nothing in it waits, shows or starts anything. Each service can be
@@ -42,9 +43,12 @@ class ScriptedClock : public platform::Clock {
         if (onRest) onRest();
     }
 
+    // The time until then has gone by.
     void Set(platform::TimeOfDay time) {
-        ofDay = std::chrono::hours(time.hour) + std::chrono::minutes(time.minute) +
-                std::chrono::seconds(time.second);
+        const std::chrono::milliseconds set = std::chrono::hours(time.hour) +
+                                              std::chrono::minutes(time.minute) +
+                                              std::chrono::seconds(time.second);
+        MoveOn((set - ofDay + std::chrono::hours(24)) % std::chrono::hours(24));
     }
     void MoveOn(std::chrono::milliseconds duration) {
         running += duration;
@@ -248,68 +252,6 @@ class ScriptedProcesses : public platform::ProcessList {
     }
 };
 
-// Writes down what is to be started, and starts nothing.
-class ScriptedStarter : public platform::ProgramStarter {
- public:
-    struct Start {
-        platform::StartRequest request;
-        bool opened = false;  // handed to the user's own program for it
-        bool edited = false;  // or to the editor for plain text
-    };
-
-    std::error_code Run(const platform::StartRequest& request) override {
-        runs.push_back({request, false, false});
-        if (onRun) onRun(request);
-        return result;
-    }
-    std::error_code RunAndWait(const platform::StartRequest& request,
-                               const std::function<bool()>& goOn) override {
-        platform::StartRequest waited = request;
-        waited.wait = true;
-        if (const auto failure = Run(waited)) return failure;
-        for (int left = looksWhileWaiting; left != 0; --left)
-            if (!goOn()) return std::make_error_code(std::errc::operation_canceled);
-        return {};
-    }
-    bool UsesShell() const override { return usesShell; }
-    std::optional<std::string> StartFileBytes(std::string_view text) const override {
-        return startFileBytes ? startFileBytes(text) : std::string(text);
-    }
-    std::string FindInPath(const std::string& program) const override {
-        const auto found = path.find(program);
-        return found == path.end() ? "" : found->second;
-    }
-    bool SearchesIn(const std::string& directory) const override {
-        return std::find(searched.begin(), searched.end(), directory) != searched.end();
-    }
-    std::string FindExecutable(const std::string& file) const override {
-        const auto found = executables.find(file);
-        return found == executables.end() ? "" : found->second;
-    }
-    std::error_code EditText(const std::string& file) override {
-        platform::StartRequest request;
-        request.command = file;
-        runs.push_back({request, false, true});
-        return result;
-    }
-    std::error_code Open(const std::string& addressOrPath) override {
-        platform::StartRequest request;
-        request.command = addressOrPath;
-        runs.push_back({request, true, false});
-        return result;
-    }
-
-    std::vector<Start> runs;
-    std::function<void(const platform::StartRequest&)> onRun;
-    std::error_code result;
-    bool usesShell = true;
-    std::function<std::optional<std::string>(std::string_view)> startFileBytes;  // unset: UTF-8
-    std::map<std::string, std::string> path;  // programs on the search path, by their bare names
-    std::vector<std::string> searched;        // the directories of the search path, as asked for
-    std::map<std::string, std::string> executables;  // what opens a file, by its path
-    int looksWhileWaiting = 1;  // before what is waited for ends; below 0: it never does
-};
-
 // Keeps the lines as a file would have them, without their times.
 class ScriptedLog : public platform::Log {
  public:
@@ -370,7 +312,9 @@ class ScriptedColors : public platform::SystemColors {
 };
 
 struct ScriptedHost {
-    explicit ScriptedHost(platform::FileSystem& files) : files(files), downloads(files) {}
+    explicit ScriptedHost(platform::FileSystem& files) : files(files), downloads(files) {
+        starter.textOf = [&files](const std::string& path) { return files.ReadFile(path); };
+    }
 
     platform::Host Services(std::string_view programDirectory,
                             std::string_view programName = "Kivu",
