@@ -85,7 +85,7 @@ QString NameOfList(const forms::Control& control) {
     const auto* list = dynamic_cast<const forms::ListBox*>(&control);
     if (list && list->Leader()) return NameOfField(*list->Leader());
     if (const forms::Label* label = LabelInFront(control)) return TextOf(*label);
-    if (const forms::Label* tab = MarkedTab(*control.Parent())) return TextOf(*tab);
+    if (const forms::Label* tab = MarkedTab(*control.Parent())) return NameOf(*tab);
     return NameOfField(control);
 }
 
@@ -108,7 +108,9 @@ QString NameByCaption(const std::string& caption, const forms::Control& control)
 
 QString NameOfLabel(const forms::Label& label) {
     QString name = TextOf(label);
-    if (!HasWord(name) && !label.ToolTipText().empty()) name = Read(label.ToolTipText());
+    // One whose words are cut tells them by its tool tip.
+    const bool cut = IsTab(label) && !label.ShownText().empty();
+    if ((cut || !HasWord(name)) && !label.ToolTipText().empty()) name = Read(label.ToolTipText());
     const QString hint = Read(label.Hint());
     return name.isEmpty() || hint.isEmpty() ? name + hint : name + u' ' + hint;
 }
@@ -136,9 +138,9 @@ bool IsClickable(const forms::Label& label) {
 }
 
 bool IsTab(const forms::Label& label) {
-    const auto fits = [](const forms::Control& control) {
+    const auto fits = [&](const forms::Control& control) {
         const forms::Label* one = LabelOf(control);
-        return one && one->AutoSize() && IsClickable(*one);
+        return one && IsClickable(*one) && !one->onMouseDown && one->Top() == label.Top();
     };
     if (!fits(label)) return false;
     const auto& beside = label.Parent()->Children();

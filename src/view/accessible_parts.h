@@ -30,7 +30,7 @@ Meaning MeaningOf(const forms::Control& control);
 
 // A label that can be clicked and is no link. It looks like a quiet tab.
 bool IsClickable(const forms::Label& label);
-// One of several that are as wide as their captions and lie on the same container.
+// One of several that stand in a row on the same container.
 bool IsTab(const forms::Label& label);
 // The one whose list is in front.
 bool IsMarked(const forms::Label& label);

@@ -147,6 +147,12 @@ TEST_F(AccessibleTest, ListIsNamedByItsTab) {
     tabs[0]->SetOpaque(true);
     EXPECT_EQ(Name(Of("List")), "Favourites (2)");
     EXPECT_TRUE(Of("First")->state().selected);
+    // Cut where there is no room.
+    tabs[0]->SetAutoSize(false);
+    tabs[0]->SetShownText("Favourites");
+    tabs[0]->SetToolTipText("Favourites (2)");
+    EXPECT_EQ(Of("First")->role(), QAccessible::PageTab);
+    EXPECT_EQ(Name(Of("List")), "Favourites (2)");
 }
 
 TEST_F(AccessibleTest, LabelBesideAFieldNamesIt) {
