@@ -3,6 +3,7 @@
 
 #include "view/contrast.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QSettings>
 #include <functional>
@@ -71,7 +72,7 @@ class ContrastTest : public ShownForm {
         QWidget* widget = Find(name);
         const QRect whole(widget->mapTo(&view.Window(), QPoint()), widget->size());
         const QImage picture = view.Window().grab(whole).toImage();
-        return part.isNull() ? picture : picture.copy(part);
+        return part.isNull() ? picture : picture.copy(part & picture.rect());
     }
     // Within the pill of a row.
     double RowContrast(int row) {
