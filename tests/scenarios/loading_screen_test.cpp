@@ -197,6 +197,10 @@ TEST_F(LoadingScreenTest, EndOfTheEmulatorLeavesItItsTime) {
     EXPECT_FALSE(IsUp());
     EXPECT_TRUE(Do("kills")["value"].empty());
     EXPECT_TRUE(Visible("WIthoutDoubles"));
+    // And nothing looks as if something were under way.
+    EXPECT_FALSE(Visible("LoadingBtn"));
+    EXPECT_TRUE(Visible("Label2"));
+    EXPECT_EQ(Get("ListsVisible"), true);
 }
 
 TEST_F(LoadingScreenTest, WindowManagerClosesIt) {
