@@ -87,7 +87,16 @@ sleep 0.5
 xdotool key Home
 sleep 1
 Launch
-LookAtLoading picture "with the game's picture"
+LookAtLoading fullscreen "with the game's picture, above an emulator that fills the screen"
+# That one keeps the mouse to itself.
+kill $(Running)
+Until 15 NotRunning || Fail "the emulator did not end"
+xdotool mousemove --window "$loading" 12 12 click 1
+Until 5 Gone || Fail "a click did not take it away"
+sleep 4
+sed -i 's/^fullscreen=.*/fullscreen=false/' "$demo/Emulators/kivu-dosbox.sh"
+Launch
+LookAtLoading picture "above one in a window"
 xdotool mousemove --window "$loading" 12 12 click 1
 Until 5 Gone || Fail "a click did not take it away"
 Running >/dev/null || Fail "the click ended the game"
