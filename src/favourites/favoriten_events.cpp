@@ -30,6 +30,8 @@ void FavoritenEvents::FavoritenListe_Click() {
         return;
     }
     OfferButtons();
+    // The pad may go through it behind the results of a search, where nothing is removed.
+    if (!form.FavoritenListe.Visible()) form.DeLFav.SetVisible(false);
 }
 
 void FavoritenEvents::OfferButtons() {

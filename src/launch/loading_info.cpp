@@ -127,7 +127,12 @@ void LoadingInfo::Form_Unload() {
 
 void LoadingInfo::Timer1_Timer() {
     ++window.SecondsPassed;
-    if (window.SecondsPassed >= window.Seconds) window.Unload();
+    if (window.SecondsPassed >= window.Seconds) {
+        window.Unload();
+    } else if (window.IsAboveAll()) {
+        // An emulator that has filled the screen meanwhile may lie above all, too.
+        services.windows.Raise(window);
+    }
 }
 
 void LoadingInfo::Form_Click() {

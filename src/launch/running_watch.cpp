@@ -93,9 +93,12 @@ void RunningWatch::EndOfGame() {
 }
 
 void RunningWatch::AppRunningPicture_Click() {
+    const bool ran = form.EmulatorRuns();
     EndEmulator();
     // An emulator that was to be set up has been started out of the choice.
     routines.choice.CloseChoice();
+    // The loading screen may outlast its game, and then no watch brings the window back.
+    if (!ran) busy.HideAll(true);
     if (form.FavoritenListe.ListCount() > 0) {
         routines.front.Label1_Click();
     } else {

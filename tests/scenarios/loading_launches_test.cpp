@@ -47,6 +47,7 @@ TEST_F(LoadingLaunches, ButtonBeforeTheStartLeavesTheLastGamesEmulatorAlone) {
     SplashWithMount("6");
     Start();
     LaunchBee();
+    Boxes();  // there is no tool to mount with
     Click("");
     Do("tick", "Form1.EmuActiveTimer", 4);
     EmulatorComesUp();

@@ -184,6 +184,21 @@ TEST_F(LoadingScreenTest, OneThatStandsComesForward) {
     EXPECT_EQ(Do("windows")["value"].back()["name"], "LoadingInfo");
 }
 
+// Emulators may put themselves above everything as they come up.
+TEST_F(LoadingScreenTest, EachTickBringsItForward) {
+    Start();
+    LaunchBee();
+    forms::Form other("Other", Form().GetToolkit());
+    session->Screen().Show(other, nullptr);
+    EXPECT_EQ(Do("windows")["value"].back()["name"], "Other");
+    Tick();
+    EXPECT_EQ(Do("windows")["value"].back()["name"], "LoadingInfo");
+    const forms::WindowHost::Question question(session->Screen());
+    session->Screen().Raise(other);
+    Tick();
+    EXPECT_EQ(Do("windows")["value"].back()["name"], "Other");
+}
+
 TEST_F(LoadingScreenTest, EndOfTheEmulatorLeavesItItsTime) {
     Start();
     LaunchBee();
@@ -197,6 +212,10 @@ TEST_F(LoadingScreenTest, EndOfTheEmulatorLeavesItItsTime) {
     EXPECT_FALSE(IsUp());
     EXPECT_TRUE(Do("kills")["value"].empty());
     EXPECT_TRUE(Visible("WIthoutDoubles"));
+    // And nothing looks as if something were under way.
+    EXPECT_FALSE(Visible("LoadingBtn"));
+    EXPECT_TRUE(Visible("Label2"));
+    EXPECT_EQ(Get("ListsVisible"), true);
 }
 
 TEST_F(LoadingScreenTest, WindowManagerClosesIt) {

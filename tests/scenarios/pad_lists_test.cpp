@@ -242,6 +242,19 @@ TEST_F(PadByHand, SelectTurnsTheMarkOver) {
     EXPECT_EQ(Get("Check_Dfx(1).Value"), 1);
 }
 
+// Its own list is that of the favourites, which lies behind the results.
+TEST_F(PadByHand, StepsBehindASearchOfferNoRemoval) {
+    tree.Write("Config/Alpha/Favoriten.ini",
+               ProgramDirectory::Encoded("[Favoriten]\r\nFav0_Name=Bee\r\nFav0_FullPath=" +
+                                         tree.Path("Roms/Alpha/Bee (1991)(Maker).adf") + "\r\n"));
+    Start();
+    EXPECT_TRUE(Visible("FavoritenListe"));
+    Do("type", "Form1.SearchDblsTxt", "bee (");
+    Act(9);
+    EXPECT_FALSE(Visible("FavoritenListe"));
+    EXPECT_FALSE(Visible("DeLFav"));
+}
+
 TEST_F(PadByHand, SelectTouchesNoMarkWhereTheLauncherChooses) {
     tree.AddEmulator("Alpha", {{"RomPath", "/Roms/Alpha"}, {"SmartRomSelection", "1"}});
     Start();
