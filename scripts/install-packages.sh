@@ -6,9 +6,9 @@ build=(g++ cmake ninja-build ccache qt6-base-dev libgl-dev libfontconfig-dev lib
        libxcb-randr0-dev libcurl4-openssl-dev)
 run=(dosbox nasm bash gawk xdg-utils fonts-dejavu-core qt6-qpa-plugins libxcb-cursor0 libsdl2-2.0-0
      libxcb-randr0 libcurl4)
-screen=(xvfb xauth openbox xdotool imagemagick x11-utils procps)
+screen=(xvfb xauth openbox xdotool wmctrl imagemagick x11-utils procps)
 test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdeflate-dev clang-format procps
-      xserver-xorg-core xserver-xorg-video-dummy python3 openssl
+      xserver-xorg-core xserver-xorg-video-dummy python3 openssl fuseiso
       desktop-file-utils appstream man-db imagemagick nasm mawk)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 package=(debhelper dpkg-dev fakeroot git lintian nasm)

@@ -4,7 +4,8 @@
 #     scripts/tour.sh PROGRAM_DIR [SCREENSHOT_DIR]
 #
 # Leaves numbered screenshots, and fails when a step does not come about. TOUR_SIZE sets the screen
-# (1024x768), LANG the language as usual. KIVU_FILES is the program of scripts/tour-files.sh, which follows.
+# (1024x768), LANG the language as usual. scripts/tour-loading.sh, scripts/tour-files.sh with its program KIVU_FILES and
+# scripts/tour-settings.sh follow.
 set -euo pipefail
 
 program_dir=$(cd "$1" && pwd)
@@ -178,6 +179,11 @@ if [ -x "$colors" ]; then
 fi
 echo "The tour is through; the pictures are in ${shots#"$here"/}."
 
+"$here/scripts/tour-loading.sh" "$program_dir" "$shots/loading"
+
 # The dialog for files, which the tests' program opens.
 dialog=${KIVU_FILES:-$here/build/test/program/kivu-files}
 [ ! -x "$dialog" ] || "$here/scripts/tour-files.sh" "$dialog" "$shots/files"
+
+# A newcomer's way through the settings, from an empty directory.
+"$here/scripts/tour-settings.sh" "$program_dir/Kivu" "$shots/settings"

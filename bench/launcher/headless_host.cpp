@@ -36,6 +36,15 @@ HeadlessHost::HeadlessHost() : silent(std::make_unique<Silent>(files)) {
 
 HeadlessHost::~HeadlessHost() = default;
 
+void HeadlessHost::HoldBackground() {
+    silent->background.inlined = false;
+}
+
+void HeadlessHost::ServeBackground() {
+    while (!silent->background.waiting.empty())
+        silent->background.Serve(0);
+}
+
 platform::Host HeadlessHost::Services(const std::string& programDirectory) {
     return platform::ServicesOf(*silent, programDirectory, "Kivu", "");
 }

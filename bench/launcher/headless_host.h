@@ -30,6 +30,9 @@ class HeadlessHost {
     platform::Host Services(const std::string& programDirectory);
     // Since the beginning.
     double SecondsWriting() const { return files.SecondsWriting(); }
+    // What the launcher leaves to the worker's thread waits from now on, until it is let go.
+    void HoldBackground();
+    void ServeBackground();
 
  private:
     TimedFileSystem files;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "platform/build.h"
 
 namespace kivu::app {
@@ -10,5 +12,8 @@ const char* ApplicationId();
 
 // The addresses that this program has been built with.
 platform::Build ThisBuild();
+
+// "1.4.0"
+std::string Version();
 
 }  // namespace kivu::app

@@ -9,8 +9,10 @@
 
 namespace kivu::app {
 
-// The program may be started by itself for a small job beside the launcher: the exit code when that
-// is done. Empty: it is to be the launcher. To be called before anything else.
+// The program may be started by itself for a small job beside the launcher, or by a user who only
+// asks it something: the exit code when that is done. Empty: it is to be the launcher. To be called
+// before anything else, and again without what the toolkit has taken, which may have stood in front
+// of what was asked.
 std::optional<int> RunOtherJob(int argc, char** argv);
 
 // Begins on another core what the toolkit would wait for. To be called first.
@@ -30,6 +32,9 @@ class DesktopHost {
     // Listens for later instances from now on; `summon` is called when one asks this to come up,
     // with the file that it was given to start, if any.
     void ListenForInstances(std::function<void(const std::string& file)> summon);
+    // `end` is called when somebody asks the process to end: by a signal, or by closing its
+    // console.
+    void ListenForEnd(std::function<void()> end);
 
  private:
     struct Parts;

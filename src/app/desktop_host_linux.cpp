@@ -1,7 +1,9 @@
 #include <QSocketNotifier>
+#include <cstdio>
 #include <fontconfig/fontconfig.h>
 #include <string_view>
 #include <thread>
+#include <utility>
 
 #include "app/build.h"
 #include "app/command_line.h"
@@ -13,6 +15,7 @@
 #include "hosts/linux/display_guard.h"
 #include "hosts/linux/display_linux.h"
 #include "hosts/linux/downloader_curl.h"
+#include "hosts/linux/end_signals.h"
 #include "hosts/linux/file_system_linux.h"
 #include "hosts/linux/instance_linux.h"
 #include "hosts/linux/launch_session.h"
@@ -32,10 +35,37 @@
 
 namespace kivu::app {
 
+namespace {
+
+// The arguments byte for byte: a file name need not be text.
+std::vector<std::string> ArgumentsOf(int argc, char** argv) {
+    return argc > 1 ? std::vector<std::string>(argv + 1, argv + argc) : std::vector<std::string>();
+}
+
+Options OptionsIn(std::vector<std::string>& arguments, const platform::FileSystem& files) {
+    return TakeOptions(arguments,
+                       [&files](const std::string& path) { return files.FileExists(path); });
+}
+
+platform::Build BuildOf(const std::string& programFile) {
+    platform::Build build = ThisBuild();
+    build.installed = hosts::IsInstalled(programFile);
+    return build;
+}
+
+}  // namespace
+
 // The guard of the display mode is this program as well.
 std::optional<int> RunOtherJob(int argc, char** argv) {
-    if (argc != 2 || std::string_view(argv[1]) != "--keep-display") return std::nullopt;
-    return hosts::KeepDisplay();
+    if (argc == 2 && std::string_view(argv[1]) == "--keep-display") return hosts::KeepDisplay();
+    std::vector<std::string> arguments = ArgumentsOf(argc, argv);
+    const Options options = OptionsIn(arguments, hosts::LinuxFileSystem());
+    const bool german = core::GetSystemLanguageIsGerman(hosts::LinuxLocale());
+    const auto answer = AnswerTo(options, Version(), german);
+    if (!answer) return std::nullopt;
+    std::FILE* stream = answer->isError ? stderr : stdout;
+    const bool said = std::fputs(answer->text.c_str(), stream) >= 0 && std::fflush(stream) == 0;
+    return answer->status == 0 && !said ? 1 : answer->status;
 }
 
 // The toolkit reads the machine's fonts when it first wants one: some milliseconds, in which it has
@@ -45,16 +75,23 @@ void PrepareToolkit() {
 }
 
 struct DesktopHost::Parts {
-    std::string programFile = hosts::ProgramFile();
-    hosts::LaunchSession session;
+    explicit Parts(std::vector<std::string> words) : arguments(std::move(words)) {}
+
+    std::vector<std::string> arguments;
     hosts::LinuxFileSystem files;
+    Options options = OptionsIn(arguments, files);
+    std::string programFile = hosts::ProgramFile();
+    std::string programDirectory = options.data.empty() ? hosts::ProgramDirectory(programFile)
+                                                        : DataDirectory(options.data, files);
+    hosts::LaunchSession session;
     hosts::LinuxProcessList processes{session};
     hosts::LinuxProgramStarter starter{session};
     hosts::LinuxClock clock;
     hosts::LinuxLog log;
     hosts::LinuxLocale locale;
     hosts::LinuxUserStore userStore;
-    hosts::LinuxInstance instance{hosts::ProgramName(programFile)};
+    hosts::LinuxInstance instance{hosts::ProgramName(programFile),
+                                  files.ResolvedPath(programDirectory)};
     hosts::QtDialogs dialogs{core::GetSystemLanguageIsGerman(locale)};
     hosts::QtBeeper beeper;
     hosts::QtEventPump events;
@@ -65,26 +102,27 @@ struct DesktopHost::Parts {
     hosts::LateControllers controllers{sdl};
     hosts::LinuxDisplay display;
     hosts::CurlDownloader downloads;
-    platform::Build build = ThisBuild();
+    platform::Build build = BuildOf(programFile);
     std::string runtimeDirectory = hosts::UserRuntimeDirectory();
     std::string temporaryDirectory = hosts::TemporaryDirectory();
     std::string commandLine;
     std::unique_ptr<QSocketNotifier> calls;
+    std::unique_ptr<hosts::EndSignals> endSignals;
+    std::unique_ptr<QSocketNotifier> endCalls;
 };
 
-// The arguments byte for byte: a file name need not be text.
-DesktopHost::DesktopHost(int argc, char** argv) : parts(std::make_unique<Parts>()) {
-    std::vector<std::string> arguments(argv + 1, argv + argc);
-    if (TakeLogOption(arguments)) parts->log.AlsoToStandardError();
+DesktopHost::DesktopHost(int argc, char** argv)
+    : parts(std::make_unique<Parts>(ArgumentsOf(argc, argv))) {
+    if (parts->options.log) parts->log.AlsoToStandardError();
     parts->commandLine =
-        CommandLineText(std::move(arguments), parts->files.CurrentDirectory(),
+        CommandLineText(parts->arguments, parts->files.CurrentDirectory(),
                         [this](const std::string& path) { return parts->files.FileExists(path); });
 }
 
 DesktopHost::~DesktopHost() = default;
 
 platform::Host DesktopHost::Services() {
-    return platform::ServicesOf(*parts, hosts::ProgramDirectory(parts->programFile),
+    return platform::ServicesOf(*parts, parts->programDirectory,
                                 hosts::ProgramName(parts->programFile), parts->commandLine);
 }
 
@@ -99,6 +137,17 @@ void DesktopHost::ListenForInstances(std::function<void(const std::string&)> sum
     parts->calls = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
     QObject::connect(parts->calls.get(), &QSocketNotifier::activated, parts->calls.get(),
                      [this] { parts->instance.Serve(); });
+}
+
+void DesktopHost::ListenForEnd(std::function<void()> end) {
+    parts->endSignals = std::make_unique<hosts::EndSignals>();
+    const int fd = parts->endSignals->WaitFd();
+    if (fd < 0) return;
+    parts->endCalls = std::make_unique<QSocketNotifier>(fd, QSocketNotifier::Read);
+    QObject::connect(parts->endCalls.get(), &QSocketNotifier::activated, parts->endCalls.get(),
+                     [this, end = std::move(end)] {
+                         if (parts->endSignals->Take()) end();
+                     });
 }
 
 }  // namespace kivu::app

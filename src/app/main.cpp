@@ -15,6 +15,7 @@
 #include "view/cover_picture.h"
 #include "view/fit_into.h"
 #include "view/form_view.h"
+#include "view/program_end.h"
 #include "view/screen_windows.h"
 #include "view/style.h"
 #include "view/text_measure.h"
@@ -35,6 +36,9 @@ void EndAtOnce() {
 
 Q_LOGGING_CATEGORY(startStages, "kivu.start", QtWarningMsg)
 
+// For exit(), which the toolkit calls where its display has gone: many a session ends so.
+kivu::wiring::Launcher* storesAtExit = nullptr;
+
 // How far the start has come, by the steady clock in nanoseconds, for who has asked for these
 // messages.
 void Reached(const char* stage) {
@@ -49,6 +53,7 @@ int main(int argc, char** argv) {
     Reached("main");
     kivu::app::PrepareToolkit();
     QApplication application(argc, argv);
+    if (const auto code = kivu::app::RunOtherJob(argc, argv)) return *code;
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QString::fromLatin1(kivu::app::ApplicationId()));
     // Ready when the launcher is.
@@ -72,6 +77,13 @@ int main(int argc, char** argv) {
     view.SetCompositing(kivu::hosts::IsComposited);
     view.onClosed = EndAtOnce;
     windows.AdoptView(launcher.MainWindow(), view);
+    const kivu::view::ProgramEnd sessionEnd([&] { launcher.SessionEnds(); },
+                                            [&] { launcher.EndFromOutside(); });
+    host.ListenForEnd([&] { launcher.EndFromOutside(); });
+    storesAtExit = &launcher;
+    std::atexit([] {
+        if (storesAtExit) storesAtExit->SessionEnds();
+    });
     Reached("view");
     view.Show();
     Reached("shown");
@@ -84,5 +96,7 @@ int main(int argc, char** argv) {
         view.Window().setWindowIcon(QIcon(QStringLiteral(":/icon")));
         host.WindowStands();
     });
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    storesAtExit = nullptr;
+    return code;
 }

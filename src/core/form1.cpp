@@ -166,10 +166,8 @@ void Form1::DesignFrame() {
         // One of the first two always shows.
         button->SetVisible(button == &SettingsBtn);
     }
-    // Nothing opens them yet.
-    SettingsBtn.SetEnabled(false);
-    SettingsShortBtn.SetEnabled(false);
     DonateBtn.SetCaption("Spenden");
+    DonateBtn.SetToolTipText("PayPal");
     ExitBtn.SetCaption("&Exit");
     ExitBtn.Move(0, 0, 1050, 420);
     FontSizeCombo.Move(0, 0, 2100, 420);

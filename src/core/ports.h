@@ -157,6 +157,12 @@ class LoadingScreen {
     virtual void ShowLoadingInfo(forms::Form* owner) = 0;
     virtual bool IsShown() const = 0;
     virtual void Unload() = 0;
+    // The user wants the launch to stop that is under way, and nothing has been started yet: who
+    // waits for something stops waiting. The next launch begins anew.
+    virtual bool GivenUp() const = 0;
+    // A key in the main window that skips the screen, or stops the launch, and means nothing else
+    // meanwhile.
+    virtual bool TakesKey(const forms::Key& key) = 0;
 };
 
 // Addresses outside, and the program's own renewal.

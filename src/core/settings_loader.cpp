@@ -22,6 +22,7 @@ void SettingsLoader::LoadSettings() {
 }
 
 void SettingsLoader::LoadLook() {
+    drivesOf = form.IniPath;
     form.FontSizeCombo.SetListIndex(ini.Read(keys::Fontsize, ProfilesOf(form)));
     hooks.SetColors();
 }
@@ -61,6 +62,7 @@ void SettingsLoader::LoadDrivesPanel() {
     const std::string docked = ini.Read(keys::DrvWindowDocked, ProfilesOf(form));
     if (docked == "1" || (docked != "0" && ports.layout->DrivesCoverOthers()))
         ports.layout->DockDrives();
+    drivesOf = form.IniPath;
 }
 
 void SettingsLoader::LoadJoystick() {

@@ -34,6 +34,8 @@ class SettingsLoader {
     void LoadLook();
     // Of it, which button of the controller does what.
     void LoadButtons();
+    // The drives stand where this profile has them, or where the user has moved them since.
+    bool DrivesAreOf(const std::string& profile) const { return profile == drivesOf; }
 
     Hooks hooks;
     Ports ports;
@@ -50,6 +52,7 @@ class SettingsLoader {
     profile::Ini& ini;
     const platform::FileSystem& files;
     platform::Dialogs& dialogs;
+    std::string drivesOf;  // the profile that they were placed by
 };
 
 }  // namespace kivu::core

@@ -8,10 +8,36 @@ namespace kivu::core {
 namespace keys = profile::keys;
 
 void ShutDown::ExitBtn_Click() {
+    StoreDrives();
+    StoreWindow(true);
+    EndProgram();
+}
+
+void ShutDown::EndFromOutside() {
+    if (form.Ended) return;
+    StoreForSession();
+    EndProgram();
+}
+
+void ShutDown::StoreForSession() {
+    // In front of that the window has its design, and not what the user has given it.
+    if (form.Ended || !form.WindowReady) return;
+    if (hooks.DrivesAreOf(form.IniPath)) StoreDrives();
+    StoreWindow(false);
+    ini.StoreWriteBacks();
+}
+
+void ShutDown::StoreDrives() {
     Store(keys::emulator, {{keys::DrvWindowX, form.SettingsSubPicture.Left()},
                            {keys::DrvWindowY, form.SettingsSubPicture.Top()},
                            {keys::DrvWindowDocked, ports.layout->DrivesAreHome() ? 1 : 0}});
-    Values window{{keys::WindowState, static_cast<int>(form.State())}};
+}
+
+void ShutDown::StoreWindow(bool byTheUser) {
+    Values window;
+    // Who lets the session end over a minimised window would not find it at the next start.
+    if (byTheUser || form.State() != forms::WindowState::minimized)
+        window.emplace_back(keys::WindowState, static_cast<int>(form.State()));
     // A maximised or tiny window never replaces the last good geometry.
     if (form.State() == forms::WindowState::normal && form.Width() > 2000 && form.Height() > 1000) {
         window.insert(window.end(), {{keys::WindowX, form.Width()},
@@ -20,7 +46,6 @@ void ShutDown::ExitBtn_Click() {
                                      {keys::WindowLeft, form.Left()}});
     }
     Store(keys::program, window);
-    EndProgram();
 }
 
 void ShutDown::EndProgram() {

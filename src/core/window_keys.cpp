@@ -13,6 +13,10 @@ constexpr int zoomKey = keys::f1 + 1;
 }
 
 void WindowKeys::Form_KeyDown(forms::Key& key) {
+    if (ports.loading->TakesKey(key)) {
+        key = {};
+        return;
+    }
     if (key.code == keys::f4 && key.shift == shifts::alt) {
         key = {};
         CloseKey();
@@ -70,7 +74,10 @@ void WindowKeys::ResizeBy(int keyCode) {
 }
 
 void WindowKeys::Form_KeyPress(forms::Character& character) {
-    if (character.code != keys::escape || form.Mode() == Front::choice) return;
+    if (character.code == keys::escape && form.Mode() != Front::choice) AskToEnd();
+}
+
+void WindowKeys::AskToEnd() {
     const std::string text = form.CurrentLanguage == 1 ? form.EXE + " jetzt wirklich beenden?"
                                                        : "Quit " + form.EXE + " now?";
     const std::string title =
@@ -83,7 +90,8 @@ void WindowKeys::Form_KeyPress(forms::Character& character) {
 void WindowKeys::Form_QueryClose(bool& cancel) {
     if (form.Ended) return;
     cancel = true;
-    CloseKey();
+    // Who is being asked something answers that first.
+    if (!hooks.BoxIsOpen()) AskToEnd();
 }
 
 }  // namespace kivu::core

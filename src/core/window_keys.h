@@ -17,9 +17,11 @@ class WindowKeys {
     struct Hooks {
         Hook<void(int)> JoystickDirection{"WindowKeys.JoystickDirection"};
         Hook<void()> TogglePictureZoom{"WindowKeys.TogglePictureZoom"};
+        Hook<bool()> BoxIsOpen{"WindowKeys.BoxIsOpen"};
     };
     struct Ports {
         Port<RunningEmulator> watch{"WindowKeys.watch"};
+        Port<LoadingScreen> loading{"WindowKeys.loading"};
     };
 
     WindowKeys(Form1& form, platform::Dialogs& dialogs, platform::Beeper& beeper,
@@ -28,7 +30,8 @@ class WindowKeys {
 
     void Form_KeyDown(forms::Key& key);
     void Form_KeyPress(forms::Character& character);
-    // Alt+F4 as a close request of the window manager: the window stays open.
+    // A close request of a panel or the task bar, which asks as Escape does. One by Alt+F4 comes as
+    // that key.
     void Form_QueryClose(bool& cancel);
 
     Hooks hooks;
@@ -36,6 +39,7 @@ class WindowKeys {
 
  private:
     void CloseKey();
+    void AskToEnd();
     void ResizeBy(int keyCode);
     bool MovesInSearchText() const;
 

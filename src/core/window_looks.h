@@ -7,8 +7,6 @@
 namespace kivu::core {
 
 inline constexpr const char* defaultTitle = "Kivu 1.4b";
-// The project has no page of its own yet.
-inline constexpr const char* projectPage = "";
 
 // Colours and titles of the main window.
 struct WindowLooks {

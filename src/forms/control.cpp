@@ -36,8 +36,9 @@ void Control::SetEnabled(bool value) {
 
 bool Control::IsReachable() const {
     for (const Control* control = this; control; control = control->parent) {
+        if (!control->enabled) return false;
         if (control->GetKind() == Kind::form) break;
-        if (!control->visible || !control->enabled) return false;
+        if (!control->visible) return false;
     }
     const Form* owner = GetKind() == Kind::form ? static_cast<const Form*>(this) : form;
     return !owner || !owner->IsUnloaded();

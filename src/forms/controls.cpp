@@ -289,6 +289,12 @@ void Frame::SetCaption(std::string value) {
     Notify(Aspect::text);
 }
 
+void Frame::SetRaised(bool value) {
+    if (raised == value) return;
+    raised = value;
+    Notify(Aspect::colors);
+}
+
 Timer::Timer(Container* parent, std::string name, int intervalMilliseconds, bool on)
     : Control(parent, std::move(name)), interval(std::max(0, intervalMilliseconds)) {
     SetEnabled(on);

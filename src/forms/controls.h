@@ -211,9 +211,14 @@ class Frame : public Container {
     Kind GetKind() const override { return Kind::frame; }
     const std::string& Caption() const { return caption; }
     void SetCaption(std::string value);
+    // True: it lies over others of its window, which do not show through, and which the Tab key
+    // passes over.
+    bool IsRaised() const { return raised; }
+    void SetRaised(bool value);
 
  private:
     std::string caption;
+    bool raised = false;
 };
 
 // Ticks while it is enabled and its interval is above 0, in a form that has not been unloaded. Who

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "forms/hit_test.h"
+
 namespace kivu::forms {
 
 namespace {
@@ -84,8 +86,31 @@ std::vector<Control*> Ordered(const Form& form) {
     return order;
 }
 
+// Twips within the form.
+bool Holds(const Control& control, Point place) {
+    const Point corner = CornerInForm(control);
+    return place.x >= corner.x && place.x < corner.x + control.Width() && place.y >= corner.y &&
+           place.y < corner.y + control.Height();
+}
+
+// A panel that lies over it hides its middle: the focus would not be seen there.
+bool IsCovered(const Control& control) {
+    const Point corner = CornerInForm(control);
+    const Point middle{corner.x + control.Width() / 2, corner.y + control.Height() / 2};
+    const auto covers = [middle](const Control* other) {
+        const auto* frame = dynamic_cast<const Frame*>(other);
+        return frame && frame->IsRaised() && frame->Visible() && Holds(*frame, middle);
+    };
+    for (const Control* at = &control; at->Parent(); at = at->Parent()) {
+        const auto& siblings = at->Parent()->Children();
+        const auto own = std::find(siblings.begin(), siblings.end(), at);
+        if (own != siblings.end() && std::any_of(own + 1, siblings.end(), covers)) return true;
+    }
+    return false;
+}
+
 bool IsStop(const Control& control) {
-    return control.TakesFocus() && control.IsReachable();
+    return control.TakesFocus() && control.IsReachable() && !IsCovered(control);
 }
 
 }  // namespace

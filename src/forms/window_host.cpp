@@ -73,6 +73,11 @@ void WindowHost::Raise(Form& form) {
     }
 }
 
+void WindowHost::CountQuestion(int change) {
+    questions += change;
+    if (onQuestions) onQuestions();
+}
+
 void WindowHost::MoveToFront(const Form& form) {
     const auto at = std::find_if(windows.begin(), windows.end(),
                                  [&](const Window& window) { return window.form == &form; });

@@ -54,11 +54,13 @@ class WindowHost {
     // How many boxes and modal windows wait for the user. What would start, switch or open
     // something by itself rests while there are any.
     int Questions() const { return questions; }
+    // One more or one less of them.
+    std::function<void()> onQuestions;
     // A question lasts as long as this.
     class Question {
      public:
-        explicit Question(WindowHost& host) : host(host) { ++host.questions; }
-        ~Question() { --host.questions; }
+        explicit Question(WindowHost& host) : host(host) { host.CountQuestion(1); }
+        ~Question() { host.CountQuestion(-1); }
         Question(const Question&) = delete;
         Question& operator=(const Question&) = delete;
 
@@ -68,6 +70,8 @@ class WindowHost {
 
     // Twips of the screen that a window over this one may fill; null: over none.
     virtual Size Room(const Form* over) const = 0;
+    // Where that part of the screen begins.
+    virtual Point RoomCorner(const Form*) const { return {}; }
 
     // Takes over what must be destroyed with an unloaded form, once no handler of that runs.
     void FreeLater(Form& form, std::shared_ptr<void> owner);
@@ -104,6 +108,7 @@ class WindowHost {
         std::shared_ptr<void> owner;
     };
 
+    void CountQuestion(int change);
     Known* Entry(const Form& form);
     const Known* Entry(const Form& form) const;
     bool IsDying(const Form& form) const;

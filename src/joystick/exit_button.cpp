@@ -49,14 +49,13 @@ void ExitButton::ExitButtonTimer_Timer() {
 }
 
 bool ExitButton::SkipLoadingScreen() {
-    forms::Form* screen = windows.Find("LoadingInfo");
-    if (!screen || !screen->Visible()) return false;
+    if (!ports.loading->IsShown()) return false;
     const bool fresh =
         std::any_of(ticks.begin(), ticks.end(), [](const auto& one) { return one.second == 1; });
     if (fresh) {
         ticks.clear();
         joystick.HoldButtonsBack();
-        screen->Unload();
+        ports.loading->Unload();
     }
     return true;
 }

@@ -3,7 +3,8 @@
 #include <map>
 #include <utility>
 
-#include "forms/window_host.h"
+#include "core/hook.h"
+#include "core/ports.h"
 
 namespace kivu::core {
 struct Form1;
@@ -18,13 +19,18 @@ class Joystick;
 // those games alone in which the profile leaves the controllers on.
 class ExitButton {
  public:
-    ExitButton(core::Form1& form, Joystick& joystick, ButtonActions& actions,
-               const forms::WindowHost& windows)
-        : form(form), joystick(joystick), actions(actions), windows(windows) {}
+    struct Ports {
+        core::Port<core::LoadingScreen> loading{"ExitButton.loading"};
+    };
+
+    ExitButton(core::Form1& form, Joystick& joystick, ButtonActions& actions)
+        : form(form), joystick(joystick), actions(actions) {}
 
     // A game has been started, and the button is to be looked for.
     void WatchExitButton();
     void ExitButtonTimer_Timer();
+
+    Ports ports;
 
  private:
     using Button = std::pair<int, int>;  // device and number
@@ -35,7 +41,6 @@ class ExitButton {
     core::Form1& form;
     Joystick& joystick;
     ButtonActions& actions;
-    const forms::WindowHost& windows;
     std::map<Button, int> ticks;  // on end, of those that are down
 };
 

@@ -42,11 +42,22 @@ void EmulatorSetup::StartEmulator(const std::string& EName, bool ConfirmationMes
         if (answer != platform::Answer::Yes) return;
     }
     form.LoadingBtn.SetCaption("Setup:\r" + EName + "\r->" + file);
+    Start(path, EName);
+}
+
+void EmulatorSetup::StartProgram(const std::string& path, const std::string& what) {
+    if (starting) return;
+    const core::Raised once(starting);
+    Start(path, what);
+}
+
+void EmulatorSetup::Start(const std::string& path, const std::string& what) {
+    const std::string file = text::GetFileNameOnly(path);
     const std::string directory = support::DirectoryOf(services.files, path);
     (void)services.files.ChangeDirectory(
         text::QuoteIfNeeded(support::ShortFileName(services.files, directory)));
     (void)services.files.ChangeDirectory(directory);
-    services.log.Write("set-up of " + EName + ": " + path + "; watched as: " + file);
+    services.log.Write("set-up of " + what + ": " + path + "; watched as: " + file);
     platform::StartRequest request;
     request.command = path;
     request.words = {path};

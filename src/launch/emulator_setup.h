@@ -33,9 +33,13 @@ class EmulatorSetup {
         : form(form), ini(ini), pacer(pacer), services(services), watch(watch) {}
 
     void StartEmulator(const std::string& EName, bool ConfirmationMessagebox);
+    // The same with a program that is there, which is watched from then on. `what`: in the log.
+    // Nothing happens while another one is being started.
+    void StartProgram(const std::string& path, const std::string& what);
 
  private:
     std::string EmulatorOf(const std::string& name) const;
+    void Start(const std::string& path, const std::string& what);
     void SayMissing(const std::string& name, const std::string& path);
 
     core::Form1& form;

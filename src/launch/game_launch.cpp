@@ -4,6 +4,7 @@
 #include "core/form1.h"
 #include "core/raised.h"
 #include "launch/emulator_program.h"
+#include "launch/refused_name.h"
 #include "launch/uae_files.h"
 #include "launch/wait.h"
 #include "library/find_game.h"
@@ -18,6 +19,25 @@
 namespace kivu::launch {
 
 namespace keys = profile::keys;
+
+// What others may know of a launch while it lasts.
+class GameLaunch::Underway {
+ public:
+    Underway(core::LaunchState& state, const std::string& path) : state(state) {
+        state.StartingGame = path;
+        state.StartCanBeGivenUp = true;
+        state.StartGivenUp = false;
+    }
+    ~Underway() {
+        state.StartingGame.clear();
+        state.StartCanBeGivenUp = false;
+    }
+    Underway(const Underway&) = delete;
+    Underway& operator=(const Underway&) = delete;
+
+ private:
+    core::LaunchState& state;
+};
 
 void GameLaunch::LaunchBtn_Click() {
     // A switch or a rescan that is under way goes on with the lists.
@@ -40,6 +60,7 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     run.path = text::RemoveQuotes(GamePath);
     // A name may end in a blank; trimmed, it would be another one.
     if (services.files.FileExists(GamePath)) run.path = GamePath;
+    const Underway underway(form, run.path);
     Prepare(run);
     BuildParameters(run);
     library::FindGameInFullList(form, busy, pacer, run.path);
@@ -53,12 +74,22 @@ void GameLaunch::StartGame(const std::string& GamePath) {
     form.TmpBatName =
         "\"" + text::RemoveQuotes(support::LongFileName(services.files, form.TmpBatName)) + "\"";
     EnterEmulatorDirectory(run);
-    ShowLoadingAndMount(run);
+    if (!form.StartGivenUp && !ShowLoadingAndMount(run)) form.StartGivenUp = true;
+    form.StartCanBeGivenUp = false;
+    if (form.StartGivenUp) return GiveUp(run, notedTitle, focus);
     form.CurrentRunninApplication = WatchedName(run.emulator);
     LogRun(run);
     StartEmulatorProgram(run);
     (void)services.files.ChangeDirectory(form.AppDir);
     FinishStart(notedTitle);
+}
+
+// The user has stopped it: what the last game has left to be watched or ended stays that.
+void GameLaunch::GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus) {
+    services.log.Write("given up: " + run.path);
+    (void)services.files.ChangeDirectory(form.AppDir);
+    busy.MeCaption(notedTitle);
+    ReturnToLists(focus);
 }
 
 // Nothing has been started: the window is as it was, with the focus where it was.
@@ -177,12 +208,9 @@ bool GameLaunch::WriteShellStartFile(Run& run, const std::string& directory) {
     }
     if (!safe) {
         LogRefusal(run);
-        services.dialogs.MessageBox(
-            form.Say("Dieser Name kann einer Batch-Datei nicht sicher übergeben werden:\r",
-                     "This name cannot be given to a batch file safely:\r") +
-                run.path,
-            form.Say("Start nicht möglich", "Start not possible"), platform::Buttons::Ok,
-            platform::Icon::Warning);
+        services.dialogs.MessageBox(RefusedNameText(form, run.path),
+                                    form.Say("Start nicht möglich", "Start not possible"),
+                                    platform::Buttons::Ok, platform::Icon::Warning);
         return false;
     }
     const auto failed = services.files.WriteFile(form.TmpBatName, ShellStartFile(directory, words));
@@ -232,15 +260,16 @@ void GameLaunch::EnterEmulatorDirectory(const Run& run) {
     (void)services.files.ChangeDirectory(directory);
 }
 
-void GameLaunch::ShowLoadingAndMount(const Run& run) {
+bool GameLaunch::ShowLoadingAndMount(const Run& run) {
     form.SplashSeconds = ini.Read(keys::SplashTimer, core::ProfilesOf(form));
     if (form.SplashSeconds > 0) hooks.ShowLoadingInfo();
-    if (ini.Read(keys::AutoMountDeamonTool, core::ProfilesOf(form)) <= 0) return;
+    if (ini.Read(keys::AutoMountDeamonTool, core::ProfilesOf(form)) <= 0) return true;
     const std::string noted = form.LoadingBtn.Caption();
     form.LoadingBtn.SetCaption("Deamon Tools..");
     pacer.DoEvents();
-    hooks.MountGameImage(run.path);
+    const bool goOn = !form.StartGivenUp && routines.helpers.MountGameImage(run.path);
     form.LoadingBtn.SetCaption(noted);
+    return goOn;
 }
 
 // What the start file says, which is all that the host's starter is given.
@@ -303,7 +332,7 @@ void GameLaunch::FinishStart(const std::string& notedTitle) {
         form.LoadingBtn.SetCaption("Gamestart..");
         WAIT(1, services.clock, pacer);
         form.LoadingBtn.SetCaption("Running Startscript.vbs");
-        hooks.RunStartScript();
+        routines.helpers.RunStartScript();
     }
     // In its quotes the path names no file: the start file stays until the next launch, as a look
     // at what was started.

@@ -35,8 +35,6 @@ class GameLaunch : public core::Launching {
         // The picture in its place, over which the signs of the launch show.
         core::Hook<void()> SetVorschau{"GameLaunch.SetVorschau"};
         core::Hook<void()> ShowLoadingInfo{"GameLaunch.ShowLoadingInfo"};
-        core::Hook<void(const std::string&)> MountGameImage{"GameLaunch.MountGameImage"};
-        core::Hook<void()> RunStartScript{"GameLaunch.RunStartScript"};
         core::Hook<void(bool)> JoystickEnable{"GameLaunch.JoystickEnable"};
         core::Hook<void()> WatchExitButton{"GameLaunch.WatchExitButton"};
     };
@@ -55,6 +53,7 @@ class GameLaunch : public core::Launching {
         core::ListFront& front;
         support::AlwaysOnTop& alwaysOnTop;
         UaeFiles& uaeFiles;
+        core::StartHelpers& helpers;
     };
 
     GameLaunch(core::Form1& form, profile::Ini& ini, core::BusyState& busy, core::EventPacer& pacer,
@@ -89,6 +88,8 @@ class GameLaunch : public core::Launching {
         StartParameters parameters;
     };
 
+    class Underway;
+
     void Prepare(Run& run);
     void BuildParameters(Run& run);
     void AppendGame(Run& run);
@@ -101,9 +102,11 @@ class GameLaunch : public core::Launching {
     std::string CompanionName() const;
     void TellOfMissingStartFile(const std::string& path);
     void EnterEmulatorDirectory(const Run& run);
-    void ShowLoadingAndMount(const Run& run);
+    // False: the user has given the launch up meanwhile.
+    bool ShowLoadingAndMount(const Run& run);
     void StartEmulatorProgram(Run& run);
     void FinishStart(const std::string& notedTitle);
+    void GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus);
     void ReturnToLists(forms::Control* focus);
 
     core::Form1& form;

@@ -50,6 +50,9 @@ class ProgramStarter {
     // A program by its bare name, where the system's search path finds it; empty where it does not.
     virtual std::string FindInPath(const std::string&) const { return {}; }
 
+    // False: the file, which is there, may not be run by the user, and Run would fail.
+    virtual bool MayRun(const std::string&) const { return true; }
+
     // A directory in which FindInPath looks, whatever its spelling.
     virtual bool SearchesIn(const std::string&) const { return false; }
 

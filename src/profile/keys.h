@@ -86,7 +86,6 @@ struct PresentText : Entry {
         : Entry(key, {}, owner, writeBack) {}
 };
 
-inline constexpr std::string_view settingsWindow = "to come: the settings window";
 inline constexpr std::string_view settingsStore = "settings/settings_store";
 
 // --- The program's profile.
@@ -112,7 +111,7 @@ inline constexpr Number UseJoystickExitbuttonInLaunch{UseJoystickExitbutton, "1"
 inline constexpr Number Fontsize{program, "Fontsize", "16", "core/settings_loader"};
 inline constexpr Text DeamonToolPath{program, "DeamonToolPath", "", settingsStore};
 // An emulator's own, where the program's has none.
-inline constexpr Text DeamonToolPathOfEmulator{emulator, DeamonToolPath, "to come: image mounting"};
+inline constexpr Text DeamonToolPathOfEmulator{emulator, DeamonToolPath, "launch/start_helpers"};
 // The device's button for each action.
 inline constexpr std::array<Number, 12> Buttons{{
     {program, "Button1", "0", "core/settings_loader"},
@@ -179,8 +178,8 @@ inline constexpr Number RunVBS_Script{emulator, "RunVBS_Script", "0", "launch/ga
 inline constexpr Text BackColor{skin, "BackColor", "#0052bc", "ui/window_colors"};
 inline constexpr Text FontColor{skin, "FontColor", "#FFFFFF", "ui/window_colors"};
 // Not stored: a colour that is only tried must not become the skin's.
-inline constexpr PresentText BackColorInSettings{BackColor, settingsWindow, WriteBack::off};
-inline constexpr PresentText FontColorInSettings{FontColor, settingsWindow, WriteBack::off};
+inline constexpr PresentText BackColorInSettings{BackColor, "settings/looks_group", WriteBack::off};
+inline constexpr PresentText FontColorInSettings{FontColor, "settings/looks_group", WriteBack::off};
 inline constexpr Text TitleString{skin, "TitleString", "Kivu 1.4b", "core/emulator_switch"};
 // Only users write it.
 inline constexpr Text DownloadURL{skin, "DownloadURL", "", "core/emulator_switch"};

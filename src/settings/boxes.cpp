@@ -69,6 +69,13 @@ Box MasterQuestion(const std::string& path, const core::ProgramState& program) {
             Icon::Question};
 }
 
+Box NotEditedBox(const std::string& path, const core::ProgramState& program) {
+    return {program.Say("Diese Datei konnte in keinem Editor geöffnet werden:",
+                        "No editor could be started for this file:") +
+                ("\r\r" + path),
+            "Editor", Buttons::Ok, Icon::Warning};
+}
+
 Box NotSavedBox(const std::string& path, const core::ProgramState& program) {
     return {program.Say("Diese Datei konnte nicht geschrieben werden:",
                         "This file could not be written:") +

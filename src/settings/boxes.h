@@ -24,6 +24,8 @@ Box ImportCancelledBox();
 
 // Another program has written the master while the user changed its text; Yes overwrites it.
 Box MasterQuestion(const std::string& path, const core::ProgramState& program);
+// A file for the user's editor, which did not come up.
+Box NotEditedBox(const std::string& path, const core::ProgramState& program);
 Box NotSavedBox(const std::string& path, const core::ProgramState& program);
 
 }  // namespace kivu::settings

@@ -81,13 +81,16 @@ std::string MasterText::Shown(std::string_view bytes) {
 std::string MasterText::Load(const std::string& name) {
     path = name;
     emptied = false;
+    made = false;
     read = Read(path);
     shown = Shown(read.bytes.value_or(""));
     return shown;
 }
 
 void MasterText::FileMade() {
-    if (!read.exists) read = Read(path);
+    if (read.exists) return;
+    read = Read(path);
+    made = true;
 }
 
 std::optional<std::string> MasterText::Import(const std::string& name) {
@@ -102,6 +105,7 @@ MasterText::Step MasterText::StepFor(std::string_view boxText) const {
     const bool touched = boxText != shown;
     const File now = Read(path);
     if (now != read) return touched ? Step::ask : Step::reload;
+    if (made && !touched) return Step::reload;
     if (now.bytes) return Step::write;
     // Of a file that cannot be shown the box says nothing, and a missing one is made by its
     // default.
@@ -131,6 +135,7 @@ std::error_code MasterText::Write(std::string_view boxText) {
     read = {true, std::move(bytes)};
     shown = boxText;
     emptied = false;
+    made = false;
     return {};
 }
 

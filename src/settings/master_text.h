@@ -35,7 +35,8 @@ class MasterText {
 
     // Where the file is, once an emulator uses it after the window has been opened without one.
     void SetPath(const std::string& name) { path = name; }
-    // The launcher has made the missing file: no change by another program.
+    // The launcher has made the missing file: no change by another program, and nothing that the
+    // box has said anything about.
     void FileMade();
 
     // What the box shows of a configuration that is taken over. Empty optional: it cannot be read,
@@ -48,7 +49,7 @@ class MasterText {
     enum class Step {
         write,   // the box into the file
         leave,   // nothing is to be saved
-        reload,  // another program has written the file, and the user has not touched the box
+        reload,  // the file is not the one that was read, and the user has not touched the box
         ask,     // both have: the box, or the file
     };
     // What a save has to do; looks at the file anew.
@@ -74,6 +75,7 @@ class MasterText {
     File read;
     std::string shown;
     bool emptied = false;
+    bool made = false;
     // By the line as it is shown: the bytes of each such line, in their order.
     std::map<std::string, std::vector<std::string>, std::less<>> lineBytes;
 };

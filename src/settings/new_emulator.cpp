@@ -103,14 +103,17 @@ std::optional<NameFault> FaultOfName(const platform::FileSystem& files,
     return std::nullopt;
 }
 
+std::string NewEmulatorTitle(const core::ProgramState& program) {
+    return program.Say("Neuer Emulator", "New emulator");
+}
+
 std::string NewEmulatorPrompt(const core::ProgramState& program) {
     return program.Say("Name des neuen Emulators:", "Name of the new emulator:");
 }
 
 Box FaultBox(NameFault fault, const std::string& name, const core::ProgramState& program) {
-    return {Shortened(name) + "\r\r" + Reason(fault, program),
-            program.Say("Neuer Emulator", "New emulator"), platform::Buttons::Ok,
-            platform::Icon::Warning};
+    return {Shortened(name) + "\r\r" + Reason(fault, program), NewEmulatorTitle(program),
+            platform::Buttons::Ok, platform::Icon::Warning};
 }
 
 std::error_code MakeEmulator(platform::FileSystem& files, const std::string& configPath,
@@ -123,8 +126,7 @@ Box NotMadeBox(const std::string& path, const std::error_code& error,
     return {program.Say("Dieses Verzeichnis konnte nicht angelegt werden:",
                         "This directory could not be made:") +
                 ("\r\r" + path) + "\r\r" + error.message(),
-            program.Say("Neuer Emulator", "New emulator"), platform::Buttons::Ok,
-            platform::Icon::Error};
+            NewEmulatorTitle(program), platform::Buttons::Ok, platform::Icon::Error};
 }
 
 }  // namespace kivu::settings

@@ -33,7 +33,8 @@ std::string EmulatorName(std::string_view typed);
 std::optional<NameFault> FaultOfName(const platform::FileSystem& files,
                                      const std::string& configPath, const std::string& name);
 
-// The prompt of the input box.
+// The input box, and the title of all others.
+std::string NewEmulatorTitle(const core::ProgramState& program);
 std::string NewEmulatorPrompt(const core::ProgramState& program);
 // The reason, before the name is asked for again.
 Box FaultBox(NameFault fault, const std::string& name, const core::ProgramState& program);

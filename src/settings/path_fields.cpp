@@ -33,12 +33,6 @@ std::string WithSingleSeparators(std::string path) {
     return drive ? text::replaceall(path, "\\\\", "\\") : path;
 }
 
-// The file that the text would mean once it is stored and read again.
-std::string Meant(const core::ProgramFiles& program, const std::string& text) {
-    const bool absolute = IsPosix(program) && text.starts_with('/');
-    return absolute ? text : text::StoredPath(program.BaseDirectory(), text);
-}
-
 }  // namespace
 
 std::string ShownRomPath(const core::ProgramFiles& program, const platform::FileSystem& files,
@@ -85,16 +79,28 @@ bool IsTestedOnLeaving(std::string_view text) {
     return text.starts_with("\\\\");
 }
 
+// As if it were stored and read again.
+std::string MeantPath(const core::ProgramFiles& program, const std::string& text) {
+    const bool absolute = IsPosix(program) && text.starts_with('/');
+    return absolute ? text : text::StoredPath(program.BaseDirectory(), text);
+}
+
 bool NamesFile(const core::ProgramFiles& program, const platform::FileSystem& files,
                const std::string& text) {
-    return !text.empty() && files.FileExists(Meant(program, text));
+    return !text.empty() && files.FileExists(MeantPath(program, text));
+}
+
+std::string ProgramFile(const core::ProgramFiles& program, const platform::FileSystem& files,
+                        const std::function<std::string(const std::string&)>& findInPath,
+                        const std::string& text) {
+    if (NamesFile(program, files, text)) return MeantPath(program, text);
+    return IsPosix(program) && IsBareName(text) ? findInPath(text) : std::string();
 }
 
 bool NamesProgram(const core::ProgramFiles& program, const platform::FileSystem& files,
                   const std::function<std::string(const std::string&)>& findInPath,
                   const std::string& text) {
-    if (NamesFile(program, files, text)) return true;
-    return IsPosix(program) && IsBareName(text) && !findInPath(text).empty();
+    return !ProgramFile(program, files, findInPath, text).empty();
 }
 
 }  // namespace kivu::settings

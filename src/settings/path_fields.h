@@ -39,12 +39,16 @@ std::string TypedPath(std::string_view text, std::string_view homeDirectory);
 // A share's server may let a question wait, so that it is not asked at each key.
 bool IsTestedOnLeaving(std::string_view text);
 
-// Whether a field names a file. A relative text means one below the program's directory; "*" and
-// "?" stand for themselves.
+// Where a field's text leads. A relative one means something below the program's directory.
+std::string MeantPath(const core::ProgramFiles& program, const std::string& text);
+// Whether a field names a file; "*" and "?" stand for themselves.
 bool NamesFile(const core::ProgramFiles& program, const platform::FileSystem& files,
                const std::string& text);
-// The same for a program, which a POSIX host may find by its bare name. `findInPath` gives an empty
-// text where it does not.
+// The file that a field names as a program, which a POSIX host may find by its bare name; empty:
+// there is none. `findInPath` gives an empty text where it finds nothing.
+std::string ProgramFile(const core::ProgramFiles& program, const platform::FileSystem& files,
+                        const std::function<std::string(const std::string&)>& findInPath,
+                        const std::string& text);
 bool NamesProgram(const core::ProgramFiles& program, const platform::FileSystem& files,
                   const std::function<std::string(const std::string&)>& findInPath,
                   const std::string& text);

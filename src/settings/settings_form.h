@@ -19,11 +19,17 @@ struct SettingsForm : forms::Form {
     enum Fault { faultyEmulator, faultyRomPath, faultyKickstart, faultyDeamon };
 
     forms::PictureBox BackgroundFrame{this, "BackgroundFrame"};
+    // Around what belongs together.
+    forms::Frame EmulatorGroup{this, "EmulatorGroup"};
+    forms::Frame StartGroup{this, "StartGroup"};
+    forms::Frame ProgramGroup{this, "ProgramGroup"};
     forms::Label TitleLabel{this, "TitleLabel"};
     forms::Frame AlwaysOnTop1{this, "AlwaysOnTop1"};
     forms::Image AOT_Enabled{&AlwaysOnTop1, "AOT_Enabled"};
     forms::Image AOT_Disabled{&AlwaysOnTop1, "AOT_Disabled"};
     forms::Image AOT_MouseMove{&AlwaysOnTop1, "AOT_MouseMove"};
+
+    // What follows stands in the order of the Tab key, each panel behind the button that opens it.
 
     // The emulator and its games.
     forms::Label EmuNameLabel{this, "EmuNameLabel"};
@@ -34,50 +40,9 @@ struct SettingsForm : forms::Form {
     forms::CommandButton LaunchButton{this, "LaunchButton"};
     forms::Label KnownEmuLabel{this, "KnownEmuLabel"};
     forms::ComboBox KnownEmuCombo{this, "KnownEmuCombo"};
-    forms::CommandButton WinUAEBtn{this, "WinUAEBtn"};
     forms::Label EmuDownload{this, "EmuDownload"};
-    forms::Label Label2{this, "Label2"};
-    forms::TextBox TxtRomPath{this, "TxtRomPath"};
-    forms::CommandButton BrowseDir{this, "BrowseDir"};
-    forms::CommandButton LoadBtn{this, "LoadBtn"};
-    forms::CommandButton ReloadAllBtn{this, "ReloadAllBtn"};
-    forms::Label ErwLabel{this, "ErwLabel"};
-    forms::TextBox DirBefehleTxt{this, "DirBefehleTxt"};
+    forms::CommandButton WinUAEBtn{this, "WinUAEBtn"};
 
-    // How a game is started. The two frames lie side by side, each with its first box at the same
-    // place inside.
-    forms::Label Label3{this, "Label3"};
-    forms::TextBox UAELaunchParaneter{this, "UAELaunchParaneter"};
-    forms::Frame ParameterFrame{this, "ParameterFrame"};
-    forms::CheckBox UAELaunchParameterAddPath{&ParameterFrame, "UAELaunchParameterAddPath"};
-    forms::CheckBox UseAnfz{&ParameterFrame, "UseAnfz"};
-    forms::CheckBox ParameterWithoutPath{&ParameterFrame, "ParameterWithoutPath"};
-    forms::Frame ScriptFrame{this, "ScriptFrame"};
-    forms::CheckBox DeMulAutostart{&ScriptFrame, "DeMulAutostart"};
-    forms::CommandButton OpenVBS{&ScriptFrame, "OpenVBS"};
-    forms::CheckBox AutoMoundDeamonTools{this, "AutoMoundDeamonTools"};
-    forms::CommandButton DeamonButton{this, "DeamonButton"};
-    forms::Label Label11{this, "Label11"};
-    forms::TextBox SecondsTimerTxt{this, "SecondsTimerTxt"};
-
-    // Of the program.
-    forms::CheckBox Joystickcheck{this, "Joystickcheck"};
-    forms::CommandButton SetJOyBtn{this, "SetJOyBtn"};
-    forms::Label KillButtonLabel{this, "KillButtonLabel"};
-    forms::ComboBox KillButtonKombo{this, "KillButtonKombo"};
-    forms::CheckBox ResetScreenRes{this, "ResetScreenRes"};
-    forms::ComboBox FontSizeCombo{this, "FontSizeCombo"};
-    forms::CommandButton Command5{this, "Command5"};
-    forms::CheckBox FensterRahmChk{this, "FensterRahmChk"};
-    forms::CommandButton IniBtn{this, "IniBtn"};
-    forms::Label FavoritenReparierenLabel{this, "FavoritenReparierenLabel"};
-    forms::Label Label7{this, "Label7"};
-    forms::Label Label5{this, "Label5"};
-    forms::CommandButton DonateBtn{this, "DonateBtn"};
-    forms::CommandButton SaveBtn{this, "SaveBtn"};
-    forms::CommandButton ExitBtn{this, "ExitBtn"};
-
-    // Panels that lie over the rest while they are open.
     forms::Frame UAEFrame{this, "UAEFrame"};
     forms::CheckBox UseMasterConfig{&UAEFrame, "UseMasterConfig"};
     forms::TextBox TxtMasterConfig{&UAEFrame, "TxtMasterConfig"};
@@ -92,6 +57,28 @@ struct SettingsForm : forms::Form {
     forms::CommandButton BrowseKickromBtn{&UAEFrame, "BrowseKickromBtn"};
     forms::Image RemovePicEnabled{&UAEFrame, "RemovePicEnabled"};
 
+    forms::Label Label2{this, "Label2"};
+    forms::TextBox TxtRomPath{this, "TxtRomPath"};
+    forms::CommandButton BrowseDir{this, "BrowseDir"};
+    forms::CommandButton LoadBtn{this, "LoadBtn"};
+    forms::Label ErwLabel{this, "ErwLabel"};
+    forms::TextBox DirBefehleTxt{this, "DirBefehleTxt"};
+    forms::CommandButton ReloadAllBtn{this, "ReloadAllBtn"};
+
+    // How a game is started. The two frames lie side by side, each with its first box at the same
+    // place inside.
+    forms::Label Label3{this, "Label3"};
+    forms::TextBox UAELaunchParaneter{this, "UAELaunchParaneter"};
+    forms::Frame ParameterFrame{this, "ParameterFrame"};
+    forms::CheckBox UAELaunchParameterAddPath{&ParameterFrame, "UAELaunchParameterAddPath"};
+    forms::CheckBox UseAnfz{&ParameterFrame, "UseAnfz"};
+    forms::CheckBox ParameterWithoutPath{&ParameterFrame, "ParameterWithoutPath"};
+    forms::Frame ScriptFrame{this, "ScriptFrame"};
+    forms::CheckBox DeMulAutostart{&ScriptFrame, "DeMulAutostart"};
+    forms::CommandButton OpenVBS{&ScriptFrame, "OpenVBS"};
+    forms::CheckBox AutoMoundDeamonTools{this, "AutoMoundDeamonTools"};
+    forms::CommandButton DeamonButton{this, "DeamonButton"};
+
     forms::Frame DeamonFrame{this, "DeamonFrame"};
     forms::Label Label14{&DeamonFrame, "Label14"};
     forms::TextBox DeamonPath{&DeamonFrame, "DeamonPath"};
@@ -99,11 +86,33 @@ struct SettingsForm : forms::Form {
     forms::Label DeamonToolsIinfo{&DeamonFrame, "DeamonToolsIinfo"};
     forms::Image Picture2{&DeamonFrame, "Picture2"};
 
+    forms::Label Label11{this, "Label11"};
+    forms::TextBox SecondsTimerTxt{this, "SecondsTimerTxt"};
+
+    // Of the program.
+    forms::CheckBox Joystickcheck{this, "Joystickcheck"};
+    forms::Label KillButtonLabel{this, "KillButtonLabel"};
+    forms::ComboBox KillButtonKombo{this, "KillButtonKombo"};
+    forms::CommandButton SetJOyBtn{this, "SetJOyBtn"};
+    forms::CheckBox ResetScreenRes{this, "ResetScreenRes"};
+    forms::Label ResetScreenHint{this, "ResetScreenHint"};
+    forms::ComboBox FontSizeCombo{this, "FontSizeCombo"};
+    forms::CommandButton Command5{this, "Command5"};
+
     forms::Frame DarstellungFrame{this, "DarstellungFrame"};
     forms::Label Label9{&DarstellungFrame, "Label9"};
     ui::ColorSelectControls ColorSelect1{&DarstellungFrame};
     forms::Label Label12{&DarstellungFrame, "Label12"};
     forms::Image Picture1{&DarstellungFrame, "Picture1"};
+
+    forms::CheckBox FensterRahmChk{this, "FensterRahmChk"};
+    forms::Label FavoritenReparierenLabel{this, "FavoritenReparierenLabel"};
+    forms::CommandButton IniBtn{this, "IniBtn"};
+    forms::Label Label7{this, "Label7"};
+    forms::Label Label5{this, "Label5"};
+    forms::CommandButton DonateBtn{this, "DonateBtn"};
+    forms::CommandButton SaveBtn{this, "SaveBtn"};
+    forms::CommandButton ExitBtn{this, "ExitBtn"};
 
     // Beside the fields, by Fault.
     std::array<forms::Image, 4> FehlerIcon{{{this, "FehlerIcon", faultyEmulator},
@@ -126,6 +135,33 @@ struct SettingsForm : forms::Form {
     }
     // Before it is shown: True hides what belongs to an emulator, and brings what is left together.
     void ShowMainSettingsOnly(bool showIt);
+    // Opens the panel in front of the others, or closes it.
+    void TogglePanel(forms::Frame& panel);
+
+    // Where the panels stand, the window's picture, and the start script's box: in the scale of the
+    // look that the window has taken, before or after.
+    void PlacePanels();
+    void PlaceBackground();
+    void PlaceScriptBox();
+
+ private:
+    void Design();
+    void DesignState();
+    void DesignPictures();
+    void NameInGerman();
+    void NameInEnglish();
+    void GiveHints();
+
+    // Pixels of the design.
+    void Place(forms::Control& control, int left, int top, int width, int height) const;
+    void PlaceAll();
+    void PlaceEmulator();
+    void PlaceStart();
+    void PlaceProgram();
+    void PlaceWinUAEPanel();
+    void PlaceDeamonPanel();
+    void PlaceColorPanel();
+    void PlaceMainSettings();
 };
 
 }  // namespace kivu::settings

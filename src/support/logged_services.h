@@ -26,6 +26,7 @@ class LoggedStarter : public platform::ProgramStarter {
     std::string FindInPath(const std::string& program) const override {
         return starter.FindInPath(program);
     }
+    bool MayRun(const std::string& program) const override { return starter.MayRun(program); }
     bool SearchesIn(const std::string& directory) const override {
         return starter.SearchesIn(directory);
     }

@@ -5,6 +5,7 @@
 #include "support/log_reason.h"
 #include "support/sha256.h"
 #include "support/web_address.h"
+#include "support/writable.h"
 #include "text/paths.h"
 #include "text/text.h"
 
@@ -47,7 +48,7 @@ bool SelfUpdate::UpdateProgram(const std::string& directory, const std::string& 
         return false;
     }
     const std::string inside = text::AddPathSeparator(directory);
-    if (!CanWriteIn(inside)) {
+    if (!CanWriteIn(services.files, inside)) {
         Tell("In das Verzeichnis des Programms kann nicht geschrieben werden.",
              "The program's directory cannot be written to.");
         return false;
@@ -107,21 +108,6 @@ bool SelfUpdate::Fetch(const std::string& url, const std::string& updater,
     services.log.Write("not the updater, and deleted: " + url);
     if (const auto failure = services.files.DeleteFile(updater))
         services.log.Write("not deleted, " + LogReason(failure) + ": " + updater);
-    return false;
-}
-
-// By a file of a name that nobody has there, which goes again.
-bool SelfUpdate::CanWriteIn(const std::string& directory) {
-    constexpr int mostNames = 100;
-    for (int number = 0; number < mostNames; ++number) {
-        const std::string probe = directory + "Update" + std::to_string(number) + ".tmp";
-        if (services.files.FileExists(probe) || services.files.IsDirectory(probe) ||
-            services.files.IsLink(probe))
-            continue;
-        if (services.files.WriteFile(probe, "-")) return false;
-        (void)services.files.DeleteFile(probe);
-        return true;
-    }
     return false;
 }
 

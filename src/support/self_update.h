@@ -53,7 +53,6 @@ class SelfUpdate {
  private:
     void Tell(const char* german, const char* english);
     bool TellFailedDownload(const std::string& url);
-    bool CanWriteIn(const std::string& directory);
     bool IsGood(const std::string& updater) const;
     bool Fetch(const std::string& url, const std::string& updater,
                const platform::Downloader::GoOn& goOn);

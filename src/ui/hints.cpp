@@ -2,13 +2,14 @@
 
 #include "core/form1.h"
 #include "library/list_search.h"
+#include "support/writable.h"
 #include "text/text.h"
 
 namespace kivu::ui {
 
 void Hints::Refresh() {
-    const std::string none = form.CurrentEmuIndex < 0 ? NoEmulator() : "";
-    form.EmulatorLongListbox.SetHint(NoEmulator());
+    const std::string none = form.CurrentEmuIndex < 0 ? FirstStep() : "";
+    form.EmulatorLongListbox.SetHint(FirstStep());
     const std::string games = none.empty() ? NoGames() : none;
     form.WIthoutDoubles.SetHint(games);
     form.UAE_Short.SetHint(games);
@@ -30,19 +31,45 @@ void Hints::Refresh() {
 }
 
 void Hints::ShowFirstSteps() {
-    if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible())
-        form.LoadingBtn.SetHint(NoEmulator());
+    if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
+    storesNothing = !support::CanWriteIn(files, form.ConfigPath);
+    Refresh();
+    form.LoadingBtn.SetHint(FirstStep());
+}
+
+// Where nothing can be stored, there is no sense in making an emulator.
+std::string Hints::FirstStep() const {
+    if (!storesNothing) return NoEmulator();
+    return form.EmuListbox.ListCount() > 0 ? NoEmulator() + "\r\r" + NotStored() : NotStored();
+}
+
+std::string Hints::NotStored() const {
+    return form.Say("In das Verzeichnis\r", "The directory\r") + form.ConfigPath +
+           form.Say(
+               "\rkann nicht geschrieben werden: nichts wird gespeichert.\r"
+               "\"Kivu --data VERZEICHNIS\" nimmt ein anderes.",
+               "\rcannot be written to: nothing will be stored.\r"
+               "\"Kivu --data DIRECTORY\" takes another one.");
 }
 
 std::string Hints::NoEmulator() const {
     if (form.EmuListbox.ListCount() > 0)
         return form.Say("Wähle oben links einen Emulator.", "Choose an emulator at the top left.");
-    return form.Say("Noch kein Emulator.\rLege in\r", "No emulator yet.\rIn\r") + form.ConfigPath +
-           form.Say("\rfür jeden ein Verzeichnis mit seinem Namen an\rund starte das Programm neu.",
-                    "\rmake a directory with the name of each\rand start the program anew.");
+    return form.Say("Noch kein Emulator.\rDrücke unten rechts auf \"",
+                    "No emulator yet.\rPress \"") +
+           form.SettingsBtn.Caption() +
+           form.Say("\"\rund dort auf \"Neuer Emulator..\".",
+                    "\" at the bottom right\rand there \"New emulator..\".");
 }
 
 std::string Hints::NoGames() const {
+    // Nobody has said yet where they are.
+    if (form.TxtRomPath.Text() == form.AppDir) {
+        return form.Say("Noch keine Spiele.\r\"", "No games yet.\r\"") +
+               form.SettingsBtn.Caption() +
+               form.Say("\" fragt nach dem Emulator\rund dem Verzeichnis der Spiele.",
+                        "\" asks for the emulator\rand the directory of the games.");
+    }
     return form.Say("Keine Spiele in der Liste. Gesucht wird in\r",
                     "No games in the list. They are looked for in\r") +
            form.TxtRomPath.Text() +

@@ -94,7 +94,7 @@ void Layout::PlaceFrameRows() {
     const int buttons = narrow ? 1050 : 1200;
     const int right = frameWidth - buttons - columnRight;
     for (forms::CommandButton* button : {&form.LoadBtn, &form.SettingsBtn, &form.SettingsShortBtn,
-                                         &form.SearchAllBtn, &form.ExitBtn})
+                                         &form.DonateBtn, &form.SearchAllBtn, &form.ExitBtn})
         button->SetFontSize(narrow ? 8 : 10);
     form.SettingsBtn.Move(right, highest, buttons, rowHeight);
     form.SettingsShortBtn.Move(right, highest, buttons, rowHeight);
@@ -109,8 +109,12 @@ void Layout::PlaceFrameRows() {
     form.SearchAllBtn.Move(form.SearchDblsTxt.Left() - all - gap, middle, all, rowHeight);
     form.SuchErg.Move(leftEnd + (besides - magnifier) / 2, middle + (rowHeight - magnifier) / 2,
                       magnifier, magnifier);
-    form.LoadBtn.Move(columnLeft, highest, within(columnLeft, narrow ? right - 90 : leftEnd),
-                      rowHeight);
+    // The donations only where the rescan's words have room beside them.
+    const int donate = right - 90 - buttons, leastRescan = 1800;
+    const bool donations = form.DonateBtn.Visible() && donate - 90 - columnLeft >= leastRescan;
+    form.DonateBtn.Move(donate, donations ? highest : height, buttons, rowHeight);
+    const int rescanEnd = donations ? donate - 90 : narrow ? right - 90 : leftEnd;
+    form.LoadBtn.Move(columnLeft, highest, within(columnLeft, rescanEnd), rowHeight);
     form.AlwaysOnTop1.Move(frameWidth - form.AlwaysOnTop1.Width() - 150, lowest,
                            form.AlwaysOnTop1.Width(), form.AlwaysOnTop1.Height());
     form.JoystickIcon.Move(form.AlwaysOnTop1.Left() - form.JoystickIcon.Width() - 200, lowest,

@@ -90,7 +90,7 @@ bool Layout::DrivesCoverOthers() const {
     }
     const forms::Frame& frame = form.SettingsFrame;
     for (const forms::Control* inner : frame.Children()) {
-        if (inner == &form.DonateBtn) continue;
+        if (inner == &form.DonateBtn && !form.DonateBtn.Visible()) continue;
         const int left = frame.Left() + inner->Left(), top = frame.Top() + inner->Top();
         if (Overlap(left, top, left + inner->Width(), top + inner->Height(), panel)) return true;
     }

@@ -98,7 +98,6 @@ std::string PreviewPictures::Find(const Sources& sources, const std::string& nam
     return {};
 }
 
-// By its file's name, then by its title, then the picture that all the emulator's games have.
 std::string PreviewPictures::FindForGame(const std::string& entry) const {
     const Sources sources = SourcesAt(AllPlaces(), files);
     const std::string file = text::GetFileNameOnly(text::WithoutQuotes(entry));
@@ -112,6 +111,10 @@ std::string PreviewPictures::FindForGame(const std::string& entry) const {
         if (!path.empty() && files.FileExists(path)) return path;
     }
     return {};
+}
+
+bool PreviewPictures::IsAbout(const std::string& path) const {
+    return !coming && shownGame && text::WithoutQuotes(*shownGame) == path;
 }
 
 // So that the user finds where pictures go. Beside the emulators it would be one of them.

@@ -46,6 +46,11 @@ class PreviewPictures {
     // The path of the first picture whose name begins with this name, less an ending of three
     // characters; empty where there is none.
     std::string FindPreviewPicture(const std::string& name) const;
+    // The picture of a game by the path of its file, as it is shown for a row of the lists: by its
+    // file's name, then by its title, then the one that all the emulator's games have.
+    std::string FindForGame(const std::string& entry) const;
+    // What is on view, or that nothing is, was settled for this game.
+    bool IsAbout(const std::string& path) const;
     // By rows of the game lists and of EmuListbox. Out of range there is no picture.
     void ShowGamePreview(int index);
     void ShowEmulatorPreview(int index);
@@ -95,7 +100,6 @@ class PreviewPictures {
     static Sources SourcesAt(const Places& places, const platform::FileSystem& files);
     std::string Find(const Sources& sources, const std::string& name,
                      std::string_view preferredStem) const;
-    std::string FindForGame(const std::string& entry) const;
     void MakePicturesDirectory();
     void EndZoom();
     void HideForNext();

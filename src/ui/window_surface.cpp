@@ -34,9 +34,4 @@ void WindowSurface::NormalMaxCapt_Click() {
     form.SetState(maximized ? forms::WindowState::normal : forms::WindowState::maximized);
 }
 
-void WindowSurface::TitleStr_Click() {
-    // Whether it opens shows on the screen.
-    if (!projectPage.empty()) (void)services.starter.Open(projectPage);
-}
-
 }  // namespace kivu::ui

@@ -93,16 +93,23 @@ void FormSurface::CutCorners() {
     }
 }
 
+// Each row has one colour, which is worked out in a picture of one column.
 QImage FormSurface::Gradient(QSize pixels) const {
-    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    QImage column(1, pixels.height(), QImage::Format_ARGB32_Premultiplied);
     const QColor back = ToQt(form.BackColor());
     QLinearGradient gradient(0, 0, 0, pixels.height());
     gradient.setColorAt(0, Mix(back, Qt::white, 0.07));
     gradient.setColorAt(0.25, back);
     gradient.setColorAt(1, Mix(back, Qt::black, 0.42));
-    QPainter painter(&image);
+    QPainter painter(&column);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
-    painter.fillRect(image.rect(), gradient);
+    painter.fillRect(column.rect(), gradient);
+    painter.end();
+    QImage image(pixels, QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < image.height(); ++y) {
+        const QRgb color = *reinterpret_cast<const QRgb*>(column.constScanLine(y));
+        std::fill_n(reinterpret_cast<QRgb*>(image.scanLine(y)), image.width(), color);
+    }
     return image;
 }
 

@@ -42,12 +42,15 @@ class LabelWidget : public QWidget {
         const QColor window = ToQt(label.ParentForm()->BackColor());
         const bool tab = label.onClick && !label.IsLink();
         const bool marked = tab && (label.IsOpaque() || back != window);
+        // A label over a whole area is no tab, and would light it up.
+        const bool oneLine =
+            rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
         QColor text = ToQt(label.ForeColor());
-        if (marked) {
+        if (marked && oneLine) {
             FillRounded(painter, rect(), cornerRadius, back);
             FillRounded(painter, QRectF(8, height() - 3, width() - 16, 3), 1.5, AccentOn(back));
             text = Readable(text, back);
-        } else if (label.IsOpaque()) {
+        } else if (label.IsOpaque() || marked) {
             FillRounded(painter, rect(), cornerRadius, back);
             text = Readable(text, back);
         } else {
@@ -55,9 +58,6 @@ class LabelWidget : public QWidget {
             constexpr double swallowed = 1.5;
             text = Readable(text, window, swallowed);
         }
-        // A label over a whole area would light it up.
-        const bool oneLine =
-            rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
         if (tab && !marked && oneLine && underMouse() && isEnabled()) {
             FillRounded(painter, rect(), cornerRadius, InkOn(window, 34));
         }

@@ -16,6 +16,11 @@ namespace {
 
 constexpr int smoothAfter = 100;  // ms since the last new size
 
+bool IsRaised(const forms::Control& control) {
+    const auto* frame = dynamic_cast<const forms::Frame*>(&control);
+    return frame && frame->IsRaised();
+}
+
 bool IsDraggable(const forms::Control& control) {
     return control.onMouseDown && !control.Tag().empty();
 }
@@ -45,7 +50,7 @@ class PanelWidget : public QWidget {
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         const bool image = control.GetKind() == forms::Kind::image;
-        if (IsDraggable(control)) DrawPlate(painter);
+        if (IsDraggable(control) || IsRaised(control)) DrawPlate(painter);
         const QColor back = ToQt(control.BackColor());
         if (!image && control.BackColor() != control.ParentForm()->BackColor()) {
             painter.fillRect(rect(), back);
@@ -98,15 +103,15 @@ class PanelWidget : public QWidget {
         return line;
     }
 
-    // What can be dragged about stands out, with a grip at its edge. It may lie over a list, whose
-    // rows must not show through.
+    // What lies over others stands out, and what can be dragged about has a grip at its edge. It
+    // may lie over a list, whose rows must not show through.
     void DrawPlate(QPainter& painter) {
         const QColor ink = ToQt(control.ForeColor());
         const QColor plate = Mix(ToQt(control.BackColor()).darker(135), ink, 0.05);
         QColor dots = ink;
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
         FillRounded(painter, QRectF(rect()), cornerRadius, plate, PlateLine());
-        if (control.GetPicture() != forms::Picture()) return;
+        if (!IsDraggable(control) || control.GetPicture() != forms::Picture()) return;
         constexpr int step = 5;  // pixels
         const int rows = qBound(1, (height() - 6) / step, 4);
         const int top = (height() - (rows - 1) * step) / 2;

@@ -50,6 +50,12 @@ forms::Size ScreenWindows::Room(const forms::Form* over) const {
     return {ToTwips(room.width()), ToTwips(room.height())};
 }
 
+forms::Point ScreenWindows::RoomCorner(const forms::Form* over) const {
+    const QScreen* screen = ScreenOf(over);
+    const QPoint corner = screen ? screen->availableGeometry().topLeft() : QPoint();
+    return {ToTwips(corner.x()), ToTwips(corner.y())};
+}
+
 // Boxes count, and whatever else of the program's takes the keyboard.
 forms::WindowHost::Activity ScreenWindows::ActiveWindow() const {
     if (QGuiApplication::focusWindow()) return Activity::ours;

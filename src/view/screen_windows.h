@@ -30,6 +30,7 @@ class ScreenWindows : public QObject, public forms::WindowHost {
     FormView* ViewOf(const forms::Form& form) const;
 
     forms::Size Room(const forms::Form* over) const override;
+    forms::Point RoomCorner(const forms::Form* over) const override;
     Activity ActiveWindow() const override;
 
     bool event(QEvent* event) override;

@@ -156,6 +156,11 @@ void WindowSync::ApplyFrame() {
         window.setWindowFlags(Flags());
         return;
     }
+    // Whether a manager cares for a window is settled when it comes onto the screen.
+    const bool unmanaged = Flags().testFlag(Qt::BypassWindowManagerHint);
+    const bool again =
+        window.isVisible() && native->flags().testFlag(Qt::BypassWindowManagerHint) != unmanaged;
+    if (again) window.hide();
     // The widget's own setter would hide the window to change them.
     for (const Qt::WindowType flag :
          {Qt::FramelessWindowHint, Qt::WindowStaysOnTopHint, Qt::BypassWindowManagerHint}) {
@@ -164,6 +169,7 @@ void WindowSync::ApplyFrame() {
     }
     if (native->type() != (Flags() & Qt::WindowType_Mask)) native->setFlags(Flags());
     window.overrideWindowFlags(Flags());
+    if (again) window.show();
 }
 
 void WindowSync::Observe(const QEvent& event) {

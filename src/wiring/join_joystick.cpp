@@ -12,6 +12,8 @@ void Launcher::Routines::JoinJoystick() {
 
     settingsLoader.hooks.JoystickEnable = [this](bool on) { joystickControl.JoystickEnable(on); };
     settingsLoader.hooks.JoystickCount = [this] { return controllers.JoystickCount(); };
+    // In a game its first button skips the loading screen.
+    exitButton.ports.loading = windowsBeside.loading;
     gameLaunch.hooks.JoystickEnable = [this](bool on) { joystickControl.JoystickEnable(on); };
     // In a game that leaves them on, one button ends it.
     gameLaunch.hooks.WatchExitButton = [this] { exitButton.WatchExitButton(); };

@@ -11,7 +11,12 @@ void Launcher::Routines::JoinLaunch() {
     };
     // A zoomed picture lies over what tells of a launch.
     gameLaunch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
+    gameLaunch.hooks.ShowLoadingInfo = [this] { windowsBeside.loading.ShowLoadingInfo(&form); };
+    windows.onQuestions = [this] { windowsBeside.loading.QuestionsChanged(); };
     watch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
+    startHelpers.ports.loading = windowsBeside.loading;
+    emulatorSwitch.hooks.SaveAndSetDisplayMode = [this] { displayMode.SaveAndSetDisplayMode(); };
+    watch.hooks.RestoreDisplayMode = [this] { displayMode.RestoreDisplayMode(); };
     handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
 
     form.EmuActiveTimer.onTimer = [this] { watch.Tick(); };

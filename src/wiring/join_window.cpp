@@ -14,7 +14,12 @@ void Launcher::Routines::JoinWindow() {
     // An emulator brings its skin's colours with its settings.
     settingsLoader.hooks.SetColors = [this] { windowColors.SetColors(form, -1, -1); };
     shutDown.ports.layout = layout;
+    shutDown.hooks.DrivesAreOf = [this](const std::string& profile) {
+        return settingsLoader.DrivesAreOf(profile);
+    };
     windowKeys.ports.watch = watch;
+    windowKeys.ports.loading = windowsBeside.loading;
+    windowKeys.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };
     windowKeys.hooks.JoystickDirection = [this](int key) { navigation.JoystickDirection(key); };
     windowKeys.hooks.TogglePictureZoom = [this] { previews.ToggleZoom(); };
 
@@ -48,7 +53,8 @@ void Launcher::Routines::JoinWindow() {
         control->onDblClick = [this] { surface.Form_DblClick(); };
     }
     form.MyCaptionLabel.onMouseDown = drag;
-    form.TitleStr.onClick = [this] { surface.TitleStr_Click(); };
+    form.TitleStr.onClick = [this] { links.ShowHomePage(); };
+    form.DonateBtn.onClick = [this] { links.Donate(); };
     form.MyCaptionLabel.onDblClick = [this] { surface.MyCaptionLabel_DblClick(); };
     form.NormalMaxCapt.onClick = [this] { surface.NormalMaxCapt_Click(); };
 

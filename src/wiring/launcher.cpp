@@ -37,6 +37,14 @@ void Launcher::StartHandedFile(const std::string& path) {
     routines->handedFile.StartHandedFile(path);
 }
 
+void Launcher::SessionEnds() {
+    routines->shutDown.StoreForSession();
+}
+
+void Launcher::EndFromOutside() {
+    routines->shutDown.EndFromOutside();
+}
+
 Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasure* measure,
                              std::function<void()> end, forms::WindowHost* windowHost)
     : logged(std::move(hostServices)),
@@ -56,6 +64,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
                      {busy, settingsLoader, shutDown, alwaysOnTop}, host.commandLine),
       startUp(form, ini, host.files, host.locale, host.clock, emulatorSwitch),
       windowKeys(form, dialogs, host.beeper, shutDown),
+      links(form, {host.files, host.starter, dialogs, host.events, host.downloads, host.log},
+            host.build),
       scanner(form, scanSource, host.beeper, pacer),
       emulatorBox(form, ini, host.files, busy, emulatorSwitch),
       gameLists(form, ini, host.files, busy, pacer, scanner, {emulatorBox, emulatorSwitch}),
@@ -74,9 +84,14 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       watch(form, ini, prozess, busy, host.events, dialogs, host.log,
             {emulatorBox, listEvents, alwaysOnTop}),
       uaeFiles(form, host.files, host.log),
+      displayMode(host.display, host.log),
+      runFile({host.files, host.starter, dialogs, host.temporaryDirectory}, pacer),
+      startHelpers(
+          form, ini, pacer,
+          {host.files, host.starter, host.clock, dialogs, host.log, host.runtimeDirectory}),
       gameLaunch(form, ini, busy, pacer,
                  {host.files, host.starter, host.clock, dialogs, host.beeper, host.log},
-                 {emulatorBox, listEvents, alwaysOnTop, uaeFiles}),
+                 {emulatorBox, listEvents, alwaysOnTop, uaeFiles, startHelpers}),
       handedFile(form, {host.files, host.beeper, host.instance, host.log},
                  {emulatorBox, gameLaunch, shutDown, alwaysOnTop}, host.commandLine),
       emulatorSetup(form, ini, pacer, {host.files, host.starter, host.clock, dialogs, host.log},
@@ -86,8 +101,8 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       fontSize(form, layout),
       skins(form, host.files, pictureLoader),
       windowColors(form, ini),
-      hints(form),
-      surface(form, ini, {dialogs, host.starter, host.files}, busy, alwaysOnTop, core::projectPage),
+      hints(form, host.files),
+      surface(form, ini, {dialogs, host.files}, busy, alwaysOnTop),
       panelDrag(form, layout),
       previews(form, {host.files, host.background}, layout, pictureLoader),
       controllers(form, {host.controllers, dialogs, host.events}),
@@ -96,12 +111,14 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       padEvents(form, navigation, buttonActions, windows),
       joystickControl(form, ini, controllers, padEvents, windows,
                       {dialogs, host.events, host.beeper}),
-      exitButton(form, controllers, buttonActions, windows),
+      exitButton(form, controllers, buttonActions),
       boxByPad(form, controllers, windows, dialogs),
       buttonSetupWindow(windows, [this] { return MakeButtonSetup(); }),
       buttonSetup(form, buttonSetupWindow, windows,
                   {controllers, padEvents, settingsLoader, alwaysOnTop}),
-      windowsBeside(form, host, dialogs, windows) {
+      windowsBeside(form, host, dialogs, windows, {pictureLoader, previews, watch}, ini,
+                    [this] { return SettingsRoutines(); }),
+      settingsOpener(form, windowsBeside.settings, windows, alwaysOnTop) {
     core::AssignProgram(form, host.files, host.programDirectory, host.programName);
     shutDown.hooks.EndProcess = std::move(end);
     JoinWindow();
@@ -112,6 +129,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
     JoinLaunch();
     JoinDrives();
     JoinJoystick();
+    JoinSettings();
 }
 
 }  // namespace kivu::wiring

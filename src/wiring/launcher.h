@@ -28,6 +28,10 @@ class Launcher {
     void Start();
     // A later instance was given this file to start and hands it over.
     void StartHandedFile(const std::string& path);
+    // The session is about to end; the launcher goes on until it does.
+    void SessionEnds();
+    // It is to end now, and nobody is asked.
+    void EndFromOutside();
 
     // The routines by subsystem, for who wants to call one by its name.
     struct Routines;

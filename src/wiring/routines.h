@@ -6,6 +6,7 @@
 #include "core/busy_state.h"
 #include "core/emulator_switch.h"
 #include "core/form1.h"
+#include "core/outside_links.h"
 #include "core/settings_loader.h"
 #include "core/shut_down.h"
 #include "core/start_up.h"
@@ -25,12 +26,15 @@
 #include "joystick/joystick_control.h"
 #include "joystick/list_navigation.h"
 #include "joystick/pad_events.h"
+#include "launch/display_mode.h"
 #include "launch/drive_slots.h"
 #include "launch/emulator_setup.h"
 #include "launch/game_launch.h"
 #include "launch/handed_file.h"
 #include "launch/prozess.h"
+#include "launch/run_file.h"
 #include "launch/running_watch.h"
+#include "launch/start_helpers.h"
 #include "launch/uae_files.h"
 #include "library/emulator_box.h"
 #include "library/file_scan_recursive.h"
@@ -42,6 +46,7 @@
 #include "library/scan_source.h"
 #include "platform/host.h"
 #include "profile/ini.h"
+#include "settings/settings_opener.h"
 #include "support/always_on_top.h"
 #include "ui/font_size.h"
 #include "ui/hints.h"
@@ -100,6 +105,7 @@ struct Launcher::Routines {
     core::EmulatorSwitch emulatorSwitch;
     core::StartUp startUp;
     core::WindowKeys windowKeys;
+    core::OutsideLinks links;
 
     library::FileScanRecursive scanner;
     library::EmulatorBox emulatorBox;
@@ -118,6 +124,9 @@ struct Launcher::Routines {
     launch::Prozess prozess;
     launch::RunningWatch watch;
     launch::UaeFiles uaeFiles;
+    launch::ChangeScreenRes displayMode;
+    launch::RunFile runFile;
+    launch::StartHelpers startHelpers;
     launch::GameLaunch gameLaunch;
     launch::HandedFile handedFile;
     launch::EmulatorSetup emulatorSetup;
@@ -143,6 +152,7 @@ struct Launcher::Routines {
     joystick::ButtonSetupOpener buttonSetup;
 
     Windows windowsBeside;
+    settings::SettingsOpener settingsOpener;
 
  private:
     // One topic a file: what its events run, and what its routines ask of later ones.
@@ -154,7 +164,9 @@ struct Launcher::Routines {
     void JoinLaunch();
     void JoinDrives();
     void JoinJoystick();
+    void JoinSettings();
     std::unique_ptr<joystick::ButtonSetupWindow> MakeButtonSetup();
+    settings::SettingsWindow::Routines SettingsRoutines();
 };
 
 }  // namespace kivu::wiring

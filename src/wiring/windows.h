@@ -1,8 +1,12 @@
 #pragma once
 
+#include <functional>
+
 #include "core/form1.h"
 #include "forms/window_host.h"
+#include "launch/loading_opener.h"
 #include "platform/host.h"
+#include "settings/settings_window.h"
 #include "support/directory_lists.h"
 #include "support/file_dialogs.h"
 
@@ -12,7 +16,9 @@ namespace kivu::wiring {
 class Windows {
  public:
     Windows(core::Form1& form, platform::Host& host, platform::Dialogs& dialogs,
-            forms::WindowHost& windows);
+            forms::WindowHost& windows, launch::LoadingInfo::Routines loadingRoutines,
+            profile::Ini& ini,
+            std::function<settings::SettingsWindow::Routines()> settingsRoutines);
 
  private:
     // Their looks are those of the main window at the moment.
@@ -25,6 +31,8 @@ class Windows {
 
  public:
     support::WindowedFileDialogs fileDialogs;
+    launch::LoadingOpener loading;
+    forms::OnDemand<settings::SettingsWindow> settings;
 };
 
 }  // namespace kivu::wiring

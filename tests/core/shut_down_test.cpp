@@ -84,5 +84,51 @@ TEST_F(ShutDownTest, EndOfAnotherKindWritesWhatHasGatheredAndNothingElse) {
     EXPECT_EQ(ends, 1);
 }
 
+TEST_F(ShutDownTest, FromOutsideStoresTheSame) {
+    form.WindowReady = true;
+    shutDown.hooks.DrivesAreOf = [&](const std::string& profile) {
+        return profile == form.IniPath;
+    };
+    shutDown.EndFromOutside();
+    EXPECT_EQ(files.BytesOf(form.IniPath), "[Settings]\r\n" + panel);
+    EXPECT_EQ(files.BytesOf(form.BaseIniName), "[Settings]\r\n" + window);
+    EXPECT_TRUE(form.Ended);
+    EXPECT_EQ(ends, 1);
+    shutDown.EndFromOutside();
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(ShutDownTest, FromOutsideStoresNothingOfAWindowThatIsNotReady) {
+    shutDown.hooks.DrivesAreOf = [](const std::string&) { return true; };
+    shutDown.EndFromOutside();
+    EXPECT_THAT(files.changes, IsEmpty());
+    EXPECT_EQ(ends, 1);
+}
+
+TEST_F(ShutDownTest, FromOutsideLeavesTheDrivesOfAnotherProfile) {
+    form.WindowReady = true;
+    shutDown.hooks.DrivesAreOf = [](const std::string&) { return false; };
+    shutDown.EndFromOutside();
+    EXPECT_THAT(files.changes, ElementsAre(form.BaseIniName));
+}
+
+TEST_F(ShutDownTest, FromOutsideAMinimisedWindowLeavesItsState) {
+    form.WindowReady = true;
+    files.AddFile(form.BaseIniName, "[Settings]\r\nWindowState=2\r\n");
+    form.SetState(forms::WindowState::minimized);
+    shutDown.EndFromOutside();
+    EXPECT_THAT(files.changes, IsEmpty());
+    shutDown.ExitBtn_Click();
+    EXPECT_EQ(files.BytesOf(form.BaseIniName), "[Settings]\r\nWindowState=1\r\n");
+}
+
+TEST_F(ShutDownTest, EndOfTheSessionMayBeCalledOff) {
+    form.WindowReady = true;
+    shutDown.StoreForSession();
+    EXPECT_EQ(files.BytesOf(form.BaseIniName), "[Settings]\r\n" + window);
+    EXPECT_FALSE(form.Ended);
+    EXPECT_EQ(ends, 0);
+}
+
 }  // namespace
 }  // namespace kivu::core

@@ -19,6 +19,23 @@ std::string Absolute(const std::string& path) {
     return absolute;
 }
 
+// What a build names.
+bool TakeAddress(platform::Build& build, const std::string& name, const std::string& value) {
+    if (name == "--update-base") {
+        build.updateBase = value;
+        build.replacesItself = true;
+    } else if (name == "--updater-sha256") {
+        build.updaterHash = value;
+    } else if (name == "--home-page") {
+        build.homePage = value;
+    } else if (name == "--donate-url") {
+        build.donateUrl = value;
+    } else {
+        return false;
+    }
+    return true;
+}
+
 // False: the value means nothing.
 bool Take(Options& options, const std::string& name, const std::string& value) {
     if (name == "--program-dir") {
@@ -33,10 +50,14 @@ bool Take(Options& options, const std::string& name, const std::string& value) {
         const auto time = TimeFromText(value);
         if (time) options.time = *time;
         return time.has_value();
+    } else if (name == "--runtime-dir") {
+        options.runtimeDirectory = value.empty() ? "" : Absolute(value);
+    } else if (name == "--temporary-dir") {
+        options.temporaryDirectory = value.empty() ? "" : Absolute(value);
     } else if (name == "--start-files" && (value == "windows" || value == "shell")) {
         options.windowsStartFiles = value == "windows";
     } else {
-        return false;
+        return TakeAddress(options.build, name, value);
     }
     return true;
 }

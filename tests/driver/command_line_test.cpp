@@ -38,6 +38,19 @@ TEST(CommandLineTest, EverythingElseIsTaken) {
     EXPECT_TRUE(options->windowsStartFiles);
 }
 
+TEST(CommandLineTest, AddressesAreThoseOfABuild) {
+    const auto options =
+        Parse({"--program-dir", "/a", "--update-base", "https://h", "--updater-sha256", "00ff",
+               "--home-page", "https://p/", "--donate-url", "https://d/"});
+    ASSERT_TRUE(options);
+    EXPECT_EQ(options->build.updateBase, "https://h");
+    EXPECT_TRUE(options->build.replacesItself);
+    EXPECT_EQ(options->build.updaterHash, "00ff");
+    EXPECT_EQ(options->build.homePage, "https://p/");
+    EXPECT_EQ(options->build.donateUrl, "https://d/");
+    EXPECT_FALSE(Parse({"--program-dir", "/a"})->build.replacesItself);
+}
+
 TEST(CommandLineTest, RelativeDirectoryIsMadeAbsolute) {
     EXPECT_EQ(Parse({"--program-dir", "x/../y/"})->programDirectory,
               (std::filesystem::current_path() / "y").string());

@@ -27,6 +27,7 @@ const std::vector<Command>& DeviceCommands();  // its game controllers
 const std::vector<Command>& FileCommands();    // the disk below the program
 
 Json Value(Json value);
+Json ModeJson(const platform::DisplayMode& mode);
 // What has come about, as the answer's value and under the command's own name.
 Json Told(const char* name, Json what);
 

@@ -4,6 +4,8 @@
 #include "driver/field_table.h"
 #include "driver/windows.h"
 #include "joystick/button_setup_form.h"
+#include "launch/loading_form.h"
+#include "settings/settings_form.h"
 #include "support/file_dialog_form.h"
 
 namespace kivu::driver {
@@ -100,12 +102,34 @@ const FieldTable& ButtonSetupFields() {
     return fields;
 }
 
+const FieldTable& SettingsFields() {
+    using settings::SettingsForm;
+#define KIVU_FIELD(name) FieldOf<SettingsForm>(#name, &SettingsForm::name)
+    static const FieldTable fields{
+        KIVU_FIELD(IniPath),    KIVU_FIELD(ColorsIniName),    KIVU_FIELD(StartPfad),
+        KIVU_FIELD(ExeAtFocus), KIVU_FIELD(MainSettingsOnly), KIVU_FIELD(Loading),
+    };
+#undef KIVU_FIELD
+    return fields;
+}
+
+const FieldTable& LoadingScreenFields() {
+    using launch::LoadingForm;
+    static const FieldTable fields{
+        FieldOf<LoadingForm>("Seconds", &LoadingForm::Seconds),
+        FieldOf<LoadingForm>("SecondsPassed", &LoadingForm::SecondsPassed),
+    };
+    return fields;
+}
+
 // One table a window.
 const FieldTable& FieldsOf(const forms::Form& form) {
     static const FieldTable none;
     if (dynamic_cast<const Form1*>(&form)) return MainWindowFields();
     if (dynamic_cast<const support::FilesForm*>(&form)) return FileDialogFields();
     if (dynamic_cast<const joystick::ButtonSetupForm*>(&form)) return ButtonSetupFields();
+    if (dynamic_cast<const settings::SettingsForm*>(&form)) return SettingsFields();
+    if (dynamic_cast<const launch::LoadingForm*>(&form)) return LoadingScreenFields();
     return none;
 }
 

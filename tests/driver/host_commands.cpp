@@ -1,7 +1,9 @@
 // The scripted host: answers for boxes, what has been started, processes, clock, display.
 
+#include <array>
 #include <cstdio>
 #include <optional>
+#include <utility>
 
 #include "driver/commands.h"
 #include "driver/time_text.h"
@@ -104,6 +106,8 @@ Json Runs(Session& session, const Json&) {
         run["startFile"] = start.request.startFile;
         run["watched"] = start.request.watched;
         run["opened"] = start.opened;
+        run["edited"] = start.edited;
+        if (start.script) run["script"] = *start.script;
         runs.push_back(std::move(run));
     }
     session.Host().starter.runs.clear();
@@ -160,24 +164,107 @@ Json Time(Session& session, const Json& command) {
     return Json::object();
 }
 
-Json Display(Session& session, const Json&) {
-    const auto show = [](const platform::DisplayMode& mode) {
-        Json shown = Json::object();
-        shown["width"] = mode.width;
-        shown["height"] = mode.height;
-        shown["bits"] = mode.bits;
-        shown["frequency"] = mode.frequency;
-        return shown;
-    };
-    const testing::ScriptedDisplay& screen = session.Host().display;
-    Json display = show(screen.current.value_or(platform::DisplayMode{}));
+// What is not told stays as it is.
+void SetDisplay(testing::ScriptedDisplay& screen, const Json& told) {
+    if (!told.is_object()) throw CommandError("display set takes an object");
+    platform::DisplayMode mode = screen.current.value_or(platform::DisplayMode{});
+    bool accepts = screen.accepts;
+    for (const auto& [name, value] : told.items()) {
+        if (name == "width") {
+            mode.width = WholeFrom(value, name);
+        } else if (name == "height") {
+            mode.height = WholeFrom(value, name);
+        } else if (name == "bits") {
+            mode.bits = WholeFrom(value, name);
+        } else if (name == "frequency") {
+            mode.frequency = WholeFrom(value, name);
+        } else if (name == "accepts") {
+            accepts = FlagFrom(value, name);
+        } else {
+            throw CommandError("a display has no " + name);
+        }
+    }
+    screen.current = mode;
+    screen.accepts = accepts;
+}
+
+Json Display(Session& session, const Json& command) {
+    testing::ScriptedDisplay& screen = session.Host().display;
+    if (command.size() > 1) {
+        if (command.size() != 3 || TextFrom(command[1], "the action") != "set")
+            throw CommandError("display takes nothing or \"set\" and an object");
+        SetDisplay(screen, command[2]);
+        return Json::object();
+    }
+    Json display = ModeJson(screen.current.value_or(platform::DisplayMode{}));
     display["changes"] = Json::array();
     for (const auto& change : screen.sent)
-        display["changes"].push_back(show(change));
+        display["changes"].push_back(ModeJson(change));
     return Told("display", std::move(display));
 }
 
+using Fetched = platform::Fetched;
+constexpr std::array<std::pair<const char*, Fetched>, 8> endings{
+    {{"ok", Fetched::ok},
+     {"badAddress", Fetched::badAddress},
+     {"unreachable", Fetched::unreachable},
+     {"refused", Fetched::refused},
+     {"incomplete", Fetched::incomplete},
+     {"tooLarge", Fetched::tooLarge},
+     {"cancelled", Fetched::cancelled},
+     {"notWritable", Fetched::notWritable}}};
+
+const char* Name(Fetched result) {
+    for (const auto& [name, ending] : endings)
+        if (ending == result) return name;
+    return "";
+}
+
+Fetched FailureFrom(const Json& value) {
+    const std::string& text = TextFrom(value, "the failure");
+    for (const auto& [name, ending] : endings)
+        if (ending != Fetched::ok && SameName(text, name)) return ending;
+    throw CommandError("no download ends with " + text);
+}
+
+Json Download(Session& session, const Json& command) {
+    const std::string& action = TextFrom(command[1], "the action");
+    testing::ScriptedDownloads& downloads = session.Host().downloads;
+    if (action == "serve" && command.size() == 4) {
+        downloads.served[TextFrom(command[2], "the address")] = TextFrom(command[3], "the text");
+    } else if (action == "fail" && command.size() <= 3) {
+        downloads.served.clear();
+        downloads.otherwise = command.size() > 2 ? FailureFrom(command[2]) : Fetched::unreachable;
+    } else {
+        throw CommandError("download takes \"serve\", address, text or \"fail\"");
+    }
+    return Json::object();
+}
+
+Json Downloads(Session& session, const Json&) {
+    Json downloads = Json::array();
+    for (const auto& request : session.Host().downloads.requests) {
+        Json shown = Json::object();
+        shown["url"] = request.url;
+        shown["path"] = request.path;
+        shown["result"] = Name(request.result);
+        downloads.push_back(std::move(shown));
+    }
+    session.Host().downloads.requests.clear();
+    return Told("downloads", std::move(downloads));
+}
+
 // A later instance calls, as the program's main joins it.
+Json Signal(Session& session, const Json&) {
+    session.Program().EndFromOutside();
+    return Json::object();
+}
+
+Json SessionEnds(Session& session, const Json&) {
+    session.Program().SessionEnds();
+    return Json::object();
+}
+
 Json Summon(Session& session, const Json& command) {
     const std::string file = command.size() > 1 ? TextFrom(command[1], "the file") : "";
     if (!file.empty()) session.Program().StartHandedFile(file);
@@ -185,6 +272,15 @@ Json Summon(Session& session, const Json& command) {
 }
 
 }  // namespace
+
+Json ModeJson(const platform::DisplayMode& mode) {
+    Json shown = Json::object();
+    shown["width"] = mode.width;
+    shown["height"] = mode.height;
+    shown["bits"] = mode.bits;
+    shown["frequency"] = mode.frequency;
+    return shown;
+}
 
 Json Told(const char* name, Json what) {
     Json more = Value(what);
@@ -203,8 +299,12 @@ const std::vector<Command>& HostCommands() {
         {"log", 0, 0, false, Log},
         {"process", 2, 3, false, Process},
         {"time", 1, 1, false, Time},
-        {"display", 0, 0, false, Display},
+        {"display", 0, 2, false, Display},
+        {"download", 1, 3, false, Download},
+        {"downloads", 0, 0, false, Downloads},
         {"summon", 0, 1, true, Summon},
+        {"signal", 0, 0, true, Signal},
+        {"session", 0, 0, true, SessionEnds},
     };
     return commands;
 }

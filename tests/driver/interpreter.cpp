@@ -45,6 +45,7 @@ Interpreter::Interpreter(Session& session) : session(session) {
     AddLaunchRoutines(routines, session);
     AddWindowRoutines(routines, session);
     AddJoystickRoutines(routines, session);
+    AddSettingsRoutines(routines, session);
 }
 
 Json Interpreter::ExecuteLine(std::string_view line) {

@@ -13,5 +13,6 @@ void AddFavouriteRoutines(RoutineTable& table, Session& session);
 void AddLaunchRoutines(RoutineTable& table, Session& session);
 void AddWindowRoutines(RoutineTable& table, Session& session);
 void AddJoystickRoutines(RoutineTable& table, Session& session);
+void AddSettingsRoutines(RoutineTable& table, Session& session);
 
 }  // namespace kivu::driver

@@ -83,6 +83,27 @@ void AddFileDialogs(RoutineTable& table, Session& session) {
     }));
 }
 
+// Single files from the web, the updater, and pages for the browser.
+void AddLinks(RoutineTable& table, Session& session) {
+    core::OutsideLinks& links = session.Routines().links;
+    table.push_back(Bind("URLToFileDownload", [&links](string url, string path, bool overwrite) {
+        return links.Download().URLToFileDownload(url, path, overwrite);
+    }));
+    table.push_back(Bind("DownloadUpdateWithUpdater",
+                         [&links](string urlOfFile, string localFile, string localUpdater,
+                                  string urlOfUpdater, optional<string> parameter) {
+                             return links.Update().DownloadUpdateWithUpdater(
+                                 urlOfFile, localFile, localUpdater, urlOfUpdater,
+                                 parameter.value_or(""));
+                         }));
+    table.push_back(Bind("getEmuDownloadPath", [&links] { return links.getEmuDownloadPath(); }));
+    // A window style may stand behind the address; browsers have their own.
+    table.push_back(Bind("ShowHtmlWithBrowser", [&links](string address, optional<int>) {
+        return links.ShowHtmlWithBrowser(address);
+    }));
+    table.push_back(Bind("DonateBtn_Click", [&links] { links.Donate(); }));
+}
+
 }  // namespace
 
 void AddFileRoutines(RoutineTable& table, Session& session) {
@@ -90,6 +111,7 @@ void AddFileRoutines(RoutineTable& table, Session& session) {
     AddProfileRoutines(table, session);
     AddDialogRoutines(table, session);
     AddFileDialogs(table, session);
+    AddLinks(table, session);
     table.push_back(
         Bind("GetFilePath", [&files](string path) { return support::DirectoryOf(files, path); }));
     table.push_back(Bind("ShortFileName",

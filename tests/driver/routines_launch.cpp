@@ -1,5 +1,7 @@
 // Routines of the launch, the watch and the process list.
 
+#include <array>
+
 #include "driver/routines.h"
 #include "launch/wait.h"
 #include "wiring/routines.h"
@@ -10,6 +12,17 @@ using std::optional;
 using std::string;
 
 namespace {
+
+// By the numbers that programs are started with.
+platform::WindowStyle StyleOf(int style) {
+    using platform::WindowStyle;
+    constexpr std::array styles{WindowStyle::Hidden, WindowStyle::Normal, WindowStyle::Minimized,
+                                WindowStyle::Maximized, WindowStyle::NormalNoFocus};
+    if (style == 6) return WindowStyle::MinimizedNoFocus;
+    if (style < 0 || style >= static_cast<int>(styles.size()))
+        throw CommandError("a window style is 0 to 4 or 6");
+    return styles.at(static_cast<std::size_t>(style));
+}
 
 void AddStartRoutines(RoutineTable& table, Session& session) {
     auto& launch = session.Routines().gameLaunch;
@@ -43,11 +56,42 @@ void AddDriveRoutines(RoutineTable& table, Session& session) {
                          [&drives](std::int16_t index) { drives.Check_Dfx_MouseUp(index); }));
 }
 
+// The tool for CD images, the start script, commands as text.
+void AddHelperRoutines(RoutineTable& table, Session& session) {
+    auto& helpers = session.Routines().startHelpers;
+    table.push_back(
+        Bind("MountGameImage", [&helpers](string path) { return helpers.MountGameImage(path); }));
+    table.push_back(Bind("RunStartScript", [&helpers] { helpers.RunStartScript(); }));
+    table.push_back(Bind("EditStartScript", [&helpers] { helpers.EditStartScript(); }));
+    table.push_back(Bind("GetVBSFilename", [&helpers] { return helpers.GetVBSFilename(); }));
+    auto& runFile = session.Routines().runFile;
+    table.push_back(Bind("ShellAndWait", [&runFile](string command, int style) {
+        runFile.ShellAndWait(command, StyleOf(style));
+    }));
+    table.push_back(Bind("FindExecutableOf",
+                         [&runFile](string file) { return runFile.FindExecutableOf(file); }));
+    table.push_back(Bind("FindAssociatedProgram",
+                         [&runFile](string file) { return runFile.FindAssociatedProgram(file); }));
+}
+
+void AddDisplayRoutines(RoutineTable& table, Session& session) {
+    auto& screen = session.Routines().displayMode;
+    table.push_back(Bind("SaveAndSetDisplayMode", [&screen] { screen.SaveAndSetDisplayMode(); }));
+    table.push_back(Bind("RestoreDisplayMode", [&screen] { screen.RestoreDisplayMode(); }));
+    table.push_back(
+        Bind("ChangeDisplayMode", [&screen](std::int16_t width, std::int16_t height,
+                                            std::int16_t colors, std::int16_t frequency) {
+            screen.ChangeDisplayMode(width, height, colors, frequency);
+        }));
+}
+
 }  // namespace
 
 void AddLaunchRoutines(RoutineTable& table, Session& session) {
     AddStartRoutines(table, session);
     AddDriveRoutines(table, session);
+    AddHelperRoutines(table, session);
+    AddDisplayRoutines(table, session);
     auto& all = session.Routines();
     table.push_back(Bind("WAIT", [&all](std::int16_t seconds) {
         launch::WAIT(seconds, all.host.clock, all.pacer);
@@ -60,6 +104,10 @@ void AddLaunchRoutines(RoutineTable& table, Session& session) {
         return processes.IsProcessRunning(name, launch::Reach::nameOnly);
     }));
     table.push_back(Bind("KillProcess", [&processes](int id) { processes.KillProcess(id); }));
+    auto& loading = all.windowsBeside.loading;
+    table.push_back(
+        Bind("ShowLoadingInfo", [&all, &loading] { loading.ShowLoadingInfo(&all.form); }));
+    table.push_back(Bind("GivenUp", [&loading] { return loading.GivenUp(); }));
     auto& watch = all.watch;
     table.push_back(Bind("EmuActiveTimer_Timer", [&watch] { watch.EmuActiveTimer_Timer(); }));
     table.push_back(Bind("AppRunningPicture_Click", [&watch] { watch.AppRunningPicture_Click(); }));

@@ -20,6 +20,9 @@ testing::ScriptedHost MakeHost(platform::FileSystem& files, const Options& optio
     host.clock.Set(options.time);
     host.starter.usesShell = !options.windowsStartFiles;
     host.pictureDecoder.sizeOf = PictureOf;
+    host.runtimeDirectory = options.runtimeDirectory;
+    host.temporaryDirectory = options.temporaryDirectory;
+    host.build = options.build;
     return host;
 }
 

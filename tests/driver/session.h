@@ -18,6 +18,10 @@ struct Options {
     std::string language = "English";  // English name of the system language
     platform::TimeOfDay time{12, 0, 0};
     bool windowsStartFiles = false;  // start files for cmd.exe instead of /bin/sh
+    // The user's own, absolute; empty: there is none.
+    std::string runtimeDirectory{};
+    std::string temporaryDirectory{};
+    platform::Build build{};         // addresses; none, as in a build that names none
     const forms::TextMeasure* measure = nullptr;
 };
 

@@ -3,6 +3,7 @@
 #include "driver/commands.h"
 #include "driver/fields.h"
 #include "driver/properties.h"
+#include "wiring/routines.h"
 
 namespace kivu::driver {
 
@@ -10,6 +11,15 @@ namespace {
 
 bool IsOfWindow(const Windows::Member& member) {
     return &member.owner == static_cast<forms::Control*>(&member.window);
+}
+
+// What the change of the display mode keeps to itself; nothing but to be looked at.
+std::optional<Json> DisplayField(Session& session, const std::string& name) {
+    const auto& screen = session.Routines().displayMode;
+    if (SameName(name, "SavedMode")) return ModeJson(screen.SavedMode());
+    if (SameName(name, "LastMode")) return ModeJson(screen.LastMode());
+    if (SameName(name, "Printed")) return Json(screen.Printed());
+    return std::nullopt;
 }
 
 Json Get(Session& session, const Json& command) {
@@ -20,6 +30,9 @@ Json Get(Session& session, const Json& command) {
     }
     if (IsOfWindow(member)) {
         if (auto field = GetField(member.window, member.name)) return Value(*field);
+        const bool isMain = &member.window == &session.MainWindow();
+        if (auto field = isMain ? DisplayField(session, member.name) : std::nullopt)
+            return Value(*field);
     }
     return Value(GetProperty(member.owner, member.name));
 }

@@ -96,6 +96,30 @@ TEST_F(TabOrderTest, OptionButtonsAreOneStopByContainer) {
     EXPECT_EQ(form.Focus(), &b);
 }
 
+// The focus would not be seen below an open panel.
+TEST_F(TabOrderTest, WhatARaisedPanelCoversIsPassedOver) {
+    form.SetTabOrder(TabOrder::asCreated);
+    TextBox above{&form, "Above"}, below{&form, "Below"}, half{&form, "Half"};
+    Frame group{&form, "Group"};
+    TextBox inGroup{&group, "InGroup"};
+    Frame panel{&form, "Panel"};
+    TextBox inPanel{&panel, "InPanel"};
+    above.Move(0, 0, 1000, 300);
+    below.Move(200, 1100, 600, 300);
+    half.Move(800, 1500, 1000, 300);
+    group.Move(500, 2000, 1000, 500);
+    inGroup.Move(0, 0, 300, 300);
+    panel.Move(100, 1000, 1000, 2000);
+    EXPECT_THAT(Stops(), ElementsAre("Above", "Below", "Half", "InGroup", "InPanel"));
+    panel.SetRaised(true);
+    EXPECT_THAT(Stops(), ElementsAre("Above", "Half", "InPanel"));
+    panel.SendToBack();
+    EXPECT_THAT(Stops(), ElementsAre("Above", "Below", "Half", "InGroup", "InPanel"));
+    panel.BringToFront();
+    panel.SetVisible(false);
+    EXPECT_THAT(Stops(), ElementsAre("Above", "Below", "Half", "InGroup"));
+}
+
 TEST_F(TabOrderTest, ArrowsChooseAmongTheOptionsOfAContainer) {
     OptionButton a{&form, "A"}, b{&form, "B"}, off{&form, "Off"}, c{&form, "C"};
     off.SetEnabled(false);

@@ -141,6 +141,16 @@ TEST_F(WindowHostTest, ModalWindowInAModalWindowBlocksIt) {
     EXPECT_EQ(depth, 2);
 }
 
+TEST_F(WindowHostTest, TellsOfEachQuestion) {
+    std::vector<int> told;
+    windows.onQuestions = [&] { told.push_back(windows.Questions()); };
+    {
+        const WindowHost::Question question(windows);
+        windows.ShowModal(box, &owner);
+    }
+    EXPECT_THAT(told, ElementsAre(1, 2, 1, 0));
+}
+
 TEST_F(WindowHostTest, QuestionsAreCountedDownWhenTheProgramEndsInsideOne) {
     windows.onModal = [](Form&, const std::function<bool()>&) { throw std::runtime_error("end"); };
     EXPECT_THROW(windows.ShowModal(box, &owner), std::runtime_error);

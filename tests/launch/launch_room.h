@@ -69,13 +69,14 @@ struct LaunchRoom {
     kivu::testing::QuietChoice choice;
     kivu::testing::QuietFront front;
     kivu::testing::QuietWatch watch;
+    kivu::testing::QuietStartHelpers helpers;
     UaeFiles uae{form, files, host.log};
     GameLaunch launch{form,
                       ini,
                       busy,
                       pacer,
                       {files, host.starter, host.clock, host.dialogs, host.beeper, host.log},
-                      {choice, front, alwaysOnTop, uae}};
+                      {choice, front, alwaysOnTop, uae, helpers}};
     EmulatorSetup setup{
         form, ini, pacer, {files, host.starter, host.clock, host.dialogs, host.log}, watch};
 };

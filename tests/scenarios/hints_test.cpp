@@ -13,8 +13,12 @@ TEST_F(FirstSteps, StandBelowTheTitleOfAFirstStart) {
     Start();
     EXPECT_TRUE(Visible("LoadingBtn"));
     EXPECT_EQ(Text("LoadingBtn.Caption"), "Kivu 1.4b");
-    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("No emulator yet"));
-    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr(Text("ConfigPath")));
+    // The way to the first emulator, by buttons that can be pressed.
+    EXPECT_EQ(Text("LoadingBtn.Hint"),
+              "No emulator yet.\rPress \"Optionen..\" at the bottom right\r"
+              "and there \"New emulator..\".");
+    EXPECT_TRUE(Visible("SettingsBtn"));
+    EXPECT_EQ(Get("SettingsBtn.Enabled"), true);
     // No box to search in, and nothing of it.
     for (const char* name : {"SearchDblsTxt", "SuchErg", "SearchAllBtn"})
         EXPECT_FALSE(Visible(name)) << name;
@@ -28,8 +32,39 @@ TEST_F(FirstSteps, AreToChooseAnEmulatorWhereThereAreSome) {
     Do("focus", "Form1.EmuListbox");
     Do("dblclick", "Form1.EmulatorLongListbox", 0);
     EXPECT_EQ(Text("LoadingBtn.Hint"), "");
-    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr("Keine Spiele in der Liste"));
-    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr(Text("TxtRomPath.Text")));
+    EXPECT_EQ(Text("WIthoutDoubles.Hint"),
+              "Noch keine Spiele.\r\"Optionen..\" fragt nach dem Emulator\r"
+              "und dem Verzeichnis der Spiele.");
+}
+
+TEST_F(FirstSteps, SayThatNothingCanBeStored) {
+    for (const char* language : {"English", "German"}) {
+        options.language = language;
+        prepare = [](driver::Session& run) { run.disk.MakeReadOnly(); };
+        Start();
+        const std::string hint = Text("LoadingBtn.Hint");
+        EXPECT_THAT(hint, HasSubstr(Text("ConfigPath")));
+        EXPECT_THAT(hint,
+                    HasSubstr(language == std::string("English")
+                                  ? "cannot be written to: nothing will be stored."
+                                  : "kann nicht geschrieben werden: nichts wird gespeichert."));
+        EXPECT_THAT(hint, HasSubstr("--data"));
+        EXPECT_EQ(Text("EmulatorLongListbox.Hint"), hint);
+    }
+}
+
+TEST_F(FirstSteps, SayItBesideTheEmulatorsToo) {
+    tree.AddEmulator("Alpha");
+    prepare = [](driver::Session& run) { run.disk.MakeReadOnly(); };
+    Start();
+    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("Choose an emulator at the top left.\r\rThe"));
+    EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("nothing will be stored"));
+}
+
+TEST_F(FirstSteps, LookingLeavesNothingBehind) {
+    Start();
+    for (const auto& entry : std::filesystem::directory_iterator(tree.Path("Config")))
+        EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
 }
 
 TEST_F(Hints, EmptyListsTellWhatIsTheMatter) {

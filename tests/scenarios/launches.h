@@ -12,7 +12,9 @@ class Launch : public LoadedScenario {
     std::string StartFile() { return tree.Read("Config/Alpha/Kivu_tmp.bat"); }
     void Profile(ProgramDirectory::Settings settings) {
         settings.insert(settings.begin(),
-                        {{"EmulatorPath", "/Emu/alpha"}, {"WinUAE_UseMasterConfig", "0"}});
+                        {{"EmulatorPath", "/Emu/alpha"},
+                         {"SplashTimer", "0"},
+                         {"WinUAE_UseMasterConfig", "0"}});
         tree.AddEmulator("Alpha", settings);
     }
     // As it stands in a start file for cmd.exe: the short name where the host has one.

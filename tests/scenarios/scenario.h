@@ -67,7 +67,7 @@ class Scenario : public ::testing::Test {
     std::filesystem::path before = std::filesystem::current_path();
 };
 
-// Two emulators with caches; "Alpha" has three images of two games, "Beta" one. Alpha was the last
+// Two emulators with caches, without a loading screen; "Alpha" has three images of two games, "Beta" one. Alpha was the last
 // one.
 class LoadedScenario : public Scenario {
  protected:
@@ -76,8 +76,11 @@ class LoadedScenario : public Scenario {
                                    {"EmulatorPath", "/Emu/alpha"},
                                    {"RomCount", "3"},
                                    {"WinUAE_UseMasterConfig", "0"},
+                                   {"SplashTimer", "0"},
                                    {"EmulatorParameterAddDiskPath", "1"}});
-        tree.AddEmulator("Beta", {{"RomPath", "/Roms/Beta"}, {"EmulatorPath", "/Emu/beta"}});
+        tree.AddEmulator("Beta", {{"RomPath", "/Roms/Beta"},
+                                  {"EmulatorPath", "/Emu/beta"},
+                                  {"SplashTimer", "0"}});
         tree.WriteCache("Alpha",
                         {{"/Roms/Alpha/Ant (1990)(Maker)(Disk 1 of 2).adf", "Ant (1990)(Maker)"},
                          {"/Roms/Alpha/Ant (1990)(Maker)(Disk 2 of 2).adf", "Ant (1990)(Maker)"},

@@ -53,12 +53,6 @@ TEST_F(WindowLayout, DoubleClickOnTheSurfaceMinimises) {
     }
 }
 
-TEST_F(WindowLayout, TitleInTheCornerOpensNothingAsLongAsThereIsNoPage) {
-    Start();
-    Do("click", "Form1.TitleStr");
-    EXPECT_EQ(Do("runs")["value"].size(), 0U);
-}
-
 TEST_F(WindowLayout, TwoListsHaveTheirColours) {
     Start();
     EXPECT_EQ(Get("FavoritenListe.BackColor"), "#E0FFF1");

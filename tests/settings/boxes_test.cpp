@@ -51,6 +51,11 @@ TEST_F(Boxes, WhatCouldNotBeWrittenIsNamed) {
         EXPECT_EQ(NotSavedBox("", program).icon, Icon::Error);
     }
     EXPECT_NE(NotSavedBox("", german), NotSavedBox("", english));
+    const Box noEditor{"Diese Datei konnte in keinem Editor geöffnet werden:\r\r/k/x.ini", "Editor",
+                       Buttons::Ok, Icon::Warning};
+    EXPECT_EQ(NotEditedBox("/k/x.ini", german), noEditor);
+    EXPECT_EQ(NotEditedBox("/k/x.ini", english).text,
+              "No editor could be started for this file:\r\r/k/x.ini");
     EXPECT_NE(MasterQuestion("", german), MasterQuestion("", english));
 }
 

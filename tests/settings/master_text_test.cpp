@@ -188,6 +188,10 @@ TEST_F(Master, AMissingFileIsMadeByItsDefaultUnlessThereIsText) {
     EXPECT_EQ(text.StepFor("a=1"), Step::ask);
     text.FileMade();
     EXPECT_EQ(text.StepFor("a=1"), Step::write);
+    // An empty box has said nothing about the default.
+    EXPECT_EQ(text.StepFor(""), Step::reload);
+    ASSERT_FALSE(text.Write(""));
+    EXPECT_EQ(text.StepFor(""), Step::write);
 }
 
 TEST_F(Master, TextTypedBeforeThereWasAFileAsksBeforeItReplacesOne) {

@@ -218,10 +218,10 @@ TEST_F(SelfUpdateTest, AReadOnlyDirectoryIsToldBeforeAnythingIsFetched) {
 }
 
 TEST_F(SelfUpdateTest, LookingWhetherTheDirectoryCanBeWrittenToLeavesNothing) {
-    files.AddFile("C:\\Kivu\\Update0.tmp", "the user's");
+    files.AddFile("C:\\Kivu\\Kivu0.tmp", "the user's");
     EXPECT_TRUE(UpdateProgram());
-    EXPECT_EQ(files.BytesOf("C:\\Kivu\\Update0.tmp"), "the user's");
-    EXPECT_EQ(files.BytesOf("C:\\Kivu\\Update1.tmp"), "(no file)");
+    EXPECT_EQ(files.BytesOf("C:\\Kivu\\Kivu0.tmp"), "the user's");
+    EXPECT_EQ(files.BytesOf("C:\\Kivu\\Kivu1.tmp"), "(no file)");
 }
 
 TEST_F(SelfUpdateTest, CancellingIsAFailedDownload) {

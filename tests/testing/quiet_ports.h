@@ -67,6 +67,8 @@ struct QuietLoadingScreen : core::LoadingScreen {
     void ShowLoadingInfo(forms::Form*) override {}
     bool IsShown() const override { return false; }
     void Unload() override {}
+    bool GivenUp() const override { return false; }
+    bool TakesKey(const forms::Key&) override { return false; }
 };
 
 struct QuietLinks : core::ProgramLinks {

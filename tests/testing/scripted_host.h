@@ -43,9 +43,12 @@ class ScriptedClock : public platform::Clock {
         if (onRest) onRest();
     }
 
+    // The time until then has gone by.
     void Set(platform::TimeOfDay time) {
-        ofDay = std::chrono::hours(time.hour) + std::chrono::minutes(time.minute) +
-                std::chrono::seconds(time.second);
+        const std::chrono::milliseconds set = std::chrono::hours(time.hour) +
+                                              std::chrono::minutes(time.minute) +
+                                              std::chrono::seconds(time.second);
+        MoveOn((set - ofDay + std::chrono::hours(24)) % std::chrono::hours(24));
     }
     void MoveOn(std::chrono::milliseconds duration) {
         running += duration;
@@ -309,7 +312,9 @@ class ScriptedColors : public platform::SystemColors {
 };
 
 struct ScriptedHost {
-    explicit ScriptedHost(platform::FileSystem& files) : files(files), downloads(files) {}
+    explicit ScriptedHost(platform::FileSystem& files) : files(files), downloads(files) {
+        starter.textOf = [&files](const std::string& path) { return files.ReadFile(path); };
+    }
 
     platform::Host Services(std::string_view programDirectory,
                             std::string_view programName = "Kivu",

@@ -27,6 +27,32 @@ TEST_F(LatePictures, OldPictureStaysUntilTheNewOneComes) {
     EXPECT_FALSE(form.PreviewTimer.Enabled());
 }
 
+TEST_F(LatePictures, WhatIsOnViewIsAboutAGameOnceItsPictureIsThere) {
+    EXPECT_TRUE(previews.IsAbout("/roms/amiga/One.adf"));
+    EXPECT_FALSE(previews.IsAbout("/roms/amiga/Two.adf"));
+    ShowGame("Two.adf");
+    EXPECT_FALSE(previews.IsAbout("/roms/amiga/One.adf"));
+    EXPECT_FALSE(previews.IsAbout("/roms/amiga/Two.adf"));
+    loader.Let();
+    EXPECT_TRUE(previews.IsAbout("/roms/amiga/Two.adf"));
+    // One without a picture, too.
+    ShowGame("Other.adf");
+    EXPECT_TRUE(previews.IsAbout("/roms/amiga/Other.adf"));
+    previews.ShowEmulatorPreview(0);
+    EXPECT_FALSE(previews.IsAbout("/roms/amiga/Two.adf"));
+}
+
+TEST_F(LatePictures, AGameOfNoRowHasItsPicturesToo) {
+    MakeAllDirectories();
+    Files({"/roms/snap/Elk.png"});
+    EXPECT_EQ(previews.FindForGame("/else/where/Elk (1999)(Maker).adf"), "/roms/snap/Elk.png");
+    EXPECT_EQ(previews.FindForGame("/else/where/Two.adf"), "/roms/amiga/Two.png");
+    EXPECT_EQ(previews.FindForGame("/else/where/Yak.adf"), "");
+    Files({"/opt/kivu/Config/Amiga 500/Pictures/Amiga 500.png"});
+    EXPECT_EQ(previews.FindForGame("/else/where/Yak.adf"),
+              "/opt/kivu/Config/Amiga 500/Pictures/Amiga 500.png");
+}
+
 TEST_F(LatePictures, OldPictureDoesNotStayForLong) {
     ShowGame("Two.adf");
     previews.PreviewTimer_Timer();

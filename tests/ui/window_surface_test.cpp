@@ -10,9 +10,7 @@ namespace kivu::ui {
 namespace {
 
 struct WindowSurfaceTest : ::testing::Test {
-    WindowSurface Surface(const std::string& page) {
-        return {form, ini, {host.dialogs, host.starter, files}, busy, alwaysOnTop, page};
-    }
+    WindowSurface Surface() { return {form, ini, {host.dialogs, files}, busy, alwaysOnTop}; }
 
     testing::MemoryFileSystem files;
     testing::ScriptedHost host{files};
@@ -23,22 +21,10 @@ struct WindowSurfaceTest : ::testing::Test {
         form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, host.userStore};
 };
 
-TEST_F(WindowSurfaceTest, TitleOpensTheProjectsPage) {
-    Surface("https://kivu.example/").TitleStr_Click();
-    ASSERT_EQ(host.starter.runs.size(), 1U);
-    EXPECT_TRUE(host.starter.runs[0].opened);
-    EXPECT_EQ(host.starter.runs[0].request.command, "https://kivu.example/");
-}
-
-TEST_F(WindowSurfaceTest, TitleWithoutAPageOpensNothing) {
-    Surface("").TitleStr_Click();
-    EXPECT_TRUE(host.starter.runs.empty());
-}
-
 TEST_F(WindowSurfaceTest, FirstTitleMakesTheSkinsDirectory) {
     files.AddDirectory("/k/Config/Alpha");
     form.ColorsIniName = "/k/Config/Alpha/Skin/Skin.ini";
-    const auto dblClick = [&] { Surface("").MyCaptionLabel_DblClick(); };
+    const auto dblClick = [&] { Surface().MyCaptionLabel_DblClick(); };
     dblClick();
     EXPECT_FALSE(files.IsDirectory("/k/Config/Alpha/Skin")) << "no answer";
     host.dialogs.inputs.push_back("Amiga");

@@ -77,11 +77,69 @@ Commands FileDialog(World&, const Look& look, Random& random) {
     return commands;
 }
 
+Json Change(Random& random) {
+    switch (random.Below(6)) {
+        case 0:
+            return Command({"type", "SettingsForm.SecondsTimerTxt", random.Chance(80) ? "1" : "x"});
+        case 1:
+            return Command({"click", "SettingsForm.ResetScreenRes"});
+        case 2:
+            return Command({"type", "SettingsForm.DeamonPath", "x"});
+        case 3:
+            return Command({"select", "SettingsForm.KillButtonKombo", random.Below(9)});
+        case 4:
+            return Command({"click", "SettingsForm.AutoMoundDeamonTools"});
+        default:
+            return Command({"click", "SettingsForm.Command5"});
+    }
+}
+
+// Opened from the button that shows, changed, saved or not, and left.
+Commands Settings(World& world, const Look& look, Random& random) {
+    Commands commands = Clicked(world, "SettingsBtn");
+    if (commands.empty()) commands = Clicked(world, "SettingsShortBtn");
+    if (commands.empty()) return commands;
+    for (int changes = random.Below(4); changes > 0; --changes)
+        commands.push_back(random.Chance(70) ? Change(random) : HandBehind(look, random));
+    if (random.Chance(50)) commands.push_back(Command({"click", "SettingsForm.SaveBtn"}));
+    if (random.Chance(50)) commands.push_back(Command({"key", "SettingsForm", "Escape"}));
+    commands.push_back(Command({"answer", "OK"}));
+    commands.push_back(Command({"close", "SettingsForm"}));
+    return commands;
+}
+
+Commands LoadingScreenTicks(World&, const Look& look, Random& random) {
+    if (!look.splash) return {};
+    return {Command({"tick", "LoadingInfo.Timer1", 1 + random.Below(3)})};
+}
+
+Commands LoadingScreenIsClicked(World&, const Look& look, Random& random) {
+    static const std::vector<const char*> places{"LoadingInfo", "LoadingInfo.Picture1",
+                                                 "LoadingInfo.Label1", "LoadingInfo.TxtTitle",
+                                                 "LoadingInfo.Command1"};
+    if (!look.splash) return {};
+    return {Command({"click", random.Pick(places)})};
+}
+
+// After a while; a key that is held down means nothing.
+Commands LoadingScreenIsSkipped(World&, const Look& look, Random& random) {
+    static const std::vector<const char*> times{"12:00:00", "13:00:00", "14:00:00"};
+    static const std::vector<const char*> skipping{"Escape", "Enter", "Space"};
+    if (!look.splash) return {};
+    return {Command({"time", random.Pick(times)}),
+            random.Chance(80) ? Command({"key", "Form1", random.Pick(skipping)})
+                              : Command({"key", "Form1", random.Pick(skipping), "repeat"})};
+}
+
 }  // namespace
 
 const std::vector<Action>& WindowActions() {
     static const std::vector<Action> actions{
         {"a file or a directory is chosen", 4, FileDialog},
+        {"the settings are opened", 4, Settings},
+        {"the loading screen ticks", 10, LoadingScreenTicks},
+        {"the loading screen is clicked", 4, LoadingScreenIsClicked},
+        {"the loading screen is skipped", 6, LoadingScreenIsSkipped},
     };
     return actions;
 }

@@ -101,6 +101,7 @@ class Layout {
                                      {"EmulatorPath", "/Emu/" + emulator.program},
                                      {"WinUAE_UseMasterConfig", "0"},
                                      {"SmartRomSelection", emulator.smart},
+                                     {"SplashTimer", std::to_string(random.Below(4))},
                                      {"EmulatorParameterAddDiskPath", "1"}}));
         if (emulator.programThere) Write("Emu/" + emulator.program, "");
         std::string cache;

@@ -55,6 +55,8 @@ Expected Press(const Look& look, const Stores& stores, const std::string& button
 Expected PressKey(const Look& look, const Stores& stores, const std::string& key) {
     const bool enter = key == "Enter", blank = key == "Space";
     if (!enter && !blank) return {};
+    // They are for the loading screen.
+    if (look.splash) return {};
     const List* list = ListOf(look.focus);
     if (look.focus == "EmuListbox" || (list && *list == List::emulators)) {
         Expected expected;

@@ -1,5 +1,6 @@
 #include "walker/look.h"
 
+#include "forms/window_host.h"
 #include "text/text.h"
 
 namespace kivu::walker {
@@ -51,6 +52,8 @@ Look TakeLook(core::Form1& form) {
     look.busyLabel = form.LoadingBtn.Visible();
     look.busy = form.Busy;
     look.ended = form.Ended;
+    const forms::Form* screen = form.GetToolkit().windows->Find("LoadingInfo");
+    look.splash = screen && screen->Visible();
     look.pad.on = form.JoystickTimer.Enabled();
     look.pad.focus = form.JoystickFocus;
     look.pad.adds = form.AddToFavorit.IsReachable();

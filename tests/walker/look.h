@@ -67,6 +67,7 @@ struct Look {
     int loaded = -1;  // row of the loaded emulator
     bool watching = false, picture = false, gameRuns = false;
     bool busyLabel = false, busy = false;
+    bool splash = false;  // the loading screen stands
     bool ended = false;
     PadLook pad;
 

@@ -93,6 +93,8 @@ TEST_F(MeaningTest, ActionsDoWhatTheyShould) {
     look.focus = "WIthoutDoubles";
     EXPECT_EQ(expect({"key", "Form1", "Enter"}).act, Act::start);
     EXPECT_EQ(expect({"key", "Form1", "Space"}).act, Act::nothing);
+    look.splash = true;
+    EXPECT_EQ(expect({"key", "Form1", "Enter"}).act, Act::nothing);
 }
 
 }  // namespace

@@ -50,6 +50,7 @@ class Player {
             end.commands.push_back(Command({"process", "remove", entry.id}));
         if (world.Now().watching)
             end.commands.push_back(Command({"tick", "Form1.EmuActiveTimer", 5}));
+        if (world.Now().splash) end.commands.push_back(Command({"tick", "LoadingInfo.Timer1", 60}));
         for (int i = 0; i < 2; ++i) {
             end.commands.push_back(Command({"answer", "Cancel"}));
             end.commands.push_back(Command({"key", "Form1", "Escape"}));
@@ -161,7 +162,8 @@ class Player {
         const Hand& hand = moment.hand;
         const bool byPad = hand.control == "JoystickTimer" && button == "AddToFavorit" &&
                            moment.expected.act == Expected::Act::storeOwn;
-        const bool byKey = hand.gesture == "key" && (hand.key == "Enter" || hand.key == "Space");
+        const bool byKey = hand.gesture == "key" && !moment.before.splash &&
+                           (hand.key == "Enter" || hand.key == "Space");
         return byPad || hand.control == button || (byKey && moment.before.focus == button);
     }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <array>
+
 namespace kivu::wiring {
 
 struct WaitingWish {
@@ -9,12 +11,6 @@ struct WaitingWish {
 
 // Wishes that nobody serves yet: they do nothing until then. Whoever builds what one waits for
 // joins it and takes it off here.
-inline constexpr WaitingWish waitingWishes[] = {
-    {"EmulatorSwitch.SaveAndSetDisplayMode", "the change of the display mode"},
-    {"RunningWatch.RestoreDisplayMode", "the change of the display mode"},
-    {"GameLaunch.ShowLoadingInfo", "the loading screen"},
-    {"GameLaunch.MountGameImage", "the mounting of disc images"},
-    {"GameLaunch.RunStartScript", "the start script"},
-};
+inline constexpr std::array<WaitingWish, 0> waitingWishes{};
 
 }  // namespace kivu::wiring

@@ -59,9 +59,9 @@ bool IsShown(std::string_view name) {
            name.find('\r') == std::string_view::npos;
 }
 
-// The entries of one buffer from the kernel.
-void Add(int directory, const char* bytes, std::size_t size,
-         platform::FileSystem::Listing& listing) {
+// Goes through the entries of one buffer from the kernel. False: the visitor wants no more.
+template <typename Visitor>
+bool Visit(int directory, const char* bytes, std::size_t size, const Visitor& visit) {
     for (std::size_t at = 0; at < size;) {
         std::uint16_t length = 0;
         std::memcpy(&length, bytes + at + offsetof(dirent64, d_reclen), sizeof(length));
@@ -71,30 +71,54 @@ void Add(int directory, const char* bytes, std::size_t size,
         const std::string_view name = text;
         if (!IsShown(name)) continue;
         const Found found = FoundAs(directory, text, type);
-        if (found.kind != Kind::Other)
-            listing.Add(name, found.kind == Kind::Directory, found.isLink);
+        if (found.kind != Kind::Other && !visit(name, found)) return false;
     }
+    return true;
+}
+
+// The same for all of a directory. Empty: it could not be read to its end.
+template <typename Visitor>
+std::optional<bool> VisitAll(int directory, const Visitor& visit) {
+    alignas(dirent64) std::array<char, bufferSize> buffer;
+    for (;;) {
+        const ssize_t size = ::getdents64(directory, buffer.data(), buffer.size());
+        // A directory that has been removed meanwhile is at its end.
+        if (size == 0 || (size < 0 && errno == ENOENT)) return true;
+        if (size < 0) return std::nullopt;
+        if (!Visit(directory, buffer.data(), static_cast<std::size_t>(size), visit)) return false;
+    }
+}
+
+FileDescriptor OpenDirectory(const std::string& path) {
+    if (path.empty() || path.find('\0') != std::string::npos) return FileDescriptor();
+    return FileDescriptor(::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
 }
 
 }  // namespace
 
 std::optional<platform::FileSystem::Listing> LinuxFileSystem::ReadDirectory(
     const std::string& path) const {
-    if (path.empty() || path.find('\0') != std::string::npos) return std::nullopt;
-    const FileDescriptor directory(
-        ::open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK));
+    const FileDescriptor directory = OpenDirectory(path);
     struct stat status {};
     if (!directory || ::fstat(directory.Get(), &status) != 0) return std::nullopt;
     Listing listing;
     listing.identity = Identity{status.st_dev, status.st_ino};
-    alignas(dirent64) std::array<char, bufferSize> buffer;
-    for (;;) {
-        const ssize_t size = ::getdents64(directory.Get(), buffer.data(), buffer.size());
-        // A directory that has been removed meanwhile is at its end.
-        if (size == 0 || (size < 0 && errno == ENOENT)) return listing;
-        if (size < 0) return std::nullopt;
-        Add(directory.Get(), buffer.data(), static_cast<std::size_t>(size), listing);
-    }
+    const auto read =
+        VisitAll(directory.Get(), [&listing](std::string_view name, const Found& found) {
+            listing.Add(name, found.kind == Kind::Directory, found.isLink);
+            return true;
+        });
+    if (!read) return std::nullopt;
+    return listing;
+}
+
+std::optional<bool> LinuxFileSystem::HasEntries(const std::string& path) const {
+    const FileDescriptor directory = OpenDirectory(path);
+    if (!directory) return std::nullopt;
+    const auto empty =
+        VisitAll(directory.Get(), [](std::string_view, const Found&) { return false; });
+    if (!empty) return std::nullopt;
+    return !*empty;
 }
 
 std::optional<std::vector<platform::FileSystem::Entry>> LinuxFileSystem::ListDirectory(

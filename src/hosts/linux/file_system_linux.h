@@ -23,6 +23,7 @@ class LinuxFileSystem : public platform::FileSystem {
     // file systems that leave it open.
     std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override;
     std::optional<Listing> ReadDirectory(const std::string& path) const override;
+    std::optional<bool> HasEntries(const std::string& path) const override;
     bool ServesThreads() const override { return true; }
     // By an index of the directory's names, which is read anew when the directory has changed.
     // Threads may call both at any time.

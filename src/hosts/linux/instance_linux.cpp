@@ -76,24 +76,30 @@ void CallPatiently(const Address& address, const std::string& file) {
     }
 }
 
-// Program names are file names: any bytes, up to 255 of them. FNV-1a keeps them apart where they do
-// not fit or would be a path.
-std::string SocketName(const std::string& programName) {
+// FNV-1a.
+std::string HashOf(const std::string& text) {
+    std::uint64_t hash = 0xcbf29ce484222325;
+    for (const char letter : text)
+        hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
+    char digits[32];
+    std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(hash));
+    return digits;
+}
+
+// Program names are file names: any bytes, up to 255 of them. A hash keeps them apart where they do
+// not fit or would be a path, and directories always.
+std::string SocketName(const std::string& programName, const std::string& directory) {
     constexpr std::size_t maxPlain = 32;
     const bool isPlain = programName.size() <= maxPlain &&
                          programName.find_first_of(std::string_view("/\0", 2)) == std::string::npos;
-    if (isPlain) return "kivu-" + programName;
-    std::uint64_t hash = 0xcbf29ce484222325;
-    for (const char letter : programName)
-        hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
-    char text[32];
-    std::snprintf(text, sizeof text, "kivu-%016llx", static_cast<unsigned long long>(hash));
-    return text;
+    const std::string name = "kivu-" + (isPlain ? programName : HashOf(programName));
+    return directory.empty() ? name : name + "-" + HashOf(directory);
 }
 
 }  // namespace
 
-LinuxInstance::LinuxInstance(const std::string& programName) : programName(programName) {
+LinuxInstance::LinuxInstance(const std::string& programName, const std::string& directory)
+    : name(SocketName(programName, directory)) {
 }
 
 LinuxInstance::~LinuxInstance() {
@@ -104,7 +110,6 @@ LinuxInstance::~LinuxInstance() {
 bool LinuxInstance::HandOver(const std::string&, const std::string& file) {
     if (listener) return false;
     const std::string told = file.size() <= maxFile ? file : "";
-    const std::string name = SocketName(programName);
     const std::string directory = UserRuntimeDirectory();
     Address address;
     const std::string path = directory + "/" + name + ".socket";

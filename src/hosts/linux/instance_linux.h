@@ -10,20 +10,22 @@
 
 namespace kivu::hosts {
 
-// One instance for each user and program name. The first one listens on a Unix socket for as long
+// One instance for each user, program name and directory of the program, so that a portable one
+// comes up beside an installed one. The first one listens on a Unix socket for as long
 // as it runs; a later one connects to it, writes the bytes of the path that it was given, if any,
 // and closes: that is the whole message. The socket lies in the user's runtime directory, guarded
 // by a lock that the kernel drops with its owner, so what a crash leaves behind hinders nobody.
 // Without such a directory it is an abstract socket.
 class LinuxInstance : public platform::Instance {
  public:
-    explicit LinuxInstance(const std::string& programName);
+    // `directory`: the one that holds Config, with every link resolved.
+    explicit LinuxInstance(const std::string& programName, const std::string& directory = {});
     ~LinuxInstance() override;
     LinuxInstance(const LinuxInstance&) = delete;
     LinuxInstance& operator=(const LinuxInstance&) = delete;
 
     // False: this is the first one, and it listens from now on. The title plays no part: the
-    // program name tells instances apart. Where no socket can be made at all, every instance is a
+    // program tells instances apart. Where no socket can be made at all, every instance is a
     // first one.
     bool HandOver(const std::string& title, const std::string& file) override;
     void OnSummoned(std::function<void(const std::string&)> summon) override;
@@ -47,7 +49,7 @@ class LinuxInstance : public platform::Instance {
     void AcceptCallers();
     bool HasFinished(Caller& caller) const;
 
-    std::string programName;
+    std::string name;        // of the socket, without its place
     std::string socketPath;  // to be removed at the end; empty: an abstract socket or none
     FileDescriptor lock;
     FileDescriptor listener;

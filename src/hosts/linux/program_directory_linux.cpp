@@ -50,9 +50,15 @@ std::string ProgramName(const std::string& programFile) {
     return ending == ".exe" ? name.substr(0, name.size() - 4) : name;
 }
 
+bool IsInstalled(const std::string& programFile) {
+    const std::string own = DirectoryOf(programFile);
+    return !own.empty() && IsDirectory(own + "/../share/kivu");
+}
+
 std::string ProgramDirectory(const std::string& programFile) {
     const std::string own = DirectoryOf(programFile);
-    if (!own.empty() && (IsDirectory(own + (own == "/" ? "Config" : "/Config")) || IsWritable(own)))
+    if (!own.empty() && !IsInstalled(programFile) &&
+        (IsDirectory(own + (own == "/" ? "Config" : "/Config")) || IsWritable(own)))
         return own;
     const std::string data = UserDataDirectory();
     // Without a home there is only the program's own place left, for reading.

@@ -10,9 +10,14 @@ std::string ProgramFile();
 // Its base name without ".exe": "Kivu", "Kivu-1.4".
 std::string ProgramName(const std::string& programFile);
 
-// Where Config lies, without a closing "/": the program file's directory if the user may write to
-// it or it holds a Config directory already, otherwise $XDG_DATA_HOME/Kivu, which is made if
-// missing.
+// Whether the program has been installed for the system or a user: "share/kivu" lies beside the
+// directory of its file.
+bool IsInstalled(const std::string& programFile);
+
+// Where Config lies, without a closing "/". Of an installed program: $XDG_DATA_HOME/Kivu, which is
+// made if missing, whoever runs it; root could write beside its file, and nobody else could change
+// that any more. Of any other: its file's directory if the user may write to it or it holds a
+// Config directory already, otherwise the same.
 std::string ProgramDirectory(const std::string& programFile);
 
 }  // namespace kivu::hosts

@@ -1,9 +1,12 @@
 #include "hosts/linux/program_starter_linux.h"
 
+#include <sys/stat.h>
+#include <unistd.h>
 #include <utility>
 
 #include "hosts/linux/detached_process.h"
 #include "hosts/linux/start_words.h"
+#include "hosts/linux/text_editor.h"
 #include "hosts/run_and_wait.h"
 
 namespace kivu::hosts {
@@ -47,8 +50,40 @@ std::error_code LinuxProgramStarter::RunAndWait(const platform::StartRequest& re
         goOn);
 }
 
-std::error_code LinuxProgramStarter::EditText(const std::string&) {
-    return std::make_error_code(std::errc::not_supported);
+std::error_code LinuxProgramStarter::EditText(const std::string& path) {
+    if (path.empty() || path.find('\0') != std::string::npos)
+        return std::make_error_code(std::errc::invalid_argument);
+    auto failure = std::make_error_code(std::errc::no_such_file_or_directory);
+    // An absolute path is no option of an editor, whatever it is called.
+    for (const platform::StartRequest& editor : EditorsFor(AbsolutePath(path))) {
+        failure = Run(editor);
+        if (!failure) break;
+    }
+    return failure;
+}
+
+bool LinuxProgramStarter::MayRun(const std::string& program) const {
+    if (IsWindowsProgram(program)) return !FindProgram("wine").empty();
+    return ::access(program.c_str(), X_OK) == 0;
+}
+
+bool LinuxProgramStarter::SearchesIn(const std::string& directory) const {
+    struct stat wanted {};
+    if (::stat(directory.c_str(), &wanted) != 0 || !S_ISDIR(wanted.st_mode)) return false;
+    for (const std::string& searched : SearchedDirectories()) {
+        struct stat status {};
+        if (::stat(searched.c_str(), &status) == 0 && status.st_dev == wanted.st_dev &&
+            status.st_ino == wanted.st_ino)
+            return true;
+    }
+    return false;
+}
+
+std::string LinuxProgramStarter::FindExecutable(const std::string& path) const {
+    struct stat status {};
+    const bool isFile = path.find('\0') == std::string::npos &&
+                        ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    return isFile ? FindProgram("xdg-open") : std::string();
 }
 
 std::string LinuxProgramStarter::FindInPath(const std::string& name) const {

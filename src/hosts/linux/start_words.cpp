@@ -1,5 +1,6 @@
 #include "hosts/linux/start_words.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
@@ -23,13 +24,6 @@ bool IsRegularFile(const std::string& path) {
     return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
 }
 
-// The program changes its directory before it runs, so no path may depend on the present one.
-std::string Absolute(const std::string& path) {
-    std::error_code failure;
-    const auto absolute = std::filesystem::absolute(path, failure);
-    return failure ? path : absolute.string();
-}
-
 bool HoldsNul(const platform::StartRequest& request) {
     for (const auto& word : request.words) {
         if (word.find('\0') != std::string::npos) return true;
@@ -39,7 +33,7 @@ bool HoldsNul(const platform::StartRequest& request) {
 
 std::error_code ResolveStartFile(const platform::StartRequest& request, DetachedProgram& resolved) {
     // Begins with "/", so that the shell never takes it for an option.
-    resolved.words[0] = Absolute(request.words[0]);
+    resolved.words[0] = AbsolutePath(request.words[0]);
     if (!IsRegularFile(resolved.words[0])) return Missing();
     resolved.program = "/bin/sh";
     resolved.words.insert(resolved.words.begin(), "sh");
@@ -50,7 +44,7 @@ std::error_code ResolveWindowsProgram(const platform::StartRequest& request,
                                       DetachedProgram& resolved) {
     const std::string& program = request.words[0];
     if (program.find('/') != std::string::npos) {
-        resolved.words[0] = Absolute(program);
+        resolved.words[0] = AbsolutePath(program);
         // Wine takes seconds to find out by itself.
         if (!IsRegularFile(resolved.words[0])) return Missing();
     }
@@ -62,18 +56,31 @@ std::error_code ResolveWindowsProgram(const platform::StartRequest& request,
 
 }  // namespace
 
-std::string FindProgram(const std::string& name) {
-    if (name.find('/') != std::string::npos) return Absolute(name);
+// A program changes its directory before it runs, so no path may depend on the present one.
+std::string AbsolutePath(const std::string& path) {
+    std::error_code failure;
+    const auto absolute = std::filesystem::absolute(path, failure);
+    return failure ? path : absolute.string();
+}
+
+std::vector<std::string> SearchedDirectories() {
     const char* variable = std::getenv("PATH");
-    std::string_view directories = variable != nullptr ? variable : "/usr/local/bin:/usr/bin:/bin";
-    while (!name.empty() && !directories.empty()) {
-        const auto colon = directories.find(':');
-        const std::string candidate = std::string(directories.substr(0, colon)) + "/" + name;
-        // A relative or empty entry means the current directory, which may hold anybody's files.
-        if (candidate.starts_with('/') && colon != 0 && IsRegularFile(candidate) &&
-            ::access(candidate.c_str(), X_OK) == 0)
-            return candidate;
-        directories.remove_prefix(colon == std::string_view::npos ? directories.size() : colon + 1);
+    std::string_view left = variable != nullptr ? variable : "/usr/local/bin:/usr/bin:/bin";
+    std::vector<std::string> directories;
+    while (!left.empty()) {
+        const auto colon = std::min(left.find(':'), left.size());
+        if (left.starts_with('/')) directories.emplace_back(left.substr(0, colon));
+        left.remove_prefix(std::min(colon + 1, left.size()));
+    }
+    return directories;
+}
+
+std::string FindProgram(const std::string& name) {
+    if (name.find('/') != std::string::npos) return AbsolutePath(name);
+    if (name.empty()) return {};
+    for (const std::string& directory : SearchedDirectories()) {
+        const std::string candidate = directory + "/" + name;
+        if (IsRegularFile(candidate) && ::access(candidate.c_str(), X_OK) == 0) return candidate;
     }
     return {};
 }

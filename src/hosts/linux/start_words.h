@@ -2,11 +2,19 @@
 
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "hosts/linux/detached_process.h"
 #include "platform/program_starter.h"
 
 namespace kivu::hosts {
+
+// The path from the root, whatever the current directory becomes.
+std::string AbsolutePath(const std::string& path);
+
+// Those of $PATH, without relative and empty ones: they mean the current directory, which may hold
+// anybody's files.
+std::vector<std::string> SearchedDirectories();
 
 // The executable file that a bare name means: the first of $PATH's directories that has one. A path
 // with a "/" comes back absolute, whether the file is there or not. Empty: not found.

@@ -27,7 +27,9 @@ QWidget* Owner() {
     if (QWidget* active = QApplication::activeWindow()) return active;
     for (QWidget* window : QApplication::topLevelWidgets()) {
         const bool popup = window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip;
-        if (window->isVisible() && !popup) return window;
+        // One that keeps off the keyboard may go by itself at any time, and the box with it.
+        const bool passing = window->testAttribute(Qt::WA_ShowWithoutActivating);
+        if (window->isVisible() && !popup && !passing) return window;
     }
     return nullptr;
 }

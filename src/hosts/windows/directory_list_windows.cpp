@@ -41,14 +41,18 @@ bool IsLink(const WIN32_FIND_DATAW& found) {
            IsReparseTagNameSurrogate(found.dwReserved0);
 }
 
+// Of what a link leads to; INVALID_FILE_ATTRIBUTES where that is nothing.
+DWORD AttributesOf(const std::wstring& directory, const WIN32_FIND_DATAW& found) {
+    return IsLink(found) ? hosts::AttributesOf(directory + found.cFileName)
+                         : found.dwFileAttributes;
+}
+
 void Add(const std::wstring& directory, const WIN32_FIND_DATAW& found,
          platform::FileSystem::Listing& listing) {
-    const bool isLink = IsLink(found);
-    const DWORD attributes =
-        isLink ? AttributesOf(directory + found.cFileName) : found.dwFileAttributes;
+    const DWORD attributes = AttributesOf(directory, found);
     if (attributes == INVALID_FILE_ATTRIBUTES) return;
     const bool isDirectory = (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
-    listing.Add(Narrow(found.cFileName), isDirectory, isDirectory && isLink);
+    listing.Add(Narrow(found.cFileName), isDirectory, isDirectory && IsLink(found));
 }
 
 // The best of the files that a pattern of the disk finds.
@@ -60,8 +64,7 @@ void Offer(const std::wstring& directory, const std::wstring& pattern, std::stri
     if (!search) return;
     do {
         if (!IsShown(found)) continue;
-        const DWORD attributes =
-            IsLink(found) ? AttributesOf(directory + found.cFileName) : found.dwFileAttributes;
+        const DWORD attributes = AttributesOf(directory, found);
         if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
             continue;
         std::string name = Narrow(found.cFileName);
@@ -118,6 +121,26 @@ std::optional<platform::FileSystem::Listing> WindowsFileSystem::ReadDirectory(
     } while (search.Next(found));
     if (::GetLastError() != ERROR_NO_MORE_FILES) return std::nullopt;
     return listing;
+}
+
+std::optional<bool> WindowsFileSystem::HasEntries(const std::string& path) const {
+    const auto system = SystemPath(path);
+    if (!system) return std::nullopt;
+    AskForNoDisk();
+    const std::wstring directory = system->ends_with(L'\\') ? *system : *system + L"\\";
+    WIN32_FIND_DATAW found{};
+    Search search(directory + L"*", found);
+    if (!search) {
+        // The root of an empty drive holds not even ".".
+        if (::GetLastError() == ERROR_FILE_NOT_FOUND && IsDirectory(path)) return false;
+        return std::nullopt;
+    }
+    do {
+        if (IsShown(found) && AttributesOf(directory, found) != INVALID_FILE_ATTRIBUTES)
+            return true;
+    } while (search.Next(found));
+    if (::GetLastError() != ERROR_NO_MORE_FILES) return std::nullopt;
+    return false;
 }
 
 std::optional<std::vector<platform::FileSystem::Entry>> WindowsFileSystem::ListDirectory(

@@ -27,6 +27,7 @@ class WindowsFileSystem : public platform::FileSystem {
     std::optional<std::vector<Entry>> ListDirectory(const std::string& path) const override;
     // As the constructor for the calling thread.
     std::optional<Listing> ReadDirectory(const std::string& path) const override;
+    std::optional<bool> HasEntries(const std::string& path) const override;
     bool ServesThreads() const override { return true; }
     // By the disk's own search. A name's short form counts for nothing.
     std::optional<std::string> FirstMatch(const std::string& directory, std::string_view prefix,

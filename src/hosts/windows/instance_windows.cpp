@@ -37,11 +37,12 @@ std::wstring UserName() {
     return name;
 }
 
-// Kernel objects' names have a limit and no "\" behind their "Local\". FNV-1a keeps program names
-// apart; a file is the same one in small and capital letters.
-std::wstring ObjectName(const std::string& programName) {
+// Kernel objects' names have a limit and no "\" behind their "Local\". FNV-1a keeps programs apart;
+// a file is the same one in small and capital letters, and no name holds a "|".
+std::wstring ObjectName(const std::string& programName, const std::string& directory) {
+    const std::string whole = directory.empty() ? programName : programName + "|" + directory;
     std::uint64_t hash = 0xcbf29ce484222325;
-    for (const char letter : text::ToLower(programName))
+    for (const char letter : text::ToLower(whole))
         hash = (hash ^ static_cast<unsigned char>(letter)) * 0x100000001b3;
     wchar_t text[32];
     std::swprintf(text, std::size(text), L"%016llx", static_cast<unsigned long long>(hash));
@@ -75,7 +76,8 @@ std::optional<std::string> FileIn(const COPYDATASTRUCT& data) {
 
 }  // namespace
 
-WindowsInstance::WindowsInstance(const std::string& programName) : name(ObjectName(programName)) {
+WindowsInstance::WindowsInstance(const std::string& programName, const std::string& directory)
+    : name(ObjectName(programName, directory)) {
 }
 
 WindowsInstance::~WindowsInstance() {

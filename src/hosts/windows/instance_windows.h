@@ -10,14 +10,16 @@
 
 namespace kivu::hosts {
 
-// One instance for each user and program name, within a session. The first one holds a named mutex,
+// One instance for each user, program name and directory of the program, within a session. The
+// first one holds a named mutex,
 // which goes with its process whatever becomes of it, and a hidden window of its own for calls. A
 // later one finds that window and sends it a message. Neither the class nor the title of the
 // visible window would do: the class is the toolkit's and changes with it, and the title is a
 // running progress report.
 class WindowsInstance : public platform::Instance {
  public:
-    explicit WindowsInstance(const std::string& programName);
+    // `directory`: the one that holds Config, with every link resolved.
+    explicit WindowsInstance(const std::string& programName, const std::string& directory = {});
     ~WindowsInstance() override;
     WindowsInstance(const WindowsInstance&) = delete;
     WindowsInstance& operator=(const WindowsInstance&) = delete;

@@ -58,7 +58,8 @@ WindowsLog::WindowsLog(const std::string& path, std::size_t maxSize)
 void WindowsLog::Write(std::string_view text) {
     const std::scoped_lock one(writing);
     const std::string line = text::LogLine(LocalTime(), ::GetCurrentProcessId(), text) + "\r\n";
-    if (echo) Echo(line);
+    // No more, once nobody is there who could read it.
+    if (echo) echo = standardError.Write(line);
     FindPlace();
     if (!path.empty()) Append(line);
 }
@@ -128,29 +129,6 @@ void WindowsLog::WriteTo(const Handle& file, const std::string& line) {
     DWORD written = 0;
     ::WriteFile(file.Get(), whole.data(), static_cast<DWORD>(whole.size()), &written, nullptr);
     if (written > 0) torn = written < whole.size();
-}
-
-void WindowsLog::Echo(const std::string& line) {
-    const HANDLE given = ::GetStdHandle(STD_ERROR_HANDLE);
-    // None, or one that leads nowhere.
-    const bool isGiven = ::GetFileType(given) != FILE_TYPE_UNKNOWN;
-    if (!isGiven && !console) {
-        ::AttachConsole(ATTACH_PARENT_PROCESS);
-        console = Handle(::CreateFileW(L"CONOUT$", GENERIC_READ | GENERIC_WRITE,
-                                       FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
-                                       0, nullptr));
-        // Nobody is there who could read it.
-        if (!console) echo = false;
-    }
-    const HANDLE out = isGiven ? given : console.Get();
-    DWORD mode = 0;
-    DWORD written = 0;
-    if (::GetConsoleMode(out, &mode)) {
-        const std::wstring wide = Wide(line);
-        ::WriteConsoleW(out, wide.data(), static_cast<DWORD>(wide.size()), &written, nullptr);
-    } else {
-        ::WriteFile(out, line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
-    }
 }
 
 }  // namespace kivu::hosts

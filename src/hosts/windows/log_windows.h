@@ -5,6 +5,7 @@
 #include <string>
 
 #include "hosts/windows/handle.h"
+#include "hosts/windows/standard_stream.h"
 #include "platform/log.h"
 
 namespace kivu::hosts {
@@ -35,7 +36,6 @@ class WindowsLog : public platform::Log {
     void Append(const std::string& line);
     void MakeRoom(const Handle& file) const;
     void WriteTo(const Handle& file, const std::string& line);
-    void Echo(const std::string& line);
 
     std::mutex writing;
     std::wstring path;  // for the system's calls; empty: nowhere to write
@@ -43,7 +43,7 @@ class WindowsLog : public platform::Log {
     std::size_t maxSize = defaultSize;
     bool torn = false;  // the last line has no end
     bool echo = false;
-    Handle console;
+    StandardStream standardError{STD_ERROR_HANDLE};
 };
 
 }  // namespace kivu::hosts

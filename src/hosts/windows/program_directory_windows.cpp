@@ -3,7 +3,11 @@
 #include "hosts/windows/system_text.h"
 #include "hosts/windows/wide_path.h"
 #include "hosts/windows/wide_text.h"
+#include "hosts/windows/win32.h"
 #include "text/text.h"
+
+// Needs windows.h.
+#include <shellapi.h>
 
 namespace kivu::hosts {
 
@@ -11,6 +15,16 @@ std::string ProgramFile() {
     // A path that does not fit is cut, and its length is then the buffer's.
     return Narrow(WithoutPrefix(SystemText(
         [](wchar_t* buffer, DWORD size) { return ::GetModuleFileNameW(nullptr, buffer, size); })));
+}
+
+std::vector<std::string> ProgramArguments() {
+    std::vector<std::string> arguments;
+    int count = 0;
+    wchar_t** words = ::CommandLineToArgvW(::GetCommandLineW(), &count);
+    for (int word = 1; words != nullptr && word < count; ++word)
+        arguments.push_back(Narrow(words[word]));
+    ::LocalFree(words);
+    return arguments;
 }
 
 std::string ProgramName(const std::string& programFile) {

@@ -1,11 +1,15 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace kivu::hosts {
 
 // Absolute path of the running program's file; empty if the system does not tell it.
 std::string ProgramFile();
+
+// What it was started with, without its own name.
+std::vector<std::string> ProgramArguments();
 
 // Its base name without ".exe": "Kivu", "Kivu-1.4".
 std::string ProgramName(const std::string& programFile);

@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <optional>
 #include <string_view>
+#include <vector>
 
 #include "hosts/run_and_wait.h"
 #include "hosts/windows/batch_command.h"
 #include "hosts/windows/code_page.h"
+#include "hosts/windows/file_system_windows.h"
 #include "hosts/windows/handle.h"
 #include "hosts/windows/system_text.h"
 #include "hosts/windows/wide_text.h"
@@ -169,15 +171,8 @@ std::error_code RunProgram(const platform::StartRequest& request, const Command&
     return forTheShell ? OpenByShell(request, command) : failure;
 }
 
-// The system's own directories, and then those of PATH, divided by ";".
-std::wstring SearchedDirectories() {
-    return SystemText([](wchar_t* text, DWORD size) { return ::GetSystemDirectoryW(text, size); }) +
-           L";" + SystemText([](wchar_t* text, DWORD size) {
-               return ::GetWindowsDirectoryW(text, size);
-           }) +
-           L";" + SystemText([](wchar_t* text, DWORD size) {
-               return ::GetEnvironmentVariableW(L"PATH", text, size);
-           });
+std::wstring SystemDirectory() {
+    return SystemText([](wchar_t* text, DWORD size) { return ::GetSystemDirectoryW(text, size); });
 }
 
 bool IsAbsolute(std::wstring_view directory) {
@@ -186,9 +181,25 @@ bool IsAbsolute(std::wstring_view directory) {
            (directory[2] == L'\\' || directory[2] == L'/');
 }
 
+// The system's own directories, and then those of PATH.
+std::vector<std::wstring> SearchedDirectories() {
+    const std::wstring path = SystemText(
+        [](wchar_t* text, DWORD size) { return ::GetEnvironmentVariableW(L"PATH", text, size); });
+    std::vector<std::wstring> directories{
+        SystemDirectory(),
+        SystemText([](wchar_t* text, DWORD size) { return ::GetWindowsDirectoryW(text, size); })};
+    for (std::size_t at = 0; at < path.size();) {
+        const std::size_t end = std::min(path.find(L';', at), path.size());
+        directories.push_back(path.substr(at, end - at));
+        std::erase(directories.back(), L'"');
+        at = end + 1;
+    }
+    std::erase_if(directories, [](const std::wstring& one) { return !IsAbsolute(one); });
+    return directories;
+}
+
 // Empty: it is not there.
 std::wstring FindIn(const std::wstring& directory, const std::wstring& name) {
-    if (!IsAbsolute(directory)) return {};
     for (const wchar_t* ending : {L".exe", L".com", L".bat", L".cmd"}) {
         const std::wstring path = SystemText([&](wchar_t* text, DWORD size) {
             return ::SearchPathW(directory.c_str(), name.c_str(), ending, size, text, nullptr);
@@ -219,8 +230,16 @@ std::error_code WindowsProgramStarter::RunAndWait(const platform::StartRequest& 
     return RunBeside([waited] { return WindowsProgramStarter().Run(waited); }, goOn);
 }
 
-std::error_code WindowsProgramStarter::EditText(const std::string&) {
-    return std::make_error_code(std::errc::not_supported);
+std::error_code WindowsProgramStarter::EditText(const std::string& path) {
+    if (path.empty() || path.find('"') != std::string::npos || path.find('\0') != std::string::npos)
+        return Failure(ERROR_INVALID_PARAMETER);
+    const std::wstring file = Wide(path);
+    const std::wstring absolute = SystemText([&file](wchar_t* text, DWORD size) {
+        return ::GetFullPathNameW(file.c_str(), size, text, nullptr);
+    });
+    if (absolute.empty()) return Failure(ERROR_INVALID_PARAMETER);
+    const std::wstring editor = SystemDirectory() + L"\\notepad.exe";
+    return CreateIn({}, editor, L"\"" + editor + L"\" \"" + absolute + L"\"");
 }
 
 std::optional<std::string> WindowsProgramStarter::StartFileBytes(std::string_view text) const {
@@ -231,17 +250,33 @@ std::optional<std::string> WindowsProgramStarter::StartFileBytes(std::string_vie
 
 std::string WindowsProgramStarter::FindInPath(const std::string& name) const {
     if (name.empty() || name.find('\0') != std::string::npos || !IsBareName(name)) return {};
-    const std::wstring directories = SearchedDirectories();
     const std::wstring wanted = Wide(name);
-    for (std::size_t at = 0; at < directories.size();) {
-        const std::size_t end = std::min(directories.find(L';', at), directories.size());
-        std::wstring directory = directories.substr(at, end - at);
-        std::erase(directory, L'"');
+    for (const std::wstring& directory : SearchedDirectories()) {
         const std::wstring found = FindIn(directory, wanted);
         if (!found.empty()) return Narrow(found);
-        at = end + 1;
     }
     return {};
+}
+
+bool WindowsProgramStarter::SearchesIn(const std::string& directory) const {
+    const WindowsFileSystem files;
+    if (!files.IsDirectory(directory)) return false;
+    const auto wanted = files.IdentityOf(directory);
+    if (!wanted) return false;
+    for (const std::wstring& searched : SearchedDirectories()) {
+        if (files.IdentityOf(Narrow(searched)) == wanted) return true;
+    }
+    return false;
+}
+
+std::string WindowsProgramStarter::FindExecutable(const std::string& path) const {
+    if (path.find('\0') != std::string::npos || !IsFile(Wide(path))) return {};
+    std::wstring found(MAX_PATH, L'\0');
+    const auto result =
+        reinterpret_cast<INT_PTR>(::FindExecutableW(Wide(path).c_str(), nullptr, found.data()));
+    // At or below this it is an error.
+    constexpr INT_PTR lastError = 32;
+    return result > lastError ? Narrow(found.substr(0, found.find(L'\0'))) : std::string();
 }
 
 std::error_code WindowsProgramStarter::Open(const std::string& addressOrPath) {

@@ -19,12 +19,15 @@ class WindowsProgramStarter : public platform::ProgramStarter {
     std::error_code Run(const platform::StartRequest& request) override;
     std::error_code RunAndWait(const platform::StartRequest& request,
                                const std::function<bool()>& goOn) override;
+    // The system's own editor, from the system's directory.
     std::error_code EditText(const std::string& path) override;
     bool UsesShell() const override { return false; }
     std::optional<std::string> StartFileBytes(std::string_view text) const override;
     // In the system's directories, then in those of PATH; those that are not absolute may hold
     // anybody's files, and are passed over. A name with a directory is no bare one: empty.
     std::string FindInPath(const std::string& name) const override;
+    bool SearchesIn(const std::string& directory) const override;
+    std::string FindExecutable(const std::string& path) const override;
     std::error_code Open(const std::string& addressOrPath) override;
 };
 

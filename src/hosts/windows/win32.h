@@ -14,5 +14,6 @@
 
 #undef CreateDirectory
 #undef DeleteFile
+#undef FindExecutable
 #undef MessageBox
 #undef MoveFile

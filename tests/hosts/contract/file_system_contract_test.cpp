@@ -47,6 +47,18 @@ TEST_F(FilesContract, AListOfAMissingDirectoryOrAFileIsNone) {
     EXPECT_EQ(files.ListDirectory(directory.Root() + std::string("\0/x", 3)), std::nullopt);
 }
 
+TEST_F(FilesContract, ADirectoryHoldsSomethingOrNothing) {
+    EXPECT_EQ(files.HasEntries(directory.Root()), false);
+    fs::create_directory(directory.Path("sub"));
+    EXPECT_EQ(files.HasEntries(directory.Root()), true);
+    EXPECT_EQ(files.HasEntries(directory.Path("sub")), false);
+    directory.Write("sub/file", "x");
+    EXPECT_EQ(files.HasEntries(directory.Path("sub")), true);
+    for (const std::string& none : {directory.Path("missing"), directory.Path("sub/file"),
+                                   std::string(), directory.Root() + std::string("\0/x", 3)})
+        EXPECT_EQ(files.HasEntries(none), std::nullopt) << none;
+}
+
 TEST_F(FilesContract, NoPatternIsAFile) {
     directory.Write("Game.adf", "x");
     EXPECT_TRUE(files.FileExists(directory.Path("Game.adf")));

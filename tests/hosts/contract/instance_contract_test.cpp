@@ -73,6 +73,30 @@ TEST_P(InstanceContract, AnotherProgramNameIsAnotherInstance) {
     EXPECT_FALSE(Instance(program + "-1.4").HandOver("Kivu", ""));
 }
 
+TEST_P(InstanceContract, AnotherDirectoryOfTheProgramIsAnotherInstance) {
+    Instance installed(program, "/home/u/.local/share/Kivu");
+    Instance portable(program, "/media/stick/Kivu");
+    EXPECT_FALSE(installed.HandOver("Kivu", ""));
+    EXPECT_FALSE(portable.HandOver("Kivu", ""));
+    EXPECT_TRUE(Instance(program, "/media/stick/Kivu").HandOver("Kivu", "/a.adf"));
+    std::vector<std::string> files;
+    portable.OnSummoned([&](const std::string& file) { files.push_back(file); });
+    installed.OnSummoned([&](const std::string&) { files.push_back("the wrong one"); });
+    HostInstances::Serve(portable);
+    HostInstances::Serve(installed);
+    EXPECT_EQ(files, std::vector<std::string>{"/a.adf"});
+    EXPECT_FALSE(Instance(program).HandOver("Kivu", ""));
+}
+
+TEST_P(InstanceContract, ADirectoryOfAnyBytesAndLengthWorks) {
+    const std::string longest = "/" + std::string(4000, 'd');
+    for (const std::string& directory : {longest, std::string("/\xff\n"), std::string("/")}) {
+        Instance first(program, directory);
+        EXPECT_FALSE(first.HandOver("Kivu", ""));
+        EXPECT_TRUE(Instance(program, directory).HandOver("Kivu", ""));
+    }
+}
+
 TEST_P(InstanceContract, AfterTheFirstHasEndedTheNextIsFirst) {
     {
         Instance first(program);

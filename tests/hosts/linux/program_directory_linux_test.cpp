@@ -49,6 +49,48 @@ TEST_F(ProgramDirectoryLinux, AConfigBesideTheProgramIsTakenEvenIfItCannotBeWrit
         [&] { return ProgramDirectory(directory.Path("bin/Kivu")) == directory.Path("bin"); }));
 }
 
+TEST_F(ProgramDirectoryLinux, AnInstalledOneKeepsItsDataWithTheUserWhateverCanBeWritten) {
+    EXPECT_FALSE(IsInstalled(directory.Path("bin/Kivu")));
+    fs::create_directories(directory.Path("share/kivu"));
+    EXPECT_TRUE(IsInstalled(directory.Path("bin/Kivu")));
+    // Root may write beside the program, and so may the owner of ~/.local.
+    EXPECT_EQ(ProgramDirectory(directory.Path("bin/Kivu")), directory.Path("data/Kivu"));
+    EXPECT_TRUE(fs::is_directory(directory.Path("data/Kivu")));
+    // What an earlier one has left there is not looked at.
+    fs::create_directory(directory.Path("bin/Config"));
+    EXPECT_EQ(ProgramDirectory(directory.Path("bin/Kivu")), directory.Path("data/Kivu"));
+    ProtectProgram();
+    EXPECT_TRUE(kivu::testing::HoldsForPlainUser([&] {
+        return ProgramDirectory(directory.Path("bin/Kivu")) == directory.Path("data/Kivu");
+    }));
+}
+
+TEST_F(ProgramDirectoryLinux, BelowTheUsersOwnPrefixTheDataLieBesideTheMarker) {
+    const kivu::testing::EnvironmentVariable unset("XDG_DATA_HOME", std::nullopt);
+    const kivu::testing::EnvironmentVariable home("HOME", directory.Root());
+    fs::create_directories(directory.Path(".local/bin"));
+    fs::create_directories(directory.Path(".local/share/kivu"));
+    EXPECT_EQ(ProgramDirectory(directory.Path(".local/bin/Kivu")),
+              directory.Path(".local/share/Kivu"));
+}
+
+TEST_F(ProgramDirectoryLinux, AnInstalledOneWhoseDirectoryCannotBeMadeTakesNoOther) {
+    fs::create_directories(directory.Path("share/kivu"));
+    fs::permissions(directory.Path("data"), fs::perms(0555));
+    EXPECT_TRUE(kivu::testing::HoldsForPlainUser([&] {
+        return ProgramDirectory(directory.Path("bin/Kivu")) == directory.Path("data/Kivu");
+    }));
+}
+
+TEST_F(ProgramDirectoryLinux, WhatOnlyLooksLikeTheMarkerIsNone) {
+    for (const char* other : {"share/kivu-demo", "bin/share/kivu", "share/Kivu"})
+        fs::create_directories(directory.Path(other));
+    directory.Write("share/kivu", "a file");
+    EXPECT_FALSE(IsInstalled(directory.Path("bin/Kivu")));
+    EXPECT_FALSE(IsInstalled(""));
+    EXPECT_EQ(ProgramDirectory(directory.Path("bin/Kivu")), directory.Path("bin"));
+}
+
 TEST_F(ProgramDirectoryLinux, AFileNamedConfigIsNoConfig) {
     directory.Write("bin/Config", "x");
     ProtectProgram();

@@ -356,5 +356,40 @@ TEST_F(ProgramStarterLinux, HundredStartsLeaveNothingOpen) {
     EXPECT_EQ(open(), before);
 }
 
+TEST_F(ProgramStarterLinux, WhoMayRunAFileSaysItsRights) {
+    EXPECT_TRUE(starter.MayRun(WriteProgram("program", "#!/bin/sh\n")));
+    EXPECT_FALSE(starter.MayRun(directory.Write("text", "x")));
+    EXPECT_FALSE(starter.MayRun(directory.Path("gone")));
+    const std::string windows = directory.Write("tool.EXE", "MZ");
+    {
+        const EnvironmentVariable none("PATH", directory.Root());
+        EXPECT_FALSE(starter.MayRun(windows));
+    }
+    fs::create_directory(directory.Path("bin"));
+    WriteProgram("bin/wine", "#!/bin/sh\n");
+    const EnvironmentVariable own("PATH", directory.Path("bin"));
+    EXPECT_TRUE(starter.MayRun(windows));
+}
+
+TEST_F(ProgramStarterLinux, TheCurrentDirectoryIsNotSearched) {
+    fs::create_directory(directory.Path("bin"));
+    fs::create_directory_symlink(directory.Path("bin"), directory.Path("link"));
+    const EnvironmentVariable own("PATH", ":.:" + directory.Path("bin/"));
+    EXPECT_FALSE(starter.SearchesIn(fs::current_path().string()));
+    EXPECT_TRUE(starter.SearchesIn(directory.Path("bin")));
+    EXPECT_TRUE(starter.SearchesIn(directory.Path("link")));
+    EXPECT_FALSE(starter.SearchesIn(directory.Root()));
+}
+
+TEST_F(ProgramStarterLinux, TheDesktopsOpenerOpensAFileThatIsThere) {
+    fs::create_directory(directory.Path("bin"));
+    const std::string opener = WriteProgram("bin/xdg-open", "#!/bin/sh\n");
+    const EnvironmentVariable own("PATH", directory.Path("bin"));
+    EXPECT_EQ(starter.FindExecutable(directory.Write("a.txt", "x")), opener);
+    EXPECT_EQ(starter.FindExecutable(directory.Path("b.txt")), "");
+    const EnvironmentVariable none("PATH", directory.Root());
+    EXPECT_EQ(starter.FindExecutable(directory.Path("a.txt")), "");
+}
+
 }  // namespace
 }  // namespace kivu::hosts

@@ -122,13 +122,14 @@ class RealLaunch : public ::testing::Test {
         form, {form.AOT_Enabled, form.AOT_Disabled, form.AOT_MouseMove}, userStore};
     kivu::testing::QuietChoice choice;
     kivu::testing::QuietFront front;
+    kivu::testing::QuietStartHelpers helpers;
     UaeFiles uae{form, files, log};
     GameLaunch launch{form,
                       ini,
                       busy,
                       pacer,
                       {files, starter, clock, dialogs, beeper, log},
-                      {choice, front, alwaysOnTop, uae}};
+                      {choice, front, alwaysOnTop, uae, helpers}};
 };
 
 // Names that hold what the command processor might act upon, or split at. With a "trap" in them

@@ -1,0 +1,109 @@
+#!/usr/bin/env python3
+"""The real program is ended in every way but its own, and its files are looked at: ending_test.py KIVU"""
+
+import os
+import signal
+import sys
+
+from desk import Desk, Program, run, until
+
+binary = sys.argv[1]
+
+
+TWIPS = 15400  # as wide as the window is then
+
+
+# By its own key: what the window manager changes, the program hears of later than its display.
+def widen(desk, program):
+    desk.output(["xdotool", "windowactivate", "--sync", program.window])
+    for _ in range(5):
+        desk.output(["xdotool", "key", "alt+Right"])
+    until("the wider window", lambda: "WIDTH=1027\n" in desk.output(
+        ["xdotool", "getwindowgeometry", "--shell", program.window]))
+
+
+def expect(program):
+    for key, value in (("WindowState", "0"), ("WindowX", str(TWIPS)), ("WindowY", "10200")):
+        stored = program.stored("Config/Kivu.ini", key)
+        assert stored == value, (key, stored, value)
+    assert program.stored("Config/Alpha/Kivu.ini", "DrvWindowDocked") is not None
+
+
+def each_signal_stores():
+    for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
+        with Desk() as desk:
+            program = Program(desk, binary)
+            program.start()
+            widen(desk, program)
+            program.signal(number)
+            assert program.wait() == 0, number
+            expect(program)
+
+
+def signal_with_the_question_open():
+    with Desk() as desk:
+        program = Program(desk, binary)
+        program.start()
+        widen(desk, program)
+        desk.output(["wmctrl", "-i", "-c", program.window])
+        until("the question", lambda: len(program.windows()) > 1)
+        program.signal()
+        assert program.wait() == 0
+        expect(program)
+
+
+def panel_asks_and_enter_ends():
+    with Desk() as desk:
+        program = Program(desk, binary)
+        program.start()
+        widen(desk, program)
+        desk.output(["wmctrl", "-i", "-c", program.window])
+        until("the question", lambda: "Exit Kivu?" in desk.output(
+            ["xdotool", "getactivewindow", "getwindowname"]))
+        assert not program.ended()
+        desk.output(["xdotool", "key", "Return"])
+        assert program.wait() == 0
+        expect(program)
+
+
+def alt_f4_ends_nothing():
+    with Desk() as desk:
+        program = Program(desk, binary)
+        program.start()
+        desk.output(["xdotool", "windowactivate", "--sync", program.window])
+        # The window manager makes a close request of it.
+        desk.output(["xdotool", "keydown", "alt", "key", "F4", "sleep", "0.3", "keyup", "alt"])
+        desk.output(["wmctrl", "-i", "-c", program.window])
+        until("the question of the panel alone", lambda: "Exit Kivu?" in desk.output(
+            ["xdotool", "getactivewindow", "getwindowname"]))
+        assert not program.ended()
+        program.signal()
+        program.wait()
+
+
+def display_that_goes_stores():
+    with Desk() as desk:
+        program = Program(desk, binary)
+        program.start()
+        widen(desk, program)
+        desk.server.terminate()
+        program.wait()
+        expect(program)
+
+
+def emulator_lives_on():
+    with Desk() as desk:
+        program = Program(desk, binary)
+        program.start()
+        desk.output(["xdotool", "windowactivate", "--sync", program.window])
+        desk.output(["xdotool", "mousemove", "--window", program.window, "150", "110",
+                     "click", "--repeat", "2", "--delay", "60", "1"])
+        emulator, _ = program.emulator()
+        program.signal()
+        program.wait()
+        # Fails where there is no such process.
+        os.kill(emulator, signal.SIGKILL)
+
+
+run([each_signal_stores, signal_with_the_question_open, panel_asks_and_enter_ends, alt_f4_ends_nothing,
+     display_that_goes_stores, emulator_lives_on])
