@@ -131,12 +131,10 @@ Playing() { Players -f '^kivu-dosbox.sh '; }
 Until 20 Playing || Fail "the game did not come up: $(cat "$work/kivu.log")"
 sleep 3
 MovingShot playing "a game of it"
-xdotool windowactivate --sync "$window" 2>/dev/null || true
-sleep 1.5
-# Alt is held as long as fingers hold it: the window manager's message comes after the keys.
-xdotool keydown alt key F4
+# Each game ends with Escape.
+xdotool search --onlyvisible --name DOSBox windowactivate --sync 2>/dev/null || true
 sleep 1
-xdotool keyup alt
+xdotool key Escape
 NotPlaying() { ! Playing; }
 Until 15 NotPlaying || Fail "the game was not ended"
 sleep 3
