@@ -20,5 +20,7 @@ ExportTree() {
   git ls-files -z | while IFS= read -r -d '' file; do
     [ ! -e "$file" ] || printf '%s\0' "$file"
   done | tar --null -cf - -T - | tar -xf - -C "$1"
+  # Whoever unpacks it, and with whatever mask.
+  chmod -R u=rwX,go=rX "$1"
   SetTimes "$1"
 }
