@@ -103,11 +103,17 @@ class PanelWidget : public QWidget {
         return line;
     }
 
+    // A panel on a light window is lighter still: what stands on it is made for that one's colour.
+    QColor Plate(const QColor& back, const QColor& ink) const {
+        if (!IsDraggable(control) && !IsDark(back)) return Mix(back, Qt::white, 0.6);
+        return Mix(back.darker(135), ink, 0.05);
+    }
+
     // What lies over others stands out, and what can be dragged about has a grip at its edge. It
     // may lie over a list, whose rows must not show through.
     void DrawPlate(QPainter& painter) {
         const QColor ink = ToQt(control.ForeColor());
-        const QColor plate = Mix(ToQt(control.BackColor()).darker(135), ink, 0.05);
+        const QColor plate = Plate(ToQt(control.BackColor()), ink);
         QColor dots = ink;
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
         FillRounded(painter, QRectF(rect()), cornerRadius, plate, PlateLine());
@@ -126,10 +132,12 @@ class PanelWidget : public QWidget {
         const int height = fontMetrics().height();
         QColor line = text;
         line.setAlphaF(0.3F);
+        const QRect place(12, 0, fontMetrics().horizontalAdvance(caption) + 8, height);
+        // The line leaves room for the caption, behind which the window may be of any colour.
+        painter.setClipRegion(QRegion(rect()) - place);
         FillRounded(painter, QRectF(rect()).adjusted(0, height / 2.0, 0, 0), cornerRadius,
                     QColor(0, 0, 0, 20), line);
-        const QRect place(12, 0, fontMetrics().horizontalAdvance(caption) + 8, height);
-        painter.fillRect(place, ToQt(control.BackColor()));
+        painter.setClipping(false);
         painter.setPen(text);
         painter.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, caption);
     }
