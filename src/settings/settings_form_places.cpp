@@ -32,7 +32,7 @@ constexpr int pickerHeight = ui::ColorSelectControls::height / forms::twipsPerPi
 constexpr int colorHeight = pickerHeight + 78;
 
 // Of the reduced shape.
-constexpr int mainWidth = 400, mainHeight = 292, mainEdge = 5;
+constexpr int mainWidth = 440, mainHeight = 292, mainEdge = 5;
 constexpr int panelRow = deamonTop + mainEdge;  // the row below the panel
 
 }  // namespace
@@ -214,7 +214,7 @@ void SettingsForm::PlaceMainSettings() {
     Place(Joystickcheck, deamonLeft, panelRow, mainWidth - actionWidth - 8, row);
     Place(SetJOyBtn, button, panelRow, actionWidth, row);
     Place(ResetScreenRes, deamonLeft, panelRow + 46, mainWidth - actionWidth - 8, row);
-    Place(FontSizeCombo, button - 16, panelRow + 46, actionWidth + 16, row);
+    Place(FontSizeCombo, button, panelRow + 46, actionWidth, row);
 
     constexpr int links = panelRow + 92, last = links + 46;
     Place(Label7, deamonLeft, links + inRow, 80, labelHeight);

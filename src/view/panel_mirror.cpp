@@ -133,10 +133,11 @@ class PanelWidget : public QWidget {
         QColor line = text;
         line.setAlphaF(0.3F);
         const QRect place(12, 0, fontMetrics().horizontalAdvance(caption) + 8, height);
+        const QRectF box = QRectF(rect()).adjusted(0, height / 2.0, 0, 0);
+        FillRounded(painter, box, cornerRadius, QColor(0, 0, 0, 20));
         // The line leaves room for the caption, behind which the window may be of any colour.
         painter.setClipRegion(QRegion(rect()) - place);
-        FillRounded(painter, QRectF(rect()).adjusted(0, height / 2.0, 0, 0), cornerRadius,
-                    QColor(0, 0, 0, 20), line);
+        FillRounded(painter, box, cornerRadius, Qt::transparent, line);
         painter.setClipping(false);
         painter.setPen(text);
         painter.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, caption);

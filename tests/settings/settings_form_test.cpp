@@ -54,6 +54,7 @@ void InEach(const std::function<void(SettingsForm&, const std::string& where)>& 
                 forms::TakeLook(form, {points}, {wide, wide * 3 / 4});
                 ShowEverything(form);
                 if (main) form.ShowMainSettingsOnly(true);
+                form.SaveBtn.SetEnabled(true);
                 const std::string where = std::to_string(points) + (main ? " main" : " full");
                 EXPECT_LE(form.Width(), wide) << where;
                 EXPECT_LE(form.Height(), wide * 3 / 4) << where;
