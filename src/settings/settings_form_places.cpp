@@ -13,26 +13,26 @@ constexpr double designPoints = 10;
 // A screen of four to three holds it in the largest text.
 constexpr int wide = 808, high = 606, margin = 20;
 // Inside the groups: labels, what they name, buttons in a column of their own at the right edge.
-constexpr int edge = margin + 12, field = 196, right = wide - margin - 12;
-constexpr int actions = 616, actionWidth = right - actions;
+constexpr int edge = margin + 12, field = 204, right = wide - margin - 12;
+constexpr int actions = 610, actionWidth = right - actions;
 // Buttons that browse stand in front of it, behind the sign of a fault.
 constexpr int browseWidth = 36, browse = actions - 8 - browseWidth;
 constexpr int signSize = 22, sign = browse - 6 - signSize, fieldEnd = sign - 6;
 constexpr int row = 28, labelHeight = 20, inRow = 6;
 constexpr int emulatorTop = 40, startTop = 274, programTop = 432, footTop = high - 42;
 // The second column of the groups below.
-constexpr int second = 296;
+constexpr int second = 320;
 
 constexpr int panelEdge = 12, crossSize = 22;
-constexpr int uaeLeft = 176, uaeTop = 112, uaeWidth = 432, uaeHeight = 440;
-constexpr int deamonLeft = 88, deamonTop = 96, deamonWidth = 520, deamonHeight = 134;
+constexpr int uaeLeft = 176, uaeTop = 112, uaeWidth = 426, uaeHeight = 440;
+constexpr int deamonLeft = 88, deamonTop = 96, deamonWidth = 514, deamonHeight = 134;
 constexpr int colorLeft = 296, colorTop = 72;
 constexpr int colorWidth = ui::ColorSelectControls::width / forms::twipsPerPixel + 2 * panelEdge;
 constexpr int pickerHeight = ui::ColorSelectControls::height / forms::twipsPerPixel;
 constexpr int colorHeight = pickerHeight + 78;
 
 // Of the reduced shape.
-constexpr int mainWidth = 440, mainHeight = 292, mainEdge = 5;
+constexpr int mainWidth = 456, mainHeight = 292, mainEdge = 5;
 constexpr int panelRow = deamonTop + mainEdge;  // the row below the panel
 
 }  // namespace
@@ -78,8 +78,8 @@ void SettingsForm::PlaceEmulator() {
     Place(LaunchButton, actions, top + 52, actionWidth, row);
 
     Place(KnownEmuLabel, edge, top + 86 + inRow, field - edge - 4, labelHeight);
-    Place(KnownEmuCombo, field, top + 86, 240, row);
-    Place(EmuDownload, field + 250, top + 86 + inRow, actions - 8 - field - 250, labelHeight);
+    Place(KnownEmuCombo, field, top + 86, 236, row);
+    Place(EmuDownload, field + 244, top + 86 + inRow, actions - 8 - field - 244, labelHeight);
     Place(WinUAEBtn, actions, top + 86, actionWidth, row);
 
     Place(Label2, edge, top + 118, actions - 8 - edge, labelHeight);
@@ -123,15 +123,16 @@ void SettingsForm::PlaceScriptBox() {
 
 void SettingsForm::PlaceProgram() {
     Place(ProgramGroup, margin, programTop, wide - 2 * margin, footTop - 8 - programTop);
-    constexpr int top = programTop + 20, step = 34, combo = 464;
+    constexpr int top = programTop + 20, step = 34;
+    constexpr int killWidth = 112, sizeWidth = 160, end = browse + browseWidth;
     Place(Joystickcheck, edge, top, second - 8 - edge, row);
-    Place(KillButtonLabel, second, top + inRow, combo - 2 - second, labelHeight);
-    Place(KillButtonKombo, combo, top, browse + browseWidth - combo, row);
+    Place(KillButtonLabel, second, top + inRow, end - killWidth - 2 - second, labelHeight);
+    Place(KillButtonKombo, end - killWidth, top, killWidth, row);
     Place(SetJOyBtn, actions, top, actionWidth, row);
 
     Place(ResetScreenRes, edge, top + step, second - 8 - edge, row);
-    Place(ResetScreenHint, second, top + step + inRow, combo - 12 - second, labelHeight);
-    Place(FontSizeCombo, combo, top + step, browse + browseWidth - combo, row);
+    Place(ResetScreenHint, second, top + step + inRow, end - sizeWidth - 8 - second, labelHeight);
+    Place(FontSizeCombo, end - sizeWidth, top + step, sizeWidth, row);
     Place(Command5, actions, top + step, actionWidth, row);
 
     Place(FensterRahmChk, edge, top + 2 * step, second - 8 - edge, row);
@@ -140,7 +141,7 @@ void SettingsForm::PlaceProgram() {
 
     Place(Label7, edge, footTop + inRow, 80, labelHeight);
     Place(Label5, edge + 100, footTop + inRow, 110, labelHeight);
-    Place(DonateBtn, second, footTop, 110, row);
+    Place(DonateBtn, second, footTop, 104, row);
     Place(SaveBtn, actions - 8 - actionWidth, footTop, actionWidth, row);
     Place(ExitBtn, actions, footTop, actionWidth, row);
 }

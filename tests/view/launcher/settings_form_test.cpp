@@ -75,9 +75,8 @@ TEST_F(SettingsFormView, NoButtonIsCutInEitherLanguageAtAnySize) {
             if (!caption || !control->Visible() || picker) continue;
             if (control->GetKind() == forms::Kind::label) continue;
             const int height = measure.LineHeight(control->GetFont());
-            // A box is as high as its text, with air beside it.
-            const int beside =
-                control->GetKind() == forms::Kind::commandButton ? 8 * px : height + 10 * px;
+            // A box has its sign and some air beside its text.
+            const int beside = control->GetKind() == forms::Kind::commandButton ? 8 * px : 26 * px;
             EXPECT_LE(Width(*control, forms::PlainCaption(*caption)) + beside, control->Width())
                 << control->Name() << *caption << where;
             EXPECT_LE(height, control->Height()) << control->Name() << where;
@@ -88,7 +87,7 @@ TEST_F(SettingsFormView, NoButtonIsCutInEitherLanguageAtAnySize) {
 TEST_F(SettingsFormView, FieldsHoldWhatIsChosenInThem) {
     if (tests::FontsAreBoxes()) GTEST_SKIP() << "this host has no fonts";
     InEach([this](SettingsForm& form, const std::string& where) {
-        constexpr int arrowAndAir = 42 * px;
+        constexpr int arrowAndAir = 38 * px;
         const auto fits = [&](const forms::ComboBox& box, const char* text) {
             if (!box.Visible()) return;
             EXPECT_LE(Width(box, text) + arrowAndAir, box.Width()) << text << where;
