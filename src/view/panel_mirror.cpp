@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/form_surface.h"
 #include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
@@ -59,9 +60,28 @@ class PanelWidget : public QWidget {
             if (!frame->Caption().empty()) DrawCaption(painter, ToQt(frame->Caption()));
         }
         DrawPicture(painter);
+        if (CoversWindow()) DrawWindowEdge(painter);
     }
 
  private:
+    // A picture behind all of a window hides the edge that the window has drawn.
+    bool CoversWindow() const {
+        const forms::Form& form = *control.ParentForm();
+        return control.GetKind() == forms::Kind::pictureBox && control.Parent() == &form &&
+               control.GetPicture() != forms::Picture() && !form.HasFrame() &&
+               control.Left() <= 0 && control.Top() <= 0 && control.Right() >= form.Width() &&
+               control.Bottom() >= form.Height();
+    }
+
+    void DrawWindowEdge(QPainter& painter) {
+        const QRectF window = QRectF(-pos(), parentWidget()->size());
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(windowEdge, 1));
+        painter.setBrush(Qt::NoBrush);
+        const double radius = control.ParentForm()->CornerRadius() - 0.5;
+        painter.drawRoundedRect(window.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    }
+
     PictureCache::Fit HowToFit() const {
         if (control.GetKind() != forms::Kind::image) return PictureCache::Fit::cover;
         return static_cast<const forms::Image&>(control).KeepsProportions()

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QTest>
 #include <gmock/gmock.h>
+#include <memory>
+#include <vector>
 
 #include "forms/access_keys.h"
 #include "forms/look.h"
@@ -125,6 +127,22 @@ TEST_F(SettingsFormView, PanelHidesWhatItLiesOver) {
     EXPECT_NE(open, closed);
     form.TxtRomPath.SetText("before");
     EXPECT_EQ(picture(), open);
+}
+
+TEST_F(SettingsFormView, PictureOfASkinLeavesTheWindowItsEdge) {
+    SettingsForm form({&measure}, 1);
+    forms::Bitmap black{8, 8, std::vector<std::uint32_t>(64, 0xff000000), true};
+    form.BackgroundFrame.SetPicture(
+        {"black", std::make_shared<const forms::Bitmap>(std::move(black))});
+    view::FormView view(form);
+    view.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view.Window(), 20000));
+    QCoreApplication::processEvents();
+    const QImage picture = view.Window().grab().toImage();
+    const int middle = picture.height() / 2;
+    EXPECT_GT(qGray(picture.pixel(0, middle)), 30);
+    EXPECT_GT(qGray(picture.pixel(picture.width() - 1, middle)), 30);
+    EXPECT_LT(qGray(picture.pixel(4, middle)), 10);
 }
 
 }  // namespace
