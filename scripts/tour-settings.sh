@@ -135,7 +135,7 @@ xdotool type --delay 40 "$games"
 xdotool key Return
 sleep 0.4
 Shot directory "the directory of the games"
-xdotool key Tab Tab Tab Tab Tab Return
+xdotool key Tab Tab Tab Tab Tab Tab Return
 Back "the dialog for directories"
 Shot ready "all that there is to say"
 At 519 578
