@@ -46,7 +46,7 @@ trap Finish EXIT
 # A click into the settings window, at a place of its design, which is 808 pixels wide.
 settings=""
 FindSettings() {
-  settings=$(xdotool search --onlyvisible --pid "$kivu" --name '^Einstellungen$' 2>/dev/null | tail -n 1)
+  settings=$(xdotool search --all --onlyvisible --pid "$kivu" --name '^Einstellungen$' 2>/dev/null | tail -n 1)
   [ -n "$settings" ]
 }
 NoSettings() { ! FindSettings; }
