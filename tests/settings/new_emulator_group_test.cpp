@@ -83,11 +83,11 @@ TEST_F(NewGroup, ARowBeforeTheLoadedOneMovesWhatIsNoted) {
         noted = form.CurrentEmuIndex;
         saved = form.EmuBoxIndexSaved;
     };
-    Press({"Alpha"});
-    EXPECT_THAT(form.EmuListbox.Rows(), ElementsAre("Alpha", "Beta", "Delta"));
+    Press({"Aard"});
+    EXPECT_THAT(form.EmuListbox.Rows(), ElementsAre("Aard", "Beta", "Delta"));
     EXPECT_EQ(noted, 2);
     EXPECT_EQ(saved, 1);
-    EXPECT_THAT(switching.selected, ElementsAre("Alpha"));
+    EXPECT_THAT(switching.selected, ElementsAre("Aard"));
 }
 
 TEST_F(NewGroup, ARowBehindTheLoadedOneMovesNothing) {

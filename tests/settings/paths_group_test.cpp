@@ -54,7 +54,7 @@ TEST_F(Paths, TheFirstKeyThatBreaksTheNameWipesWinUaesFields) {
     window.UseMasterConfig.SetValue(1);
     window.FullscreenCheck.SetValue(1);
     ASSERT_EQ(window.UAEMasterConfigLaunchParameter.Text(), "-f");
-    window.txtWinUAEExe.SetSelection(17, 0);
+    window.txtWinUAEExe.SetSelection(16, 0);
     input.Stroke(forms::KeyOf('x'));
     EXPECT_EQ(window.txtWinUAEExe.Text(), "D:\\Emu\\winuae.exxe");
     EXPECT_FALSE(window.WinUAEBtn.Visible());
@@ -366,7 +366,7 @@ TEST(TypedRomPath, AsksAServerWhenTheFieldIsLeft) {
         Shares() : MemoryFileSystem('\\') {}
         std::optional<bool> HasEntries(const std::string& path) const override {
             looks.push_back(path);
-            return true;
+            return path.starts_with("\\\\");
         }
         bool FileExists(const std::string& path) const override {
             if (path.starts_with("\\\\")) asked.push_back(path);
