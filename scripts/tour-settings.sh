@@ -46,7 +46,7 @@ trap Finish EXIT
 # A click into the settings window, at a place of its design, which is 800 pixels wide.
 settings=""
 FindSettings() {
-  settings=$(xdotool search --onlyvisible --pid "$kivu" --name '^Einstellungen$' 2>/dev/null | tail -n 1)
+  settings=$(xdotool search --all --onlyvisible --pid "$kivu" --name '^Einstellungen$' 2>/dev/null | tail -n 1)
   [ -n "$settings" ]
 }
 NoSettings() { ! FindSettings; }
@@ -90,7 +90,7 @@ Shot first "the first screen"
 first=$last
 
 # The way is told there: the options, and in them a new emulator.
-Click "${TOUR_OPTIONS_X:-930}" "${TOUR_OPTIONS_Y:-580}"
+Click 893 581
 Until 15 FindSettings || Fail "the settings did not come up"
 top=$(xdotool getactivewindow)
 Shot settings "the settings without an emulator"
@@ -135,7 +135,7 @@ xdotool type --delay 40 "$games"
 xdotool key Return
 sleep 0.4
 Shot directory "the directory of the games"
-xdotool key Tab Tab Tab Tab Tab Return
+xdotool key Tab Tab Tab Tab Tab Tab Return
 Back "the dialog for directories"
 Shot ready "all that there is to say"
 At 544 578
