@@ -18,7 +18,7 @@ find "$target" -maxdepth 1 -type f -name 'kivu*' -delete
 ExportTree "$target/kivu-$version"
 cd "$target/kivu-$version"
 # Unsigned: they are signed where they are published, if they are.
-DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:-} parallel=${KIVU_JOBS:-$(nproc)}" dpkg-buildpackage -us -uc -F >"$target/log" 2>&1 || {
+DEB_BUILD_OPTIONS="${DEB_BUILD_OPTIONS:+$DEB_BUILD_OPTIONS }parallel=${KIVU_JOBS:-$(nproc)}" dpkg-buildpackage -us -uc -F >"$target/log" 2>&1 || {
   tail -n 60 "$target/log" >&2
   exit 1
 }

@@ -1,46 +1,69 @@
-// The settings window's form beside the launcher's window, with nothing behind it, until the window
-// is joined:
+// The form of the settings window alone, with nothing behind it, until the window is joined:
 //
-//     try_settings PROGRAM_DIR [de|en] [full|main] [uae] [deamon] [colors]
+//     try_settings [de] [main] [uae] [deamon] [colors] [plain] [points=N] [back=RRGGBB]
+//                  [fore=RRGGBB] [screen=WxH] [shot=FILE.png]
+//
+// All that may ever be there is shown at once, but with "plain". "shot" keeps its picture and ends.
 
 #include <QApplication>
+#include <QTest>
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <set>
 #include <string>
+#include <vector>
 
-#include "app/desktop_host.h"
 #include "forms/look.h"
-#include "hosts/qt/compositing_qt.h"
 #include "settings/settings_form.h"
-#include "ui/window_look.h"
 #include "view/form_view.h"
-#include "view/screen_windows.h"
 #include "view/style.h"
 #include "view/text_measure.h"
-#include "wiring/routines.h"
 
 namespace {
 
 using namespace kivu;
-using Words = std::set<std::string>;
+
+struct Wishes {
+    std::vector<std::string> words;
+
+    bool Has(const std::string& word) const {
+        return std::find(words.begin(), words.end(), word) != words.end();
+    }
+    std::string Value(const std::string& name, const std::string& otherwise) const {
+        for (const std::string& word : words) {
+            if (word.rfind(name + "=", 0) == 0) return word.substr(name.size() + 1);
+        }
+        return otherwise;
+    }
+    forms::Color Color(const std::string& name, const char* otherwise) const {
+        const unsigned rgb = static_cast<unsigned>(std::stoul(Value(name, otherwise), nullptr, 16));
+        return forms::Rgb(rgb >> 16, rgb >> 8, rgb);
+    }
+};
 
 // As full as a user's own.
-void Fill(settings::SettingsForm& window, core::Form1& main) {
+void Fill(settings::SettingsForm& window) {
+    const bool german = window.IsGerman();
     window.EmuNameLabel.SetCaption("Commodore Amiga");
     window.txtWinUAEExe.SetText("C:\\Program Files\\Emulators\\WinUAE\\winuae.exe");
     window.TxtRomPath.SetText("/home/user/Games/Amiga/Disks/");
     window.DirBefehleTxt.SetText("*.adf, *.zip");
     window.SecondsTimerTxt.SetText("4");
-    window.KnownEmuCombo.AddItem("WinUAE (Amiga 500) (Windows, Wine)");
-    window.KnownEmuCombo.SetListIndex(0);
-    window.KillButtonKombo.AddItem("Keinen");
-    window.KillButtonKombo.SetListIndex(0);
-    for (int row = 0; row < main.FontSizeCombo.ListCount(); ++row)
-        window.FontSizeCombo.AddItem(main.FontSizeCombo.List(row));
-    window.FontSizeCombo.SetListIndex(main.FontSizeCombo.ListIndex());
+    const auto choose = [](forms::ComboBox& box, const char* row) {
+        box.AddItem(row);
+        box.SetListIndex(0);
+    };
+    choose(window.KnownEmuCombo, "WinUAE (Amiga 500) (Windows, Wine)");
+    choose(window.KillButtonKombo, german ? "Keinen" : "Button: 8");
+    choose(window.FontSizeCombo, german ? "Schriftgröße: 14" : "Font size: 14");
     window.EmuDownload.SetCaption("Download: Project64");
     window.TxtMasterConfig.SetText("config_description=A500\r\nuse_gui=no\r\nchipmem_size=1\r\n");
+    window.ColorSelect1.Option1.SetCaption(german ? "Hintergrund" : "Background");
+    window.ColorSelect1.Option2.SetCaption(german ? "Schrift" : "Writing");
+    const char* const names[]{german ? "Rot" : "Red", german ? "Grün" : "Green", "Blau"};
+    for (std::size_t i = 0; i < 3; ++i)
+        window.ColorSelect1.SliderName[i].SetCaption(names[i]);
+    window.ColorSelect1.SampleText.SetCaption(german ? "Beispiel" : "Example");
     for (forms::CheckBox* box : {&window.UseMasterConfig, &window.UAELaunchParameterAddPath,
                                  &window.Joystickcheck, &window.AutoMoundDeamonTools})
         box->SetValue(1);
@@ -48,56 +71,54 @@ void Fill(settings::SettingsForm& window, core::Form1& main) {
 
 void ShowAll(settings::SettingsForm& window) {
     for (forms::Control* control : window.Controls()) {
-        if (control->GetKind() == forms::Kind::image || control->GetKind() == forms::Kind::frame)
-            continue;
+        const auto* frame = dynamic_cast<forms::Frame*>(control);
+        const bool pin = control->Parent() == &window.AlwaysOnTop1;
+        if (pin || (frame && frame->IsRaised())) continue;
         control->SetVisible(true);
         if (control != &window.SaveBtn) control->SetEnabled(true);
     }
-    for (forms::Image& sign : window.FehlerIcon)
-        sign.SetVisible(true);
+}
+
+// As the launcher's own routine does.
+void SetColors(forms::Form& window, forms::Color back, forms::Color fore) {
+    window.SetBackColor(back);
+    window.SetForeColor(fore);
+    for (forms::Control* control : window.Controls()) {
+        if (control->GetKind() == forms::Kind::commandButton) continue;
+        const bool swapped = control->GetKind() == forms::Kind::textBox;
+        control->SetBackColor(swapped ? fore : back);
+        control->SetForeColor(swapped ? back : fore);
+    }
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    app::PrepareToolkit();
     QApplication application(argc, argv);
-    if (argc < 2) {
-        std::fprintf(stderr, "usage: %s PROGRAM_DIR [de|en] [full|main] [PANELS]\n", argv[0]);
-        return 2;
-    }
-    const Words words(argv + 2, argv + argc);
+    const Wishes wishes{{argv + 1, argv + argc}};
     view::ApplyStyle();
-    app::DesktopHost host(1, argv);
-    platform::Host services = host.Services();
-    services.programDirectory = argv[1];
-    services.programName = "Kivu";
     const view::TextMeasure measure;
-    view::ScreenWindows windows;
-    windows.SetCompositing(hosts::IsComposited);
-    wiring::Launcher launcher(
-        services, &measure, [] { std::_Exit(EXIT_SUCCESS); }, &windows);
-    launcher.Start();
-    core::Form1& main = launcher.MainWindow();
-    view::FormView view(main);
-    view.SetCompositing(hosts::IsComposited);
+    settings::SettingsForm window({&measure}, wishes.Has("de") ? 1 : 2);
+    int wide = 1024, high = 768;
+    std::sscanf(wishes.Value("screen", "1024x768").c_str(), "%dx%d", &wide, &high);
+    const forms::Color back = wishes.Color("back", "0052bc"), fore = wishes.Color("fore", "ffffff");
+    forms::TakeLook(window, {std::stod(wishes.Value("points", "10")), back, fore, back, fore},
+                    {wide * forms::twipsPerPixel, high * forms::twipsPerPixel});
+    SetColors(window, back, fore);
+    Fill(window);
+    if (!wishes.Has("plain")) ShowAll(window);
+    window.ShowMainSettingsOnly(wishes.Has("main"));
+    if (wishes.Has("uae")) window.TogglePanel(window.UAEFrame);
+    if (wishes.Has("deamon")) window.TogglePanel(window.DeamonFrame);
+    if (wishes.Has("colors")) window.TogglePanel(window.DarstellungFrame);
+    view::FormView view(window);
     view.onClosed = [] { QApplication::quit(); };
-    windows.AdoptView(main, view);
     view.Show();
-
-    settings::SettingsForm window(main.GetToolkit(), words.count("de") ? 1 : 2);
-    forms::TakeLook(window, ui::LookOf(main), windows.Room(&main));
-    ui::ColorSelect picker(window.ColorSelect1, main, launcher.All().windowColors,
-                           {launcher.All().dialogs, launcher.All().host.systemColors});
-    window.Load();
-    launcher.All().windowColors.SetColors(window, static_cast<std::int32_t>(main.FormBackColor),
-                                          static_cast<std::int32_t>(main.FormForeColor));
-    Fill(window, main);
-    if (!words.count("plain")) ShowAll(window);
-    window.ShowMainSettingsOnly(words.count("main") != 0);
-    if (words.count("uae")) window.TogglePanel(window.UAEFrame);
-    if (words.count("deamon")) window.TogglePanel(window.DeamonFrame);
-    if (words.count("colors")) window.TogglePanel(window.DarstellungFrame);
-    windows.ShowModal(window, &main);
-    return EXIT_SUCCESS;
+    const std::string focus = wishes.Value("focus", "");
+    if (forms::Control* control = window.Find(focus)) control->SetFocus();
+    const std::string shot = wishes.Value("shot", "");
+    if (shot.empty()) return QApplication::exec();
+    if (!QTest::qWaitForWindowExposed(&view.Window())) return EXIT_FAILURE;
+    QApplication::processEvents();
+    return view.Window().grab().save(QString::fromStdString(shot)) ? EXIT_SUCCESS : EXIT_FAILURE;
 }

@@ -23,7 +23,8 @@ constexpr const char* gameImage = "LoadingInfo.GameImage";
 
 void LoadingInfo::Form_Load() {
     const std::string loading = ui::FindSkinFile(services.files, form.GetStartPfad(), "Loading");
-    const std::string settings = ui::FindSkinFile(services.files, form.GetStartPfad(), "Settings");
+    // Names of files count without case.
+    const std::string settings = ui::FindSkinFile(services.files, form.GetStartPfad(), "settings");
     TakeLook();
     LoadBackground(settings);
     LoadGameImage(loading);
@@ -87,10 +88,12 @@ void LoadingInfo::ShowGameImage(const forms::Picture& shown) {
     PlaceText(true);
     if (!shown.pixels || shown.pixels->width <= 0 || shown.pixels->height <= 0) return;
     const std::int64_t width = shown.pixels->width, height = shown.pixels->height;
-    const int fitting = static_cast<int>(
-        std::min<std::int64_t>(picture.width, std::int64_t{picture.height} * width / height));
-    const int high = static_cast<int>(
-        std::min<std::int64_t>(picture.height, std::int64_t{picture.width} * height / width));
+    const auto within = [](std::int64_t length, int most) {
+        constexpr std::int64_t least = forms::twipsPerPixel;
+        return static_cast<int>(std::clamp<std::int64_t>(length, least, most));
+    };
+    const int fitting = within(picture.height * width / height, picture.width);
+    const int high = within(picture.width * height / width, picture.height);
     window.GameImage.Move(picture.left + (picture.width - fitting) / 2,
                           picture.top + (picture.height - high) / 2, fitting, high);
 }

@@ -159,20 +159,22 @@ void StartHelpers::EditStartScript() {
     if (form.VBSFilename.empty()) return;
     const auto there = FindStartScript(services.files, form.VBSFilename);
     const std::string script = there.value_or(form.VBSFilename);
-    const auto tell = [this, &script](const char* german, const char* english) {
-        services.dialogs.MessageBox(form.Say(german, english) + script, core::defaultTitle,
-                                    platform::Buttons::Ok, platform::Icon::Warning);
+    const auto tell = [this, &script](const char* text, const char* title, platform::Icon icon) {
+        services.dialogs.MessageBox(std::string(text) + "\r\r" + script, title,
+                                    platform::Buttons::Ok, icon);
     };
     if (!there) {
         const std::string emulator = text::GetFileNameOnly(form.txtWinUAEExe.Text());
         const std::string bytes = services.files.EncodeText(StartScriptTemplate(emulator));
         if (services.files.WriteFile(script, bytes))
-            return tell("Diese Datei kann nicht geschrieben werden:\r",
-                        "This file cannot be written:\r");
+            return tell(form.Say("Diese Datei konnte nicht geschrieben werden:",
+                                 "This file could not be written:"),
+                        form.Say("Speichern", "Save"), platform::Icon::Error);
     }
     if (services.starter.EditText(script))
-        tell("Der Texteditor lässt sich nicht öffnen für:\r",
-             "The text editor cannot be opened for:\r");
+        tell(form.Say("Diese Datei konnte in keinem Editor geöffnet werden:",
+                      "No editor could be started for this file:"),
+             "Editor", platform::Icon::Warning);
 }
 
 }  // namespace kivu::launch

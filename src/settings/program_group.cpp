@@ -69,7 +69,7 @@ void ProgramGroup::TakeJoystick(int value) {
 }
 
 void ProgramGroup::RunChangeHandlers() {
-    DeamonPath_Change();
+    if (CanBeTested(form.DeamonPath)) ShowFault();
 }
 
 void ProgramGroup::Joystickcheck_Click() {
@@ -101,7 +101,7 @@ void ProgramGroup::DeamonButton_Click() {
 
 void ProgramGroup::DeamonPath_Change() {
     form.MarkUnsaved();
-    if (CanBeTested(form.DeamonPath)) ShowFault();
+    if (CanBeTested(form, form.DeamonPath)) ShowFault();
 }
 
 void ProgramGroup::DeamonPath_LostFocus() {

@@ -5,6 +5,7 @@
 #include "launch/mount_file.h"
 #include "launch/start_script.h"
 #include "run_program.h"
+#include "testing/environment_variable.h"
 #include "testing/temporary_directory.h"
 #include "text/text.h"
 
@@ -64,6 +65,28 @@ TEST_F(HelperFilesPosix, AScriptRunsByItsFirstLineWithoutARightToRun) {
     const std::string script = directory.Write("it's a $(dir)/Startscript.vbs", bytes);
     EXPECT_EQ(Run(ScriptRunnerForShell(ScriptWords(script, bytes))),
               "<one argument><" + script + ">");
+}
+
+// docs/ holds it for users to copy.
+TEST_F(HelperFilesPosix, TheAdapterForUdisksTakesTheLastImageOutFirst) {
+    const std::string udisks = directory.Write(
+        "udisksctl", "#!/bin/sh\nprintf '%s|' \"$@\" >> '" + Record() + "'\necho >> '" + Record() +
+                         "'\n[ \"$1\" != loop-setup ] || echo \"Mapped file $4 as /dev/loop7.\"\n");
+    std::filesystem::permissions(udisks, std::filesystem::perms::owner_all);
+    const std::string adapter = directory.Path("mount 'adapter'.sh");
+    std::filesystem::copy_file(KIVU_DOCS "/mount-udisksctl.sh", adapter);
+    std::filesystem::permissions(adapter, std::filesystem::perms::owner_all);
+    const testing::EnvironmentVariable path("PATH", directory.Root() + ":/usr/bin:/bin");
+    const testing::EnvironmentVariable runtime("XDG_RUNTIME_DIR", directory.Root());
+    const std::string mounted =
+        "loop-setup|--read-only|--file|/r/it's as /dev/x.iso|\n"
+        "mount|--block-device|/dev/loop7|\n";
+    const std::string text = MountFileForShell(adapter, "/r/it's as /dev/x.iso", "").text;
+    EXPECT_EQ(Run(text), mounted);
+    EXPECT_EQ(Run(text), mounted +
+                             "unmount|--block-device|/dev/loop7|\n"
+                             "loop-delete|--block-device|/dev/loop7|\n" +
+                             mounted);
 }
 
 }  // namespace

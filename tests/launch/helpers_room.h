@@ -25,6 +25,7 @@ struct HelpersRoom {
         host.starter.startFileBytes = [](std::string_view text) { return std::string(text); };
         form.AppDir = program;
         form.EXE = "Kivu";
+        form.CurrentLanguage = 2;
         form.ConfigPath = program + "Config" + separator;
         form.StartPfad = form.ConfigPath + "A" + separator;
         form.BaseIniName = form.ConfigPath + "Kivu.ini";

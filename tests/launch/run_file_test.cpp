@@ -38,9 +38,11 @@ TEST_F(RunFileTest, TheHostSaysWhatOpensAFile) {
 
 TEST_F(RunFileTest, ForAMissingFileOneOfItsKindIsAsked) {
     files.AddDirectory("/tmp");
+    files.AddDirectory("/d");
     host.starter.executables["/tmp/zzzzzzzTemp_a.htm"] = "/usr/bin/browser";
-    EXPECT_EQ(runFile.FindAssociatedProgram("a.htm"), "/usr/bin/browser");
-    EXPECT_THAT(files.ListDirectory("/tmp").value(), ::testing::IsEmpty());
+    EXPECT_EQ(runFile.FindAssociatedProgram("/d/a.htm"), "/usr/bin/browser");
+    for (const char* directory : {"/tmp", "/d"})
+        EXPECT_THAT(files.ListDirectory(directory).value(), ::testing::IsEmpty());
 }
 
 }  // namespace

@@ -135,7 +135,7 @@ TEST_F(ScriptShell, AScriptThatIsThereIsOnlyEdited) {
 TEST_F(ScriptShell, WhatCannotBeWrittenIsToldAndNotEdited) {
     files.SetReadOnly("/k/Config/A");
     helpers.EditStartScript();
-    EXPECT_EQ(OnlyBox(), "This file cannot be written:\r/k/Config/A/Startscript.vbs");
+    EXPECT_EQ(OnlyBox(), "This file could not be written:\r\r/k/Config/A/Startscript.vbs");
     EXPECT_THAT(host.starter.runs, IsEmpty());
 }
 
@@ -144,8 +144,9 @@ TEST_F(ScriptShell, AnEditorThatCannotBeOpenedIsTold) {
     form.CurrentLanguage = 1;
     host.starter.result = std::make_error_code(std::errc::no_such_file_or_directory);
     helpers.EditStartScript();
-    EXPECT_EQ(OnlyBox(),
-              "Der Texteditor lässt sich nicht öffnen für:\r/k/Config/A/Startscript.vbs");
+    EXPECT_EQ(
+        OnlyBox(),
+        "Diese Datei konnte in keinem Editor geöffnet werden:\r\r/k/Config/A/Startscript.vbs");
 }
 
 TEST_F(ScriptShell, WithoutAnEmulatorThereIsNothingToEdit) {

@@ -102,7 +102,10 @@ TEST_F(LoadingLaunches, TicksBeforeTheStartCountOn) {
 TEST_F(LoadingLaunches, EndedWhileItStandsTheProgramStartsNothing) {
     SplashWithMount("6");
     Start();
-    DuringLaunch([this] { interpreter->Execute(Json::array({"click", "Form1.ExitBtn"})); });
+    DuringLaunch([this] {
+        interpreter->Execute(Json::array({"click", "Form1.ExitBtn"}));
+        if (session->ended) throw driver::ProgramEnded{};
+    });
     interpreter->Execute(
         Json::array({"call", "StartGame", tree.Path("Roms/Alpha/Bee (1991)(Maker).adf")}));
     EXPECT_TRUE(session->ended);
@@ -258,7 +261,10 @@ TEST_F(LoadingLaunches, ComesUpForEachWayToStartAGame) {
         {"hits of all emulators",
          [this] {
              SearchAllFor("Cat");
+             // Loads its emulator, and the game is there.
              Do("dblclick", "Form1.GlobalSearchList", 0);
+             Do("dblclick", Visible("SuchErgList") ? "Form1.SuchErgList" : "Form1.WIthoutDoubles",
+                0);
          }},
         {"handed over", [this] { Do("summon", tree.Path("Roms/Alpha/Bee (1991)(Maker).adf")); }},
     };

@@ -193,7 +193,7 @@ TEST_F(Mounting, RoutinesOfFilesAreCalledByTheirNames) {
     EXPECT_EQ(Call("FindExecutableOf", Bee()), "/usr/bin/xdg-open");
     EXPECT_EQ(Call("FindExecutableOf", tree.Path("gone")), "");
     EXPECT_EQ(Call("FindAssociatedProgram", tree.Path("gone.xyz")), "");
-    EXPECT_EQ(Call("FindAssociatedProgram", "gone.htm"), "/usr/bin/browser");
+    EXPECT_EQ(Call("FindAssociatedProgram", tree.Path("gone.htm")), "/usr/bin/browser");
     EXPECT_TRUE(std::filesystem::is_empty(testing::PathOf(tree.Path("tmp"))));
     EXPECT_FALSE(tree.Exists("gone.xyz"));
     Call("ShellAndWait", "\"/a b/c\" -d", 6);

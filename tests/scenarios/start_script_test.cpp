@@ -95,8 +95,8 @@ TEST_F(StartScript, WhatCannotBeMadeOrOpenedIsTold) {
     const Json boxes = Do("boxes")["value"];
     ASSERT_EQ(boxes.size(), 2U);
     const std::string script = tree.Path("Config/Alpha/Startscript.vbs");
-    EXPECT_EQ(boxes[0]["text"], "This file cannot be written:\r" + script);
-    EXPECT_EQ(boxes[1]["text"], "The text editor cannot be opened for:\r" + script);
+    EXPECT_EQ(boxes[0]["text"], "This file could not be written:\r\r" + script);
+    EXPECT_EQ(boxes[1]["text"], "No editor could be started for this file:\r\r" + script);
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "walker/look.h"
 
+#include "forms/window_host.h"
 #include "text/text.h"
 
 namespace kivu::walker {

@@ -7,6 +7,7 @@
 #include <poll.h>
 #include <spawn.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 #include "hosts/linux/file_descriptor.h"
@@ -48,9 +49,10 @@ class SpawnSettings {
     posix_spawnattr_t attributes{};
 };
 
+using Deadline = std::chrono::steady_clock::time_point;
+
 // False: it was too much, or took too long.
-bool ReadToEnd(int from, std::chrono::milliseconds limit, std::string& output) {
-    const auto deadline = std::chrono::steady_clock::now() + limit;
+bool ReadToEnd(int from, Deadline deadline, std::string& output) {
     std::array<char, 4096> part;
     for (;;) {
         const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
@@ -67,12 +69,17 @@ bool ReadToEnd(int from, std::chrono::milliseconds limit, std::string& output) {
     }
 }
 
-bool EndedWell(pid_t process) {
+// What has closed its output may run on.
+bool EndsWell(pid_t process, Deadline deadline) {
     int status = 0;
-    while (::waitpid(process, &status, 0) < 0) {
-        if (errno != EINTR) return false;
+    for (;;) {
+        const bool late = std::chrono::steady_clock::now() >= deadline;
+        if (late) ::kill(-process, SIGKILL);
+        const pid_t ended = ::waitpid(process, &status, late ? 0 : WNOHANG);
+        if (ended == process) return WIFEXITED(status) && WEXITSTATUS(status) == 0;
+        if (ended < 0 && errno != EINTR) return false;
+        if (!late) std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
-    return WIFEXITED(status) && WEXITSTATUS(status) == 0;
 }
 
 }  // namespace
@@ -93,11 +100,10 @@ std::optional<std::string> OutputOf(const std::vector<std::string>& words,
                       arguments.data(), ::environ) != 0)
         return std::nullopt;
     to.Close();
+    const Deadline deadline = std::chrono::steady_clock::now() + limit;
     std::string output;
-    const bool whole = ReadToEnd(from.Get(), limit, output);
-    // What has closed its output may still run.
-    if (!whole) ::kill(-process, SIGKILL);
-    if (!EndedWell(process) || !whole) return std::nullopt;
+    const bool whole = ReadToEnd(from.Get(), deadline, output);
+    if (!EndsWell(process, whole ? deadline : Deadline::min()) || !whole) return std::nullopt;
     return output;
 }
 

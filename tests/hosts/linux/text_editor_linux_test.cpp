@@ -194,6 +194,8 @@ TEST_F(TextEditorLinux, TheOutputOfAProgramIsReadToItsEnd) {
 TEST_F(TextEditorLinux, AProgramThatHangsOrPoursIsEnded) {
     const std::string hangs = Program("hangs", "#!/bin/sh\n/bin/sleep 1000 &\nwait\n");
     EXPECT_EQ(OutputOf({hangs}, 1ms), std::nullopt);
+    const std::string closes = Program("closes", "#!/bin/sh\nexec >&-\nexec /bin/sleep 1000\n");
+    EXPECT_EQ(OutputOf({closes}, 50ms), std::nullopt);
     const std::string pours = Program(
         "pours", "#!/bin/sh\nwhile :; do echo 0123456789012345678901234567890123456789; done\n");
     EXPECT_EQ(OutputOf({pours}, 30s), std::nullopt);

@@ -376,5 +376,29 @@ TEST_F(OpenWindows, WhatNobodyServesIsAnErrorOfTheSystem) {
     }
 }
 
+TEST_F(OpenWindows, AFileThatIsThereHasItsProgram) {
+    const std::string document = disk.Write("a b.kivutest", "");
+    EXPECT_THAT(starter.FindExecutable(document), ::testing::EndsWith("tell.exe"));
+    EXPECT_EQ(starter.FindExecutable(disk.Path("missing.kivutest")), "");
+    EXPECT_EQ(starter.FindExecutable(document + std::string("\0", 1)), "");
+}
+
+TEST_F(FindInPathWindows, WhereItLooksIsKnownInEverySpelling) {
+    disk.MakeDirectory("bin");
+    SetPath("\"" + disk.Path("bin\\") + "\";.;relative");
+    EXPECT_TRUE(starter.SearchesIn(disk.Path("bin")));
+    EXPECT_TRUE(starter.SearchesIn(disk.Path("BIN\\")));
+    EXPECT_FALSE(starter.SearchesIn(disk.Root()));
+    EXPECT_FALSE(starter.SearchesIn("."));
+    EXPECT_FALSE(starter.SearchesIn("relative"));
+}
+
+TEST_F(ProgramStarterWindows, TheSystemsEditorOpensATextAndNeverRunsIt) {
+    EXPECT_FALSE(starter.EditText(Install("a b.exe")));
+    EXPECT_FALSE(telling.HasTold());
+    for (const std::string& none : {std::string(), std::string("C:\\a\" b"), std::string("a\0", 2)})
+        EXPECT_TRUE(starter.EditText(none)) << none;
+}
+
 }  // namespace
 }  // namespace kivu::hosts

@@ -1,5 +1,6 @@
 #include <QTest>
 #include <QWindow>
+#include <gtest/gtest.h>
 
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"

@@ -2,6 +2,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <gtest/gtest.h>
 
 #include "hosts/qt/dialogs_qt.h"
 #include "testing/memory_file_system.h"
