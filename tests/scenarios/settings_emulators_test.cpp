@@ -129,8 +129,10 @@ TEST_F(Emulators, ANewOneInFrontOfTheLoadedOneIsLoaded) {
         EXPECT_EQ(TextOf("UAELaunchParaneter"), "");
         EXPECT_FALSE(Unsaved());
         EXPECT_EQ(Of("EmuNameLabel.Caption"), "Aardvark");
+        EXPECT_FALSE(Form().IsTopmost());
         Key("Escape");
     });
+    EXPECT_TRUE(Form().IsTopmost());
     EXPECT_THAT(Rows("EmuListbox"), ElementsAre("Aardvark", "Alpha", "Beta"));
     EXPECT_THAT(Rows("EmulatorLongListbox"), ElementsAre("Aardvark", "Alpha", "Beta"));
     EXPECT_EQ(Get("CurrentEmuIndex"), 0);

@@ -71,6 +71,8 @@ TEST_F(NewGroup, ANewOneIsMadeListedAndLoaded) {
     EXPECT_FALSE(switching.addedToGlobal);
     EXPECT_FALSE(switching.windowEnabled);
     EXPECT_TRUE(window.Enabled());
+    // The main window must not lie over this one.
+    EXPECT_FALSE(form.IsTopmost());
     EXPECT_THAT(loads, ElementsAre(false));
     EXPECT_TRUE(window.txtWinUAEExe.HasFocus());
     EXPECT_EQ(window.ExeAtFocus, window.txtWinUAEExe.Text());

@@ -470,6 +470,12 @@ TEST_F(Paths, LaunchButtonStartsTheProgramAndLooksWhetherItRuns) {
     EXPECT_FALSE(window.SaveBtn.Enabled());
 }
 
+TEST_F(Paths, AnEmulatorThatIsSlowToComeUpLeavesTheWindowInFront) {
+    running.onLook = [this] { form.SetTopmost(true); };
+    window.LaunchButton.Click();
+    EXPECT_FALSE(form.IsTopmost());
+}
+
 TEST_F(Paths, LaunchButtonSaysNothingOfAMissingProgram) {
     window.txtWinUAEExe.SetText("D:\\none.exe");
     window.LaunchButton.Click();
