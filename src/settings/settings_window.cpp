@@ -170,7 +170,10 @@ void SettingsWindow::ReloadAllBtn_Click() {
     if (Show(services.dialogs, ReloadAllQuestion(main)) != platform::Answer::Ok) return;
     form.SetVisible(false);
     routines.lists.ReloadEmulatorsAll();
-    if (!main.Ended) form.Unload();
+    if (main.Ended) return;
+    // Buttons that were off meanwhile have lost the focus.
+    if (!main.Focus()) main.UAE_Short.SetFocus();
+    form.Unload();
 }
 
 void SettingsWindow::IniBtn_Click() {
