@@ -90,7 +90,7 @@ Shot first "the first screen"
 first=$last
 
 # The way is told there: the options, and in them a new emulator.
-Click "${TOUR_OPTIONS_X:-930}" "${TOUR_OPTIONS_Y:-580}"
+Click 893 581
 Until 15 FindSettings || Fail "the settings did not come up"
 top=$(xdotool getactivewindow)
 Shot settings "the settings without an emulator"
