@@ -1,5 +1,7 @@
 // What the settings window does as it comes and goes.
 
+#include <string_view>
+
 #include "core/form1.h"
 #include "core/raised.h"
 #include "settings/form_values.h"
@@ -13,7 +15,8 @@ namespace kivu::settings {
 namespace {
 
 // Of the picture that may still be on its way when the window has gone.
-constexpr const char* skinPurpose = "Settings";
+constexpr const char* skinPurpose = "settings window";
+constexpr std::string_view skinFiles = "Settings.*";
 
 }  // namespace
 
@@ -70,7 +73,8 @@ void SettingsWindow::RunChangeHandlers() {
 }
 
 void SettingsWindow::ShowSkin() {
-    const std::string path = ui::FindSkinFile(services.files, form.StartPfad, skinPurpose);
+    const std::string path =
+        ui::FindSkinFile(services.files, form.StartPfad, skinFiles.substr(0, skinFiles.find('.')));
     if (path.empty()) form.BackgroundFrame.SetPicture(designPicture);
     (void)routines.pictures.LoadSkin(path, skinPurpose, [this](forms::Picture picture) {
         form.BackgroundFrame.SetPicture(std::move(picture));
