@@ -38,7 +38,10 @@ done
 kivu=0
 Finish() {
   pkill -KILL -f "$work/bin/dosbox" 2>/dev/null || true
-  [ "$kivu" -eq 0 ] || kill "$kivu" 2>/dev/null || true
+  if [ "$kivu" -ne 0 ]; then
+    kill "$kivu" 2>/dev/null || true
+    wait "$kivu" 2>/dev/null || true
+  fi
   StopScreen
 }
 trap Finish EXIT

@@ -50,6 +50,8 @@ void KnownGroup::FillKnownEmuCombo() {
 
 void KnownGroup::DetectKnownEmulator(const std::string& exePath) {
     const bool posix = services.files.Separator() == '/';
+    // It may be another one than the rows have given.
+    ShowNoChoice();
     Take(DetectEmulator(exePath, main, posix,
                         [this](const std::string& path) { return IsProgram(path); }));
     if (exePath.empty()) return;

@@ -59,6 +59,8 @@ TEST_F(Known, AChosenRowIsAskedAboutAndFillsAnEmptyPath) {
     EXPECT_EQ(window.TxtRomPath.Text(), "/opt/kivu/");
     EXPECT_TRUE(window.SaveBtn.Enabled());
     EXPECT_EQ(window.KnownEmuCombo.Text(), "dosbox");
+    known.DetectKnownEmulator("/e/handy.exe");
+    EXPECT_EQ(window.KnownEmuCombo.Text(), "");
 }
 
 TEST_F(Known, APathThatIsThereStays) {
