@@ -57,7 +57,12 @@ class Desk:
         self.environment["DISPLAY"] = ":" + display
         if manager:
             self.start(["openbox"])
-            until("a window manager", lambda: "window id" in self.output(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]))
+            try:
+                until("a window manager",
+                      lambda: "window id" in self.output(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]))
+            except AssertionError:
+                self.close()
+                raise
 
     def start(self, words, **more):
         process = subprocess.Popen(words, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
