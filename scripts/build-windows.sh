@@ -21,6 +21,6 @@ cp README.md CHANGELOG.md "$folder/"
 cp docs/*.md docs/*.png "$folder/docs/"
 cp -R assets/skins/* "$folder/Skins/"
 # The same files give the same bytes.
-ClampTimes "$folder"
+SetTimes "$folder"
 (cd build/windows/package && find Kivu | sort | zip -qX "../$(basename "$package")" -@)
 echo "$package"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds and tries every package. For CI, which calls it behind scripts/build-windows.sh; by hand, too.
 #
-#     scripts/ci-packages.sh [--all]
+#     scripts/ci-packages.sh [--all]      (--all: as for a release)
 #
 # The Debian packages are built, installed, played with and removed each time. What takes long and rarely changes is
 # done again when what it is made by has changed since it was last found good (or with --all): the tarball, the
@@ -13,6 +13,8 @@ scripts/install-packages.sh build package tarball installer tree screen run test
 export CCACHE_DIR="${CCACHE_DIR:-$HOME/.cache/kivu/ccache}"
 kept="${KIVU_CACHE:-$HOME/.cache/kivu}/packages"
 all="${1-}"
+# Debug symbols take longer to pack than all else, and are wanted for a release alone.
+[ "$all" = --all ] || export DEB_BUILD_OPTIONS=noautodbgsym
 mkdir -p "$kept"
 
 # Stage TEXT COMMAND...: one part of the work, and how long it has taken.

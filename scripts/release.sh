@@ -10,6 +10,9 @@ if [ -z "${SOURCE_DATE_EPOCH:-}" ]; then
 fi
 export SOURCE_DATE_EPOCH TZ=UTC LC_ALL=C.UTF-8
 
+# SetTimes DIRECTORY: everything in it has the time of the last commit, and not that of a checkout.
+SetTimes() { find "$1" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +; }
+
 # ExportTree DIRECTORY: a copy of the tree's files, as they are now and without any that belong to nobody.
 ExportTree() {
   rm -rf "$1"
@@ -17,9 +20,7 @@ ExportTree() {
   git ls-files -z | while IFS= read -r -d '' file; do
     [ ! -e "$file" ] || printf '%s\0' "$file"
   done | tar --null -cf - -T - | tar -xf - -C "$1"
-}
-
-# ClampTimes DIRECTORY: nothing in it is younger than the last commit.
-ClampTimes() {
-  find "$1" -newermt "@$SOURCE_DATE_EPOCH" -exec touch -h -d "@$SOURCE_DATE_EPOCH" {} +
+  # Whoever unpacks it, and with whatever mask.
+  chmod -R u=rwX,go=rX "$1"
+  SetTimes "$1"
 }

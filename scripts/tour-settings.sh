@@ -43,17 +43,17 @@ Finish() {
 }
 trap Finish EXIT
 
-# A click into the settings window, at a place of its design, which is 800 pixels wide.
+# A click into the settings window, at a place of its design, which is 808 pixels wide.
 settings=""
 FindSettings() {
-  settings=$(xdotool search --onlyvisible --pid "$kivu" --name '^Einstellungen$' 2>/dev/null | tail -n 1)
+  settings=$(xdotool search --all --onlyvisible --pid "$kivu" --name '^Einstellungen$' 2>/dev/null | tail -n 1)
   [ -n "$settings" ]
 }
 NoSettings() { ! FindSettings; }
 At() {
   local wide
   wide=$(xdotool getwindowgeometry --shell "$settings" | sed -n 's/^WIDTH=//p')
-  xdotool mousemove --window "$settings" $(($1 * wide / 800)) $(($2 * wide / 800)) click 1
+  xdotool mousemove --window "$settings" $(($1 * wide / 808)) $(($2 * wide / 808)) click 1
   sleep 0.5
 }
 # A box or a dialog is the window that came last.
@@ -90,11 +90,11 @@ Shot first "the first screen"
 first=$last
 
 # The way is told there: the options, and in them a new emulator.
-Click "${TOUR_OPTIONS_X:-930}" "${TOUR_OPTIONS_Y:-580}"
+Click 893 581
 Until 15 FindSettings || Fail "the settings did not come up"
 top=$(xdotool getactivewindow)
 Shot settings "the settings without an emulator"
-At 696 74
+At 693 74
 Expect "the question for a name"
 xdotool type --delay 60 "Old PC"
 Shot name "a name typed"
@@ -106,7 +106,7 @@ Until 15 FindSettings || Fail "the settings have gone"
 Shot made "the settings of the new emulator"
 
 # The program, by the dialog for files.
-At 598 126
+At 584 126
 Expect "the dialog for files"
 xdotool type --delay 40 "$work/bin/"
 xdotool key Return
@@ -126,7 +126,7 @@ Back "the question about a start"
 Shot filled "what the emulator needs, filled in"
 
 # The directory of its games.
-At 598 212
+At 584 212
 Expect "the dialog for directories"
 xdotool key alt+p
 sleep 0.2
@@ -135,17 +135,17 @@ xdotool type --delay 40 "$games"
 xdotool key Return
 sleep 0.4
 Shot directory "the directory of the games"
-xdotool key Tab Tab Tab Tab Tab Return
+xdotool key Tab Tab Tab Tab Tab Tab Return
 Back "the dialog for directories"
 Shot ready "all that there is to say"
-At 544 578
+At 519 578
 profile="$work/program/Config/Old PC/Kivu.ini"
 Saved() { grep -q '^EmulatorPath=.*dosbox' "$profile" && grep -q '^RomPath=.*DOS' "$profile"; }
 Until 10 Saved || Fail "nothing was saved: $(cat "$profile")"
 Shot saved "saved"
 
 # The first scan, which closes the window.
-At 696 212
+At 693 212
 Until 30 NoSettings || Fail "the scan did not end"
 Listed() { grep -q 'Ant Attack.exe' "$work/program/Config/Old PC/Kivu_Cache.txt"; }
 Until 10 Listed || Fail "no game was found"

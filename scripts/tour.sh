@@ -159,24 +159,6 @@ Until 10 Ended || Fail "the program did not end"
 kivu=0
 grep -q '^WindowX=' "$program_dir/Config/Kivu.ini" || Fail "the window's place was not kept"
 
-# The colour picker in a window of its own: a slider colours the main window.
-colors=$program_dir/../bin/try_colors
-if [ -x "$colors" ]; then
-  "$colors" "$program_dir" 2>"$work/kivu.log" &
-  kivu=$!
-  FindPicker() {
-    window=$(xdotool search --onlyvisible --pid "$kivu" --name try_colors 2>/dev/null | tail -n 1)
-    [ -n "$window" ]
-  }
-  Until 30 FindPicker || Fail "the colour picker did not come up: $(cat "$work/kivu.log")"
-  Shot picker "the colour picker"
-  picker=$last
-  Click 300 55 5
-  Shot picked "another colour picked"
-  [ "$(Difference "$picker" "$last")" -gt 10000 ] || Fail "the window took no other colour"
-  kill "$kivu"
-  kivu=0
-fi
 echo "The tour is through; the pictures are in ${shots#"$here"/}."
 
 "$here/scripts/tour-loading.sh" "$program_dir" "$shots/loading"

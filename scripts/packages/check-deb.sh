@@ -121,19 +121,20 @@ Click 100 96
 xdotool key Down Return
 Chosen() { grep -q '^LastEmulator=DOSBox' "$collection/Config/Kivu.ini"; }
 Until 15 Chosen || Fail "the emulator was not chosen"
-# From the favourites to the titles.
+Shot favourites "its favourites"
 xdotool key Right
-sleep 0.5
+Shot titles "its games"
 xdotool key Home Down Down
-Shot games "its games"
+Shot chosen "one of them"
 xdotool key Return
 Playing() { Players -f '^kivu-dosbox.sh '; }
 Until 20 Playing || Fail "the game did not come up: $(cat "$work/kivu.log")"
 sleep 3
 MovingShot playing "a game of it"
-xdotool windowactivate --sync "$window" 2>/dev/null || true
-sleep 1.5
-xdotool key alt+F4
+# Each game ends with Escape.
+xdotool search --onlyvisible --name DOSBox windowactivate --sync 2>/dev/null || true
+sleep 1
+xdotool key Escape
 NotPlaying() { ! Playing; }
 Until 15 NotPlaying || Fail "the game was not ended"
 sleep 3

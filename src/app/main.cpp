@@ -53,7 +53,8 @@ int main(int argc, char** argv) {
     Reached("main");
     kivu::app::PrepareToolkit();
     QApplication application(argc, argv);
-    if (const auto code = kivu::app::RunOtherJob(argc, argv)) return *code;
+    // At once: what has been begun above may still be under way.
+    if (const auto code = kivu::app::RunOtherJob(argc, argv)) std::_Exit(*code);
     QApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication::setDesktopFileName(QString::fromLatin1(kivu::app::ApplicationId()));
     // Ready when the launcher is.

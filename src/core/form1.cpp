@@ -147,8 +147,11 @@ void Form1::DesignFrame() {
     Current_ProgramNameFull.SetShownFontSize(15);
     SearchDblsTxt.SetText("Suche..");
     SearchDblsTxt.SetWidth(2250);
+    // Also for who does not see what they are.
+    SearchDblsTxt.SetToolTipText("Spiel suchen (Strg+F)");
     SuchErg.Move(0, 0, 330, 330);
     SuchErg.SetPicture({":/search", nullptr});
+    SuchErg.SetToolTipText("Suchen");
     SearchAllBtn.SetCaption("ALL");
     SearchAllBtn.SetToolTipText("Srg + Return (Suche in allen Emulatoren)");
     SearchAllBtn.SetEnabled(false);
@@ -225,6 +228,7 @@ void Form1::DesignCorner() {
     NormalMaxCapt.SetFont({"", 12, true});
     NormalMaxCapt.SetAlignment(forms::Alignment::center);
     NormalMaxCapt.SetCaption("□");
+    NormalMaxCapt.SetToolTipText("Maximieren und zurück");
     // In a narrow window the tabs reach onto the corner's picture.
     for (forms::Label* tab : {&Label1, &Label2, &Label3, &Label4})
         tab->BringToFront();

@@ -22,6 +22,9 @@ void ApplyEnglishCaptions(Form1& form) {
     form.EmuListbox.SetToolTipText("Select emulator");
     form.AppRunningPicture.SetToolTipText("Kill Emulator process");
     form.DrivesResizeLabel.SetToolTipText("Fold and unfold the drives");
+    form.SearchDblsTxt.SetToolTipText("Search for a game (Ctrl+F)");
+    form.SuchErg.SetToolTipText("Search");
+    form.NormalMaxCapt.SetToolTipText("Maximize and back");
     form.JoystickIcon.SetToolTipText("Joystick / Gamepad navigation aktiv");
 }
 

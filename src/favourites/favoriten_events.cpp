@@ -37,7 +37,8 @@ void FavoritenEvents::FavoritenListe_Click() {
 void FavoritenEvents::OfferButtons() {
     form.AddToFavorit.SetVisible(false);
     form.AddToFavorit_Global.SetVisible(true);
-    form.DeLFav.SetVisible(true);
+    // A pad goes through the favourites behind the hits of a search, too.
+    form.DeLFav.SetVisible(form.FavoritenListe.Visible());
 }
 
 int FavoritenEvents::FindGame(const FavoritEntry& favourite) {

@@ -51,6 +51,9 @@ class WindowHost {
     enum class Activity { ours, others, unknown };
     virtual Activity ActiveWindow() const { return Activity::unknown; }
 
+    // Whether a window can be kept above those of other programs.
+    virtual bool CanStayOnTop() const { return true; }
+
     // How many boxes and modal windows wait for the user. What would start, switch or open
     // something by itself rests while there are any.
     int Questions() const { return questions; }

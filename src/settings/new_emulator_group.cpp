@@ -28,6 +28,12 @@ void NewEmulatorGroup::ShowState() {
     form.NewEmuBtn.SetEnabled(!Rests());
 }
 
+void NewEmulatorGroup::ComeForward() {
+    if (!main.IsTopmost()) return;
+    services.mainOnTop.SetToNormal();
+    services.windows.Raise(form);
+}
+
 bool NewEmulatorGroup::Rests() const {
     return main.EmuActiveTimer.Enabled() || main.Busy;
 }
@@ -82,6 +88,7 @@ void NewEmulatorGroup::Load(const std::string& name) {
     services.emulators.SelectEmulator(false);
     form.SetEnabled(true);
     if (main.Ended) return;
+    ComeForward();
     hooks.LoadAnew(keepTyped);
     form.txtWinUAEExe.SetFocus();
     form.ExeAtFocus = form.txtWinUAEExe.Text();

@@ -4,9 +4,11 @@
 
 #include "core/hook.h"
 #include "core/ports.h"
+#include "forms/window_host.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "settings/settings_form.h"
+#include "support/always_on_top.h"
 
 namespace kivu::core {
 struct Form1;
@@ -21,6 +23,8 @@ class NewEmulatorGroup {
         platform::FileSystem& files;
         platform::Dialogs& dialogs;
         core::EmulatorSwitching& emulators;
+        forms::WindowHost& windows;
+        support::AlwaysOnTop& mainOnTop;
     };
     struct Hooks {
         // The window with the files of the emulator that is loaded now, as it opens. True: what
@@ -36,6 +40,8 @@ class NewEmulatorGroup {
     // The emulator's name, and whether another one can be made now. As the window opens, and
     // whenever an emulator has been started out of it.
     void ShowState();
+    // In front of the main window, which what has been asked of it may have put on top of all.
+    void ComeForward();
 
     void NewEmuBtn_Click();
 

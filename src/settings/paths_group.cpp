@@ -118,6 +118,8 @@ void PathsGroup::LaunchButton_Click() {
     const std::string program = routines.known.ProgramOf(form.txtWinUAEExe.Text());
     if (!program.empty()) services.setup.StartProgram(program, form.EmuNameLabel.Caption());
     (void)services.files.ChangeDirectory(main.AppDir);
+    // Where nothing has come up yet, the main window is back as behind a game.
+    routines.newEmulator.ComeForward();
     routines.newEmulator.ShowState();
 }
 

@@ -150,7 +150,12 @@ struct SettingsForm : forms::Form {
     void DesignPictures();
     void NameInGerman();
     void NameInEnglish();
+    void Hint(forms::Control& control, const char* german, const char* english);
     void GiveHints();
+    void HintAtEmulator();
+    void HintAtWinUAE();
+    void HintAtStart();
+    void HintAtProgram();
 
     // Pixels of the design.
     void Place(forms::Control& control, int left, int top, int width, int height) const;

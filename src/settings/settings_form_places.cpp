@@ -11,28 +11,28 @@ namespace {
 
 constexpr double designPoints = 10;
 // A screen of four to three holds it in the largest text.
-constexpr int wide = 800, high = 606, margin = 20;
+constexpr int wide = 808, high = 606, margin = 20;
 // Inside the groups: labels, what they name, buttons in a column of their own at the right edge.
-constexpr int edge = margin + 12, field = 186, right = wide - margin - 12;
-constexpr int actions = 624, actionWidth = right - actions;
+constexpr int edge = margin + 12, field = 204, right = wide - margin - 12;
+constexpr int actions = 610, actionWidth = right - actions;
 // Buttons that browse stand in front of it, behind the sign of a fault.
 constexpr int browseWidth = 36, browse = actions - 8 - browseWidth;
 constexpr int signSize = 22, sign = browse - 6 - signSize, fieldEnd = sign - 6;
-constexpr int row = 28, labelHeight = 20, inRow = 5;
-constexpr int emulatorTop = 40, startTop = 268, programTop = 424, footTop = high - 42;
+constexpr int row = 28, labelHeight = 20, inRow = 6;
+constexpr int emulatorTop = 40, startTop = 274, programTop = 432, footTop = high - 42;
 // The second column of the groups below.
-constexpr int second = 312;
+constexpr int second = 320;
 
 constexpr int panelEdge = 12, crossSize = 22;
-constexpr int uaeLeft = 176, uaeTop = 112, uaeWidth = 440, uaeHeight = 440;
-constexpr int deamonLeft = 88, deamonTop = 96, deamonWidth = 528, deamonHeight = 134;
+constexpr int uaeLeft = 176, uaeTop = 112, uaeWidth = 426, uaeHeight = 440;
+constexpr int deamonLeft = 88, deamonTop = 96, deamonWidth = 514, deamonHeight = 134;
 constexpr int colorLeft = 296, colorTop = 72;
 constexpr int colorWidth = ui::ColorSelectControls::width / forms::twipsPerPixel + 2 * panelEdge;
 constexpr int pickerHeight = ui::ColorSelectControls::height / forms::twipsPerPixel;
 constexpr int colorHeight = pickerHeight + 78;
 
 // Of the reduced shape.
-constexpr int mainWidth = 400, mainHeight = 292, mainEdge = 5;
+constexpr int mainWidth = 456, mainHeight = 292, mainEdge = 5;
 constexpr int panelRow = deamonTop + mainEdge;  // the row below the panel
 
 }  // namespace
@@ -65,7 +65,7 @@ void SettingsForm::PlaceEmulator() {
     for (forms::Image* pin : {&AOT_Enabled, &AOT_Disabled, &AOT_MouseMove})
         Place(*pin, 0, 0, 28, 28);
 
-    Place(EmulatorGroup, margin, emulatorTop, wide - 2 * margin, startTop - emulatorTop - 4);
+    Place(EmulatorGroup, margin, emulatorTop, wide - 2 * margin, startTop - emulatorTop - 6);
     constexpr int top = emulatorTop + 20;
     Place(EmuNameLabel, edge, top + 2, fieldEnd - edge, 25);
     EmuNameLabel.SetFont({"", 13, true});
@@ -78,8 +78,8 @@ void SettingsForm::PlaceEmulator() {
     Place(LaunchButton, actions, top + 52, actionWidth, row);
 
     Place(KnownEmuLabel, edge, top + 86 + inRow, field - edge - 4, labelHeight);
-    Place(KnownEmuCombo, field, top + 86, 218, row);
-    Place(EmuDownload, field + 230, top + 86 + inRow, actions - 8 - field - 230, labelHeight);
+    Place(KnownEmuCombo, field, top + 86, 236, row);
+    Place(EmuDownload, field + 244, top + 86 + inRow, actions - 8 - field - 244, labelHeight);
     Place(WinUAEBtn, actions, top + 86, actionWidth, row);
 
     Place(Label2, edge, top + 118, actions - 8 - edge, labelHeight);
@@ -94,7 +94,7 @@ void SettingsForm::PlaceEmulator() {
 }
 
 void SettingsForm::PlaceStart() {
-    Place(StartGroup, margin, startTop, wide - 2 * margin, programTop - startTop - 4);
+    Place(StartGroup, margin, startTop, wide - 2 * margin, programTop - startTop - 6);
     constexpr int top = startTop + 20;
     Place(Label3, edge, top + inRow, field - edge - 4, labelHeight);
     Place(UAELaunchParaneter, field, top, right - field, row);
@@ -117,19 +117,22 @@ void SettingsForm::PlaceScriptBox() {
     DeMulAutostart.Move(UAELaunchParameterAddPath.Left(), UAELaunchParameterAddPath.Top(),
                         UAELaunchParameterAddPath.Width(), UAELaunchParameterAddPath.Height());
     OpenVBS.SetTop(DeMulAutostart.Top());
+    // A pixel's part may have been lost in each of its frame's place and its own.
+    OpenVBS.SetLeft(DeamonButton.Left() - ScriptFrame.Left());
 }
 
 void SettingsForm::PlaceProgram() {
     Place(ProgramGroup, margin, programTop, wide - 2 * margin, footTop - 8 - programTop);
-    constexpr int top = programTop + 20, step = 34, combo = 476;
+    constexpr int top = programTop + 20, step = 34;
+    constexpr int killWidth = 112, sizeWidth = 160, end = browse + browseWidth;
     Place(Joystickcheck, edge, top, second - 8 - edge, row);
-    Place(KillButtonLabel, second, top + inRow, combo - 4 - second, labelHeight);
-    Place(KillButtonKombo, combo, top, browse + browseWidth - combo, row);
+    Place(KillButtonLabel, second, top + inRow, end - killWidth - 2 - second, labelHeight);
+    Place(KillButtonKombo, end - killWidth, top, killWidth, row);
     Place(SetJOyBtn, actions, top, actionWidth, row);
 
     Place(ResetScreenRes, edge, top + step, second - 8 - edge, row);
-    Place(ResetScreenHint, second, top + step + inRow, combo - 12 - second, labelHeight);
-    Place(FontSizeCombo, combo - 20, top + step, browse + browseWidth - combo + 20, row);
+    Place(ResetScreenHint, second, top + step + inRow, end - sizeWidth - 8 - second, labelHeight);
+    Place(FontSizeCombo, end - sizeWidth, top + step, sizeWidth, row);
     Place(Command5, actions, top + step, actionWidth, row);
 
     Place(FensterRahmChk, edge, top + 2 * step, second - 8 - edge, row);
@@ -138,7 +141,7 @@ void SettingsForm::PlaceProgram() {
 
     Place(Label7, edge, footTop + inRow, 80, labelHeight);
     Place(Label5, edge + 100, footTop + inRow, 110, labelHeight);
-    Place(DonateBtn, second, footTop, 110, row);
+    Place(DonateBtn, second, footTop, 104, row);
     Place(SaveBtn, actions - 8 - actionWidth, footTop, actionWidth, row);
     Place(ExitBtn, actions, footTop, actionWidth, row);
 }
@@ -158,7 +161,7 @@ void SettingsForm::PlaceBackground() {
 
 void SettingsForm::PlaceWinUAEPanel() {
     constexpr int inner = uaeWidth - 2 * panelEdge, end = uaeWidth - panelEdge;
-    constexpr int textHeight = 226, below = 46 + textHeight + 8;
+    constexpr int textHeight = 220, below = 46 + textHeight + 8;
     Place(UseMasterConfig, panelEdge, 10, inner - crossSize - 8, row);
     Place(RemovePicEnabled, end - crossSize, 12, crossSize, crossSize);
     Place(TxtMasterConfig, panelEdge, 46, inner, textHeight);
@@ -166,9 +169,9 @@ void SettingsForm::PlaceWinUAEPanel() {
     Place(UAEMasterConfigLaunchParameter, 96, below, 72, row);
     Place(Command1, 180, below, 132, row);
     Place(Command3, 320, below, end - 320, row);
-    Place(FullscreenCheck, panelEdge, below + 36, inner / 2, row);
-    Place(IntelligenteRomauswahl, panelEdge + inner / 2, below + 36, inner / 2, row);
-    constexpr int kickstart = below + 72, browseLeft = end - browseWidth;
+    Place(FullscreenCheck, panelEdge, below + 34, inner, row);
+    Place(IntelligenteRomauswahl, panelEdge, below + 64, inner, row);
+    constexpr int kickstart = below + 98, browseLeft = end - browseWidth;
     Place(Label4, panelEdge, kickstart, inner, labelHeight);
     Place(TxtKickstartRomFile, panelEdge, kickstart + 20, browseLeft - 12 - signSize - panelEdge,
           row);
@@ -185,7 +188,7 @@ void SettingsForm::PlaceDeamonPanel() {
     Place(DeamonPath, panelEdge, path, browseLeft - 12 - signSize - panelEdge, row);
     Place(FehlerIcon[faultyDeamon], browseLeft - 6 - signSize, path + 3, signSize, signSize);
     Place(Command4, browseLeft, path, browseWidth, row);
-    Place(DeamonToolsIinfo, panelEdge, path + row + 8, inner, 3 * labelHeight - 6);
+    Place(DeamonToolsIinfo, panelEdge, path + row + 10, inner, 3 * labelHeight - 8);
 }
 
 void SettingsForm::PlaceColorPanel() {
@@ -212,7 +215,7 @@ void SettingsForm::PlaceMainSettings() {
     Place(Joystickcheck, deamonLeft, panelRow, mainWidth - actionWidth - 8, row);
     Place(SetJOyBtn, button, panelRow, actionWidth, row);
     Place(ResetScreenRes, deamonLeft, panelRow + 46, mainWidth - actionWidth - 8, row);
-    Place(FontSizeCombo, button - 16, panelRow + 46, actionWidth + 16, row);
+    Place(FontSizeCombo, button, panelRow + 46, actionWidth, row);
 
     constexpr int links = panelRow + 92, last = links + 46;
     Place(Label7, deamonLeft, links + inRow, 80, labelHeight);

@@ -99,88 +99,101 @@ void SettingsForm::NameInEnglish() {
     IniBtn.SetCaption("Ini files ..");
 }
 
-void SettingsForm::GiveHints() {
-    const auto hint = [this](forms::Control& control, const char* german, const char* english) {
-        control.SetToolTipText(IsGerman() ? german : english);
-    };
-    hint(NewEmuBtn, "Legt das Profil eines weiteren Emulators an",
-         "Makes the profile of another emulator");
-    hint(txtWinUAEExe, "Das Programm, das die Spiele startet", "The program that runs the games");
-    for (forms::CommandButton* browse : {&Command2, &BrowseDir, &BrowseKickromBtn, &Command4})
-        hint(*browse, "Durchsuchen", "Browse");
-    hint(LaunchButton, "Startet den Emulator ohne Spiel", "Runs the emulator without a game");
-    hint(KnownEmuCombo, "Setzt Parameter und Erweiterungen eines bekannten Emulators",
-         "Sets the parameters and the file extensions of a known emulator");
-    hint(WinUAEBtn, "Config Vorlage, Vollbild und Kickstart",
-         "Template, full screen and Kickstart");
-    hint(EmuDownload, "Öffnet die Seite im Browser", "Opens the page in the browser");
-    hint(TxtRomPath, "Das Verzeichnis der Spiele", "The directory of the games");
-    hint(LoadBtn, "Durchsucht das Verzeichnis dieses Emulators",
-         "Searches the directory of this emulator");
-    hint(ReloadAllBtn, "Durchsucht die Verzeichnisse aller Emulatoren",
-         "Rescan all directories for all emulators.");
-    hint(DirBefehleTxt, "Mehrere mit Komma getrennt: *.adf, *.zip",
-         "Several with commas between: *.adf, *.zip");
+void SettingsForm::Hint(forms::Control& control, const char* german, const char* english) {
+    control.SetToolTipText(IsGerman() ? german : english);
+}
 
-    hint(UseMasterConfig, "Alle WinUAE-Profile teilen sich diese Vorlage",
+void SettingsForm::GiveHints() {
+    HintAtEmulator();
+    HintAtWinUAE();
+    HintAtStart();
+    HintAtProgram();
+    for (forms::Image& sign : FehlerIcon)
+        Hint(sign, "Nicht gefunden. Ein Klick öffnet die Auswahl",
+             "Not found. A click opens the dialog");
+    Hint(FehlerIcon[faultyRomPath], "Leer oder nicht gefunden. Ein Klick öffnet die Auswahl",
+         "Empty or not found. A click opens the dialog");
+    Hint(FehlerIcon[faultyDeamon], "Nicht gefunden", "Not found");
+    for (forms::Image* cross : {&Picture1, &Picture2, &RemovePicEnabled})
+        Hint(*cross, "Ausblenden", "Hide");
+}
+
+void SettingsForm::HintAtEmulator() {
+    Hint(NewEmuBtn, "Legt das Profil eines weiteren Emulators an",
+         "Makes the profile of another emulator");
+    Hint(txtWinUAEExe, "Das Programm, das die Spiele startet", "The program that runs the games");
+    for (forms::CommandButton* browse : {&Command2, &BrowseDir, &BrowseKickromBtn, &Command4})
+        Hint(*browse, "Durchsuchen", "Browse");
+    Hint(LaunchButton, "Startet den Emulator ohne Spiel", "Runs the emulator without a game");
+    Hint(KnownEmuCombo, "Setzt Parameter und Erweiterungen eines bekannten Emulators",
+         "Sets the parameters and the file extensions of a known emulator");
+    Hint(WinUAEBtn, "Config Vorlage, Vollbild und Kickstart",
+         "Template, full screen and Kickstart");
+    Hint(EmuDownload, "Öffnet die Seite im Browser", "Opens the page in the browser");
+    Hint(TxtRomPath, "Das Verzeichnis der Spiele", "The directory of the games");
+    Hint(LoadBtn, "Durchsucht das Verzeichnis dieses Emulators",
+         "Searches the directory of this emulator");
+    Hint(ReloadAllBtn, "Durchsucht die Verzeichnisse aller Emulatoren",
+         "Rescan all directories for all emulators.");
+    Hint(DirBefehleTxt, "Mehrere mit Komma getrennt: *.adf, *.zip",
+         "Several with commas between: *.adf, *.zip");
+}
+
+void SettingsForm::HintAtWinUAE() {
+    Hint(UseMasterConfig, "Alle WinUAE-Profile teilen sich diese Vorlage",
          "All WinUAE profiles share this template");
-    hint(TxtMasterConfig,
+    Hint(TxtMasterConfig,
          "Alle WinUAE-Profile teilen sich diese Vorlage. Doppelklick öffnet sie im Editor",
          "All WinUAE profiles share this template. A double click opens it in the editor");
-    hint(UAEMasterConfigLaunchParameter, "Steht in der Befehlszeile vor der Config",
+    Hint(UAEMasterConfigLaunchParameter, "Steht in der Befehlszeile vor der Config",
          "Stands in front of the config on the command line");
-    hint(Command1, "Übernimmt eine Config von WinUAE in die Vorlage",
+    Hint(Command1, "Übernimmt eine Config von WinUAE in die Vorlage",
          "Takes a config of WinUAE over into the template");
-    hint(Command3, "Startet WinUAE mit der gespeicherten Vorlage",
+    Hint(Command3, "Startet WinUAE mit der gespeicherten Vorlage",
          "Runs WinUAE with the template as it is saved");
-    hint(IntelligenteRomauswahl, "Wählt automatisch die folgenden Disketten / Roms aus",
+    Hint(IntelligenteRomauswahl, "Wählt automatisch die folgenden Disketten / Roms aus",
          "Selects the disks / roms that follow by itself");
-    hint(TxtKickstartRomFile, "Leer lassen, wenn die Vorlage das Kickstart-Rom nennt",
-         "May stay empty where the template names the Kickstart rom");
+    Hint(TxtKickstartRomFile, "Die Datei des Kickstart-Roms", "The file of the Kickstart rom");
+}
 
-    hint(UAELaunchParaneter, "Steht in der Befehlszeile vor dem Spiel",
+void SettingsForm::HintAtStart() {
+    Hint(UAELaunchParaneter, "Steht in der Befehlszeile vor dem Spiel",
          "Stands in front of the game on the command line");
-    hint(UAELaunchParameterAddPath, "Der Pfad des Spiels steht in der Befehlszeile",
+    Hint(UAELaunchParameterAddPath, "Der Pfad des Spiels steht in der Befehlszeile",
          "The game's path stands on the command line");
-    hint(UseAnfz, "Für Pfade mit Leerzeichen", "For paths with blanks");
-    hint(ParameterWithoutPath, "Der Dateiname ohne Verzeichnis",
+    Hint(UseAnfz, "Für Pfade mit Leerzeichen", "For paths with blanks");
+    Hint(ParameterWithoutPath, "Der Dateiname ohne Verzeichnis",
          "Only the file name, without its directory");
-    hint(DeMulAutostart, "Startet mit dem Spiel ein eigenes Script",
+    Hint(DeMulAutostart, "Startet mit dem Spiel ein eigenes Script",
          "Runs a script of your own with the game");
-    hint(OpenVBS, "Öffnet das Script im Editor", "Opens the script in the editor");
-    hint(AutoMoundDeamonTools, "Bindet das Image vor dem Start ein",
+    Hint(OpenVBS, "Öffnet das Script im Editor", "Opens the script in the editor");
+    Hint(AutoMoundDeamonTools, "Bindet das Image vor dem Start ein",
          "Mounts the image before the start");
-    hint(DeamonButton, "Der Pfad der Deamon Tools", "The path of Deamon Tools");
-    hint(DeamonPath, "Das Programm, das Images einbindet", "The program that mounts images");
-    hint(SecondsTimerTxt, "So lange steht das Bild beim Start; 0: gar nicht",
+    Hint(DeamonButton, "Der Pfad der Deamon Tools", "The path of Deamon Tools");
+    Hint(DeamonPath, "Das Programm, das Images einbindet", "The program that mounts images");
+    Hint(SecondsTimerTxt, "So lange steht das Bild beim Start; 0: gar nicht",
          "How long the picture stays at the start; 0: not at all");
+}
 
-    hint(Joystickcheck, "Die Listen mit dem Gamepad bedienen", "Go through the lists by gamepad");
-    hint(SetJOyBtn, "Legt fest, was jeder Button tut", "Sets what each button does");
-    hint(KillButtonKombo, "Dieser Button beendet das laufende Spiel",
+void SettingsForm::HintAtProgram() {
+    Hint(Joystickcheck, "Die Listen mit dem Gamepad bedienen", "Go through the lists by gamepad");
+    Hint(SetJOyBtn, "Legt fest, was jeder Button tut", "Sets what each button does");
+    Hint(KillButtonKombo, "Dieser Button beendet das laufende Spiel",
          "The button that ends the running game");
-    hint(ResetScreenRes, "Stellt nach dem Spiel die Auflösung wieder her",
+    Hint(ResetScreenRes, "Stellt nach dem Spiel die Auflösung wieder her",
          "Restore your original Screen resolution after game ends");
-    hint(ResetScreenHint, "Beim Programmstart schaltet der Bildschirm auf 800 x 600",
+    Hint(ResetScreenHint, "Beim Programmstart schaltet der Bildschirm auf 800 x 600",
          "When the program starts the screen goes to 800 x 600");
-    hint(FontSizeCombo, "Schriftgröße der Listen", "Font size of the lists");
-    hint(Command5, "Farben ausprobieren", "Try out colours");
-    hint(FensterRahmChk, "Der Rahmen des Systems um das Hauptfenster",
+    Hint(FontSizeCombo, "Schriftgröße der Listen", "Font size of the lists");
+    Hint(Command5, "Farben ausprobieren", "Try out colours");
+    Hint(FensterRahmChk, "Der Rahmen des Systems um das Hauptfenster",
          "The system's frame around the main window");
-    hint(FavoritenReparierenLabel, "Sucht Favoriten, die verschoben wurden",
+    Hint(FavoritenReparierenLabel, "Sucht Favoriten, die verschoben wurden",
          "Looks for favourites that have been moved");
-    hint(IniBtn, "Öffnet die Profile im Editor", "Opens the profiles in the editor");
-    hint(Label7, "Öffnet die Homepage im Browser", "Opens the home page in the browser");
-    hint(Label5, "Sucht eine neue Version", "Looks for a new version");
-    hint(SaveBtn, "Strg+S", "Ctrl+S");
-    for (forms::Image& sign : FehlerIcon)
-        hint(sign, "Nicht gefunden. Ein Klick öffnet die Auswahl",
-             "Not found. A click opens the dialog");
-    hint(FehlerIcon[faultyRomPath], "Leer oder nicht gefunden. Ein Klick öffnet die Auswahl",
-         "Empty or not found. A click opens the dialog");
-    hint(FehlerIcon[faultyDeamon], "Nicht gefunden", "Not found");
-    for (forms::Image* cross : {&Picture1, &Picture2, &RemovePicEnabled})
-        hint(*cross, "Ausblenden", "Hide");
+    Hint(IniBtn, "Öffnet die Profile im Editor", "Opens the profiles in the editor");
+    Hint(Label7, "Öffnet die Homepage im Browser", "Opens the home page in the browser");
+    Hint(Label5, "Sucht eine neue Version", "Looks for a new version");
+    Hint(SaveBtn, "Strg+S", "Ctrl+S");
 }
 
 }  // namespace kivu::settings

@@ -1,6 +1,8 @@
 #include "settings/settings_window.h"
 
+#include <functional>
 #include <initializer_list>
+#include <utility>
 
 #include "core/form1.h"
 #include "library/game_lists.h"
@@ -12,6 +14,27 @@ namespace kivu::settings {
 
 namespace keys = forms::keys;
 namespace shifts = forms::shifts;
+
+namespace {
+
+// What is pressed with the mouse does nothing while `isHeld` says so. Check boxes and fields hold
+// values, and keep what has been made of them.
+void HoldCommandsBack(const forms::Container& container, const std::function<bool()>& isHeld) {
+    for (forms::Control* control : container.Children()) {
+        const forms::Kind kind = control->GetKind();
+        const bool isCommand = kind == forms::Kind::commandButton || kind == forms::Kind::label ||
+                               kind == forms::Kind::image;
+        if (isCommand && control->onClick) {
+            control->onClick = [isHeld, run = std::move(control->onClick)] {
+                if (!isHeld()) run();
+            };
+        }
+        const auto* inner = dynamic_cast<const forms::Container*>(control);
+        if (inner) HoldCommandsBack(*inner, isHeld);
+    }
+}
+
+}  // namespace
 
 SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Services services,
                                Routines routines)
@@ -26,7 +49,9 @@ SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Servic
              {services.files, services.starter, services.dialogs, services.fileDialogs,
               services.log, routines.loadingScreen, routines.uaeFiles, routines.launch}),
       known(form, main, {services.files, services.starter, services.dialogs}, winuae),
-      newEmulator(form, main, {services.files, services.dialogs, routines.emulators}),
+      newEmulator(form, main,
+                  {services.files, services.dialogs, routines.emulators, services.windows,
+                   routines.mainOnTop}),
       paths(form, main, {services.files, services.dialogs, services.fileDialogs, routines.setup},
             {known, winuae, newEmulator}),
       launch(form, routines.startHelpers),
@@ -40,6 +65,7 @@ SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Servic
       designPicture(form.BackgroundFrame.GetPicture()) {
     JoinEvents();
     JoinPin();
+    HoldCommandsBack(form, [this] { return program.IsUpdating(); });
 }
 
 void SettingsWindow::JoinEvents() {
@@ -168,7 +194,10 @@ void SettingsWindow::ReloadAllBtn_Click() {
     if (Show(services.dialogs, ReloadAllQuestion(main)) != platform::Answer::Ok) return;
     form.SetVisible(false);
     routines.lists.ReloadEmulatorsAll();
-    if (!main.Ended) form.Unload();
+    if (main.Ended) return;
+    // Buttons that were off meanwhile have lost the focus.
+    if (!main.Focus()) main.UAE_Short.SetFocus();
+    form.Unload();
 }
 
 void SettingsWindow::IniBtn_Click() {

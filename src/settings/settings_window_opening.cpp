@@ -50,15 +50,14 @@ void SettingsWindow::LoadValues() {
     routines.windowColors.SetColors(form, -1, -1);
     ShowSkin();
     ShowParameters(form, values);
-    form.BackgroundFrame.Move(-60, -60, form.Width() + 120, form.Height() + 120);
+    form.PlaceBackground();
     program.CopyFontSizes();
     program.ShowEmuDownload();
     program.ShowDonateBtn();
     RunChangeHandlers();
     known.FillKnownEmuCombo();
     looks.Load();
-    form.DeMulAutostart.SetLeft(form.UAELaunchParameterAddPath.Left());
-    form.DeMulAutostart.SetTop(form.UAELaunchParameterAddPath.Top());
+    form.PlaceScriptBox();
     // All of this has run handlers, and nothing has been changed yet.
     form.SaveBtn.SetEnabled(false);
 }

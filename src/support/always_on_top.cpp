@@ -1,5 +1,7 @@
 #include "support/always_on_top.h"
 
+#include "forms/window_host.h"
+
 namespace kivu::support {
 
 namespace {
@@ -40,7 +42,7 @@ void AlwaysOnTop::LoadSettings() {
 }
 
 void AlwaysOnTop::AOT_Disabled_MouseMove() {
-    if (isOnTop) return;
+    if (isOnTop || !HasPin()) return;
     pictures.hover.SetVisible(true);
     pictures.disabled.SetVisible(false);
 }
@@ -49,9 +51,14 @@ void AlwaysOnTop::MouseLeft() {
     ShowState();
 }
 
+bool AlwaysOnTop::HasPin() const {
+    const forms::WindowHost* windows = parent.GetToolkit().windows;
+    return !windows || windows->CanStayOnTop();
+}
+
 void AlwaysOnTop::ShowState() {
-    pictures.enabled.SetVisible(isOnTop);
-    pictures.disabled.SetVisible(!isOnTop);
+    pictures.enabled.SetVisible(isOnTop && HasPin());
+    pictures.disabled.SetVisible(!isOnTop && HasPin());
     pictures.hover.SetVisible(false);
 }
 

@@ -38,6 +38,8 @@ class AlwaysOnTop {
 
  private:
     void ShowState();
+    // False: the session has no such thing, and a pin would do nothing.
+    bool HasPin() const;
 
     forms::Form& parent;
     Pictures pictures;

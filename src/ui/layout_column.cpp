@@ -110,9 +110,10 @@ void Layout::PlaceFrameRows() {
     form.SuchErg.Move(leftEnd + (besides - magnifier) / 2, middle + (rowHeight - magnifier) / 2,
                       magnifier, magnifier);
     // The donations only where the rescan's words have room beside them.
-    const int donate = right - 90 - buttons, leastRescan = 1800;
+    const int donateWidth = 1080, leastRescan = 1950;
+    const int donate = right - 90 - donateWidth;
     const bool donations = form.DonateBtn.Visible() && donate - 90 - columnLeft >= leastRescan;
-    form.DonateBtn.Move(donate, donations ? highest : height, buttons, rowHeight);
+    form.DonateBtn.Move(donate, donations ? highest : height, donateWidth, rowHeight);
     const int rescanEnd = donations ? donate - 90 : narrow ? right - 90 : leftEnd;
     form.LoadBtn.Move(columnLeft, highest, within(columnLeft, rescanEnd), rowHeight);
     form.AlwaysOnTop1.Move(frameWidth - form.AlwaysOnTop1.Width() - 150, lowest,

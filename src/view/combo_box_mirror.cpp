@@ -124,7 +124,6 @@ void ComboBoxMirror::ShowText() {
         editor->ShowText();
         return;
     }
-    combo->setAccessibleDescription(ToQt(box.Text()));
     combo->update();
 }
 

@@ -20,6 +20,7 @@ class ComboBoxMirror : public Mirror {
     void Flush() override;
     QWidget* Editor() const override { return combo ? combo->lineEdit() : nullptr; }
     bool HasRows() const override { return true; }
+    const RowSource* RowsShown() const override { return &source; }
     bool UsesMouse() const override { return true; }
     // Shown narrower than it is, it reaches less far.
     QMargins Overhang() const override;

@@ -152,8 +152,7 @@ void FormSurface::Paint() {
         painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     }
     if (form.HasFrame() || form.State() == forms::WindowState::maximized) return;
-    // A hairline sets the window off from what lies behind it.
-    painter.setPen(QPen(QColor(255, 255, 255, 56), 1));
+    painter.setPen(QPen(windowEdge, 1));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(whole.adjusted(0.5, 0.5, -0.5, -0.5), radius - 0.5, radius - 0.5);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QColor>
 #include <QImage>
 #include <QTimer>
 #include <QWidget>
@@ -8,6 +9,9 @@
 #include "view/cover_picture.h"
 
 namespace kivu::view {
+
+// A hairline sets a window off from what lies behind it.
+inline const QColor windowEdge(255, 255, 255, 56);
 
 // The window's own face: its picture, or a gradient in its back colour, with smooth round corners.
 class FormSurface : public QWidget {

@@ -1,14 +1,13 @@
 #include "view/form_view.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
+#include <QApplication>
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QSessionManager>
 #include <QWindow>
 #include <algorithm>
 
 #include "forms/controls.h"
+#include "view/accessible.h"
 #include "view/fonts.h"
 #include "view/make_mirror.h"
 #include "view/text.h"
@@ -24,6 +23,7 @@ class WindowMirror : public Mirror {
  public:
     WindowMirror(forms::Form& form, QWidget* window, MirrorHost& host) : Mirror(form, host) {
         widget = window;
+        JoinAccessible(*this);
     }
     void Apply(forms::Aspect) override {}
 };
@@ -60,9 +60,8 @@ FormView::FormView(forms::Form& form)
       drag(*surface, sync),
       pointer(form, input, drag, [this](forms::Control& control) { return Find(control); }),
       keyboard(form, input, [this](forms::Control& control) { return Find(control); }) {
-    const QString name = ToQt(form.FullName());
-    surface->setObjectName(name);
-    surface->setAccessibleName(name);
+    ServeAssistiveTools();
+    surface->setObjectName(ToQt(form.FullName()));
     surface->setFont(ToQt(form.GetFont()));
     surface->setFocusPolicy(Qt::NoFocus);
     auto window = std::unique_ptr<WindowMirror>(new WindowMirror(form, surface.get(), *this));
@@ -73,10 +72,10 @@ FormView::FormView(forms::Form& form)
     }
     Stack(form);
     drag.ArrangeEdges();
-    keyboard.onCloseKey = [this] { surface->close(); };
-    // The end of the desktop session is not ours to refuse.
-    connect(qApp, &QGuiApplication::commitDataRequest, this,
-            [this](QSessionManager&) { sessionEnding = true; });
+    keyboard.onCloseKey = [this] {
+        const QScopedValueRollback<bool> passed(closeKeyPassed, true);
+        surface->close();
+    };
     form.SetObserver(this);
 }
 
@@ -153,6 +152,7 @@ void FormView::Changed(forms::Control& control, forms::Aspect aspect) {
     Mirror* mirror = Find(control);
     if (!mirror) return;
     mirror->Apply(aspect);
+    TellChange(*mirror, aspect);
     if (aspect == forms::Aspect::zOrder) StackAmongOthers(control);
 }
 
@@ -162,6 +162,7 @@ void FormView::FormChanged(forms::Aspect aspect) {
             ShowFocus();
             for (const auto& [control, mirror] : mirrors)
                 mirror->FocusMoved();
+            if (Mirror* mirror = form.Focus() ? Find(*form.Focus()) : nullptr) TellFocus(*mirror);
             break;
         case forms::Aspect::visible:
             if (!hosted) form.Visible() ? Show() : surface->hide();
@@ -301,6 +302,7 @@ bool FormView::HandEvent(QObject& object, Mirror& mirror, QEvent& event) {
             event.accept();
             return true;
         case QEvent::KeyPress:
+            if (HandToPopup(event)) return true;
             PressKey(object, static_cast<QKeyEvent&>(event));
             return true;
         case QEvent::ToolTip:
@@ -317,6 +319,16 @@ bool FormView::HandEvent(QObject& object, Mirror& mirror, QEvent& event) {
         default:
             return false;
     }
+}
+
+// Where the session leaves the keyboard with the window, the keys are still the open drop-down's.
+bool FormView::HandToPopup(QEvent& event) {
+    QWidget* popup = QApplication::activePopupWidget();
+    if (!popup || !surface->isAncestorOf(popup->parentWidget())) return false;
+    QWidget* rows = popup->focusWidget() ? popup->focusWidget() : popup;
+    QCoreApplication::sendEvent(rows, &event);
+    event.accept();
+    return true;
 }
 
 void FormView::PressKey(QObject& object, QKeyEvent& event) {
@@ -351,8 +363,18 @@ bool FormView::WindowEvent(QEvent& event) {
     }
 }
 
+// Window managers take Alt+F4 for themselves and ask the window to close.
+bool FormView::IsCloseKey() {
+    if (closeKeyPassed || !(QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier))
+        return false;
+    return input.KeyDown({forms::keys::f4, forms::shifts::alt}).code == 0;
+}
+
 void FormView::Close(QEvent& request) {
-    if (!sessionEnding && !form.RequestClose()) {
+    // A question over a window in the task bar would not be seen.
+    const bool swallowed = IsCloseKey();
+    if (!swallowed && surface->isMinimized()) Summon();
+    if (swallowed || !form.RequestClose()) {
         request.ignore();
         return;
     }

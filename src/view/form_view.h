@@ -22,8 +22,8 @@ namespace kivu::view {
 // Shows a form as a window and turns the user's hands into what its handlers expect. Create it when
 // the form's controls and handlers are there; the form must outlive it.
 //
-// Each widget's object name and accessible name is its control's full name. A list or drop-down has
-// a widget once it has been shown for the first time.
+// Each widget's object name is its control's full name. A list or drop-down has a widget once it
+// has been shown for the first time.
 class FormView : public QObject, private forms::Observer, private MirrorHost {
  public:
     explicit FormView(forms::Form& form);
@@ -64,6 +64,7 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     forms::UserInput& Input() override { return input; }
     forms::Form& Form() override { return form; }
     RepaintRest& Rest() override { return rest; }
+    Mirror* MirrorOf(forms::Control& control) override { return Find(control); }
 
     void FormChanged(forms::Aspect aspect);
     Mirror* Find(forms::Control& control) const;
@@ -76,7 +77,9 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     void TakeFocus(Mirror& mirror, Qt::FocusReason reason);
     void FlushNow();
     void Close(QEvent& request);
+    bool IsCloseKey();
     bool WindowEvent(QEvent& event);
+    bool HandToPopup(QEvent& event);
     bool HandEvent(QObject& object, Mirror& mirror, QEvent& event);
     void PressKey(QObject& object, QKeyEvent& event);
 
@@ -94,7 +97,7 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     std::function<bool()> isComposited;
     bool flushPosted = false;
     bool movingFocus = false;
-    bool sessionEnding = false;
+    bool closeKeyPassed = false;  // the form's handlers have let it through
     bool hosted = false;
     QPointer<FormView> owner;
 };

@@ -5,6 +5,7 @@
 
 #include "forms/access_keys.h"
 #include "forms/form.h"
+#include "view/accessible_parts.h"
 #include "view/colors.h"
 #include "view/fonts.h"
 #include "view/style_parts.h"
@@ -40,8 +41,8 @@ class LabelWidget : public QWidget {
         QPainter painter(this);
         const QColor back = ToQt(label.BackColor());
         const QColor window = ToQt(label.ParentForm()->BackColor());
-        const bool tab = label.onClick && !label.IsLink();
-        const bool marked = tab && (label.IsOpaque() || back != window);
+        const bool tab = IsClickable(label);
+        const bool marked = IsMarked(label);
         // A label over a whole area is no tab, and would light it up.
         const bool oneLine =
             rect().marginsRemoved(mirror.Overhang()).height() < 2 * QFontMetrics(font()).height();
@@ -59,7 +60,9 @@ class LabelWidget : public QWidget {
             text = Readable(text, window, swallowed);
         }
         if (tab && !marked && oneLine && underMouse() && isEnabled()) {
-            FillRounded(painter, rect(), cornerRadius, InkOn(window, 34));
+            const QColor veil = InkOn(window, 34);
+            text = Readable(text, Mix(window, InkOn(window, 255), veil.alphaF()));
+            FillRounded(painter, rect(), cornerRadius, veil);
         }
         if (!isEnabled()) {
             const QColor ground = label.IsOpaque() || marked ? back : window;
@@ -151,7 +154,7 @@ LabelMirror::LabelMirror(forms::Label& control, QWidget* parent, MirrorHost& hos
 }
 
 QMargins LabelMirror::Overhang() const {
-    return label.onClick && !label.IsLink() ? tabAir : QMargins();
+    return IsClickable(label) ? tabAir : QMargins();
 }
 
 void LabelMirror::Apply(forms::Aspect aspect) {
@@ -164,9 +167,6 @@ void LabelMirror::Apply(forms::Aspect aspect) {
     if (aspect == forms::Aspect::font) widget->setFont(ToQt(label.ShownFont()));
     if (aspect == forms::Aspect::text || aspect == forms::Aspect::font) {
         static_cast<LabelWidget*>(widget.data())->Forget();
-        if (aspect == forms::Aspect::text)
-            widget->setAccessibleDescription(
-                ToQt(TextOf(label) + (label.Hint().empty() ? "" : "\r") + label.Hint()));
     }
 }
 

@@ -83,6 +83,12 @@ std::optional<int> ListMirror::RowAt(QPoint global) const {
     return index.isValid() ? std::optional(index.row()) : std::nullopt;
 }
 
+QRect ListMirror::RowRect(int row) const {
+    if (!list) return {};
+    const QRect place = list->visualRect(rows->index(row, 0));
+    return {list->viewport()->mapToGlobal(place.topLeft()), place.size()};
+}
+
 int ListMirror::PageRows() const {
     return std::max(1, list->viewport()->height() / RowHeight(list->fontMetrics()));
 }

@@ -18,6 +18,8 @@ class ListMirror : public Mirror {
     void Flush() override;
     std::optional<int> RowAt(QPoint global) const override;
     bool HasRows() const override { return true; }
+    const RowSource* RowsShown() const override { return source.get(); }
+    QRect RowRect(int row) const override;
     int SelectedRow() const override { return source->Selected(); }
     void ClickRow(int row, int shift) override { source->Click(row, shift); }
     void SelectRow(int row) override { source->Select(row); }

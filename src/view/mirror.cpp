@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QTextDocument>
 
+#include "view/accessible.h"
 #include "view/colors.h"
 #include "view/fonts.h"
 #include "view/geometry.h"
@@ -38,11 +39,14 @@ QString PlainToolTip(const std::string& text) {
     return PlainToolTip(ToQt(text));
 }
 
+Mirror::~Mirror() {
+    PartAccessible(*this);
+}
+
 void Mirror::Adopt(QWidget* newWidget) {
     widget = newWidget;
-    const QString name = ToQt(control.FullName());
-    widget->setObjectName(name);
-    widget->setAccessibleName(name);
+    JoinAccessible(*this);
+    widget->setObjectName(ToQt(control.FullName()));
     // The focus moves only as the model says.
     widget->setFocusPolicy(Qt::NoFocus);
     host.Watch(widget, *this);

@@ -11,6 +11,7 @@
 namespace kivu::view {
 
 class Mirror;
+class RowSource;
 
 // What a mirror asks of the view that it belongs to.
 class MirrorHost {
@@ -24,6 +25,8 @@ class MirrorHost {
     virtual forms::Form& Form() = 0;
     // For whoever runs a handler by something else than the mouse and the keys.
     virtual RepaintRest& Rest() = 0;
+    // Null for a control without one yet.
+    virtual Mirror* MirrorOf(forms::Control& control) = 0;
 };
 
 // One control on the screen: keeps a widget in line with it. The control is the truth; a widget
@@ -31,11 +34,12 @@ class MirrorHost {
 class Mirror {
  public:
     Mirror(forms::Control& control, MirrorHost& host) : control(control), host(host) {}
-    virtual ~Mirror() = default;
+    virtual ~Mirror();
     Mirror(const Mirror&) = delete;
     Mirror& operator=(const Mirror&) = delete;
 
     forms::Control& GetControl() const { return control; }
+    MirrorHost& Host() const { return host; }
     // Null for a control that is not to be seen, such as a timer.
     QWidget* Widget() const { return widget; }
     // Where the focus goes and text is edited.
@@ -48,6 +52,9 @@ class Mirror {
     // The row under a point of the screen, for lists.
     virtual std::optional<int> RowAt(QPoint) const { return {}; }
     virtual bool HasRows() const { return false; }
+    virtual const RowSource* RowsShown() const { return nullptr; }
+    // The row's place on the screen, which it may have been scrolled out of.
+    virtual QRect RowRect(int) const { return {}; }
     virtual int SelectedRow() const { return -1; }
     virtual void ClickRow(int, int /*shift*/) {}
     virtual void SelectRow(int) {}

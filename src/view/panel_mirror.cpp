@@ -6,6 +6,7 @@
 #include "forms/controls.h"
 #include "forms/form.h"
 #include "view/colors.h"
+#include "view/form_surface.h"
 #include "view/geometry.h"
 #include "view/style_parts.h"
 #include "view/text.h"
@@ -59,9 +60,28 @@ class PanelWidget : public QWidget {
             if (!frame->Caption().empty()) DrawCaption(painter, ToQt(frame->Caption()));
         }
         DrawPicture(painter);
+        if (CoversWindow()) DrawWindowEdge(painter);
     }
 
  private:
+    // A picture behind all of a window hides the edge that the window has drawn.
+    bool CoversWindow() const {
+        const forms::Form& form = *control.ParentForm();
+        return control.GetKind() == forms::Kind::pictureBox && control.Parent() == &form &&
+               control.GetPicture() != forms::Picture() && !form.HasFrame() &&
+               control.Left() <= 0 && control.Top() <= 0 && control.Right() >= form.Width() &&
+               control.Bottom() >= form.Height();
+    }
+
+    void DrawWindowEdge(QPainter& painter) {
+        const QRectF window = QRectF(-pos(), parentWidget()->size());
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(QPen(windowEdge, 1));
+        painter.setBrush(Qt::NoBrush);
+        const double radius = control.ParentForm()->CornerRadius() - 0.5;
+        painter.drawRoundedRect(window.adjusted(0.5, 0.5, -0.5, -0.5), radius, radius);
+    }
+
     PictureCache::Fit HowToFit() const {
         if (control.GetKind() != forms::Kind::image) return PictureCache::Fit::cover;
         return static_cast<const forms::Image&>(control).KeepsProportions()
@@ -103,11 +123,17 @@ class PanelWidget : public QWidget {
         return line;
     }
 
+    // A panel on a light window is lighter still: what stands on it is made for that one's colour.
+    QColor Plate(const QColor& back, const QColor& ink) const {
+        if (!IsDraggable(control) && !IsDark(back)) return Mix(back, Qt::white, 0.6);
+        return Mix(back.darker(135), ink, 0.05);
+    }
+
     // What lies over others stands out, and what can be dragged about has a grip at its edge. It
     // may lie over a list, whose rows must not show through.
     void DrawPlate(QPainter& painter) {
         const QColor ink = ToQt(control.ForeColor());
-        const QColor plate = Mix(ToQt(control.BackColor()).darker(135), ink, 0.05);
+        const QColor plate = Plate(ToQt(control.BackColor()), ink);
         QColor dots = ink;
         dots.setAlphaF(underMouse() ? 0.9F : 0.5F);
         FillRounded(painter, QRectF(rect()), cornerRadius, plate, PlateLine());
@@ -126,10 +152,13 @@ class PanelWidget : public QWidget {
         const int height = fontMetrics().height();
         QColor line = text;
         line.setAlphaF(0.3F);
-        FillRounded(painter, QRectF(rect()).adjusted(0, height / 2.0, 0, 0), cornerRadius,
-                    QColor(0, 0, 0, 20), line);
         const QRect place(12, 0, fontMetrics().horizontalAdvance(caption) + 8, height);
-        painter.fillRect(place, ToQt(control.BackColor()));
+        const QRectF box = QRectF(rect()).adjusted(0, height / 2.0, 0, 0);
+        FillRounded(painter, box, cornerRadius, QColor(0, 0, 0, 20));
+        // The line leaves room for the caption, behind which the window may be of any colour.
+        painter.setClipRegion(QRegion(rect()) - place);
+        FillRounded(painter, box, cornerRadius, Qt::transparent, line);
+        painter.setClipping(false);
         painter.setPen(text);
         painter.drawText(place, Qt::AlignCenter | Qt::TextSingleLine, caption);
     }

@@ -106,11 +106,22 @@ bool Pointer::Press(Mirror& mirror, const QMouseEvent& event, bool second) {
     if (doubled) {
         control.DoubleClick();
     } else {
+        const forms::Mouse mouse = MouseOf(mirror, event, bit);
         mirror.ShowPressed(button == Qt::LeftButton);
-        input.MouseDown(control, MouseOf(mirror, event, bit));
+        input.MouseDown(control, mouse);
+        if (ReleaseIsLost(control)) {
+            LoseButton();
+            ClickOn(control);
+            input.MouseUp(control, mouse);
+        }
     }
     // A handler may have put the widget away: then its own press would be a stranger's.
     return !mirror.Widget() || !mirror.Widget()->isVisible() || !control.IsReachable();
+}
+
+bool Pointer::ReleaseIsLost(const forms::Control& control) const {
+    const bool up = !(QApplication::mouseButtons() & button);
+    return pressed == &control && clickPending && up && !form.Dragged();
 }
 
 bool Pointer::OnlyActivates(const Mirror& mirror, bool second) {

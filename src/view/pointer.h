@@ -30,6 +30,8 @@ class Pointer {
     bool Press(Mirror& mirror, const QMouseEvent& event, bool second);
     // The press only fetches the window, and its control must not take that for its own click.
     bool OnlyActivates(const Mirror& mirror, bool second);
+    // A box that a handler of the press has brought up took it; the click is meant all the same.
+    bool ReleaseIsLost(const forms::Control& control) const;
     void Hover(forms::Control* control);
     // The button has come up where nobody told of it.
     void LoseButton();

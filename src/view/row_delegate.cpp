@@ -59,7 +59,9 @@ void RowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
         writing = Readable(active ? onAccent : text, fill);
         FillRounded(*painter, pill, cornerRadius, fill, mark, 1.5);
     } else if (hover) {
-        FillRounded(*painter, pill, cornerRadius, Mix(base, text, 0.09));
+        const QColor fill = Mix(base, text, 0.09);
+        writing = Readable(text, fill);
+        FillRounded(*painter, pill, cornerRadius, fill);
     }
     const bool standsOut = source.ShowsCurrent() && source.Selected() == index.row();
     if (!followsCurrent && (standsOut || source.Meant() == index.row())) {

@@ -8,6 +8,7 @@
 
 #include "view/fit_into.h"
 #include "view/geometry.h"
+#include "view/session.h"
 
 namespace kivu::view {
 
@@ -60,6 +61,10 @@ forms::Point ScreenWindows::RoomCorner(const forms::Form* over) const {
 forms::WindowHost::Activity ScreenWindows::ActiveWindow() const {
     if (QGuiApplication::focusWindow()) return Activity::ours;
     return isElsewhere && isElsewhere() ? Activity::others : Activity::unknown;
+}
+
+bool ScreenWindows::CanStayOnTop() const {
+    return ThisSession().keepsOnTop;
 }
 
 FormView& ScreenWindows::MakeView(forms::Form& form) {

@@ -32,6 +32,7 @@ class ScreenWindows : public QObject, public forms::WindowHost {
     forms::Size Room(const forms::Form* over) const override;
     forms::Point RoomCorner(const forms::Form* over) const override;
     Activity ActiveWindow() const override;
+    bool CanStayOnTop() const override;
 
     bool event(QEvent* event) override;
 

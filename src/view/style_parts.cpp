@@ -19,9 +19,23 @@ QColor LineOn(const QColor& background, double strength) {
     return Mix(background, IsDark(background) ? QColor(Qt::white) : QColor(Qt::black), strength);
 }
 
+// The line of a control that nothing else tells from what lies around it.
+QColor ShapeOn(const QColor& background, double strength) {
+    return MixFor(shapeContrast, background, InkOn(background, 255), strength);
+}
+
 // A button that is off sinks into its window.
 QColor DisabledFace(const QPalette& palette) {
     return Mix(palette.color(QPalette::Window), palette.color(QPalette::Button), 0.35);
+}
+
+QColor ButtonFace(const QStyleOption& option) {
+    if (!Has(option, QStyle::State_Enabled)) return DisabledFace(option.palette);
+    const QColor face = option.palette.color(QPalette::Button);
+    if (Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On))
+        return Mix(face, Qt::black, 0.18);
+    if (!Has(option, QStyle::State_MouseOver)) return face;
+    return Mix(face, IsDark(face) ? QColor(Qt::white) : QColor(Qt::black), 0.12);
 }
 
 }  // namespace
@@ -47,8 +61,10 @@ void DrawField(QPainter& painter, const QStyleOption& option, const QColor& arou
     const bool hover = enabled && Has(option, QStyle::State_MouseOver);
     const bool seenAround = Contrast(accent, around) >= shapeContrast;
     const QColor mark = seenAround ? accent : AccentOn(option.palette.color(QPalette::Base));
-    const QColor line = focus ? mark : LineOn(back, hover ? 0.45 : 0.28);
-    FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
+    const double strength = hover ? 0.45 : 0.28;
+    const bool standsOut = !enabled || Contrast(back, around) >= shapeContrast;
+    const QColor quiet = standsOut ? LineOn(back, strength) : ShapeOn(back, strength);
+    FillRounded(painter, option.rect, cornerRadius, back, focus ? mark : quiet, focus ? 2 : 1);
 }
 
 void DrawHairline(QPainter& painter, const QStyleOption& option) {
@@ -58,25 +74,18 @@ void DrawHairline(QPainter& painter, const QStyleOption& option) {
 
 void DrawButton(QPainter& painter, const QStyleOption& option) {
     const bool enabled = Has(option, QStyle::State_Enabled);
-    const bool down = Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On);
-    const bool hover = Has(option, QStyle::State_MouseOver);
     const bool focus = Has(option, QStyle::State_HasFocus);
-    QColor back = option.palette.color(QPalette::Button);
-    if (enabled && down) {
-        back = Mix(back, Qt::black, 0.18);
-    } else if (enabled && hover) {
-        back = Mix(back, IsDark(back) ? QColor(Qt::white) : QColor(Qt::black), 0.12);
-    }
-    if (!enabled) back = DisabledFace(option.palette);
+    const QColor face = ButtonFace(option);
     const QColor window = option.palette.color(QPalette::Window);
-    const QColor line = focus ? AccentOn(window) : InkOn(window, enabled ? 46 : 20);
-    FillRounded(painter, option.rect, cornerRadius, back, line, focus ? 2 : 1);
+    const bool standsOut = !enabled || Contrast(face, window) >= shapeContrast;
+    const QColor quiet = standsOut ? InkOn(window, enabled ? 46 : 20) : ShapeOn(window, 0.18);
+    FillRounded(painter, option.rect, cornerRadius, face, focus ? AccentOn(window) : quiet,
+                focus ? 2 : 1);
 }
 
 void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const QStyle& style) {
     const bool enabled = Has(button, QStyle::State_Enabled);
-    const QColor face =
-        enabled ? button.palette.color(QPalette::Button) : DisabledFace(button.palette);
+    const QColor face = ButtonFace(button);
     QColor color =
         Readable(button.palette.color(QPalette::ButtonText), face, enabled ? textContrast : 3.5);
     if (!enabled) color = MixFor(3.5, face, color, 0.5);
@@ -100,7 +109,8 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
     const QColor mark = AccentOn(window);
     QColor fill = on || between ? mark : Mix(window, text, 0.12);
     const bool focus = Has(option, QStyle::State_HasFocus);
-    QColor line = focus || Has(option, QStyle::State_MouseOver) ? mark : Mix(window, text, 0.55);
+    const QColor quiet = MixFor(shapeContrast, window, text, 0.55);
+    QColor line = focus || Has(option, QStyle::State_MouseOver) ? mark : quiet;
     // The accent would not be seen around itself.
     if (focus && (on || between)) line = text;
     if (!enabled) {
@@ -131,7 +141,7 @@ void DrawRadio(QPainter& painter, const QStyleOption& option) {
     const QColor text = Readable(option.palette.color(QPalette::WindowText), window, shapeContrast);
     const QColor mark = AccentOn(window);
     const bool marked = on || Has(option, QStyle::State_MouseOver);
-    const QColor line = marked ? mark : Mix(window, text, 0.55);
+    const QColor line = marked ? mark : MixFor(shapeContrast, window, text, 0.55);
     FillRounded(painter, box, box.width() / 2, Mix(window, text, 0.12), line, 1.2);
     if (!on) return;
     const double inset = box.width() * 0.26;
@@ -158,7 +168,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
     const bool upright = slider.orientation == Qt::Vertical;
     const QColor window = slider.palette.color(QPalette::Window);
     const QColor text = Readable(slider.palette.color(QPalette::WindowText), window, shapeContrast);
-    const QColor quiet = Mix(window, text, 0.35);
+    const QColor quiet = MixFor(shapeContrast, window, text, 0.35);
     const QColor mark = AccentOn(window);
     QRectF groove = slider.rect;
     if (upright) {
@@ -178,9 +188,10 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
 }
 
 void DrawArrow(QPainter& painter, const QStyleOption& option, const QRect& place) {
-    QColor color = Readable(option.palette.color(QPalette::Text),
-                            option.palette.color(QPalette::Base), shapeContrast);
-    color.setAlphaF(Has(option, QStyle::State_Enabled) ? 0.8F : 0.35F);
+    const QColor base = option.palette.color(QPalette::Base);
+    const QColor text = Readable(option.palette.color(QPalette::Text), base, shapeContrast);
+    const QColor color = Has(option, QStyle::State_Enabled) ? MixFor(shapeContrast, base, text, 0.8)
+                                                            : Mix(base, text, 0.35);
     const double half = 4;
     const QPointF middle = QRectF(place).center();
     painter.save();

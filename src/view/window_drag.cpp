@@ -10,9 +10,9 @@ namespace kivu::view {
 
 namespace {
 
-constexpr int thickness = 5;  // pixels of an edge that can be gripped
-constexpr int corner = 16;    // and of a corner
-constexpr QSize least(240, 160);
+constexpr int thickness = 5;     // pixels of an edge that can be gripped
+constexpr int cornerDepth = 8;   // and of a corner, from its round line on
+constexpr int leastCorner = 16;  // pixels along its edges
 
 class EdgeGrip : public QWidget {
  public:
@@ -25,6 +25,8 @@ class EdgeGrip : public QWidget {
 
     void Place() {
         const QRect all = window()->rect();
+        // To where the straight edges begin, and a little on.
+        corner = std::max(leastCorner, sync.CornerRadius() + thickness);
         QRect place = all.adjusted(corner, corner, -corner, -corner);
         if (edges & Qt::LeftEdge) place.setLeft(0), place.setWidth(Extent());
         if (edges & Qt::RightEdge) {
@@ -37,6 +39,7 @@ class EdgeGrip : public QWidget {
             place.setTop(all.bottom() - Extent() + 1);
         }
         setGeometry(place);
+        if (IsCorner()) setMask(CornerShape(all).translated(-place.topLeft()));
     }
 
  protected:
@@ -57,6 +60,7 @@ class EdgeGrip : public QWidget {
             return;
         }
         const QPoint by = event->globalPosition().toPoint() - pressedAt;
+        const QSize least = WindowSync::LeastSize(before.size());
         QRect now = before;
         if (edges & Qt::LeftEdge) {
             now.setLeft(std::min(now.left() + by.x(), now.right() - least.width()));
@@ -77,6 +81,13 @@ class EdgeGrip : public QWidget {
     void mouseReleaseEvent(QMouseEvent*) override { dragging = false; }
 
  private:
+    // What lies behind its round line in the square of the corner belongs to the window's controls.
+    QRegion CornerShape(const QRect& all) const {
+        const int inner = std::max(0, sync.CornerRadius() - cornerDepth);
+        const QSize rest = all.size() - QSize(2 * cornerDepth, 2 * cornerDepth);
+        if (rest.isEmpty()) return all;
+        return QRegion(all) - RoundedRegion(rest, inner).translated(cornerDepth, cornerDepth);
+    }
     bool IsCorner() const {
         return (edges & (Qt::LeftEdge | Qt::RightEdge)) && (edges & (Qt::TopEdge | Qt::BottomEdge));
     }
@@ -92,6 +103,7 @@ class EdgeGrip : public QWidget {
 
     WindowSync& sync;
     Qt::Edges edges;
+    int corner = leastCorner;
     bool dragging = false;
     QPoint pressedAt;
     QRect before;

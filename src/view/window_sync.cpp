@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "view/geometry.h"
+#include "view/session.h"
 #include "view/text.h"
 
 namespace kivu::view {
@@ -18,13 +19,8 @@ using forms::WindowState;
 // Milliseconds in which a window manager answers a request; what it tells before may be older.
 constexpr int patience = 400;
 
-bool IsX11() {
-    return QGuiApplication::platformName() == QLatin1String("xcb");
-}
-
-bool HasPositions() {
-    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
-}
+// Pixels below which the user's hand makes no window. What a profile or the program says is taken.
+constexpr QSize least(240, 160);
 
 // A place that no screen shows any more gives way to one that is seen.
 QRect OnSomeScreen(QRect wanted) {
@@ -96,9 +92,12 @@ void WindowSync::RequestGeometry() {
     if (wanted == known) return;
     if (!shown) wanted = OnSomeScreen(wanted);
     known = wanted;
+    LimitHand(wanted.size());
     // Without a size of its own, be it the toolkit's default, a window fits itself to its controls.
     if (!shown || wanted.size() != window.size()) window.resize(wanted.size());
-    if (HasPositions() && wanted.topLeft() != window.pos()) window.move(wanted.topLeft());
+    if (ThisSession().placesWindows && wanted.topLeft() != window.pos())
+        window.move(wanted.topLeft());
+    LimitHand(wanted.size());
     if (shown) answer.start();
 }
 
@@ -118,6 +117,7 @@ void WindowSync::Show() {
     }
     // From now on the toolkit's window changes its flags without hiding itself.
     ApplyFrame();
+    LimitHand(window.size());
 }
 
 void WindowSync::ApplyState() {
@@ -141,7 +141,7 @@ Qt::WindowFlags WindowSync::Flags() const {
     if (!form.HasFrame()) flags |= Qt::FramelessWindowHint;
     if (IsOnTop()) flags |= Qt::WindowStaysOnTopHint;
     // Where windows are stacked by a manager, a fullscreen one lies above those that stay on top.
-    if (form.IsAboveAll() && IsX11()) flags |= Qt::BypassWindowManagerHint;
+    if (form.IsAboveAll() && ThisSession().bypassesManager) flags |= Qt::BypassWindowManagerHint;
     return flags;
 }
 
@@ -199,7 +199,7 @@ void WindowSync::TakeGeometry() {
     if (window.isMinimized() || form.State() == WindowState::minimized) return;
     ObserveState();
     const QRect now = Current();
-    const bool placed = HasPositions();
+    const bool placed = ThisSession().placesWindows;
     Place place{form.Left(), form.Top(), form.Width(), form.Height()};
     if (form.State() == WindowState::normal && now == normalPixels && now != known) {
         // Back from maximised: the twips that led to these pixels.
@@ -211,7 +211,25 @@ void WindowSync::TakeGeometry() {
         if (now.height() != known.height()) place.height = ToTwips(now.height());
     }
     known = now;
+    LimitHand(now.size());
     form.Move(place.left, place.top, place.width, place.height);
+}
+
+// The native window's alone: the widget's own would hold for the program too. Nothing above the
+// size that it has, or the toolkit would make it larger there and then.
+void WindowSync::LimitHand(QSize size) {
+    QWindow* native = window.windowHandle();
+    if (!native || !form.IsResizable()) return;
+    const QSize limit = LeastSize(size).boundedTo(native->size());
+    if (native->minimumSize() != limit) native->setMinimumSize(limit);
+}
+
+QSize WindowSync::LeastSize(QSize now) {
+    return least.boundedTo(now);
+}
+
+int WindowSync::CornerRadius() const {
+    return form.State() == WindowState::normal ? form.CornerRadius() : 0;
 }
 
 bool WindowSync::HasEdges() const {

@@ -24,6 +24,10 @@ class WindowSync {
     void TakeGeometry();
     // True: the user may resize it by its edges.
     bool HasEdges() const;
+    // Pixels that it can be made as small as from this size; no more than it has.
+    static QSize LeastSize(QSize now);
+    // Pixels, as it is shown.
+    int CornerRadius() const;
     // It stands over a window that stays on top of all others, and so must it.
     void SetAboveTopmost(bool value);
     bool IsOnTop() const { return form.IsTopmost() || form.IsAboveAll() || aboveTopmost; }
@@ -34,6 +38,7 @@ class WindowSync {
     };
 
     void RequestGeometry();
+    void LimitHand(QSize size);
     void ApplyState();
     void ApplyFrame();
     void ObserveState();

@@ -158,7 +158,7 @@ TEST_F(MountShell, AToolThatMayNotBeRunIsNone) {
 // A tool that hangs.
 TEST_F(MountShell, TheUserGivesUpWhileItIsWaitedFor) {
     Tool("/t/hangs");
-    host.starter.looksWhileWaiting = -1;
+    host.starter.looksWhileWaiting = 1000;
     loading.givenUp = [this] { return host.events.count >= 3; };
     EXPECT_FALSE(helpers.MountGameImage("/r/a"));
     EXPECT_EQ(host.events.count, 3);
@@ -168,7 +168,7 @@ TEST_F(MountShell, TheUserGivesUpWhileItIsWaitedFor) {
 TEST_F(MountShell, OnceGivenUpTheSecondCommandIsNotRun) {
     Tool("/t/hangs");
     files.SetReadOnly("/k/Config/A");
-    host.starter.looksWhileWaiting = -1;
+    host.starter.looksWhileWaiting = 1000;
     loading.givenUp = [] { return true; };
     EXPECT_FALSE(helpers.MountGameImage("/r/a"));
     EXPECT_THAT(OnlyRun().request.words, ElementsAre("/t/hangs", "-unmount", "0"));
@@ -194,7 +194,7 @@ TEST_F(MountShell, TheFileIsTakenAwayWhereItWasWritten) {
 
 TEST_F(MountShell, TheProgramsEndEndsTheWait) {
     Tool("/t/hangs");
-    host.starter.looksWhileWaiting = -1;
+    host.starter.looksWhileWaiting = 1000;
     host.events.onEvents = [this] { form.Ended = true; };
     helpers.MountGameImage("/r/a");
     EXPECT_EQ(host.events.count, 1);

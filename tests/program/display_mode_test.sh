@@ -9,8 +9,9 @@ server=0
 program=0
 Finish() {
   for process in $program $server; do
-    [ "$process" -eq 0 ] || kill -9 "$process" 2>/dev/null || true
+    [ "$process" -eq 0 ] || kill "$process" 2>/dev/null || true
   done
+  wait 2>/dev/null || true
   rm -rf "$work"
 }
 trap Finish EXIT

@@ -7,7 +7,11 @@ version=$2
 work=$(mktemp -d)
 started=()
 Finish() {
-  for process in "${started[@]}"; do kill "$process" 2>/dev/null || true; done
+  for process in "${started[@]}"; do
+    kill "$process" 2>/dev/null || true
+    # It stores its window's place as it ends.
+    wait "$process" 2>/dev/null || true
+  done
   rm -rf "$work"
 }
 trap Finish EXIT
@@ -37,8 +41,8 @@ Answered --version
 [ "$out" = "Kivu $version" ] && [ -z "$err" ] && [ "$status" -eq 0 ] || Fail "--version: $status, $out, $err"
 Answered --help
 [[ $out == Usage:* && $out == *--data* ]] && [ -z "$err" ] && [ "$status" -eq 0 ] || Fail "--help: $status, $out, $err"
-LC_ALL=de_DE.UTF-8 Answered --help
-[ "$status" -eq 0 ] || Fail "--help in German: $status, $err"
+out=$(env LC_ALL=de_DE.UTF-8 "$work/bin/Kivu" --help)
+[[ $out == Aufruf:* ]] || Fail "--help in German: $out"
 for word in --fast -- "--data" "--my game.adf"; do
   Answered "$word"
   [ -z "$out" ] && [[ $err == "Kivu: "* ]] && [ "$status" -eq 2 ] || Fail "$word: $status, $out, $err"

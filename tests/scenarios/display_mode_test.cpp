@@ -46,7 +46,8 @@ TEST_F(DisplayMode, TheStartSetsTheFixedModeAndAKillPutsTheDesktopsBack) {
 
 TEST_F(DisplayMode, AfterASwitchAKillSendsTheFixedMode) {
     Start();
-    Do("set", "Form1.EmuListbox.ListIndex", 1);
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 1);
     EXPECT_EQ(Text("IniPath"), tree.Path("Config/Beta/Kivu.ini"));
     EXPECT_EQ(Sent(), Json::array({fixed, fixed}));
     EXPECT_EQ(Get("SavedMode"), fixed);

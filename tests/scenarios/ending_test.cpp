@@ -128,8 +128,7 @@ TEST_F(Ending, SignalComesInTheMiddleOfALaunch) {
         Start();
         MoveAll();
         Do("click", "Form1.Label3");
-        Do("select", "Form1.UAE_Short", 0);
-        if (SignalAmong(n, "click", "Form1.LaunchBtn")["meanwhile"].empty()) break;
+        if (SignalAmong(n, "dblclick", "Form1.UAE_Short", 2)["meanwhile"].empty()) break;
         ExpectStored("in a launch");
     }
 }
@@ -143,7 +142,7 @@ TEST_F(Ending, SignalInTheMiddleOfASwitchTakesNoDrivesToAnotherProfile) {
     for (int n = 1; n < moments; ++n) {
         Start();
         MoveAll();
-        if (SignalAmong(n, "select", "Form1.EmuListbox", 1)["meanwhile"].empty()) break;
+        if (SignalAmong(n, "dblclick", "Form1.EmuListbox", 1)["meanwhile"].empty()) break;
         ++turns;
         EXPECT_EQ(tree.Stored("Config/Beta/Kivu.ini", "DrvWindowX"), "2222") << n;
         EXPECT_EQ(tree.Stored("Config/Beta/Kivu.ini", "DrvWindowY"), "3333") << n;

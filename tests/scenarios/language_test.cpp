@@ -49,6 +49,9 @@ TEST_F(Language, EnglishWritesItsCaptionsOverThem) {
     EXPECT_EQ(Get("EmuListbox.ToolTipText"), "Select emulator");
     EXPECT_EQ(Get("AppRunningPicture.ToolTipText"), "Kill Emulator process");
     EXPECT_EQ(Get("JoystickIcon.ToolTipText"), "Joystick / Gamepad navigation aktiv");
+    EXPECT_EQ(Get("SearchDblsTxt.ToolTipText"), "Search for a game (Ctrl+F)");
+    EXPECT_EQ(Get("SuchErg.ToolTipText"), "Search");
+    EXPECT_EQ(Get("NormalMaxCapt.ToolTipText"), "Maximize and back");
     EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ");
     EXPECT_EQ(Get("Label2.Caption"), " Simple (2) ");
     EXPECT_EQ(Get("Label3.Caption"), " Complete List (3) ");

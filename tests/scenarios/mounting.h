@@ -9,7 +9,7 @@ class Mounting : public Launch {
  protected:
     void UseTool(const std::string& path) {
         tree.WriteProgramProfile({{"LastEmulator", "Alpha"}, {"DeamonToolPath", path}});
-        Profile({{"AutoMountDeamonTool", "1"}, {"SplashTimer", "0"}});
+        Profile({{"AutoMountDeamonTool", "1"}});
     }
     // What ran, in order: the text of a start file, else the command.
     std::vector<std::string> Ran() {

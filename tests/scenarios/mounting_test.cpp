@@ -70,14 +70,15 @@ TEST_F(Mounting, EscapeGivesTheWaitAndTheLaunchUp) {
     tree.Write("Tools/mnt", "x");
     Start();
     Do("click", "Form1.Label3");
-    Host().starter.looksWhileWaiting = -1;
+    Host().starter.looksWhileWaiting = 1000;
     const std::string title = Text("Caption");
     int looks = 0;
     Host().events.onEvents = [&] {
         if (!Host().starter.runs.empty() && ++looks == 3) Do("key", "Form1", "Escape");
     };
     Do("dblclick", "Form1.UAE_Short", 2);
-    EXPECT_EQ(looks, 3);
+    EXPECT_GE(looks, 3);
+    EXPECT_LT(looks, 20);
     EXPECT_THAT(Ran(), ::testing::SizeIs(1));
     EXPECT_EQ(Do("boxes")["value"], Json::array());
     EXPECT_FALSE(MountFileIsThere());
@@ -87,7 +88,7 @@ TEST_F(Mounting, EscapeGivesTheWaitAndTheLaunchUp) {
     EXPECT_TRUE(Visible("UAE_Short"));
     EXPECT_FALSE(Visible("LoadingBtn"));
     EXPECT_EQ(Text("Caption"), title);
-    EXPECT_EQ(Get("Focus"), "UAE_Short");
+    EXPECT_EQ(Get("Focus"), "Form1.UAE_Short");
     // The next launch is one again.
     Host().events.onEvents = nullptr;
     Host().starter.looksWhileWaiting = 1;
@@ -97,14 +98,21 @@ TEST_F(Mounting, EscapeGivesTheWaitAndTheLaunchUp) {
 
 TEST_F(Mounting, TheLoadingScreensButtonGivesItUpToo) {
     UseTool("/Tools/mnt");
-    Profile({{"AutoMountDeamonTool", "1"}, {"SplashTimer", "6"}});
+    tree.AddEmulator("Alpha", {{"EmulatorPath", "/Emu/alpha"},
+                               {"WinUAE_UseMasterConfig", "0"},
+                               {"AutoMountDeamonTool", "1"},
+                               {"SplashTimer", "6"}});
     tree.Write("Tools/mnt", "x");
     Start();
-    Host().starter.looksWhileWaiting = -1;
+    Host().starter.looksWhileWaiting = 1000;
+    bool clicked = false;
     Host().events.onEvents = [&] {
-        if (!Host().starter.runs.empty()) Do("click", "LoadingInfo.Command1");
+        if (clicked || Host().starter.runs.empty()) return;
+        clicked = true;
+        Do("click", "LoadingInfo.Command1");
     };
     LaunchBee();
+    EXPECT_TRUE(clicked);
     EXPECT_THAT(Ran(), ::testing::SizeIs(1));
     EXPECT_EQ(Get("GameIsRunning"), false);
     EXPECT_EQ(Do("kills")["value"], Json::array());

@@ -69,7 +69,7 @@ TEST_F(Closing, UnsavedItAsksInBothLanguages) {
             Key("Escape");
             EXPECT_FALSE(open());
         });
-        EXPECT_EQ(Stored("EmulatorParameter"), "");
+        EXPECT_EQ(Stored("EmulatorParameter"), "(none)");
         Boxes();
     }
 }
@@ -201,7 +201,7 @@ TEST_F(Closing, NobodyClosesIt) {
     Open([] {});
     Open([&] { Set("UAELaunchParaneter.Text", "-x"); });
     EXPECT_TRUE(Boxes().empty());
-    EXPECT_EQ(Stored("EmulatorParameter"), "");
+    EXPECT_EQ(Stored("EmulatorParameter"), "(none)");
 }
 
 TEST_F(Closing, TheSizeOfTheTextAndTheFrameOutliveIt) {

@@ -59,7 +59,7 @@ TEST_F(FirstEmulator, IsThereWithoutATextEditor) {
         Do("input", "Atari 2600");
         Click("NewEmuBtn");
         EXPECT_EQ(Of("EmuNameLabel.Caption"), "Atari 2600");
-        EXPECT_EQ(Of("Focus"), "txtWinUAEExe");
+        EXPECT_EQ(Of("Focus"), "SettingsForm.txtWinUAEExe");
         EXPECT_EQ(Of("IniPath"), tree.Path("Config/Atari 2600/Kivu.ini"));
         EXPECT_THAT(Titles(), ElementsAre("New emulator"));
         AnswerFile(exe);
@@ -87,7 +87,7 @@ TEST_F(FirstEmulator, IsThereWithoutATextEditor) {
     EXPECT_THAT(tree.Read("Config/Atari 2600/Kivu_tmp.bat"), HasSubstr("Ant (1990)(Maker).bin"));
     // And it is all there at the next start.
     Start();
-    EXPECT_EQ(Text("EmuListbox.Text"), "Atari 2600");
+    EXPECT_EQ(Get("CurrentEmuIndex"), 0);
     EXPECT_EQ(Get("UAE_Short.ListCount"), 2);
 }
 
@@ -105,7 +105,7 @@ TEST_F(FirstEmulator, TakesWhatWasTypedBeforeIt) {
         EXPECT_THAT(Titles(), ElementsAre("New emulator"));
         EXPECT_EQ(TextOf("txtWinUAEExe"), exe);
         EXPECT_EQ(TextOf("DirBefehleTxt"), "*.bin, *.zip");
-        EXPECT_EQ(tree.Stored("Config/VCS/Kivu.ini", "Dir_Parameter"), "*.*");
+        EXPECT_EQ(tree.Stored("Config/VCS/Kivu.ini", "Dir_Parameter"), "(none)");
         Save();
         EXPECT_EQ(tree.Stored("Config/VCS/Kivu.ini", "Dir_Parameter"), "*.bin, *.zip");
         // The path was asked about once.
@@ -129,8 +129,10 @@ TEST_F(Emulators, ANewOneInFrontOfTheLoadedOneIsLoaded) {
         EXPECT_EQ(TextOf("UAELaunchParaneter"), "");
         EXPECT_FALSE(Unsaved());
         EXPECT_EQ(Of("EmuNameLabel.Caption"), "Aardvark");
+        EXPECT_FALSE(Form().IsTopmost());
         Key("Escape");
     });
+    EXPECT_TRUE(Form().IsTopmost());
     EXPECT_THAT(Rows("EmuListbox"), ElementsAre("Aardvark", "Alpha", "Beta"));
     EXPECT_THAT(Rows("EmulatorLongListbox"), ElementsAre("Aardvark", "Alpha", "Beta"));
     EXPECT_EQ(Get("CurrentEmuIndex"), 0);
@@ -294,6 +296,9 @@ TEST_F(Template, IsTriedOutAsItIsOnTheDisk) {
         EXPECT_EQ(runs[0]["words"][1], "-f");
         EXPECT_EQ(Get("CurrentRunninApplication"), "winuae.exe");
         EXPECT_TRUE(Unsaved());
+        // Its loading screen lies over the window.
+        EXPECT_EQ(Do("windows")["value"].back()["over"], "SettingsForm");
+        Do("close", "LoadingInfo");
         Do("answer", "OK");
         Click("RemovePicEnabled");
         Key("Escape");

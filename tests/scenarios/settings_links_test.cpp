@@ -11,7 +11,9 @@ class SettingsLinks : public SettingsScenario {
  protected:
     std::vector<std::string> Opened() {
         std::vector<std::string> addresses;
-        for (const Json& run : Do("runs")["value"]) {
+        // It must outlive the loop, which keeps nothing of it but the array.
+        const Json runs = Do("runs")["value"];
+        for (const Json& run : runs) {
             if (run["opened"] == true) addresses.push_back(run["command"]);
         }
         return addresses;

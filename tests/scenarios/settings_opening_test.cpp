@@ -30,10 +30,10 @@ TEST_F(Opening, StoresTheToldDefaultsAndNothingElse) {
     std::erase_if(added, [&](const std::string& line) {
         return std::find(before.begin(), before.end(), line) != before.end();
     });
-    EXPECT_THAT(
-        added, UnorderedElementsAre("Dir_Parameter=*.adf", "SplashTimer=4", "AutoMountDeamonTool=0",
-                                    "UseQuote=0", "EmulatorParameterAddDiskPath=0",
-                                    "EmulatorParameterAddDiskPathWithoutPath=0"));
+    EXPECT_THAT(added, UnorderedElementsAre("Dir_Parameter=*.adf", "SplashTimer=4",
+                                            "WinUAE_UseMasterConfig=1", "AutoMountDeamonTool=0",
+                                            "UseQuote=0", "EmulatorParameterAddDiskPath=0",
+                                            "EmulatorParameterAddDiskPathWithoutPath=0"));
     for (const char* key : {"RomPath", "EmulatorPath", "RunVBS_Script"})
         EXPECT_EQ(Stored(key), "(none)") << key;
     EXPECT_EQ(tree.Read(programProfile), program);

@@ -20,6 +20,8 @@ class SettingsRows : public WinuaeSettings {
             Set(control, after);
             Save();
             EXPECT_EQ(tree.Stored(file, key), stored);
+            // The program's field has the focus, and leaving it asks about a new one.
+            EXPECT_EQ(Boxes().size(), std::string(key) == "EmulatorPath" ? 1u : 0u);
             Key("Escape");
             EXPECT_FALSE(open());
         });

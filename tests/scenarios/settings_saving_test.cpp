@@ -253,7 +253,7 @@ TEST_F(Saving, WhileAGameRunsItGoesOn) {
     EXPECT_FALSE(Visible("UAE_Short"));
     Do("tick", "Form1.EmuActiveTimer", 5);
     EXPECT_FALSE(Visible("AppRunningPicture"));
-    EXPECT_TRUE(Visible("UAE_Short"));
+    EXPECT_TRUE(Visible("WIthoutDoubles"));
     EXPECT_TRUE(Visible("SettingsBtn"));
 }
 

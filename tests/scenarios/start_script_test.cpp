@@ -9,7 +9,7 @@ using ::testing::HasSubstr;
 
 class StartScript : public Mounting {
  protected:
-    StartScript() { Profile({{"RunVBS_Script", "1"}, {"SplashTimer", "0"}}); }
+    StartScript() { Profile({{"RunVBS_Script", "1"}}); }
     void Script(const std::string& text) { tree.Write("Config/Alpha/Startscript.vbs", text); }
     bool RunnerIsThere() { return tree.Exists("Config/Alpha/Startscript.vbs.bat"); }
 };
@@ -38,7 +38,7 @@ TEST_F(StartScript, WithoutAScriptOrOffNothingRuns) {
     LaunchBee();
     EXPECT_THAT(Ran(), ::testing::SizeIs(1));
     Script("x");
-    Profile({{"RunVBS_Script", "0"}, {"SplashTimer", "0"}});
+    Profile({{"RunVBS_Script", "0"}});
     Start();
     LaunchBee();
     EXPECT_THAT(Ran(), ::testing::SizeIs(1));

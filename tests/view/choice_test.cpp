@@ -41,7 +41,6 @@ TEST_F(ChoiceTest, HasNoCaretAndTheArrowForACursor) {
     Show();
     EXPECT_FALSE(Choice()->lineEdit());
     EXPECT_EQ(Choice()->cursor().shape(), Qt::ArrowCursor);
-    EXPECT_EQ(Choice()->accessibleDescription(), "Select Emulator:");
     EXPECT_GT(Ink(), 20);
 }
 

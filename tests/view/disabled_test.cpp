@@ -1,27 +1,10 @@
 // What is switched off is quiet, and can still be read: 3:1 against its ground.
 
-#include <QImage>
-#include <cmath>
-#include <map>
-
+#include "view/contrast.h"
 #include "view/shown_form.h"
 
 namespace kivu::tests {
 namespace {
-
-// WCAG 2.1
-double Luminance(const QColor& color) {
-    const auto linear = [](double part) {
-        return part <= 0.03928 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-    };
-    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-           0.0722 * linear(color.blueF());
-}
-
-double Contrast(const QColor& a, const QColor& b) {
-    const double x = Luminance(a), y = Luminance(b);
-    return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
-}
 
 class DisabledText : public ShownForm {
  protected:
@@ -49,19 +32,10 @@ class DisabledText : public ShownForm {
     double ContrastOf(const forms::Control& control) {
         QWidget* widget = Find(control.FullName().c_str());
         const QRect place(widget->mapTo(&view.Window(), QPoint()), widget->size());
-        const QImage picture = view.Window().grab(place).toImage();
         const int left = &control == &form.check ? 24 : 5;
-        std::map<QRgb, int> counts;
-        for (int y = 6; y < picture.height() - 6; ++y)
-            for (int x = left; x < std::min(picture.width() - 34, left + 90); ++x)
-                ++counts[picture.pixel(x, y)];
-        QRgb ground = counts.begin()->first;
-        for (const auto& [color, count] : counts)
-            if (count > counts[ground]) ground = color;
-        double contrast = 1;
-        for (const auto& [color, count] : counts)
-            contrast = std::max(contrast, Contrast(QColor(color), QColor(ground)));
-        return contrast;
+        const QImage picture = view.Window().grab(place).toImage();
+        return FurthestContrast(picture.copy(left, 6, std::min(picture.width() - 34 - left, 90),
+                                             picture.height() - 12));
     }
 };
 

@@ -92,6 +92,33 @@ TEST_F(FocusTest, StaysThroughAnotherWindowsTurn) {
     EXPECT_TRUE(Find("Text")->hasFocus());
 }
 
+// Some sessions leave the keyboard with the window.
+TEST_F(FocusTest, KeysAreTheOpenDropDowns) {
+    for (const char* row : {"One", "Two", "Three"})
+        form.combo.AddItem(row);
+    form.combo.SetListIndex(0);
+    form.onPreviewKeyDown = [this](forms::Key&) { form.log.push_back("key"); };
+    Show();
+    form.combo.SetFocus();
+    auto* combo = Find<QComboBox>("Combo");
+    const auto strike = [&](int key) {
+        QKeyEvent press(QEvent::KeyPress, key, Qt::NoModifier);
+        QCoreApplication::sendEvent(combo, &press);
+        EXPECT_TRUE(press.isAccepted());
+    };
+    combo->showPopup();
+    ASSERT_TRUE(QApplication::activePopupWidget());
+    strike(Qt::Key_Down);
+    EXPECT_EQ(combo->view()->currentIndex().row(), 1);
+    strike(Qt::Key_Escape);
+    EXPECT_FALSE(QApplication::activePopupWidget());
+    EXPECT_EQ(form.combo.ListIndex(), 0);
+    EXPECT_TRUE(form.log.empty());
+    // The next one is the window's again.
+    strike(Qt::Key_Escape);
+    EXPECT_EQ(form.log.size(), 1U);
+}
+
 TEST_F(FocusTest, StaysWhileAPopupIsOpen) {
     form.combo.AddItem("a");
     form.combo.AddItem("b");

@@ -66,6 +66,26 @@ TEST_F(HandsTest, LetAControlGoThatWasTakenBehindTheRelease) {
     EXPECT_EQ(Find("Frame")->pos(), QPoint(560, 20));
 }
 
+TEST_F(HandsTest, MeanTheClickWhoseReleaseABoxHasTaken) {
+    form.button.onClick = form.Note("button");
+    form.text.onLostFocus = [this] {
+        // A box lies over the window by then, and is answered by the mouse.
+        form.log.push_back("box");
+        QTest::mouseRelease(stranger.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+    };
+    Show();
+    stranger.show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&stranger));
+    Activate();
+    form.text.SetFocus();
+    QTest::mousePress(Native(), Qt::LeftButton, {}, Middle(Find("Button")));
+    EXPECT_EQ(form.log, (std::vector<std::string>{"box", "button"}));
+    EXPECT_TRUE(form.button.HasFocus());
+    // The next one counts once, as ever.
+    Click(Middle(Find("Button")));
+    EXPECT_EQ(form.log, (std::vector<std::string>{"box", "button", "button"}));
+}
+
 TEST_F(HandsTest, FetchTheWindowWithoutClickingWhatCannotBeTakenBack) {
     form.label.onClick = form.Note("label");
     form.label.onMouseDown = [this](const forms::Mouse&) { form.log.push_back("down"); };

@@ -159,13 +159,80 @@ TEST_F(WindowTest, AsksForTheCloseKeyThatNobodySwallowed) {
     EXPECT_EQ(form.log.size(), 1U);
 }
 
-TEST_F(WindowTest, DoesNotHoldUpTheEndOfTheSession) {
-    form.onQueryClose = [](bool& cancel) { cancel = true; };
+TEST_F(WindowTest, CloseRequestWhileAltIsHeldIsAltF4) {
+    forms::Key struck;
+    bool swallow = true;
+    form.onPreviewKeyDown = [&](forms::Key& key) {
+        struck = key;
+        if (swallow) key = {};
+    };
+    form.onQueryClose = [this](bool& cancel) {
+        form.log.push_back("close");
+        cancel = true;
+    };
     Show();
-    // The toolkit hands the manager through; this view has no use for it.
-    alignas(QSessionManager) char nothing[sizeof(QSessionManager)] = {};
-    emit qApp->commitDataRequest(reinterpret_cast<QSessionManager&>(nothing));
-    EXPECT_TRUE(view.Window().close());
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_EQ(struck.code, 0);
+    EXPECT_EQ(form.log.size(), 1U);
+    // The toolkit learns of held keys by the window system.
+    QTest::keyPress(view.Window().windowHandle(), Qt::Key_Alt, Qt::AltModifier);
+    struck = {};
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_EQ(struck, (forms::Key{forms::keys::f4, forms::shifts::alt}));
+    EXPECT_EQ(form.log.size(), 1U);
+    // Nobody swallows it, and it is asked for once.
+    swallow = false;
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_EQ(form.log.size(), 2U);
+    QTest::keyRelease(view.Window().windowHandle(), Qt::Key_Alt, Qt::NoModifier);
+}
+
+TEST_F(WindowTest, QuestionOverAMinimisedWindowIsSeen) {
+    Show();
+    form.SetState(forms::WindowState::minimized);
+    QCoreApplication::processEvents();
+    ASSERT_TRUE(view.Window().isMinimized());
+    bool minimised = true;
+    form.onQueryClose = [&](bool& cancel) {
+        minimised = view.Window().isMinimized();
+        cancel = true;
+    };
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_FALSE(minimised);
+}
+
+TEST_F(WindowTest, HandMakesItNoSmallerThanCanBeHandled) {
+    Show();
+    EXPECT_EQ(Native()->minimumSize(), QSize(240, 160));
+    // What the program says is taken, and is not made larger by a hand that only moves it.
+    form.Move(form.Left(), form.Top(), 1500, 600);
+    Settle();
+    EXPECT_EQ(view.Window().size(), QSize(100, 40));
+    EXPECT_EQ(form.Width(), 1500);
+    EXPECT_EQ(Native()->minimumSize(), QSize(100, 40));
+    form.Move(form.Left(), form.Top(), 9000, 600);
+    Settle();
+    EXPECT_EQ(Native()->minimumSize(), QSize(240, 40));
+}
+
+TEST_F(WindowTest, CornersAreGrippedAlongTheirRoundLine) {
+    Show();
+    const auto isGrip = [this](int x, int y) {
+        const QWidget* at = view.Window().childAt(x, y);
+        return at && at->cursor().shape() == Qt::SizeFDiagCursor;
+    };
+    // The line goes through (9, 9); what lies outside of it is not seen.
+    EXPECT_TRUE(isGrip(11, 11));
+    EXPECT_TRUE(isGrip(3, 24));
+    EXPECT_TRUE(isGrip(24, 3));
+    EXPECT_FALSE(isGrip(18, 18));
+    const QSize size = view.Window().size();
+    EXPECT_TRUE(isGrip(size.width() - 12, size.height() - 12));
+    EXPECT_FALSE(isGrip(size.width() - 19, size.height() - 19));
+    form.SetCornerRadius(0);
+    Settle();
+    EXPECT_TRUE(isGrip(5, 5));
+    EXPECT_FALSE(isGrip(12, 12));
 }
 
 TEST_F(WindowTest, HidesAndComesBackByTheFormsOwnFlag) {

@@ -136,7 +136,7 @@ const std::vector<Action>& WorldActions() {
         {"minimise, maximise or restore", 1, State},
         {"close", 1,
          [](World&, const Look&, Random&) -> Commands {
-             return {Command({"close", "Form1"})};
+             return {Command({"answer", "Cancel"}), Command({"close", "Form1"})};
          }},
         {"the clock ticks", 1,
          [](World&, const Look&, Random&) -> Commands {

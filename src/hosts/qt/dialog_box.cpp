@@ -71,7 +71,6 @@ DialogBox::DialogBox(const QString& name, const QString& title)
     }
     setAttribute(Qt::WA_TranslucentBackground, blended);
     setObjectName(name);
-    setAccessibleName(name);
     setWindowTitle(title);
     setModal(true);
     QFont text = font();
@@ -143,7 +142,6 @@ void DialogBox::AddWidget(QWidget* widget) {
 QPushButton* DialogBox::AddButton(const QString& name, const QString& caption, int result) {
     auto* button = new QPushButton(caption);
     button->setObjectName(name);
-    button->setAccessibleName(name);
     button->setMinimumSize(96, 34);
     const bool first = buttons->count() == 1;
     button->setDefault(first);

@@ -82,7 +82,7 @@ std::string QtDialogs::InputBox(const std::string& prompt, const std::string& ti
     box.SetText(QString::fromStdString(prompt));
     auto* line = new QLineEdit(QString::fromStdString(initial));
     line->setObjectName(QStringLiteral("Input"));
-    line->setAccessibleName(QStringLiteral("Input"));
+    line->setAccessibleName(QString::fromStdString(prompt));
     line->setMinimumSize(380, 34);
     line->selectAll();
     box.AddWidget(line);

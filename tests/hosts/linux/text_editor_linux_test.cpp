@@ -115,10 +115,10 @@ TEST_F(TextEditorLinux, TheUsersEntryHidesThatOfTheSystem) {
 }
 
 TEST_F(TextEditorLinux, ADashMayStandForADirectory) {
-    Program("kate");
-    Default("kde4-kate.desktop");
-    Entry("kde4/kate.desktop", "kate %U", "", "one");
-    EXPECT_THAT(Editors(), ElementsAre("kate file:///f.vbs"));
+    Program("pen");
+    Default("kde4-pen.desktop");
+    Entry("kde4/pen.desktop", "pen %U", "", "one");
+    EXPECT_THAT(Editors(), ElementsAre("pen file:///f.vbs"));
 }
 
 TEST_F(TextEditorLinux, AnEntryThatLeadsOutOfItsDirectoryIsNone) {
@@ -168,9 +168,9 @@ TEST_F(TextEditorLinux, WhatGoesByTheFilesOwnKindIsPassedOver) {
 TEST_F(TextEditorLinux, AnEditorThatCannotBeStartedIsFollowedByTheNext) {
     Default("gone.desktop;broken.desktop");
     Entry("gone.desktop", "/opt/gone %f");
-    Program("broken",
-            "\x7F"
-            "ELF broken");
+    Program("broken", std::string("\x7F"
+                                  "ELF\0broken",
+                                  11));
     Entry("broken.desktop", "broken %f");
     Recorder("mousepad");
     ASSERT_FALSE(starter.EditText("/f.vbs"));

@@ -393,12 +393,5 @@ TEST_F(FindInPathWindows, WhereItLooksIsKnownInEverySpelling) {
     EXPECT_FALSE(starter.SearchesIn("relative"));
 }
 
-TEST_F(ProgramStarterWindows, TheSystemsEditorOpensATextAndNeverRunsIt) {
-    EXPECT_FALSE(starter.EditText(Install("a b.exe")));
-    EXPECT_FALSE(telling.HasTold());
-    for (const std::string& none : {std::string(), std::string("C:\\a\" b"), std::string("a\0", 2)})
-        EXPECT_TRUE(starter.EditText(none)) << none;
-}
-
 }  // namespace
 }  // namespace kivu::hosts

@@ -96,6 +96,15 @@ TEST_F(RealHelpers, ABatchToolIsCalledTwice) {
     EXPECT_THAT(text, HasSubstr("-mount 0, " + disk.Path("a.iso")));
 }
 
+TEST_F(RealHelpers, TheSystemsEditorOpensATextAndNeverRunsIt) {
+    const std::string program = disk.Path("a b.exe");
+    telling.Install(program);
+    EXPECT_FALSE(starter.EditText(program));
+    EXPECT_FALSE(telling.HasTold());
+    for (const std::string& none : {std::string(), std::string("C:\\a\" b"), std::string("a\0", 2)})
+        EXPECT_TRUE(starter.EditText(none)) << none;
+}
+
 // The script's file type, for this user, until the end of the test. Wine has none of its own.
 class RealScript : public RealHelpers {
  protected:

@@ -6,6 +6,8 @@
 #include <QImage>
 #include <QTest>
 #include <gmock/gmock.h>
+#include <memory>
+#include <vector>
 
 #include "forms/access_keys.h"
 #include "forms/look.h"
@@ -75,9 +77,8 @@ TEST_F(SettingsFormView, NoButtonIsCutInEitherLanguageAtAnySize) {
             if (!caption || !control->Visible() || picker) continue;
             if (control->GetKind() == forms::Kind::label) continue;
             const int height = measure.LineHeight(control->GetFont());
-            // A box is as high as its text, with air beside it.
-            const int beside =
-                control->GetKind() == forms::Kind::commandButton ? 8 * px : height + 10 * px;
+            // A box has its sign and some air beside its text.
+            const int beside = control->GetKind() == forms::Kind::commandButton ? 8 * px : 26 * px;
             EXPECT_LE(Width(*control, forms::PlainCaption(*caption)) + beside, control->Width())
                 << control->Name() << *caption << where;
             EXPECT_LE(height, control->Height()) << control->Name() << where;
@@ -88,7 +89,7 @@ TEST_F(SettingsFormView, NoButtonIsCutInEitherLanguageAtAnySize) {
 TEST_F(SettingsFormView, FieldsHoldWhatIsChosenInThem) {
     if (tests::FontsAreBoxes()) GTEST_SKIP() << "this host has no fonts";
     InEach([this](SettingsForm& form, const std::string& where) {
-        constexpr int arrowAndAir = 42 * px;
+        constexpr int arrowAndAir = 38 * px;
         const auto fits = [&](const forms::ComboBox& box, const char* text) {
             if (!box.Visible()) return;
             EXPECT_LE(Width(box, text) + arrowAndAir, box.Width()) << text << where;
@@ -126,6 +127,22 @@ TEST_F(SettingsFormView, PanelHidesWhatItLiesOver) {
     EXPECT_NE(open, closed);
     form.TxtRomPath.SetText("before");
     EXPECT_EQ(picture(), open);
+}
+
+TEST_F(SettingsFormView, PictureOfASkinLeavesTheWindowItsEdge) {
+    SettingsForm form({&measure}, 1);
+    forms::Bitmap black{8, 8, std::vector<std::uint32_t>(64, 0xff000000), true};
+    form.BackgroundFrame.SetPicture(
+        {"black", std::make_shared<const forms::Bitmap>(std::move(black))});
+    view::FormView view(form);
+    view.Show();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&view.Window(), 20000));
+    QCoreApplication::processEvents();
+    const QImage picture = view.Window().grab().toImage();
+    const int middle = picture.height() / 2;
+    EXPECT_GT(qGray(picture.pixel(0, middle)), 30);
+    EXPECT_GT(qGray(picture.pixel(picture.width() - 1, middle)), 30);
+    EXPECT_LT(qGray(picture.pixel(4, middle)), 10);
 }
 
 }  // namespace

@@ -1,0 +1,196 @@
+// What is on can be read at 4.5:1 and what is off at 3:1, and controls are seen at 3:1, in the look
+// of the launcher and in the skins that come with it.
+
+#include "view/contrast.h"
+
+#include <QAbstractButton>
+#include <QDir>
+#include <QSettings>
+#include <functional>
+
+#include "view/shown_form.h"
+
+namespace kivu::tests {
+namespace {
+
+struct Look {
+    QString name;
+    QColor back, fore;
+};
+
+std::vector<Look> Looks() {
+    std::vector<Look> looks{{QStringLiteral("default"), QColor(0x00, 0x52, 0xbc), Qt::white}};
+    const QDir skins(QStringLiteral(KIVU_SKINS));
+    for (const QString& name : skins.entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const QSettings skin(skins.filePath(name + QStringLiteral("/Skin.ini")),
+                             QSettings::IniFormat);
+        const auto color = [&](const char* key) {
+            return QColor(skin.value(QStringLiteral("Settings/") + QLatin1String(key)).toString());
+        };
+        looks.push_back({name, color("BackColor"), color("FontColor")});
+    }
+    return looks;
+}
+
+forms::Color Of(const QColor& color) {
+    return forms::Rgb(static_cast<unsigned>(color.red()), static_cast<unsigned>(color.green()),
+                      static_cast<unsigned>(color.blue()));
+}
+
+class ContrastTest : public ShownForm {
+ protected:
+    ContrastTest() {
+        // Strokes of more than a pixel show their colour whole.
+        for (forms::Control* control : form.Controls())
+            control->SetFont({"", 20, true});
+        for (int i = 0; i < 20; ++i)
+            form.list.AddItem("HIIIIII");
+        form.list.SetListIndex(1);
+        form.choice.SetVisible(true);
+        form.choice.SetText("HIII");
+        form.combo.SetText("HIII");
+        form.text.SetText("HIII");
+        form.label.SetCaption("HIII");
+        form.label.Move(5100, 3300, 3000, 600);
+        form.button.SetCaption("HIII");
+        form.button.Move(5100, 4000, 3000, 750);
+        form.check.SetCaption("HIII");
+        form.check.Move(5100, 4800, 3000, 600);
+    }
+    // As a window takes the colours of a skin.
+    void Dress(const Look& look) {
+        form.SetBackColor(Of(look.back));
+        form.SetForeColor(Of(look.fore));
+        for (forms::Control* control : form.Controls()) {
+            const bool swapped = control->GetKind() == forms::Kind::textBox;
+            control->SetBackColor(Of(swapped ? look.fore : look.back));
+            control->SetForeColor(Of(swapped ? look.back : look.fore));
+        }
+        Settle();
+    }
+    QImage Grab(const char* name, QRect part = {}) {
+        QWidget* widget = Find(name);
+        const QRect whole(widget->mapTo(&view.Window(), QPoint()), widget->size());
+        const QImage picture = view.Window().grab(whole).toImage();
+        return part.isNull() ? picture : picture.copy(part & picture.rect());
+    }
+    // Within the pill of a row.
+    double RowContrast(int row) {
+        auto* list = Find<QAbstractItemView>("List");
+        const QRect rect = list->visualRect(list->model()->index(row, 0));
+        return FurthestContrast(list->viewport()->grab(rect.adjusted(8, 6, -80, -6)).toImage());
+    }
+    static void Hover(QWidget* widget, bool over) {
+        widget->setAttribute(Qt::WA_UnderMouse, over);
+        widget->update();
+    }
+    void InEachLook(const std::function<void()>& check) {
+        const std::vector<Look> looks = Looks();
+        ASSERT_GE(looks.size(), 4U);
+        Show();
+        for (const Look& look : looks) {
+            SCOPED_TRACE(look.name.toStdString());
+            ASSERT_TRUE(look.back.isValid() && look.fore.isValid());
+            Dress(look);
+            check();
+        }
+    }
+
+    static constexpr double text = 4.5, quiet = 3, shape = 3;
+};
+
+TEST_F(ContrastTest, SkinsColoursCanBeReadOnEachOther) {
+    for (const Look& look : Looks())
+        EXPECT_GE(Contrast(look.fore, look.back), text) << look.name.toStdString();
+}
+
+TEST_F(ContrastTest, RowsCanBeRead) {
+    InEachLook([this] {
+        for (const bool focus : {false, true}) {
+            focus ? form.list.SetFocus() : form.text.SetFocus();
+            Settle();
+            EXPECT_GE(RowContrast(0), text) << focus;
+            EXPECT_GE(RowContrast(1), text) << "selected, " << focus;
+        }
+    });
+}
+
+TEST_F(ContrastTest, WordsCanBeRead) {
+    InEachLook([this] {
+        const QRect words(8, 8, 80, 24);
+        for (const char* name : {"Label", "Button", "Text", "Combo", "Choice"})
+            EXPECT_GE(FurthestContrast(Grab(name, words)), text) << name;
+        EXPECT_GE(FurthestContrast(Grab("Check(0)", QRect(26, 8, 80, 24))), text);
+        for (const bool down : {false, true}) {
+            Hover(Find("Button"), !down);
+            Find<QAbstractButton>("Button")->setDown(down);
+            EXPECT_GE(FurthestContrast(Grab("Button", words)), text) << down;
+        }
+        Find<QAbstractButton>("Button")->setDown(false);
+        Hover(Find("Button"), false);
+    });
+}
+
+TEST_F(ContrastTest, TabsCanBeReadUnderTheMouseToo) {
+    form.label.onClick = [] {};
+    InEachLook([this] {
+        for (const bool marked : {false, true}) {
+            form.label.SetOpaque(marked);
+            for (const bool over : {false, true}) {
+                Hover(Find("Label"), over);
+                EXPECT_GE(FurthestContrast(Grab("Label", QRect(10, 8, 80, 24))), text)
+                    << marked << over;
+            }
+        }
+    });
+}
+
+TEST_F(ContrastTest, WhatIsOffCanBeRead) {
+    for (forms::Control* control : form.Controls())
+        control->SetEnabled(false);
+    InEachLook([this] {
+        for (const char* name : {"Label", "Button", "Text", "Combo", "Choice"})
+            EXPECT_GE(FurthestContrast(Grab(name, QRect(8, 8, 80, 24))), quiet) << name;
+        EXPECT_GE(FurthestContrast(Grab("Check(0)", QRect(26, 8, 80, 24))), quiet);
+    });
+}
+
+TEST_F(ContrastTest, ControlsAreSeen) {
+    InEachLook([this] {
+        form.text.SetFocus();
+        Settle();
+        for (const char* name : {"Button", "Combo", "Choice"}) {
+            // Of the line at the left end to the window beside it.
+            const QPoint at = Find(name)->mapTo(&view.Window(), QPoint(-6, 10));
+            const QImage edge = view.Window().grab(QRect(at, QSize(8, 4))).toImage();
+            EXPECT_GE(FurthestContrast(edge), shape) << name;
+        }
+        for (const int value : {0, 1}) {
+            form.check.SetValue(value);
+            Settle();
+            EXPECT_GE(FurthestContrast(Grab("Check(0)", QRect(0, 8, 22, 24))), shape) << value;
+        }
+        const int arrow = Find("Choice")->width() - 26;
+        EXPECT_GE(FurthestContrast(Grab("Choice", QRect(arrow, 8, 22, 24))), shape);
+        EXPECT_GE(FurthestContrast(Grab("Slider")), shape);
+        auto* bar = Find<QAbstractItemView>("List")->verticalScrollBar();
+        EXPECT_GE(FurthestContrast(bar->grab().toImage()), shape);
+    });
+}
+
+TEST_F(ContrastTest, FocusIsSeen) {
+    InEachLook([this] {
+        for (forms::Control* control : std::initializer_list<forms::Control*>{
+                 &form.button, &form.check, &form.combo, &form.text}) {
+            control->SetFocus();
+            Settle();
+            const QImage line =
+                Grab(control->FullName().c_str(),
+                     control == &form.check ? QRect(0, 8, 22, 24) : QRect(0, 10, 6, 16));
+            EXPECT_GE(FurthestContrast(line), shape) << control->FullName();
+        }
+    });
+}
+
+}  // namespace
+}  // namespace kivu::tests
