@@ -45,14 +45,15 @@ FindLoading() {
   [ -n "$loading" ]
 }
 Gone() { [ "$(Windows | wc -l)" -le 1 ]; }
+# Of the root's children the first one is the topmost.
+OnTop() { xwininfo -root -tree 2>/dev/null | grep -E '^ +0x' | head -n 1 | grep -qi "$(printf '0x%x' "$loading")"; }
 # The screen has come up above the emulator, and the keyboard is the emulator's.
 LookAtLoading() {
   Until 20 Running || Fail "the emulator did not come up: $(cat "$work/kivu.log")"
   Until 10 FindLoading || Fail "no loading screen came up"
   sleep 3
+  Until 5 OnTop || Fail "it does not lie on top"
   MovingShot "$1" "$2"
-  Windows | grep -q "^$loading$" || Fail "the loading screen has gone"
-  xwininfo -root -tree | grep -E '^ +0x' | head -n 2 | grep -qi "$(printf '0x%x' "$loading")" || Fail "it does not lie on top"
 }
 # The middle of its button, by parts of a hundred of its size.
 PressStop() {

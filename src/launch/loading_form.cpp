@@ -31,7 +31,9 @@ LoadingForm::LoadingForm(forms::Toolkit toolkit) : forms::Form("LoadingInfo", to
 
 void LoadingForm::PlaceControls() {
     const int textWidth = windowWidth - textLeft - margin;
-    Picture1.Move(0, 0, windowWidth, windowHeight);
+    // The window's own line stays to be seen around it.
+    constexpr int line = forms::twipsPerPixel;
+    Picture1.Move(line, line, windowWidth - 2 * line, windowHeight - 2 * line);
     GameImage.Move(margin, margin, pictureWidth, windowHeight - 2 * margin);
     Label1.Move(textLeft, margin, textWidth, waitHeight);
     TxtTitle.Move(textLeft, titleTop, textWidth, titleHeight);
