@@ -71,11 +71,13 @@ TEST_F(HandsTest, MeanTheClickWhoseReleaseABoxHasTaken) {
     form.text.onLostFocus = [this] {
         // A box lies over the window by then, and is answered by the mouse.
         form.log.push_back("box");
+        stranger.setWindowModality(Qt::ApplicationModal);
+        stranger.show();
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(&stranger));
         QTest::mouseRelease(stranger.windowHandle(), Qt::LeftButton, {}, QPoint(5, 5));
+        stranger.hide();
     };
     Show();
-    stranger.show();
-    ASSERT_TRUE(QTest::qWaitForWindowExposed(&stranger));
     Activate();
     form.text.SetFocus();
     QTest::mousePress(Native(), Qt::LeftButton, {}, Middle(Find("Button")));
