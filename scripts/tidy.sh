@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
 # Usage: scripts/tidy.sh BUILD [--all]
+# KIVU_TIDY_SECONDS: no further source is begun after so many seconds (none: no limit); the next run goes on there.
 # Runs clang-tidy over the program's sources (src/) in a build that have changed since the last green run: whose text,
 # with all that they include of this tree, has another hash than then. The hashes are kept outside of the tree. Where
 # there are none yet, the sources that the last commit touched are looked at; --all: all of them, whatever the hashes
@@ -57,8 +58,13 @@ done
 sed 's|/cmake_pch\.hxx |/tidy_pch.hxx |g; s|-Winvalid-pch ||g' "$build/compile_commands.json" > "$commands/compile_commands.json"
 
 mkdir -p "$(dirname "$kept")"
+until=$(($(date +%s) + ${KIVU_TIDY_SECONDS:-86400}))
 look() {
   local source=${1#* }
+  if [ "$(date +%s)" -ge "$until" ]; then
+    echo "$1" >> "$work/left"
+    return 0
+  fi
   if clang-tidy --quiet -p "$commands" \
       --extra-arg=-Wno-unknown-warning-option "$source" > "$work/out.$$" 2> "$work/err.$$"; then
     return 0
@@ -67,9 +73,15 @@ look() {
   return 1
 }
 export -f look
-export commands work
+export commands work until
+touch "$work/left"
 failed=0
 xargs -d '\n' -r -n 1 -P "$(nproc)" bash -c 'look "$1"' look < "$work/todo" || failed=1
 
+if [ -s "$work/left" ]; then
+  echo "clang-tidy: $(wc -l < "$work/left") sources are left for the next run"
+  grep -vxFf "$work/left" "$work/now" > "$work/looked" || true
+  mv "$work/looked" "$work/now"
+fi
 [ $failed -ne 0 ] || cp "$work/now" "$kept"
 exit $failed
