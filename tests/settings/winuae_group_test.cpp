@@ -158,8 +158,33 @@ TEST_F(Winuae, WhatAnotherEmulatorsDefaultsEmptiedStaysOnTheDisk) {
     EXPECT_EQ(window.TxtMasterConfig.Text(), "");
     EXPECT_TRUE(winuae.SaveMaster());
     EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
-    // What is typed from then on is meant.
+    // The box shows it again, and what is changed there from then on is meant.
+    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
+    TakeBoxes();
     window.TxtMasterConfig.SetText("b=2\r\n");
+    EXPECT_TRUE(winuae.SaveMaster());
+    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
+    EXPECT_THAT(TakeBoxes(), IsEmpty());
+}
+
+TEST_F(Winuae, WhatIsTypedIntoAnEmptiedBoxReplacesTheSharedFileOnlyBehindAQuestion) {
+    OpenWindow();
+    winuae.EmptyMasterText();
+    window.TxtMasterConfig.SetText("b=2\r\n");
+    Answers({Answer::No});
+    EXPECT_TRUE(winuae.SaveMaster());
+    EXPECT_THAT(TakeBoxes(),
+                ElementsAre(Pair("WinUAE config template",
+                                 std::string("All WinUAE profiles use this file, and it is not "
+                                             "empty:\r\r") +
+                                     masterName +
+                                     "\r\rDo you want to overwrite it with the text of this "
+                                     "window?")));
+    EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
+    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
+    winuae.EmptyMasterText();
+    window.TxtMasterConfig.SetText("b=2\r\n");
+    Answers({Answer::Yes});
     EXPECT_TRUE(winuae.SaveMaster());
     EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
 }
