@@ -123,6 +123,7 @@ class SettingsWindow {
     // Something is under way that the window must not be closed in.
     bool IsWorking() const;
     void SaveByKey();
+    void CopyRomPath();
     void SetTitle(const std::string& title);
     void EditProfile(const std::string& path);
 
