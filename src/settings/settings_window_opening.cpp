@@ -90,7 +90,11 @@ void SettingsWindow::ShowMainSettingsOnly(bool showIt) {
 
 void SettingsWindow::LoadAnew(bool keepTyped) {
     TakeFiles();
-    if (!keepTyped) LoadValues();
+    if (keepTyped) {
+        winuae.TakeMaster();
+    } else {
+        LoadValues();
+    }
     form.ExeAtFocus = form.txtWinUAEExe.Text();
     form.txtWinUAEExe.SetFocus();
 }

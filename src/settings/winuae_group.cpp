@@ -49,6 +49,14 @@ void WinuaeGroup::LoadMaster() {
     form.TxtMasterConfig.SetText(master.Load(main.MasterConfigName));
 }
 
+void WinuaeGroup::TakeMaster() {
+    if (form.TxtMasterConfig.Text().empty()) {
+        LoadMaster();
+    } else {
+        master.SetPath(main.MasterConfigName);
+    }
+}
+
 bool WinuaeGroup::SaveMaster() {
     const std::string path = PathOfMaster();
     if (path.empty()) return true;

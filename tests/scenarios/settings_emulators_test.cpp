@@ -115,6 +115,26 @@ TEST_F(FirstEmulator, TakesWhatWasTypedBeforeIt) {
     EXPECT_THAT(Titles(), ElementsAre());
 }
 
+TEST_F(FirstEmulator, ThatIsWinUaeSavesItsTemplate) {
+    const std::string exe = Program("winuae.exe");
+    Start();
+    Boxes();
+    Open([&] {
+        Do("answer", "Yes");
+        Set("txtWinUAEExe.Text", exe);
+        Do("focus", "SettingsForm.DirBefehleTxt");
+        Set("TxtMasterConfig.Text", "use_gui=yes\r\n");
+        Do("input", "Amiga");
+        Click("NewEmuBtn");
+        Boxes();
+        EXPECT_EQ(TextOf("TxtMasterConfig"), "use_gui=yes\r\n");
+        Save();
+        EXPECT_EQ(tree.Read("Config/Kivu_Master.uaecfg"), "use_gui=yes\r\n\r\n");
+        Key("Escape");
+    });
+    EXPECT_THAT(Titles(), ElementsAre());
+}
+
 TEST_F(Emulators, ANewOneInFrontOfTheLoadedOneIsLoaded) {
     Start();
     Open([&] {

@@ -219,6 +219,45 @@ TEST_F(Winuae, ATextTypedBehindANewTickDoesNotReplaceTheMasterOfTheOthersUnasked
     EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
 }
 
+// There was no emulator yet when the window opened.
+struct FirstWinuae : Winuae {
+    FirstWinuae() {
+        form.MasterConfigName.clear();
+        OpenWindow();
+    }
+    void LoadNew() {
+        form.MasterConfigName = masterName;
+        winuae.TakeMaster();
+    }
+};
+
+TEST_F(FirstWinuae, SavesWhatWasTypedForIt) {
+    files.Remove(masterName);
+    window.TxtMasterConfig.SetText("b=2\r\n");
+    LoadNew();
+    EXPECT_EQ(window.TxtMasterConfig.Text(), "b=2\r\n");
+    EXPECT_TRUE(winuae.SaveMaster());
+    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
+    EXPECT_THAT(TakeBoxes(), IsEmpty());
+}
+
+TEST_F(FirstWinuae, ShowsTheMasterWhereNothingWasTyped) {
+    LoadNew();
+    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
+    EXPECT_TRUE(winuae.SaveMaster());
+    EXPECT_EQ(OnDisk(), "a=1\r\n\r\n");
+    EXPECT_THAT(TakeBoxes(), IsEmpty());
+}
+
+TEST_F(FirstWinuae, AsksBeforeWhatWasTypedReplacesAMaster) {
+    window.TxtMasterConfig.SetText("b=2\r\n");
+    LoadNew();
+    Answers({Answer::Yes});
+    EXPECT_TRUE(winuae.SaveMaster());
+    EXPECT_EQ(TakeBoxes().size(), 1U);
+    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
+}
+
 TEST_F(Winuae, AMasterThatASaveMakesKeepsItsDefault) {
     files.Remove(masterName);
     OpenWindow();
