@@ -120,7 +120,6 @@ void PathsGroup::LaunchButton_Click() {
     (void)services.files.ChangeDirectory(main.AppDir);
     // Where nothing has come up yet, the main window is back as behind a game.
     routines.newEmulator.ComeForward();
-    routines.newEmulator.ShowState();
 }
 
 }  // namespace kivu::settings

@@ -82,6 +82,7 @@ class SettingsWindow {
         launch::GameLaunch& launch;
         core::StartHelpers& startHelpers;
         core::LoadingScreen& loadingScreen;
+        core::RunningEmulator& watch;
         core::ProgramLinks& links;
     };
 

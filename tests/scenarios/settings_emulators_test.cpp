@@ -242,8 +242,10 @@ TEST_F(Emulators, TheProgramIsStartedAloneAndWatched) {
         EXPECT_EQ(runs[0]["directory"], tree.Path("Emu"));
         EXPECT_EQ(Get("CurrentRunninApplication"), "alpha");
         EXPECT_TRUE(Visible("AppRunningPicture"));
-        EXPECT_FALSE(On("NewEmuBtn"));
         EXPECT_TRUE(On("LaunchButton"));
+        Click("NewEmuBtn");
+        EXPECT_THAT(Titles(), ElementsAre("New emulator"));
+        EXPECT_EQ(Of("EmuNameLabel.Caption"), "Alpha");
         // It ends while the window is open, which the watch sees when that has gone.
         EmulatorGoes();
         Key("Escape");
@@ -257,6 +259,22 @@ TEST_F(Emulators, TheProgramIsStartedAloneAndWatched) {
         EXPECT_TRUE(On("NewEmuBtn"));
         Key("Escape");
     });
+}
+
+TEST_F(Emulators, ANewOneIsMadeBehindAStartThatHasEnded) {
+    Start();
+    Open([&] {
+        EmulatorComesUp();
+        Click("LaunchButton");
+        EmulatorGoes();
+        Do("input", "Gamma");
+        Click("NewEmuBtn");
+        EXPECT_EQ(Of("EmuNameLabel.Caption"), "Gamma");
+        EXPECT_FALSE(Visible("AppRunningPicture"));
+        Key("Escape");
+    });
+    EXPECT_EQ(Text("EmuListbox.Text"), "Gamma");
+    EXPECT_TRUE(Visible("SettingsBtn"));
 }
 
 TEST_F(Emulators, GamesBesideAnotherProgramAreProposed) {

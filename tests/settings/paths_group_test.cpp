@@ -262,7 +262,7 @@ TEST_F(Paths, LaunchButtonStartsTheProgramAndLooksWhetherItRuns) {
     EXPECT_EQ(files.CurrentDirectory(), "C:\\Kivu");
     EXPECT_TRUE(window.LaunchButton.Enabled());
     EXPECT_TRUE(window.LaunchButton.HasFocus());
-    EXPECT_FALSE(window.NewEmuBtn.Enabled());
+    EXPECT_TRUE(window.NewEmuBtn.Enabled());
     EXPECT_FALSE(window.SaveBtn.Enabled());
 }
 
