@@ -343,5 +343,37 @@ TEST_F(Template, IsTriedOutAsItIsOnTheDisk) {
     });
 }
 
+TEST_F(Template, ATrialEndedInTheLoadingScreenLeavesTheMainWindowAsItWas) {
+    Start();
+    const auto look = [&] {
+        Json seen;
+        for (const char* name :
+             {"WIthoutDoubles", "UAE_Short", "FavoritenListe", "EmulatorLongListbox", "EmuListbox",
+              "LoadingBtn", "Current_LoadingSmallBtn", "SettingsBtn", "SettingsShortBtn",
+              "SearchDblsTxt", "Label1", "Label2", "Label3", "Label4", "MyCaptionLabel",
+              "AppRunningPicture"})
+            seen[name] = Get(std::string(name) + ".Visible");
+        return seen;
+    };
+    const Json before = look();
+    const Json caption = Get("Caption");
+    for (const bool cameUp : {false, true}) {
+        SCOPED_TRACE(cameUp);
+        Open([&] {
+            Click("WinUAEBtn");
+            Click("Command3");
+            if (cameUp) Do("process", "add", "winuae.exe", 4712);
+            Do("click", "LoadingInfo.Command1");
+            EXPECT_TRUE(open());
+            Do("answer", "OK");
+            Click("RemovePicEnabled");
+            Key("Escape");
+        });
+        EXPECT_EQ(Do("kills")["value"], cameUp ? Json({4712}) : Json::array());
+        EXPECT_EQ(look(), before);
+        EXPECT_EQ(Get("Caption"), caption);
+    }
+}
+
 }  // namespace
 }  // namespace kivu::scenarios
