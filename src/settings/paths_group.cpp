@@ -58,7 +58,14 @@ void PathsGroup::txtWinUAEExe_LostFocus() {
     // The resolved text may be the old one again.
     if (form.txtWinUAEExe.Text() != form.ExeAtFocus)
         routines.known.DetectKnownEmulator(form.txtWinUAEExe.Text());
-    if (form.FehlerIcon[SettingsForm::faultyRomPath].Visible()) GuessGames();
+    if (form.FehlerIcon[SettingsForm::faultyRomPath].Visible() && MayGuessGames()) GuessGames();
+}
+
+// Nothing has been typed, and the directory may lie on a drive that is not there now.
+bool PathsGroup::MayGuessGames() const {
+    const std::string& romPath = form.TxtRomPath.Text();
+    return form.txtWinUAEExe.Text() != form.ExeAtFocus || romPath.empty() ||
+           IsAppDirectory(main, romPath);
 }
 
 void PathsGroup::GuessGames() {

@@ -59,6 +59,9 @@ class PathsGroup {
     void ShowProgramFault();
     void ShowRomPathFault();
     bool IsUsable(const std::string& romPath) const;
+    // A directory that the user has chosen gives way to none that is guessed, unless the program
+    // is another one.
+    bool MayGuessGames() const;
     void GuessGames();
 
     SettingsForm& form;

@@ -80,10 +80,25 @@ TEST_F(Paths, TheGamesOfAnotherProgramAreGuessedWhereTheDirectoryIsOfNoUse) {
     EnterProgram("E:\\Emu\\thing.exe");
     EXPECT_EQ(window.TxtRomPath.Text(), "D:\\Games\\");
     window.TxtRomPath.SetText("D:\\none\\");
-    window.txtWinUAEExe.SetFocus();
-    Leave();
+    EnterProgram("E:\\Emu\\THING.exe");
     EXPECT_EQ(window.TxtRomPath.Text(), "E:\\Emu\\Disks\\");
     EXPECT_FALSE(Fault(SettingsForm::faultyRomPath));
+}
+
+TEST_F(Paths, ADirectoryThatIsNotThereNowStaysWhereNothingWasTyped) {
+    window.TxtRomPath.SetText("F:\\Games\\");
+    ASSERT_TRUE(Fault(SettingsForm::faultyRomPath));
+    window.txtWinUAEExe.SetFocus();
+    Leave();
+    EXPECT_EQ(window.TxtRomPath.Text(), "F:\\Games\\");
+    // One that nobody has chosen does not.
+    for (const char* own : {"", "C:\\Kivu\\", "C:\\Kivu"}) {
+        window.TxtRomPath.SetText(own);
+        ASSERT_TRUE(Fault(SettingsForm::faultyRomPath)) << own;
+        window.txtWinUAEExe.SetFocus();
+        Leave();
+        EXPECT_EQ(window.TxtRomPath.Text(), "D:\\Emu\\") << own;
+    }
 }
 
 TEST_F(Paths, TheLaunchersOwnDirectoryGivesWayToTheProgramsAndAnyOtherStays) {
