@@ -27,10 +27,14 @@ void PathsGroup::JoinEvents() {
     form.FehlerIcon[SettingsForm::faultyRomPath].onClick = [this] { BrowseDir_Click(); };
 }
 
-void PathsGroup::RunChangeHandlers() {
+void PathsGroup::RunChangeHandlers(bool usesTemplate) {
     form.MarkUnsaved();
     ShowProgramFault();
-    routines.winuae.TakeProgram(form.txtWinUAEExe.Text());
+    if (usesTemplate) {
+        form.WinUAEBtn.SetVisible(true);
+    } else {
+        routines.winuae.TakeProgram(form.txtWinUAEExe.Text());
+    }
     ShowRomPathFault();
 }
 

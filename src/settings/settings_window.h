@@ -115,7 +115,7 @@ class SettingsWindow {
     // The files of the emulator that is loaded.
     void TakeFiles();
     void LoadValues();
-    void RunChangeHandlers();
+    void RunChangeHandlers(const SettingsValues& values);
     void ShowSkin();
     // Another emulator has been loaded; see NewEmulatorGroup::Hooks.
     void LoadAnew(bool keepTyped);

@@ -57,7 +57,7 @@ void SettingsWindow::LoadValues() {
     program.CopyFontSizes();
     program.ShowEmuDownload();
     program.ShowDonateBtn();
-    RunChangeHandlers();
+    RunChangeHandlers(values);
     known.FillKnownEmuCombo();
     looks.Load();
     form.PlaceScriptBox();
@@ -65,9 +65,11 @@ void SettingsWindow::LoadValues() {
     form.SaveBtn.SetEnabled(false);
 }
 
-// What their fields hold may be what they held before.
-void SettingsWindow::RunChangeHandlers() {
-    paths.RunChangeHandlers();
+// What their fields hold may be what they held before. A profile that nobody has saved uses the
+// template by default, but has no parameter for it.
+void SettingsWindow::RunChangeHandlers(const SettingsValues& values) {
+    paths.RunChangeHandlers(values.UseMasterConfig == 1 &&
+                            !values.UAEMasterConfigLaunchParameter.empty());
     winuae.RunChangeHandlers();
     program.RunChangeHandlers();
 }

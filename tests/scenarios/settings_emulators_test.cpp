@@ -296,6 +296,36 @@ TEST_F(Emulators, GamesBesideAnotherProgramAreProposed) {
     });
 }
 
+TEST_F(Emulators, WinUaesRowOutlivesASaveForAPathOfAnyName) {
+    Start();
+    Open([&] {
+        const auto rows = Of("KnownEmuCombo.List").get<std::vector<std::string>>();
+        const auto row = std::find_if(rows.begin(), rows.end(), [](const std::string& text) {
+            return text.starts_with("WinUAE (Amiga 500)");
+        });
+        ASSERT_NE(row, rows.end());
+        EXPECT_FALSE(Shown("WinUAEBtn"));
+        Do("answer", "Yes");
+        Do("select", "SettingsForm.KnownEmuCombo", row - rows.begin());
+        EXPECT_TRUE(Shown("WinUAEBtn"));
+        Save();
+        Key("Escape");
+    });
+    for (const char* round : {"opened", "opened again"}) {
+        SCOPED_TRACE(round);
+        Open([&] {
+            EXPECT_EQ(TextOf("txtWinUAEExe"), tree.Path("Emu/alpha"));
+            EXPECT_TRUE(Shown("WinUAEBtn"));
+            EXPECT_EQ(Of("UseMasterConfig.Value"), 1);
+            EXPECT_EQ(TextOf("UAEMasterConfigLaunchParameter"), "-f");
+            Set("DirBefehleTxt.Text", round);
+            Save();
+            EXPECT_EQ(Stored("WinUAE_UseMasterConfig"), "1");
+            Key("Escape");
+        });
+    }
+}
+
 using Template = WinuaeSettings;
 
 TEST_F(Template, AConfigurationIsTakenOverAndSaved) {
