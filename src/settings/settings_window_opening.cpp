@@ -1,5 +1,6 @@
 // What the settings window does as it comes and goes.
 
+#include <initializer_list>
 #include <string_view>
 
 #include "core/form1.h"
@@ -91,6 +92,9 @@ void SettingsWindow::ShowMainSettingsOnly(bool showIt) {
 }
 
 void SettingsWindow::LoadAnew(bool keepTyped) {
+    for (forms::Control* panel : std::initializer_list<forms::Control*>{
+             &form.UAEFrame, &form.DeamonFrame, &form.DarstellungFrame})
+        panel->SetVisible(false);
     TakeFiles();
     if (keepTyped) {
         winuae.TakeMaster();

@@ -165,6 +165,24 @@ TEST_F(Emulators, ANewOneInFrontOfTheLoadedOneIsLoaded) {
     EXPECT_EQ(Get("UAE_Short.ListCount"), 3);
 }
 
+TEST_F(Emulators, PanelsOfTheFormerOneCloseOverANewOne) {
+    Start();
+    Open([&] {
+        Set("AutoMoundDeamonTools.Value", 1);
+        Click("DeamonButton");
+        Click("Command5");
+        EXPECT_TRUE(Shown("DeamonFrame"));
+        EXPECT_TRUE(Shown("DarstellungFrame"));
+        Do("answer", "OK");
+        Do("input", "Gamma");
+        Click("NewEmuBtn");
+        for (const char* panel : {"UAEFrame", "DeamonFrame", "DarstellungFrame"})
+            EXPECT_FALSE(Shown(panel)) << panel;
+        Key("Escape");
+        EXPECT_FALSE(open());
+    });
+}
+
 TEST_F(Emulators, ADirectoryThatCannotBeMadeLeavesAllAsItWas) {
     Start();
     Do("disk", "read-only");
