@@ -236,6 +236,26 @@ TEST_F(Saving, TriedColoursAreNotStored) {
     });
 }
 
+TEST_F(Saving, WhileAGameRunsItKeepsTheDevices) {
+    prepare = [this](driver::Session&) { Do("device", "add", "Pad", 18); };
+    Start();
+    EXPECT_EQ(Get("JoystickTimer.Enabled"), true);
+    LaunchBee();
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer");
+    EXPECT_EQ(Get("JoystickTimer.Enabled"), false);
+    OpenShort([&] {
+        Set("ResetScreenRes.Value", 1);
+        Save();
+        EXPECT_EQ(Get("JoystickTimer.Enabled"), false);
+        EXPECT_EQ(Of("Joystickcheck.Value"), 1);
+        Key("Escape");
+    });
+    EmulatorGoes();
+    Do("tick", "Form1.EmuActiveTimer", 5);
+    EXPECT_EQ(Get("JoystickTimer.Enabled"), true);
+}
+
 TEST_F(Saving, WhileAGameRunsItGoesOn) {
     Start();
     LaunchBee();
