@@ -217,6 +217,31 @@ TEST_F(Saving, ColoursThatWereTriedGoWithIt) {
     EXPECT_EQ(Get("BackColor"), skin);
 }
 
+TEST_F(Saving, OverASearchInAllListsItsColoursStay) {
+    Start();
+    Do("set", "Form1.SearchDblsTxt.Text", "bee");
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    ASSERT_TRUE(Visible("GlobalSearchList"));
+    const auto colours = [&] {
+        Json seen;
+        for (const char* name : {"GlobalSearchList", "Label4"}) {
+            for (const char* colour : {".BackColor", ".ForeColor"})
+                seen.push_back(Get(std::string(name) + colour));
+        }
+        return seen;
+    };
+    const Json before = colours();
+    EXPECT_NE(Get("GlobalSearchList.BackColor"), Get("FormBackColor"));
+    OpenShort([&] {
+        Set("ResetScreenRes.Value", 1);
+        Save();
+        EXPECT_EQ(colours(), before);
+        Key("Escape");
+    });
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(colours(), before);
+}
+
 // A colour that is only tried must not become the skin's.
 TEST_F(Saving, TriedColoursAreNotStored) {
     Start();
