@@ -29,7 +29,8 @@ void NewEmulatorGroup::ShowState() {
 }
 
 void NewEmulatorGroup::ComeForward() {
-    if (!main.IsTopmost()) return;
+    // A window that has been closed meanwhile has given the main window its place back.
+    if (form.IsUnloaded() || !main.IsTopmost()) return;
     services.mainOnTop.SetToNormal();
     services.windows.Raise(form);
 }

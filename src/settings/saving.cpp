@@ -59,7 +59,11 @@ class DressedHits {
 }  // namespace
 
 void Saving::SaveBtn_Click() {
-    if (saving || main.Busy) return;
+    if (saving) return;
+    if (main.Busy) {
+        services.beeper.Beep();
+        return;
+    }
     const core::Raised once(saving);
     const KeptChoiceColors kept(main);
     const DressedHits dressed(main);

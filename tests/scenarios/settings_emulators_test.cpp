@@ -279,6 +279,27 @@ TEST_F(Emulators, TheProgramIsStartedAloneAndWatched) {
     });
 }
 
+TEST_F(Emulators, AWindowThatIsClosedWhileAProgramComesUpLeavesTheMainOneOnTop) {
+    Start();
+    ASSERT_TRUE(Form().IsTopmost());
+    Open([&] {
+        Set("UAELaunchParaneter.Text", "-x");
+        Do("beeps");
+        Host().clock.onRest = [&] {
+            Host().clock.onRest = {};
+            Click("SaveBtn");
+            EXPECT_TRUE(Unsaved());
+            EXPECT_EQ(Do("beeps")["value"], 1);
+            Do("answer", "OK");
+            Click("ExitBtn");
+            EXPECT_FALSE(open());
+        };
+        EmulatorComesUp();
+        Click("LaunchButton");
+    });
+    EXPECT_TRUE(Form().IsTopmost());
+}
+
 TEST_F(Emulators, ANewOneIsMadeBehindAStartThatHasEnded) {
     Start();
     Open([&] {
