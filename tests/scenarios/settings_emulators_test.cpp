@@ -2,6 +2,7 @@
 // start.
 
 #include <filesystem>
+#include <utility>
 
 #include "scenarios/settings.h"
 
@@ -285,8 +286,9 @@ TEST_F(Emulators, AWindowThatIsClosedWhileAProgramComesUpLeavesTheMainOneOnTop) 
     Open([&] {
         Set("UAELaunchParaneter.Text", "-x");
         Do("beeps");
+        bool rested = false;
         Host().clock.onRest = [&] {
-            Host().clock.onRest = {};
+            if (std::exchange(rested, true)) return;
             Click("SaveBtn");
             EXPECT_TRUE(Unsaved());
             EXPECT_EQ(Do("beeps")["value"], 1);
@@ -296,6 +298,7 @@ TEST_F(Emulators, AWindowThatIsClosedWhileAProgramComesUpLeavesTheMainOneOnTop) 
         };
         EmulatorComesUp();
         Click("LaunchButton");
+        Host().clock.onRest = {};
     });
     EXPECT_TRUE(Form().IsTopmost());
 }
