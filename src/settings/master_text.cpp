@@ -105,7 +105,7 @@ MasterText::Step MasterText::StepFor(std::string_view boxText) const {
     const bool touched = boxText != shown;
     const File now = Read(path);
     // What has been typed into the box does not show what it would replace.
-    if (emptied && read.bytes && !text::Trim(*read.bytes).empty()) return Step::ask;
+    if (emptied && !shown.empty()) return Step::ask;
     if (now != read) return touched ? Step::ask : Step::reload;
     if (made && !touched) return Step::reload;
     if (now.bytes) return Step::write;
