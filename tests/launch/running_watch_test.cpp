@@ -46,9 +46,9 @@ TEST_F(RunningWatchTest, TickRestsWhileASwitchOrARescanIsUnderWay) {
 
 // A program that was only tried out is ended without a watch.
 TEST_F(RunningWatchTest, EndOnRequestBringsTheWindowBackWhereNothingIsWatched) {
-    host.processes.Add("winuae.exe", 7);
     form.CurrentRunninApplication = "winuae.exe";
     for (const bool shown : {false, true}) {
+        host.processes.Add("winuae.exe", 7);
         busy.HideAll(false);
         form.AppRunningPicture.SetVisible(shown);
         watch.AppRunningPicture_Click();
