@@ -67,6 +67,8 @@ void SettingsLoader::LoadDrivesPanel() {
 
 void SettingsLoader::LoadJoystick() {
     const auto wanted = [&] { return ini.Read(keys::UseJoystick, ProfilesOf(form)); };
+    // The start has given the devices to the game, and its end takes them back.
+    if (form.EmulatorRuns() && wanted() > 0) return;
     hooks.JoystickEnable(wanted() > 0);
     if (wanted() != 1 || hooks.JoystickCount() > 0) return;
     // The box may stand for long.

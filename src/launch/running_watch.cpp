@@ -97,8 +97,9 @@ void RunningWatch::AppRunningPicture_Click() {
     EndEmulator();
     // An emulator that was to be set up has been started out of the choice.
     routines.choice.CloseChoice();
-    // The loading screen may outlast its game, and then no watch brings the window back.
-    if (!ran) busy.HideAll(true);
+    // The loading screen may outlast its game, or its program was only tried out from the settings:
+    // then no watch brings the window back.
+    if (!ran || !form.EmuActiveTimer.Enabled()) busy.HideAll(true);
     if (form.FavoritenListe.ListCount() > 0) {
         routines.front.Label1_Click();
     } else {

@@ -59,10 +59,13 @@ Box ImportCancelledBox() {
     return {"Abbruch!", core::defaultTitle, Buttons::Ok, Icon::None};
 }
 
-Box MasterQuestion(const std::string& path, const core::ProgramState& program) {
-    return {program.Say("Ein anderes Programm hat diese Datei inzwischen geändert:",
-                        "Another program has changed this file meanwhile:") +
-                ("\r\r" + path + "\r\r") +
+Box MasterQuestion(const std::string& path, const core::ProgramState& program, bool emptied) {
+    const std::string why =
+        emptied ? program.Say("Alle WinUAE-Profile benutzen diese Datei, und sie ist nicht leer:",
+                              "All WinUAE profiles use this file, and it is not empty:")
+                : program.Say("Ein anderes Programm hat diese Datei inzwischen geändert:",
+                              "Another program has changed this file meanwhile:");
+    return {why + ("\r\r" + path + "\r\r") +
                 program.Say("Soll sie mit dem Text aus diesem Fenster überschrieben werden?",
                             "Do you want to overwrite it with the text of this window?"),
             program.Say("WinUAE - Config Vorlage", "WinUAE config template"), Buttons::YesNo,

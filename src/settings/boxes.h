@@ -22,8 +22,9 @@ Box ReloadAllQuestion(const core::ProgramState& program);
 Box StartNowQuestion(const std::string& exePath);
 Box ImportCancelledBox();
 
-// Another program has written the master while the user changed its text; Yes overwrites it.
-Box MasterQuestion(const std::string& path, const core::ProgramState& program);
+// Another program has written the master while the user changed its text, or its text has been
+// `emptied` before that by the defaults of an emulator; Yes overwrites it.
+Box MasterQuestion(const std::string& path, const core::ProgramState& program, bool emptied);
 // A file for the user's editor, which did not come up.
 Box NotEditedBox(const std::string& path, const core::ProgramState& program);
 Box NotSavedBox(const std::string& path, const core::ProgramState& program);

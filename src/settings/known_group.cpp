@@ -146,6 +146,8 @@ void KnownGroup::TakeChoice() {
     const KnownChoice choice = choices[static_cast<std::size_t>(row)];
     if (Take(Choose(choice, hasPath, main))) {
         form.MarkUnsaved();
+        // The path that stays may not look like WinUAE's.
+        if (form.UseMasterConfig.Value() == 1) form.WinUAEBtn.SetVisible(true);
     } else {
         ShowNoChoice();
     }

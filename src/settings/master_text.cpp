@@ -104,6 +104,8 @@ MasterText::Step MasterText::StepFor(std::string_view boxText) const {
     if (emptied && boxText.empty()) return Step::leave;
     const bool touched = boxText != shown;
     const File now = Read(path);
+    // What has been typed into the box does not show what it would replace.
+    if (emptied && !shown.empty()) return Step::ask;
     if (now != read) return touched ? Step::ask : Step::reload;
     if (made && !touched) return Step::reload;
     if (now.bytes) return Step::write;

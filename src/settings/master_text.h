@@ -45,6 +45,7 @@ class MasterText {
 
     // The box has been emptied as a default of another emulator, and not by the user.
     void EmptiedByDefaults() { emptied = true; }
+    bool IsEmptied() const { return emptied; }
 
     enum class Step {
         write,   // the box into the file

@@ -116,6 +116,13 @@ Box FaultBox(NameFault fault, const std::string& name, const core::ProgramState&
             platform::Buttons::Ok, platform::Icon::Warning};
 }
 
+Box StillRunsBox(const std::string& running, const core::ProgramState& program) {
+    return {running + "\r\r" +
+                program.Say("Dieses Programm läuft noch. Bitte erst beenden.",
+                            "This program is still running. Please end it first."),
+            NewEmulatorTitle(program), platform::Buttons::Ok, platform::Icon::Information};
+}
+
 std::error_code MakeEmulator(platform::FileSystem& files, const std::string& configPath,
                              const std::string& name) {
     return files.MakeDirectory(configPath + name);

@@ -39,6 +39,9 @@ std::string NewEmulatorPrompt(const core::ProgramState& program);
 // The reason, before the name is asked for again.
 Box FaultBox(NameFault fault, const std::string& name, const core::ProgramState& program);
 
+// The program `running` has been started out of the window.
+Box StillRunsBox(const std::string& running, const core::ProgramState& program);
+
 std::error_code MakeEmulator(platform::FileSystem& files, const std::string& configPath,
                              const std::string& name);
 Box NotMadeBox(const std::string& path, const std::error_code& error,

@@ -29,7 +29,8 @@ void NewEmulatorGroup::ShowState() {
 }
 
 void NewEmulatorGroup::ComeForward() {
-    if (!main.IsTopmost()) return;
+    // A window that has been closed meanwhile has given the main window its place back.
+    if (form.IsUnloaded() || !main.IsTopmost()) return;
     services.mainOnTop.SetToNormal();
     services.windows.Raise(form);
 }
@@ -38,8 +39,19 @@ bool NewEmulatorGroup::Rests() const {
     return main.EmuActiveTimer.Enabled() || main.Busy;
 }
 
+// The look brings the main window back where the emulator has gone, as behind a game.
+bool NewEmulatorGroup::StillRuns() {
+    if (!main.EmuActiveTimer.Enabled()) return false;
+    services.watch.EmuActiveTimer_Timer();
+    ComeForward();
+    if (form.IsUnloaded()) return true;
+    if (!main.EmuActiveTimer.Enabled()) return false;
+    Show(services.dialogs, StillRunsBox(main.CurrentRunninApplication, main));
+    return true;
+}
+
 void NewEmulatorGroup::NewEmuBtn_Click() {
-    if (Rests() || !MayLeaveValues()) return;
+    if (main.Busy || StillRuns() || !MayLeaveValues()) return;
     const std::string name = AskForName();
     // The box lets events run.
     if (name.empty() || Rests() || !Make(name)) return;

@@ -23,6 +23,7 @@ class NewEmulatorGroup {
         platform::FileSystem& files;
         platform::Dialogs& dialogs;
         core::EmulatorSwitching& emulators;
+        core::RunningEmulator& watch;
         forms::WindowHost& windows;
         support::AlwaysOnTop& mainOnTop;
     };
@@ -37,8 +38,9 @@ class NewEmulatorGroup {
 
     // The handler of NewEmuBtn.
     void JoinEvents();
-    // The emulator's name, and whether another one can be made now. As the window opens, and
-    // whenever an emulator has been started out of it.
+    // The emulator's name, and whether another one can be made now, as the window opens. One that
+    // is started out of it leaves the button on: the watch rests under the window, and a press
+    // looks by itself.
     void ShowState();
     // In front of the main window, which what has been asked of it may have put on top of all.
     void ComeForward();
@@ -50,6 +52,8 @@ class NewEmulatorGroup {
  private:
     // While an emulator is watched or something is under way nothing can be switched.
     bool Rests() const;
+    // Of what has been started out of the window; the user is told.
+    bool StillRuns();
     bool MayLeaveValues();
     // Empty: the user has left the box.
     std::string AskForName();

@@ -27,10 +27,14 @@ void PathsGroup::JoinEvents() {
     form.FehlerIcon[SettingsForm::faultyRomPath].onClick = [this] { BrowseDir_Click(); };
 }
 
-void PathsGroup::RunChangeHandlers() {
+void PathsGroup::RunChangeHandlers(bool usesTemplate) {
     form.MarkUnsaved();
     ShowProgramFault();
-    routines.winuae.TakeProgram(form.txtWinUAEExe.Text());
+    if (usesTemplate) {
+        form.WinUAEBtn.SetVisible(true);
+    } else {
+        routines.winuae.TakeProgram(form.txtWinUAEExe.Text());
+    }
     ShowRomPathFault();
 }
 
@@ -58,7 +62,14 @@ void PathsGroup::txtWinUAEExe_LostFocus() {
     // The resolved text may be the old one again.
     if (form.txtWinUAEExe.Text() != form.ExeAtFocus)
         routines.known.DetectKnownEmulator(form.txtWinUAEExe.Text());
-    if (form.FehlerIcon[SettingsForm::faultyRomPath].Visible()) GuessGames();
+    if (form.FehlerIcon[SettingsForm::faultyRomPath].Visible() && MayGuessGames()) GuessGames();
+}
+
+// Nothing has been typed, and the directory may lie on a drive that is not there now.
+bool PathsGroup::MayGuessGames() const {
+    const std::string& romPath = form.TxtRomPath.Text();
+    return form.txtWinUAEExe.Text() != form.ExeAtFocus || romPath.empty() ||
+           IsAppDirectory(main, romPath);
 }
 
 void PathsGroup::GuessGames() {
@@ -120,7 +131,6 @@ void PathsGroup::LaunchButton_Click() {
     (void)services.files.ChangeDirectory(main.AppDir);
     // Where nothing has come up yet, the main window is back as behind a game.
     routines.newEmulator.ComeForward();
-    routines.newEmulator.ShowState();
 }
 
 }  // namespace kivu::settings

@@ -41,8 +41,9 @@ class PathsGroup {
 
     // The handlers of the two fields, of their buttons and of FehlerIcon 0 and 1.
     void JoinEvents();
-    // With the values of an opening window.
-    void RunChangeHandlers();
+    // With the values of an opening window. `usesTemplate`: the profile starts its program as
+    // WinUAE is started, whatever that is called, and keeps WinUAE's values.
+    void RunChangeHandlers(bool usesTemplate = false);
 
     void txtWinUAEExe_Change();
     void txtWinUAEExe_GotFocus();
@@ -59,6 +60,9 @@ class PathsGroup {
     void ShowProgramFault();
     void ShowRomPathFault();
     bool IsUsable(const std::string& romPath) const;
+    // A directory that the user has chosen gives way to none that is guessed, unless the program
+    // is another one.
+    bool MayGuessGames() const;
     void GuessGames();
 
     SettingsForm& form;

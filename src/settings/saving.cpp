@@ -4,6 +4,7 @@
 #include "core/form1.h"
 #include "core/raised.h"
 #include "core/settings_loader.h"
+#include "library/search_colors.h"
 #include "settings/boxes.h"
 #include "settings/form_values.h"
 #include "settings/settings_form.h"
@@ -37,12 +38,35 @@ class KeptChoiceColors {
     bool own = false;
 };
 
+// The hits of all emulators, and the label over them, have other colours than the skin's, too.
+class DressedHits {
+ public:
+    explicit DressedHits(core::Form1& main) : main(main) {}
+    ~DressedHits() {
+        forms::ListBox& hits = main.GlobalSearchList;
+        if (!hits.Visible()) return;
+        hits.SetBackColor(library::HitListColor(main.FormBackColor));
+        main.Label4.SetBackColor(hits.BackColor());
+        main.Label4.SetForeColor(hits.ForeColor());
+    }
+    DressedHits(const DressedHits&) = delete;
+    DressedHits& operator=(const DressedHits&) = delete;
+
+ private:
+    core::Form1& main;
+};
+
 }  // namespace
 
 void Saving::SaveBtn_Click() {
-    if (saving || main.Busy) return;
+    if (saving) return;
+    if (main.Busy) {
+        services.beeper.Beep();
+        return;
+    }
     const core::Raised once(saving);
     const KeptChoiceColors kept(main);
+    const DressedHits dressed(main);
     const bool written = Write();
     if (main.Ended || !written) return;
     // A button that goes off loses the focus.

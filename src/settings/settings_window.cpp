@@ -8,6 +8,7 @@
 #include "library/game_lists.h"
 #include "settings/boxes.h"
 #include "settings/form_values.h"
+#include "settings/path_fields.h"
 #include "text/paths.h"
 
 namespace kivu::settings {
@@ -50,8 +51,8 @@ SettingsWindow::SettingsWindow(core::Form1& main, forms::Toolkit toolkit, Servic
               services.log, routines.loadingScreen, routines.uaeFiles, routines.launch}),
       known(form, main, {services.files, services.starter, services.dialogs}, winuae),
       newEmulator(form, main,
-                  {services.files, services.dialogs, routines.emulators, services.windows,
-                   routines.mainOnTop}),
+                  {services.files, services.dialogs, routines.emulators, routines.watch,
+                   services.windows, routines.mainOnTop}),
       paths(form, main, {services.files, services.dialogs, services.fileDialogs, routines.setup},
             {known, winuae, newEmulator}),
       launch(form, routines.startHelpers),
@@ -165,9 +166,17 @@ void SettingsWindow::SetTitle(const std::string& title) {
     form.TitleLabel.SetCaption(title);
 }
 
+// As the main window reads it from a profile: what is relative means something below the program's
+// directory, wherever the process stands.
+void SettingsWindow::CopyRomPath() {
+    const std::string& typed = form.TxtRomPath.Text();
+    main.TxtRomPath.SetText(typed.empty() ? main.AppDir
+                                          : text::AddPathSeparator(MeantPath(main, typed)));
+}
+
 void SettingsWindow::LoadBtn_Click() {
     if (IsWorking()) return;
-    main.TxtRomPath.SetText(form.TxtRomPath.Text());
+    CopyRomPath();
     if (form.SaveBtn.Enabled()) {
         Show(services.dialogs, SaveFirstBox());
         return;

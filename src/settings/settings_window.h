@@ -82,6 +82,7 @@ class SettingsWindow {
         launch::GameLaunch& launch;
         core::StartHelpers& startHelpers;
         core::LoadingScreen& loadingScreen;
+        core::RunningEmulator& watch;
         core::ProgramLinks& links;
     };
 
@@ -114,7 +115,7 @@ class SettingsWindow {
     // The files of the emulator that is loaded.
     void TakeFiles();
     void LoadValues();
-    void RunChangeHandlers();
+    void RunChangeHandlers(const SettingsValues& values);
     void ShowSkin();
     // Another emulator has been loaded; see NewEmulatorGroup::Hooks.
     void LoadAnew(bool keepTyped);
@@ -123,6 +124,7 @@ class SettingsWindow {
     // Something is under way that the window must not be closed in.
     bool IsWorking() const;
     void SaveByKey();
+    void CopyRomPath();
     void SetTitle(const std::string& title);
     void EditProfile(const std::string& path);
 

@@ -1,5 +1,6 @@
 // What the settings window does as it comes and goes.
 
+#include <initializer_list>
 #include <string_view>
 
 #include "core/form1.h"
@@ -57,7 +58,7 @@ void SettingsWindow::LoadValues() {
     program.CopyFontSizes();
     program.ShowEmuDownload();
     program.ShowDonateBtn();
-    RunChangeHandlers();
+    RunChangeHandlers(values);
     known.FillKnownEmuCombo();
     looks.Load();
     form.PlaceScriptBox();
@@ -65,9 +66,11 @@ void SettingsWindow::LoadValues() {
     form.SaveBtn.SetEnabled(false);
 }
 
-// What their fields hold may be what they held before.
-void SettingsWindow::RunChangeHandlers() {
-    paths.RunChangeHandlers();
+// What their fields hold may be what they held before. A profile that nobody has saved uses the
+// template by default, but has no parameter for it.
+void SettingsWindow::RunChangeHandlers(const SettingsValues& values) {
+    paths.RunChangeHandlers(values.UseMasterConfig == 1 &&
+                            !values.UAEMasterConfigLaunchParameter.empty());
     winuae.RunChangeHandlers();
     program.RunChangeHandlers();
 }
@@ -89,8 +92,15 @@ void SettingsWindow::ShowMainSettingsOnly(bool showIt) {
 }
 
 void SettingsWindow::LoadAnew(bool keepTyped) {
+    for (forms::Control* panel : std::initializer_list<forms::Control*>{
+             &form.UAEFrame, &form.DeamonFrame, &form.DarstellungFrame})
+        panel->SetVisible(false);
     TakeFiles();
-    if (!keepTyped) LoadValues();
+    if (keepTyped) {
+        winuae.TakeMaster();
+    } else {
+        LoadValues();
+    }
     form.ExeAtFocus = form.txtWinUAEExe.Text();
     form.txtWinUAEExe.SetFocus();
 }

@@ -49,16 +49,27 @@ void WinuaeGroup::LoadMaster() {
     form.TxtMasterConfig.SetText(master.Load(main.MasterConfigName));
 }
 
+void WinuaeGroup::TakeMaster() {
+    if (form.TxtMasterConfig.Text().empty()) {
+        LoadMaster();
+    } else {
+        master.SetPath(main.MasterConfigName);
+    }
+}
+
 bool WinuaeGroup::SaveMaster() {
     const std::string path = PathOfMaster();
     if (path.empty()) return true;
     switch (master.StepFor(form.TxtMasterConfig.Text())) {
         case MasterText::Step::leave:
+            // What the defaults of an emulator have emptied shows again what it stands for.
+            if (master.IsEmptied()) LoadMaster();
             return true;
         case MasterText::Step::write:
             return WriteMaster(path);
         case MasterText::Step::ask:
-            if (Show(services.dialogs, MasterQuestion(path, main)) == platform::Answer::Yes)
+            if (Show(services.dialogs, MasterQuestion(path, main, master.IsEmptied())) ==
+                platform::Answer::Yes)
                 return WriteMaster(path);
             break;
         case MasterText::Step::reload:

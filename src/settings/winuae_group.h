@@ -46,6 +46,9 @@ class WinuaeGroup {
 
     // The master's text into its box, as the window opens.
     void LoadMaster();
+    // The master of an emulator that has been loaded under what the window shows: a text that has
+    // been typed stays.
+    void TakeMaster();
     // The box into the master, or the master into the box where another program has written it and
     // the user has not. False: it could not be written, and the user knows.
     bool SaveMaster();

@@ -24,6 +24,7 @@ settings::SettingsWindow::Routines Launcher::Routines::SettingsRoutines() {
             .launch = gameLaunch,
             .startHelpers = startHelpers,
             .loadingScreen = windowsBeside.loading,
+            .watch = watch,
             .links = links};
 }
 

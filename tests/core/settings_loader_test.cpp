@@ -180,6 +180,20 @@ TEST_F(SettingsLoaderTest, NobodyIsAskedWithAControllerOrWithTheJoystickOff) {
     EXPECT_FALSE(enabled.empty());
 }
 
+TEST_F(SettingsLoaderTest, TheDevicesStayWithAGameThatRuns) {
+    Program("UseJoystick=1\r\n");
+    form.GameIsRunning = true;
+    form.EmuActiveTimer.SetEnabled(true);
+    Controllers(0);
+    loader.LoadSettings();
+    EXPECT_THAT(enabled, IsEmpty());
+    EXPECT_THAT(host.dialogs.shown, IsEmpty());
+    // Nobody would switch them off at its end.
+    Program("UseJoystick=0\r\n");
+    loader.LoadSettings();
+    EXPECT_THAT(enabled, ElementsAre(false));
+}
+
 TEST_F(SettingsLoaderTest, ReadOnlyProfilesStillLoad) {
     files.FailChanges(std::errc::read_only_file_system);
     loader.LoadSettings();

@@ -44,6 +44,21 @@ TEST_F(RunningWatchTest, TickRestsWhileASwitchOrARescanIsUnderWay) {
     EXPECT_FALSE(form.EmuActiveTimer.Enabled());
 }
 
+// A program that was only tried out is ended without a watch.
+TEST_F(RunningWatchTest, EndOnRequestBringsTheWindowBackWhereNothingIsWatched) {
+    form.CurrentRunninApplication = "winuae.exe";
+    for (const bool shown : {false, true}) {
+        host.processes.Add("winuae.exe", 7);
+        busy.HideAll(false);
+        form.AppRunningPicture.SetVisible(shown);
+        watch.AppRunningPicture_Click();
+        EXPECT_TRUE(form.ListsVisible);
+        EXPECT_TRUE(form.SettingsBtn.Visible());
+        EXPECT_FALSE(form.LoadingBtn.Visible());
+        EXPECT_FALSE(form.AppRunningPicture.Visible());
+    }
+}
+
 // The change itself looks, while it is under way.
 TEST_F(RunningWatchTest, ChangeOfEmulatorLooksAtOnce) {
     form.Busy = true;

@@ -2,6 +2,7 @@
 // start.
 
 #include <filesystem>
+#include <utility>
 
 #include "scenarios/settings.h"
 
@@ -115,6 +116,26 @@ TEST_F(FirstEmulator, TakesWhatWasTypedBeforeIt) {
     EXPECT_THAT(Titles(), ElementsAre());
 }
 
+TEST_F(FirstEmulator, ThatIsWinUaeSavesItsTemplate) {
+    const std::string exe = Program("winuae.exe");
+    Start();
+    Boxes();
+    Open([&] {
+        Do("answer", "Yes");
+        Set("txtWinUAEExe.Text", exe);
+        Do("focus", "SettingsForm.DirBefehleTxt");
+        Set("TxtMasterConfig.Text", "use_gui=yes\r\n");
+        Do("input", "Amiga");
+        Click("NewEmuBtn");
+        Boxes();
+        EXPECT_EQ(TextOf("TxtMasterConfig"), "use_gui=yes\r\n");
+        Save();
+        EXPECT_EQ(tree.Read("Config/Kivu_Master.uaecfg"), "use_gui=yes\r\n\r\n");
+        Key("Escape");
+    });
+    EXPECT_THAT(Titles(), ElementsAre());
+}
+
 TEST_F(Emulators, ANewOneInFrontOfTheLoadedOneIsLoaded) {
     Start();
     Open([&] {
@@ -143,6 +164,24 @@ TEST_F(Emulators, ANewOneInFrontOfTheLoadedOneIsLoaded) {
     Do("dblclick", "Form1.EmulatorLongListbox", 1);
     EXPECT_EQ(Text("EmuListbox.Text"), "Alpha");
     EXPECT_EQ(Get("UAE_Short.ListCount"), 3);
+}
+
+TEST_F(Emulators, PanelsOfTheFormerOneCloseOverANewOne) {
+    Start();
+    Open([&] {
+        Set("AutoMoundDeamonTools.Value", 1);
+        Click("DeamonButton");
+        Click("Command5");
+        EXPECT_TRUE(Shown("DeamonFrame"));
+        EXPECT_TRUE(Shown("DarstellungFrame"));
+        Do("answer", "OK");
+        Do("input", "Gamma");
+        Click("NewEmuBtn");
+        for (const char* panel : {"UAEFrame", "DeamonFrame", "DarstellungFrame"})
+            EXPECT_FALSE(Shown(panel)) << panel;
+        Key("Escape");
+        EXPECT_FALSE(open());
+    });
 }
 
 TEST_F(Emulators, ADirectoryThatCannotBeMadeLeavesAllAsItWas) {
@@ -222,8 +261,10 @@ TEST_F(Emulators, TheProgramIsStartedAloneAndWatched) {
         EXPECT_EQ(runs[0]["directory"], tree.Path("Emu"));
         EXPECT_EQ(Get("CurrentRunninApplication"), "alpha");
         EXPECT_TRUE(Visible("AppRunningPicture"));
-        EXPECT_FALSE(On("NewEmuBtn"));
         EXPECT_TRUE(On("LaunchButton"));
+        Click("NewEmuBtn");
+        EXPECT_THAT(Titles(), ElementsAre("New emulator"));
+        EXPECT_EQ(Of("EmuNameLabel.Caption"), "Alpha");
         // It ends while the window is open, which the watch sees when that has gone.
         EmulatorGoes();
         Key("Escape");
@@ -237,6 +278,45 @@ TEST_F(Emulators, TheProgramIsStartedAloneAndWatched) {
         EXPECT_TRUE(On("NewEmuBtn"));
         Key("Escape");
     });
+}
+
+TEST_F(Emulators, AWindowThatIsClosedWhileAProgramComesUpLeavesTheMainOneOnTop) {
+    Start();
+    ASSERT_TRUE(Form().IsTopmost());
+    Open([&] {
+        Set("UAELaunchParaneter.Text", "-x");
+        Do("beeps");
+        bool rested = false;
+        Host().clock.onRest = [&] {
+            if (std::exchange(rested, true)) return;
+            Click("SaveBtn");
+            EXPECT_TRUE(Unsaved());
+            EXPECT_EQ(Do("beeps")["value"], 1);
+            Do("answer", "OK");
+            Click("ExitBtn");
+            EXPECT_FALSE(open());
+        };
+        EmulatorComesUp();
+        Click("LaunchButton");
+        Host().clock.onRest = {};
+    });
+    EXPECT_TRUE(Form().IsTopmost());
+}
+
+TEST_F(Emulators, ANewOneIsMadeBehindAStartThatHasEnded) {
+    Start();
+    Open([&] {
+        EmulatorComesUp();
+        Click("LaunchButton");
+        EmulatorGoes();
+        Do("input", "Gamma");
+        Click("NewEmuBtn");
+        EXPECT_EQ(Of("EmuNameLabel.Caption"), "Gamma");
+        EXPECT_FALSE(Visible("AppRunningPicture"));
+        Key("Escape");
+    });
+    EXPECT_EQ(Text("EmuListbox.Text"), "Gamma");
+    EXPECT_TRUE(Visible("SettingsBtn"));
 }
 
 TEST_F(Emulators, GamesBesideAnotherProgramAreProposed) {
@@ -258,51 +338,34 @@ TEST_F(Emulators, GamesBesideAnotherProgramAreProposed) {
     });
 }
 
-using Template = WinuaeSettings;
-
-TEST_F(Template, AConfigurationIsTakenOverAndSaved) {
-    tree.Write("Emu/mine.uae", "a=1\r\nfloppy1=x\r\n;kickstart_rom_file=\r\nfloppy3=y\r\n");
+TEST_F(Emulators, WinUaesRowOutlivesASaveForAPathOfAnyName) {
     Start();
     Open([&] {
-        Click("WinUAEBtn");
-        EXPECT_TRUE(Shown("UAEFrame"));
-        another = [&](forms::Form&) { Do("click", "Files.Abbruch"); };
-        Click("Command1");
-        EXPECT_EQ(Boxes()[0]["text"], "Abbruch!");
-        EXPECT_FALSE(Unsaved());
-        another = [&](forms::Form&) {
-            Do("type", "Files.FileName", tree.Path("Emu/mine.uae"));
-            Do("click", "Files.Ok");
-        };
-        Click("Command1");
-        EXPECT_EQ(TextOf("TxtMasterConfig"), "a=1\r\nfloppy3=y\r\n");
+        const auto rows = Of("KnownEmuCombo.List").get<std::vector<std::string>>();
+        const auto row = std::find_if(rows.begin(), rows.end(), [](const std::string& text) {
+            return text.starts_with("WinUAE (Amiga 500)");
+        });
+        ASSERT_NE(row, rows.end());
+        EXPECT_FALSE(Shown("WinUAEBtn"));
+        Do("answer", "Yes");
+        Do("select", "SettingsForm.KnownEmuCombo", row - rows.begin());
+        EXPECT_TRUE(Shown("WinUAEBtn"));
         Save();
-        EXPECT_EQ(tree.Read("Config/Kivu_Master.uaecfg"), "a=1\r\nfloppy3=y\r\n\r\n");
-        Click("RemovePicEnabled");
-        Key("Escape");
-        EXPECT_FALSE(open());
-    });
-}
-
-TEST_F(Template, IsTriedOutAsItIsOnTheDisk) {
-    Start();
-    Do("runs");
-    Open([&] {
-        Click("WinUAEBtn");
-        Click("Command3");
-        const Json runs = Do("runs")["value"];
-        ASSERT_EQ(runs.size(), 1u);
-        EXPECT_EQ(runs[0]["words"][0], tree.Path("Emu/winuae.exe"));
-        EXPECT_EQ(runs[0]["words"][1], "-f");
-        EXPECT_EQ(Get("CurrentRunninApplication"), "winuae.exe");
-        EXPECT_TRUE(Unsaved());
-        // Its loading screen lies over the window.
-        EXPECT_EQ(Do("windows")["value"].back()["over"], "SettingsForm");
-        Do("close", "LoadingInfo");
-        Do("answer", "OK");
-        Click("RemovePicEnabled");
         Key("Escape");
     });
+    for (const char* round : {"opened", "opened again"}) {
+        SCOPED_TRACE(round);
+        Open([&] {
+            EXPECT_EQ(TextOf("txtWinUAEExe"), tree.Path("Emu/alpha"));
+            EXPECT_TRUE(Shown("WinUAEBtn"));
+            EXPECT_EQ(Of("UseMasterConfig.Value"), 1);
+            EXPECT_EQ(TextOf("UAEMasterConfigLaunchParameter"), "-f");
+            Set("DirBefehleTxt.Text", round);
+            Save();
+            EXPECT_EQ(Stored("WinUAE_UseMasterConfig"), "1");
+            Key("Escape");
+        });
+    }
 }
 
 }  // namespace

@@ -40,7 +40,7 @@ TEST_F(SettingsWork, RescanOfUnsavedSettingsIsRefusedInGermanAndCopiesThePath) {
             EXPECT_EQ(boxes[0]["title"], "Speichern");
             EXPECT_EQ(boxes[0]["text"], "Bitte erst speichern");
             EXPECT_EQ(boxes[0]["icon"], "Information");
-            EXPECT_EQ(Get("TxtRomPath.Text"), typed);
+            EXPECT_EQ(Get("TxtRomPath.Text"), typed + testing::HostPath("/"));
             EXPECT_TRUE(Unsaved());
             EXPECT_TRUE(On("LoadBtn"));
             Do("answer", "OK");
@@ -48,6 +48,35 @@ TEST_F(SettingsWork, RescanOfUnsavedSettingsIsRefusedInGermanAndCopiesThePath) {
         });
         EXPECT_EQ(Get("UAE_Short.ListCount"), 3);
     }
+}
+
+TEST_F(SettingsWork, ARelativeDirectoryIsBelowTheProgramsWhereverTheProcessStands) {
+    struct Typed {
+        const char *text, *copied;
+    };
+    for (const Typed& typed : {Typed{"Roms/Beta", "Roms/Beta/"}, Typed{"", ""}}) {
+        SCOPED_TRACE(typed.text);
+        Start();
+        Open([&] {
+            Set("TxtRomPath.Text", testing::HostPath(typed.text));
+            Click("LoadBtn");
+            EXPECT_EQ(Boxes().size(), 1U);
+            EXPECT_EQ(Get("TxtRomPath.Text"), Text("AppDir") + testing::HostPath(typed.copied));
+            Do("answer", "OK");
+            Key("Escape");
+        });
+    }
+}
+
+TEST_F(SettingsWork, ARelativeDirectoryIsScannedOnceItIsSaved) {
+    Start();
+    Open([&] {
+        Set("TxtRomPath.Text", testing::HostPath("Roms/Beta"));
+        Save();
+        Click("LoadBtn");
+        EXPECT_FALSE(open());
+    });
+    EXPECT_EQ(Get("UAE_Short.List"), Json({"Cat (1992)(Maker)"}));
 }
 
 TEST_F(SettingsWork, NobodyClosesTheWindowInARescan) {

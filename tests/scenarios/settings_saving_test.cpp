@@ -217,6 +217,31 @@ TEST_F(Saving, ColoursThatWereTriedGoWithIt) {
     EXPECT_EQ(Get("BackColor"), skin);
 }
 
+TEST_F(Saving, OverASearchInAllListsItsColoursStay) {
+    Start();
+    Do("set", "Form1.SearchDblsTxt.Text", "bee");
+    Do("key", "Form1.SearchDblsTxt", "Ctrl+Enter");
+    ASSERT_TRUE(Visible("GlobalSearchList"));
+    const auto colours = [&] {
+        Json seen;
+        for (const char* name : {"GlobalSearchList", "Label4"}) {
+            for (const char* colour : {".BackColor", ".ForeColor"})
+                seen.push_back(Get(std::string(name) + colour));
+        }
+        return seen;
+    };
+    const Json before = colours();
+    EXPECT_NE(Get("GlobalSearchList.BackColor"), Get("FormBackColor"));
+    OpenShort([&] {
+        Set("ResetScreenRes.Value", 1);
+        Save();
+        EXPECT_EQ(colours(), before);
+        Key("Escape");
+    });
+    EXPECT_TRUE(Visible("GlobalSearchList"));
+    EXPECT_EQ(colours(), before);
+}
+
 // A colour that is only tried must not become the skin's.
 TEST_F(Saving, TriedColoursAreNotStored) {
     Start();
@@ -234,6 +259,26 @@ TEST_F(Saving, TriedColoursAreNotStored) {
         Do("answer", "OK");
         Key("Escape");
     });
+}
+
+TEST_F(Saving, WhileAGameRunsItKeepsTheDevices) {
+    prepare = [this](driver::Session&) { Do("device", "add", "Pad", 18); };
+    Start();
+    EXPECT_EQ(Get("JoystickTimer.Enabled"), true);
+    LaunchBee();
+    EmulatorComesUp();
+    Do("tick", "Form1.EmuActiveTimer");
+    EXPECT_EQ(Get("JoystickTimer.Enabled"), false);
+    OpenShort([&] {
+        Set("ResetScreenRes.Value", 1);
+        Save();
+        EXPECT_EQ(Get("JoystickTimer.Enabled"), false);
+        EXPECT_EQ(Of("Joystickcheck.Value"), 1);
+        Key("Escape");
+    });
+    EmulatorGoes();
+    Do("tick", "Form1.EmuActiveTimer", 5);
+    EXPECT_EQ(Get("JoystickTimer.Enabled"), true);
 }
 
 TEST_F(Saving, WhileAGameRunsItGoesOn) {

@@ -66,6 +66,10 @@ TEST_F(SettingsUpdate, EscapeCancelsAnUpdateAndNothingElseIsTaken) {
             if (++looks != 2) return;
             for (const char* command : {"IniBtn", "Label7", "LoadBtn", "ExitBtn"})
                 Click(command);
+            Set("ResetScreenRes.Value", 1);
+            Click("SaveBtn");
+            EXPECT_TRUE(Unsaved());
+            Set("ResetScreenRes.Value", 0);
             EXPECT_EQ(Runs(), Json::array());
             EXPECT_TRUE(Boxes().empty());
             Key("Enter");
@@ -85,6 +89,7 @@ TEST_F(SettingsUpdate, EscapeCancelsAnUpdateAndNothingElseIsTaken) {
         EXPECT_TRUE(open()) << "it has cancelled the update and not closed the window";
         Click("IniBtn");
         EXPECT_FALSE(Runs().empty()) << "what is pressed is taken again";
+        Save();
         Key("Escape");
         EXPECT_FALSE(open());
     });

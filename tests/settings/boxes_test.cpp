@@ -45,9 +45,12 @@ TEST_F(Boxes, StartingAndImportingSpeakGerman) {
 TEST_F(Boxes, WhatCouldNotBeWrittenIsNamed) {
     for (const core::ProgramState& program : {german, english}) {
         EXPECT_NE(NotSavedBox("/k/x.ini", program).text.find("\r\r/k/x.ini"), std::string::npos);
-        EXPECT_NE(MasterQuestion("/k/m.uaecfg", program).text.find("\r\r/k/m.uaecfg\r\r"),
-                  std::string::npos);
-        EXPECT_EQ(MasterQuestion("", program).buttons, Buttons::YesNo);
+        for (const bool emptied : {false, true}) {
+            const Box box = MasterQuestion("/k/m.uaecfg", program, emptied);
+            EXPECT_NE(box.text.find("\r\r/k/m.uaecfg\r\r"), std::string::npos);
+            EXPECT_EQ(box.buttons, Buttons::YesNo);
+        }
+        EXPECT_NE(MasterQuestion("", program, false), MasterQuestion("", program, true));
         EXPECT_EQ(NotSavedBox("", program).icon, Icon::Error);
     }
     EXPECT_NE(NotSavedBox("", german), NotSavedBox("", english));
@@ -56,7 +59,8 @@ TEST_F(Boxes, WhatCouldNotBeWrittenIsNamed) {
     EXPECT_EQ(NotEditedBox("/k/x.ini", german), noEditor);
     EXPECT_EQ(NotEditedBox("/k/x.ini", english).text,
               "No editor could be started for this file:\r\r/k/x.ini");
-    EXPECT_NE(MasterQuestion("", german), MasterQuestion("", english));
+    for (const bool emptied : {false, true})
+        EXPECT_NE(MasterQuestion("", german, emptied), MasterQuestion("", english, emptied));
 }
 
 }  // namespace

@@ -71,6 +71,22 @@ TEST_F(Known, APathThatIsThereStays) {
     EXPECT_EQ(window.UAELaunchParaneter.Text(), "-skip_gameinfo");
 }
 
+TEST_F(Known, WinUaesRowShowsItsPanelForAPathOfAnyName) {
+    window.txtWinUAEExe.SetText("/e/start-amiga.sh");
+    ASSERT_FALSE(window.WinUAEBtn.Visible());
+    Answers({Answer::Yes, Answer::Yes});
+    input.Click(window.KnownEmuCombo, 1);
+    EXPECT_FALSE(window.WinUAEBtn.Visible());
+    input.Click(window.KnownEmuCombo, RowOf("WinUAE (Amiga 500) (Windows, Wine)"));
+    EXPECT_EQ(window.txtWinUAEExe.Text(), "/e/start-amiga.sh");
+    EXPECT_EQ(window.UseMasterConfig.Value(), 1);
+    EXPECT_TRUE(window.WinUAEBtn.Visible());
+    // A path that is typed from then on counts as told.
+    window.txtWinUAEExe.SetText("/e/start-amiga2.sh");
+    EXPECT_FALSE(window.WinUAEBtn.Visible());
+    EXPECT_EQ(window.UseMasterConfig.Value(), 0);
+}
+
 TEST_F(Known, ANoChangesNothing) {
     Answers({Answer::No});
     input.Click(window.KnownEmuCombo, 0);

@@ -148,7 +148,7 @@ TEST_F(Master, WhatTheDefaultsOfAnotherEmulatorEmptiedIsLeftAlone) {
     const std::string shown = Load("a=1\r\n");
     text.EmptiedByDefaults();
     EXPECT_EQ(text.StepFor(""), Step::leave);
-    EXPECT_EQ(text.StepFor("b=1"), Step::write);
+    EXPECT_EQ(text.StepFor("b=1"), Step::ask);
     // Even where another program has written it meanwhile.
     disk.AddFile(master, "new");
     EXPECT_EQ(text.StepFor(""), Step::leave);
@@ -157,6 +157,16 @@ TEST_F(Master, WhatTheDefaultsOfAnotherEmulatorEmptiedIsLeftAlone) {
     text.EmptiedByDefaults();
     ASSERT_TRUE(Import(""));
     EXPECT_EQ(text.StepFor(""), Step::write);
+}
+
+TEST_F(Master, AnEmptyFileNeedsNoQuestionBehindTheDefaults) {
+    Load("\r\n");
+    text.EmptiedByDefaults();
+    EXPECT_EQ(text.StepFor("b=1"), Step::write);
+    disk.Remove(master);
+    text.Load(master);
+    text.EmptiedByDefaults();
+    EXPECT_EQ(text.StepFor("b=1"), Step::write);
 }
 
 TEST_F(Master, WhatAnotherProgramWroteIsTakenOverOrAskedAbout) {

@@ -48,8 +48,6 @@ TEST_F(NewGroup, WhileAnEmulatorIsWatchedThereIsNoNewOne) {
     form.EmuActiveTimer.SetEnabled(true);
     newEmulator.ShowState();
     EXPECT_FALSE(window.NewEmuBtn.Enabled());
-    newEmulator.NewEmuBtn_Click();
-    EXPECT_THAT(host.dialogs.shown, IsEmpty());
     // A game that was seen as started stays so without the watch.
     form.EmuActiveTimer.SetEnabled(false);
     form.GameIsRunning = true;
@@ -58,6 +56,28 @@ TEST_F(NewGroup, WhileAnEmulatorIsWatchedThereIsNoNewOne) {
     form.Busy = true;
     newEmulator.NewEmuBtn_Click();
     EXPECT_THAT(host.dialogs.shown, IsEmpty());
+}
+
+// The watch rests under the window.
+TEST_F(NewGroup, WhatWasStartedOutOfTheWindowIsLookedForByAPress) {
+    form.CurrentRunninApplication = "stella.exe";
+    form.EmuActiveTimer.SetEnabled(true);
+    Press({"Gamma"});
+    EXPECT_EQ(running.looks, 1);
+    ASSERT_EQ(host.dialogs.shown.size(), 1U);
+    EXPECT_EQ(host.dialogs.shown[0].title, "New emulator");
+    EXPECT_EQ(host.dialogs.shown[0].text,
+              "stella.exe\r\rThis program is still running. Please end it first.");
+    EXPECT_THAT(loads, IsEmpty());
+    // It has gone, and the main window has come back on top.
+    running.onLook = [this] {
+        form.EmuActiveTimer.SetEnabled(false);
+        form.SetTopmost(true);
+    };
+    Press({"Gamma"});
+    EXPECT_EQ(running.looks, 2);
+    EXPECT_THAT(loads, ElementsAre(false));
+    EXPECT_FALSE(form.IsTopmost());
 }
 
 TEST_F(NewGroup, ANewOneIsMadeListedAndLoaded) {

@@ -80,10 +80,22 @@ TEST_F(Paths, TheGamesOfAnotherProgramAreGuessedWhereTheDirectoryIsOfNoUse) {
     EnterProgram("E:\\Emu\\thing.exe");
     EXPECT_EQ(window.TxtRomPath.Text(), "D:\\Games\\");
     window.TxtRomPath.SetText("D:\\none\\");
-    window.txtWinUAEExe.SetFocus();
-    Leave();
+    EnterProgram("E:\\Emu\\THING.exe");
     EXPECT_EQ(window.TxtRomPath.Text(), "E:\\Emu\\Disks\\");
     EXPECT_FALSE(Fault(SettingsForm::faultyRomPath));
+}
+
+TEST_F(Paths, ADirectoryThatIsNotThereNowStaysWhereNothingWasTyped) {
+    window.TxtRomPath.SetText("F:\\Games\\");
+    ASSERT_TRUE(Fault(SettingsForm::faultyRomPath));
+    window.txtWinUAEExe.SetFocus();
+    Leave();
+    EXPECT_EQ(window.TxtRomPath.Text(), "F:\\Games\\");
+    // One that nobody has chosen does not.
+    window.TxtRomPath.SetText("");
+    window.txtWinUAEExe.SetFocus();
+    Leave();
+    EXPECT_EQ(window.TxtRomPath.Text(), "D:\\Emu\\");
 }
 
 TEST_F(Paths, TheLaunchersOwnDirectoryGivesWayToTheProgramsAndAnyOtherStays) {
@@ -262,7 +274,7 @@ TEST_F(Paths, LaunchButtonStartsTheProgramAndLooksWhetherItRuns) {
     EXPECT_EQ(files.CurrentDirectory(), "C:\\Kivu");
     EXPECT_TRUE(window.LaunchButton.Enabled());
     EXPECT_TRUE(window.LaunchButton.HasFocus());
-    EXPECT_FALSE(window.NewEmuBtn.Enabled());
+    EXPECT_TRUE(window.NewEmuBtn.Enabled());
     EXPECT_FALSE(window.SaveBtn.Enabled());
 }
 

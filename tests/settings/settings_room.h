@@ -140,7 +140,7 @@ struct SettingsRoom : launch::LaunchRoom {
     KnownGroup known{window, form, {disk, host.starter, host.dialogs}, winuae};
     testing::ScriptedWindows windows;
     NewEmulatorGroup newEmulator{
-        window, form, {disk, host.dialogs, switching, windows, alwaysOnTop}};
+        window, form, {disk, host.dialogs, switching, running, windows, alwaysOnTop}};
     PathsGroup paths{window,
                      form,
                      {disk, host.dialogs, fileDialogs, emulatorSetup},

@@ -3,8 +3,8 @@
 #include <gmock/gmock.h>
 
 #include "launch/uae_configuration.h"
-#include "settings_room.h"
 #include "testing/md5.h"
+#include "winuae_room.h"
 
 namespace kivu::settings {
 namespace {
@@ -14,32 +14,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 using ::testing::Pair;
 using Answer = platform::Answer;
-
-constexpr const char* masterName = "C:\\Kivu\\Config\\Kivu_Master.uaecfg";
-
-// An emulator that was switched to with the template on.
-struct Winuae : ::testing::Test, SettingsRoom {
-    Winuae() {
-        files.AddFile("D:\\Emu\\winuae.exe", "MZ");
-        files.AddFile("D:\\Games\\a.adf", "x");
-        Master("a=1\r\nfloppy1=x\r\n");
-        form.MasterConfigName = masterName;
-    }
-    void Master(std::string_view bytes) { files.AddFile(masterName, bytes); }
-    std::string OnDisk() const { return files.BytesOf(masterName); }
-    void OpenWindow() {
-        winuae.LoadMaster();
-        Open("D:\\Emu\\winuae.exe", "D:\\Games\\");
-        window.UseMasterConfig.SetValue(1);
-        window.SaveBtn.SetEnabled(false);
-    }
-    bool Import(std::string_view bytes) {
-        files.AddFile("D:\\Emu\\other.uae", bytes);
-        fileDialogs.answers = {"D:\\Emu\\other.uae"};
-        window.Command1.Click();
-        return TakeBoxes().empty();
-    }
-};
 
 // --- The panel.
 
@@ -120,163 +94,6 @@ TEST_F(Winuae, ARomIsLookedForFromItsSignToo) {
     EXPECT_TRUE(window.SaveBtn.Enabled());
     EXPECT_EQ(fileDialogs.asked.back().title, "WinUAE.Exe wählen");
     EXPECT_EQ(fileDialogs.asked.back().mask, "*.rom");
-}
-
-// --- The master.
-
-TEST_F(Winuae, TheMasterIsShownWithoutWhatEachLaunchWrites) {
-    OpenWindow();
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "a=1\r\n\r\n");
-    winuae.LoadMaster();
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
-}
-
-TEST_F(Winuae, TheDefaultLosesAnEmptyLineAndGainsOne) {
-    Master(launch::DefaultMasterConfiguration());
-    OpenWindow();
-    EXPECT_EQ(Md5::Of(window.TxtMasterConfig.Text()), "ee4ad06ec82e9684987c084ba9ed86c6");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(Md5::Of(OnDisk()), "b8b95985ca33188f9ed5b9f1a5271c6c");
-}
-
-TEST_F(Winuae, WithoutATemplateThereIsNothingToSave) {
-    form.MasterConfigName.clear();
-    OpenWindow();
-    window.UseMasterConfig.SetValue(0);
-    window.TxtMasterConfig.SetText("b=2");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
-}
-
-TEST_F(Winuae, WhatAnotherEmulatorsDefaultsEmptiedStaysOnTheDisk) {
-    OpenWindow();
-    window.txtWinUAEExe.SetFocus();
-    Answers({Answer::Yes, Answer::Yes});
-    EnterProgram("D:\\x\\handy.exe");
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
-    // What is typed from then on is meant.
-    window.TxtMasterConfig.SetText("b=2\r\n");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
-}
-
-TEST_F(Winuae, ATextTypedBehindANewTickIsSaved) {
-    form.MasterConfigName.clear();
-    files.Remove(masterName);
-    OpenWindow();
-    window.TxtMasterConfig.SetText("b=2\r\n");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(form.MasterConfigName, masterName);
-    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
-    EXPECT_THAT(TakeBoxes(), IsEmpty());
-}
-
-TEST_F(Winuae, ANewTickAloneShowsTheMasterOfTheOthers) {
-    form.MasterConfigName.clear();
-    OpenWindow();
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
-    EXPECT_EQ(OnDisk(), "a=1\r\n\r\n");
-}
-
-TEST_F(Winuae, ATextTypedBehindANewTickDoesNotReplaceTheMasterOfTheOthersUnasked) {
-    form.MasterConfigName.clear();
-    OpenWindow();
-    window.TxtMasterConfig.SetText("b=2\r\n");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(TakeBoxes().size(), 1U);
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
-    EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
-}
-
-TEST_F(Winuae, AMasterThatASaveMakesKeepsItsDefault) {
-    files.Remove(masterName);
-    OpenWindow();
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), launch::DefaultMasterConfiguration());
-    EXPECT_EQ(window.TxtMasterConfig.Text().size(), 229U);
-}
-
-TEST_F(Winuae, AnotherProgramsChangeIsTakenWhereTheBoxIsUntouched) {
-    OpenWindow();
-    Master("c=3\r\n");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "c=3\r\n");
-    EXPECT_EQ(OnDisk(), "c=3\r\n");
-    EXPECT_THAT(TakeBoxes(), IsEmpty());
-}
-
-TEST_F(Winuae, WhereBothHaveChangedItTheUserIsAsked) {
-    OpenWindow();
-    window.TxtMasterConfig.SetText("b=2\r\n");
-    Master("c=3\r\n");
-    Answers({Answer::No});
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_THAT(
-        TakeBoxes(),
-        ElementsAre(Pair("WinUAE config template",
-                         std::string("Another program has changed this file meanwhile:\r\r") +
-                             masterName +
-                             "\r\rDo you want to overwrite it with the text of this "
-                             "window?")));
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "c=3\r\n");
-    window.TxtMasterConfig.SetText("b=2\r\n");
-    Master("d=4\r\n");
-    Answers({Answer::Yes});
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
-}
-
-TEST_F(Winuae, AFailedWriteIsToldAndLeavesTheOldFile) {
-    OpenWindow();
-    window.TxtMasterConfig.SetText("b=2\r\n");
-    files.SetReadOnly(masterName);
-    EXPECT_FALSE(winuae.SaveMaster());
-    EXPECT_THAT(TakeBoxes(), ElementsAre(Pair("Save", std::string("This file could not be "
-                                                                  "written:\r\r") +
-                                                          masterName)));
-    EXPECT_EQ(OnDisk(), "a=1\r\nfloppy1=x\r\n");
-    files.SetReadOnly(masterName, false);
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
-}
-
-TEST_F(Winuae, AMasterThatIsNoTextIsNeitherShownNorReplaced) {
-    for (const std::string& bytes :
-         {std::string("a\0b", 3), std::string(largestConfiguration + 1, 'a')}) {
-        Master(bytes);
-        OpenWindow();
-        EXPECT_EQ(window.TxtMasterConfig.Text(), "");
-        EXPECT_TRUE(winuae.SaveMaster());
-        EXPECT_EQ(OnDisk(), bytes);
-    }
-}
-
-TEST_F(Winuae, ADoubleClickOpensTheMasterInAnEditor) {
-    OpenWindow();
-    window.WinUAEBtn.Click();
-    input.DoubleClick(window.TxtMasterConfig);
-    ASSERT_EQ(host.starter.runs.size(), 1U);
-    EXPECT_TRUE(host.starter.runs[0].edited);
-    EXPECT_EQ(host.starter.runs[0].request.command, masterName);
-    EXPECT_TRUE(window.SaveBtn.Enabled());
-    // The work done there is not overwritten.
-    Master("edited=1\r\n");
-    EXPECT_TRUE(winuae.SaveMaster());
-    EXPECT_EQ(OnDisk(), "edited=1\r\n");
-    EXPECT_EQ(window.TxtMasterConfig.Text(), "edited=1\r\n");
-    host.starter.result = std::make_error_code(std::errc::no_such_file_or_directory);
-    input.DoubleClick(window.TxtMasterConfig);
-    EXPECT_THAT(TakeBoxes(),
-                ElementsAre(Pair("Editor", std::string("No editor could be started for this "
-                                                       "file:\r\r") +
-                                               masterName)));
 }
 
 // --- Taking a configuration over.

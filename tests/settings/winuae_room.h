@@ -1,0 +1,36 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <string_view>
+
+#include "settings_room.h"
+
+namespace kivu::settings {
+
+inline constexpr const char* masterName = "C:\\Kivu\\Config\\Kivu_Master.uaecfg";
+
+// An emulator that was switched to with the template on.
+struct Winuae : ::testing::Test, SettingsRoom {
+    Winuae() {
+        files.AddFile("D:\\Emu\\winuae.exe", "MZ");
+        files.AddFile("D:\\Games\\a.adf", "x");
+        Master("a=1\r\nfloppy1=x\r\n");
+        form.MasterConfigName = masterName;
+    }
+    void Master(std::string_view bytes) { files.AddFile(masterName, bytes); }
+    std::string OnDisk() const { return files.BytesOf(masterName); }
+    void OpenWindow() {
+        winuae.LoadMaster();
+        Open("D:\\Emu\\winuae.exe", "D:\\Games\\");
+        window.UseMasterConfig.SetValue(1);
+        window.SaveBtn.SetEnabled(false);
+    }
+    bool Import(std::string_view bytes) {
+        files.AddFile("D:\\Emu\\other.uae", bytes);
+        fileDialogs.answers = {"D:\\Emu\\other.uae"};
+        window.Command1.Click();
+        return TakeBoxes().empty();
+    }
+};
+
+}  // namespace kivu::settings
