@@ -76,6 +76,7 @@ int main(int argc, char** argv) {
 
     kivu::view::FormView view(launcher.MainWindow());
     view.SetCompositing(kivu::hosts::IsComposited);
+    view.SetClock([&clock = host.Services().clock] { return clock.Steady(); });
     view.onClosed = EndAtOnce;
     windows.AdoptView(launcher.MainWindow(), view);
     const kivu::view::ProgramEnd sessionEnd([&] { launcher.SessionEnds(); },

@@ -286,6 +286,7 @@ bool FormView::eventFilter(QObject* object, QEvent* event) {
     if (object == surface.get() && event->type() == QEvent::UpdateRequest) return rest.Holds();
     const RepaintRest::Handler running(rest);
     const forms::HeldForm held(form);
+    altKey.See(*event);
     if (object == surface.get() && WindowEvent(*event)) return true;
     return HandEvent(*object, mirror, *event);
 }
@@ -365,8 +366,7 @@ bool FormView::WindowEvent(QEvent& event) {
 
 // Window managers take Alt+F4 for themselves and ask the window to close.
 bool FormView::IsCloseKey() {
-    if (closeKeyPassed || !(QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier))
-        return false;
+    if (closeKeyPassed || !altKey.IsHeld()) return false;
     return input.KeyDown({forms::keys::f4, forms::shifts::alt}).code == 0;
 }
 

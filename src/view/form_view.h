@@ -9,6 +9,7 @@
 
 #include "forms/form.h"
 #include "forms/user_input.h"
+#include "view/alt_key.h"
 #include "view/form_surface.h"
 #include "view/keyboard.h"
 #include "view/mirror.h"
@@ -44,6 +45,8 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     // Asked now and whenever the window comes to the front: whether the screen can blend the window
     // into what lies behind it. Without this it is taken to.
     void SetCompositing(std::function<bool()> ask);
+    // Of the host; tells Alt+F4 from a panel's close request where Alt is let go quickly.
+    void SetClock(AltKey::Clock clock) { altKey.SetClock(std::move(clock)); }
     // Brings the window back to the front, out of the task bar too.
     void Summon();
     QWidget& Window() { return *surface; }
@@ -91,6 +94,7 @@ class FormView : public QObject, private forms::Observer, private MirrorHost {
     WindowDrag drag;
     Pointer pointer;
     Keyboard keyboard;
+    AltKey altKey;
     std::unordered_map<const forms::Control*, std::unique_ptr<Mirror>> mirrors;
     std::unordered_map<const QObject*, Mirror*> watched;
     std::vector<Mirror*> waiting;  // for a flush

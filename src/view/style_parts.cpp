@@ -29,13 +29,26 @@ QColor DisabledFace(const QPalette& palette) {
     return Mix(palette.color(QPalette::Window), palette.color(QPalette::Button), 0.35);
 }
 
+QColor ButtonLetters(const QPalette& palette) {
+    return Readable(palette.color(QPalette::ButtonText), palette.color(QPalette::Button));
+}
+
+// The face moved towards a colour, or away from its letters where these would be lost: they keep
+// their colour whatever the mouse does.
+QColor Moved(const QColor& face, const QColor& letters, const QColor& towards, double opacity) {
+    const QColor moved = Mix(face, towards, opacity);
+    if (Contrast(letters, moved) >= textContrast) return moved;
+    return Mix(face, IsDark(letters) ? QColor(Qt::white) : QColor(Qt::black), opacity);
+}
+
 QColor ButtonFace(const QStyleOption& option) {
     if (!Has(option, QStyle::State_Enabled)) return DisabledFace(option.palette);
     const QColor face = option.palette.color(QPalette::Button);
+    const QColor letters = ButtonLetters(option.palette);
     if (Has(option, QStyle::State_Sunken) || Has(option, QStyle::State_On))
-        return Mix(face, Qt::black, 0.18);
+        return Moved(face, letters, Qt::black, 0.18);
     if (!Has(option, QStyle::State_MouseOver)) return face;
-    return Mix(face, IsDark(face) ? QColor(Qt::white) : QColor(Qt::black), 0.12);
+    return Moved(face, letters, IsDark(face) ? Qt::white : Qt::black, 0.12);
 }
 
 }  // namespace
@@ -86,9 +99,10 @@ void DrawButton(QPainter& painter, const QStyleOption& option) {
 void DrawButtonText(QPainter& painter, const QStyleOptionButton& button, const QStyle& style) {
     const bool enabled = Has(button, QStyle::State_Enabled);
     const QColor face = ButtonFace(button);
-    QColor color =
-        Readable(button.palette.color(QPalette::ButtonText), face, enabled ? textContrast : 3.5);
-    if (!enabled) color = MixFor(3.5, face, color, 0.5);
+    constexpr double off = 3.5;
+    const QColor wanted = button.palette.color(QPalette::ButtonText);
+    const QColor color = enabled ? ButtonLetters(button.palette)
+                                 : MixFor(off, face, Readable(wanted, face, off), 0.5);
     painter.save();
     painter.setPen(color);
     const QRect rect = button.rect.adjusted(4, 0, -4, 0);

@@ -22,21 +22,30 @@ inline double Contrast(const QColor& a, const QColor& b) {
     return (std::max(x, y) + 0.05) / (std::min(x, y) + 0.05);
 }
 
-// Between the ground, which is the commonest colour, and the one furthest from it, which is the
-// writing's or a shape's.
-inline double FurthestContrast(const QImage& picture) {
+struct Inks {
+    QRgb ground;    // the commonest colour
+    QRgb furthest;  // from it: the writing's or a shape's
+};
+
+inline Inks InksOf(const QImage& picture) {
     std::map<QRgb, int> counts;
     for (int y = 0; y < picture.height(); ++y)
         for (int x = 0; x < picture.width(); ++x)
             ++counts[picture.pixel(x, y)];
-    if (counts.empty()) return 1;
+    if (counts.empty()) return {};
     QRgb ground = counts.begin()->first;
     for (const auto& [color, count] : counts)
         if (count > counts[ground]) ground = color;
-    double contrast = 1;
+    QRgb furthest = ground;
+    const auto contrast = [&](QRgb color) { return Contrast(QColor(color), QColor(ground)); };
     for (const auto& [color, count] : counts)
-        contrast = std::max(contrast, Contrast(QColor(color), QColor(ground)));
-    return contrast;
+        if (contrast(color) > contrast(furthest)) furthest = color;
+    return {ground, furthest};
+}
+
+inline double FurthestContrast(const QImage& picture) {
+    const Inks inks = InksOf(picture);
+    return Contrast(QColor(inks.ground), QColor(inks.furthest));
 }
 
 }  // namespace kivu::tests

@@ -131,6 +131,33 @@ TEST_F(ContrastTest, WordsCanBeRead) {
     });
 }
 
+TEST_F(ContrastTest, LettersOfAButtonKeepTheirColourUnderTheMouse) {
+    Show();
+    const QRect words(8, 8, 80, 24);
+    const auto hold = [this](bool over, bool down) {
+        Hover(Find("Button"), over);
+        Find<QAbstractButton>("Button")->setDown(down);
+    };
+    // Faces on which one ink or the other has little to spare.
+    std::vector<QColor> faces{QColor(0x3f, 0x74, 0xc4)};
+    for (int part = 0; part <= 255; part += 5)
+        faces.emplace_back(part, part, part);
+    for (const QColor& face : faces) {
+        for (const QColor& ink : {QColor(Qt::white), QColor(Qt::black)}) {
+            Dress({QString(), face, ink});
+            hold(false, false);
+            const QImage rest = Grab("Button", words);
+            for (const bool down : {false, true}) {
+                hold(true, down);
+                const QImage picture = Grab("Button", words);
+                EXPECT_GE(FurthestContrast(picture), text) << face.name().toStdString() << down;
+                EXPECT_EQ(InksOf(picture).furthest, InksOf(rest).furthest)
+                    << face.name().toStdString() << down;
+            }
+        }
+    }
+}
+
 TEST_F(ContrastTest, TabsCanBeReadUnderTheMouseToo) {
     form.label.onClick = [] {};
     InEachLook([this] {

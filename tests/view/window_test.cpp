@@ -187,6 +187,40 @@ TEST_F(WindowTest, CloseRequestWhileAltIsHeldIsAltF4) {
     QTest::keyRelease(view.Window().windowHandle(), Qt::Key_Alt, Qt::NoModifier);
 }
 
+TEST_F(WindowTest, CloseRequestSoonAfterAltIsAltF4) {
+    std::chrono::milliseconds now{1000};
+    view.SetClock([&] { return now; });
+    std::vector<forms::Key> struck;
+    form.onPreviewKeyDown = [&](forms::Key& key) {
+        struck.push_back(key);
+        key = {};
+    };
+    form.onQueryClose = [this](bool& cancel) {
+        form.log.push_back("close");
+        cancel = true;
+    };
+    Show();
+    const auto altThenClose = [&](int later) {
+        QTest::keyPress(Native(), Qt::Key_Alt, Qt::AltModifier);
+        QTest::keyRelease(Native(), Qt::Key_Alt, Qt::NoModifier);
+        struck.clear();
+        now += std::chrono::milliseconds(later);
+        EXPECT_FALSE(view.Window().close());
+    };
+    altThenClose(500);
+    EXPECT_EQ(struck, (std::vector{forms::Key{forms::keys::f4, forms::shifts::alt}}));
+    EXPECT_TRUE(form.log.empty());
+    // Later it is a panel's, and so it is after another key.
+    altThenClose(501);
+    EXPECT_TRUE(struck.empty());
+    EXPECT_EQ(form.log.size(), 1U);
+    QTest::keyPress(Native(), Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyRelease(Native(), Qt::Key_Alt, Qt::NoModifier);
+    Key(Qt::Key_X);
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_EQ(form.log.size(), 2U);
+}
+
 TEST_F(WindowTest, QuestionOverAMinimisedWindowIsSeen) {
     Show();
     form.SetState(forms::WindowState::minimized);
