@@ -93,6 +93,11 @@ void MasterText::FileMade() {
     made = true;
 }
 
+void MasterText::FileMadeWith(std::string_view bytes) {
+    const File file = Read(path);
+    if (!read.exists && file.bytes == bytes) FileMade();
+}
+
 std::optional<std::string> MasterText::Import(const std::string& name) {
     const File file = Read(name);
     if (!file.bytes) return std::nullopt;

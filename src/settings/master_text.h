@@ -38,6 +38,8 @@ class MasterText {
     // The launcher has made the missing file: no change by another program, and nothing that the
     // box has said anything about.
     void FileMade();
+    // The same where it holds these bytes: loading the emulator has made it.
+    void FileMadeWith(std::string_view bytes);
 
     // What the box shows of a configuration that is taken over. Empty optional: it cannot be read,
     // or is too large or no text; the box then keeps what it has.

@@ -3,6 +3,7 @@
 #include "core/form1.h"
 #include "launch/emulator_program.h"
 #include "launch/game_launch.h"
+#include "launch/uae_configuration.h"
 #include "launch/uae_files.h"
 #include "settings/boxes.h"
 #include "settings/disabled_meanwhile.h"
@@ -54,6 +55,7 @@ void WinuaeGroup::TakeMaster() {
         LoadMaster();
     } else {
         master.SetPath(main.MasterConfigName);
+        master.FileMadeWith(launch::DefaultMasterConfiguration());
     }
 }
 

@@ -58,6 +58,8 @@ TEST_F(SettingsWork, ARelativeDirectoryIsBelowTheProgramsWhereverTheProcessStand
         SCOPED_TRACE(typed.text);
         Start();
         Open([&] {
+            // Leaving the program's field would propose another one for an empty text.
+            Do("focus", "SettingsForm.DirBefehleTxt");
             Set("TxtRomPath.Text", testing::HostPath(typed.text));
             Click("LoadBtn");
             EXPECT_EQ(Boxes().size(), 1U);

@@ -133,6 +133,17 @@ TEST_F(FirstWinuae, SavesWhatWasTypedForIt) {
     EXPECT_THAT(TakeBoxes(), IsEmpty());
 }
 
+// The change to the new emulator has made it.
+TEST_F(FirstWinuae, SavesWhatWasTypedOverTheLaunchersOwnDefault) {
+    winuae.EmptyMasterText();
+    window.TxtMasterConfig.SetText("b=2\r\n");
+    Master(launch::DefaultMasterConfiguration());
+    LoadNew();
+    EXPECT_TRUE(winuae.SaveMaster());
+    EXPECT_EQ(OnDisk(), "b=2\r\n\r\n");
+    EXPECT_THAT(TakeBoxes(), IsEmpty());
+}
+
 TEST_F(FirstWinuae, ShowsTheMasterWhereNothingWasTyped) {
     LoadNew();
     EXPECT_EQ(window.TxtMasterConfig.Text(), "a=1\r\n");
