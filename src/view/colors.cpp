@@ -63,10 +63,14 @@ QColor Readable(const QColor& wanted, const QColor& background, double enough) {
     return Contrast(onAccent, background) >= enough ? onAccent : QColor(Qt::black);
 }
 
+double ShapeContrastOn(const QColor& window) {
+    return IsDark(window) ? shapeContrast : shapeContrast * 1.3;
+}
+
 QColor AccentOn(const QColor& background) {
+    const double enough = ShapeContrastOn(background);
     QColor seen = accent;
-    for (double shade = 0.04; Contrast(seen, background) < shapeContrast && shade < 1;
-         shade += 0.04)
+    for (double shade = 0.04; Contrast(seen, background) < enough && shade < 1; shade += 0.04)
         seen = Mix(accent, Qt::black, shade);
     return seen;
 }

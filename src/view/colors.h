@@ -13,6 +13,10 @@ inline const QColor onAccent(0x14, 0x1c, 0x2b);
 inline constexpr double textContrast = 4.5;
 inline constexpr double shapeContrast = 3;
 
+// What a shape needs to be seen everywhere on a window of this colour, which shades towards its
+// bottom: dark shapes on a light one lose by that.
+double ShapeContrastOn(const QColor& window);
+
 QColor ToQt(forms::Color color);
 
 // `top` laid over `bottom` with an opacity of 0 to 1.

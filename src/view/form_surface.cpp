@@ -100,7 +100,8 @@ QImage FormSurface::Gradient(QSize pixels) const {
     QLinearGradient gradient(0, 0, 0, pixels.height());
     gradient.setColorAt(0, Mix(back, Qt::white, 0.07));
     gradient.setColorAt(0.25, back);
-    gradient.setColorAt(1, Mix(back, Qt::black, 0.42));
+    // A light one stays light: what is written and drawn on it is dark.
+    gradient.setColorAt(1, Mix(back, Qt::black, IsDark(back) ? 0.42 : 0.1));
     QPainter painter(&column);
     painter.setCompositionMode(QPainter::CompositionMode_Source);
     painter.fillRect(column.rect(), gradient);

@@ -21,7 +21,7 @@ QColor LineOn(const QColor& background, double strength) {
 
 // The line of a control that nothing else tells from what lies around it.
 QColor ShapeOn(const QColor& background, double strength) {
-    return MixFor(shapeContrast, background, InkOn(background, 255), strength);
+    return MixFor(ShapeContrastOn(background), background, InkOn(background, 255), strength);
 }
 
 // A button that is off sinks into its window.
@@ -76,7 +76,7 @@ void DrawField(QPainter& painter, const QStyleOption& option, const QColor& arou
     const QColor mark = seenAround ? accent : AccentOn(option.palette.color(QPalette::Base));
     const double strength = hover ? 0.45 : 0.28;
     const bool standsOut = !enabled || Contrast(back, around) >= shapeContrast;
-    const QColor quiet = standsOut ? LineOn(back, strength) : ShapeOn(back, strength);
+    const QColor quiet = standsOut ? LineOn(back, strength) : ShapeOn(around, strength);
     FillRounded(painter, option.rect, cornerRadius, back, focus ? mark : quiet, focus ? 2 : 1);
 }
 
@@ -123,7 +123,7 @@ void DrawCheck(QPainter& painter, const QStyleOption& option) {
     const QColor mark = AccentOn(window);
     QColor fill = on || between ? mark : Mix(window, text, 0.12);
     const bool focus = Has(option, QStyle::State_HasFocus);
-    const QColor quiet = MixFor(shapeContrast, window, text, 0.55);
+    const QColor quiet = MixFor(ShapeContrastOn(window), window, text, 0.55);
     QColor line = focus || Has(option, QStyle::State_MouseOver) ? mark : quiet;
     // The accent would not be seen around itself.
     if (focus && (on || between)) line = text;
@@ -155,7 +155,7 @@ void DrawRadio(QPainter& painter, const QStyleOption& option) {
     const QColor text = Readable(option.palette.color(QPalette::WindowText), window, shapeContrast);
     const QColor mark = AccentOn(window);
     const bool marked = on || Has(option, QStyle::State_MouseOver);
-    const QColor line = marked ? mark : MixFor(shapeContrast, window, text, 0.55);
+    const QColor line = marked ? mark : MixFor(ShapeContrastOn(window), window, text, 0.55);
     FillRounded(painter, box, box.width() / 2, Mix(window, text, 0.12), line, 1.2);
     if (!on) return;
     const double inset = box.width() * 0.26;
@@ -182,7 +182,7 @@ void DrawSlider(QPainter& painter, const QStyleOptionSlider& slider, const QRect
     const bool upright = slider.orientation == Qt::Vertical;
     const QColor window = slider.palette.color(QPalette::Window);
     const QColor text = Readable(slider.palette.color(QPalette::WindowText), window, shapeContrast);
-    const QColor quiet = MixFor(shapeContrast, window, text, 0.35);
+    const QColor quiet = MixFor(ShapeContrastOn(window), window, text, 0.35);
     const QColor mark = AccentOn(window);
     QRectF groove = slider.rect;
     if (upright) {
