@@ -12,10 +12,13 @@ constexpr std::chrono::milliseconds onItsWay{500};
 void AltKey::See(const QEvent& event) {
     const bool isKey = event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
     if (!isKey || !clock) return;
+    const bool pressed = event.type() == QEvent::KeyPress;
     if (static_cast<const QKeyEvent&>(event).key() == Qt::Key_Alt) {
-        moved = clock();
-    } else if (event.type() == QEvent::KeyPress) {
-        // Alt was for that one.
+        if (pressed) used = false;
+        if (!used) moved = clock();
+    } else if (pressed) {
+        // Alt was for that one, and is let go after it.
+        used = true;
         moved.reset();
     }
 }

@@ -24,6 +24,7 @@ class AltKey {
  private:
     Clock clock;
     std::optional<std::chrono::milliseconds> moved;  // when it last went down or up
+    bool used = false;  // with another key of the window's since it went down
 };
 
 }  // namespace kivu::view

@@ -219,6 +219,12 @@ TEST_F(WindowTest, CloseRequestSoonAfterAltIsAltF4) {
     Key(Qt::Key_X);
     EXPECT_FALSE(view.Window().close());
     EXPECT_EQ(form.log.size(), 2U);
+    // Alt that was held for another key is let go after it.
+    QTest::keyPress(Native(), Qt::Key_Alt, Qt::AltModifier);
+    QTest::keyClick(Native(), Qt::Key_Right, Qt::AltModifier);
+    QTest::keyRelease(Native(), Qt::Key_Alt, Qt::NoModifier);
+    EXPECT_FALSE(view.Window().close());
+    EXPECT_EQ(form.log.size(), 3U);
 }
 
 TEST_F(WindowTest, QuestionOverAMinimisedWindowIsSeen) {
