@@ -239,6 +239,36 @@ TEST_F(LoadingLaunches, ButtonDuringTheScriptsWaitEndsTheGame) {
     EXPECT_FALSE(IsUp());
 }
 
+// What it types would go to whatever is in front then.
+TEST_F(LoadingLaunches, NoScriptRunsForAGameThatTheUserHasEndedMeanwhile) {
+    Splash("6", {{"RunVBS_Script", "1"}});
+    tree.Write("Config/Alpha/Startscript.vbs", "x");
+    options.windowsStartFiles = true;
+    const std::vector<std::pair<const char*, std::function<void()>>> ways{
+        {"nothing", [] {}},
+        {"screen", [this] { EmulatorComesUp(), Click(".Command1"); }},
+        {"screen, before it is up", [this] { Click(".Command1"); }},
+        {"picture", [this] { EmulatorComesUp(), Call("AppRunningPicture_Click"); }},
+        {"button and its box",
+         [this] { EmulatorComesUp(), Do("answer", "Yes"), Do("click", "Form1.LoadingBtn"); }},
+        {"pad's button", [this] { EmulatorComesUp(), session->Routines().watch.KillRunning(); }},
+    };
+    std::size_t expected = 2;
+    for (const auto& [name, end] : ways) {
+        Start();
+        bool done = false;
+        Host().events.onEvents = [&, &end = end] {
+            if (done || !IsUp() || Text("LoadingBtn.Caption") != "Gamestart..") return;
+            done = true;
+            end();
+        };
+        LaunchBee();
+        EXPECT_TRUE(done) << name;
+        EXPECT_EQ(Runs(), expected) << name;
+        expected = 1;
+    }
+}
+
 TEST_F(LoadingLaunches, ComesUpForEachWayToStartAGame) {
     tree.Write(
         "Config/Favoriten_Global.ini",
