@@ -95,6 +95,8 @@ void RunningWatch::EndOfGame() {
 void RunningWatch::AppRunningPicture_Click() {
     const bool ran = form.EmulatorRuns();
     EndEmulator();
+    // What is under way without a game brings the window back itself, at its end.
+    if (form.Busy && !form.GameIsRunning) return;
     // An emulator that was to be set up has been started out of the choice.
     routines.choice.CloseChoice();
     // The loading screen may outlast its game, or its program was only tried out from the settings:
