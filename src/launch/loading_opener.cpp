@@ -43,16 +43,21 @@ bool LoadingOpener::GivenUp() const {
 }
 
 bool LoadingOpener::TakesKey(const forms::Key& key) {
+    if (key.repeat && key.code == held) return true;
+    held = 0;
     if (key.shift != 0) return false;
     if (key.code == keys::escape && form.StartCanBeGivenUp) {
         form.StartGivenUp = true;
+        held = key.code;
         Unload();
         return true;
     }
     const bool skips =
         key.code == keys::escape || key.code == keys::enter || key.code == keys::space;
     if (!skips || !IsShown()) return false;
-    if (!key.repeat && clock.Steady() - shownAt >= tooSoon) Unload();
+    if (key.repeat || clock.Steady() - shownAt < tooSoon) return true;
+    held = key.code;
+    Unload();
     return true;
 }
 

@@ -141,6 +141,37 @@ TEST_F(LoadingLaunches, KeysSkipItAfterHalfASecond) {
     }
 }
 
+// It would ask to quit, or start the game of the row.
+TEST_F(LoadingLaunches, KeyThatSkipsItMeansNothingElseWhileItIsHeld) {
+    Start();
+    for (const char* key : {"Escape", "Enter", "Space"}) {
+        LaunchBee();
+        Do("tick", "Form1.EmuActiveTimer", 4);
+        EXPECT_EQ(Runs(), 1U);
+        Later(3000);
+        Do("select", "Form1.UAE_Short", 2);
+        Do("key", "Form1.UAE_Short", key);
+        EXPECT_FALSE(IsUp()) << key;
+        for (int repeats = 0; repeats < 3; ++repeats)
+            Do("key", "Form1.UAE_Short", key, "repeat");
+        EXPECT_EQ(Runs(), 0U) << key;
+        EXPECT_EQ(Boxes(), 0U) << key;
+    }
+    Do("answer", "Cancel");
+    Key("Escape");
+    EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LoadingLaunches, KeyThatGivesTheLaunchUpMeansNothingElseWhileItIsHeld) {
+    SplashWithMount("6");
+    Start();
+    DuringLaunch([this] { Key("Escape"); });
+    LaunchBee();
+    Do("key", "Form1", "Escape", "repeat");
+    ExpectGivenUp();
+    EXPECT_FALSE(session->ended);
+}
+
 TEST_F(LoadingLaunches, WithoutItEscapeAsksAsBefore) {
     Start();
     LaunchBee();
