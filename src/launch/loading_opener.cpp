@@ -20,6 +20,8 @@ LoadingOpener::LoadingOpener(core::Form1& form, forms::WindowHost& windows,
 }
 
 void LoadingOpener::ShowLoadingInfo(forms::Form* owner) {
+    // Behind a modal window it could not be clicked: it comes anew over the one in front.
+    if (IsShown() && windows.IsBlocked(window.Get().GetForm())) Unload();
     if (!IsShown()) {
         shownAt = clock.Steady();
         questionsBelow = windows.Questions();
