@@ -41,7 +41,7 @@ void LoadingOpener::Unload() {
 }
 
 bool LoadingOpener::GivenUp() const {
-    return form.StartGivenUp;
+    return form.StartCanBeGivenUp && form.StartGivenUp;
 }
 
 bool LoadingOpener::TakesKey(const forms::Key& key) {

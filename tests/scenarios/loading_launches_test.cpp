@@ -33,6 +33,7 @@ TEST_F(LoadingLaunches, ButtonBeforeTheStartGivesTheLaunchUp) {
     });
     LaunchBee();
     ExpectGivenUp();
+    EXPECT_EQ(Call("GivenUp"), false);
     EXPECT_EQ(Get("GameIsRunning"), false);
     EXPECT_TRUE(Refused("tick", "Form1.EmuActiveTimer"));
     // The next one is a new one.
