@@ -62,12 +62,12 @@ TEST_F(RunningWatchTest, EndOnRequestBringsTheWindowBackWhereNothingIsWatched) {
 // The loading screen has outlasted its game, and its button is clicked in the middle of a rescan.
 TEST_F(RunningWatchTest, EndOnRequestLeavesTheWindowToWhatIsUnderWay) {
     form.CurrentRunninApplication = "game.exe";
-    for (const bool shared : {false, true}) {
-        if (shared) host.processes.Add("game.exe", 7);
+    for (const bool isUp : {false, true}) {
+        if (isUp) host.processes.Add("game.exe", 7);
         form.Busy = true;
         busy.HideAll(false);
         watch.AppRunningPicture_Click();
-        EXPECT_EQ(host.processes.killed.size(), shared ? 1U : 0U);
+        EXPECT_EQ(host.processes.kills.size(), isUp ? 1U : 0U);
         EXPECT_FALSE(form.ListsVisible);
         EXPECT_FALSE(form.SettingsBtn.Visible());
         EXPECT_TRUE(form.LoadingBtn.Visible());
