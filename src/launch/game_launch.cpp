@@ -331,14 +331,24 @@ void GameLaunch::FinishStart(const std::string& notedTitle) {
     if (ini.Read(keys::RunVBS_Script, core::ProfilesOf(form)) > 0) {
         form.LoadingBtn.SetCaption("Gamestart..");
         WAIT(1, services.clock, pacer);
-        form.LoadingBtn.SetCaption("Running Startscript.vbs");
-        routines.helpers.RunStartScript();
+        RunScriptOfGame();
     }
     // In its quotes the path names no file: the start file stays until the next launch, as a look
     // at what was started.
     (void)services.files.DeleteFile(form.TmpBatName);
     pacer.DoEvents();
     form.SetCaption(notedTitle);
+}
+
+// The user may have ended the game meanwhile: what the script types would go to whatever is in
+// front.
+void GameLaunch::RunScriptOfGame() {
+    if (form.StartGivenUp) {
+        services.log.Write("start script not run, the game has been ended");
+        return;
+    }
+    form.LoadingBtn.SetCaption("Running Startscript.vbs");
+    routines.helpers.RunStartScript();
 }
 
 void GameLaunch::SetCurrentRunninApplication(const std::string& NewAppPAth) {

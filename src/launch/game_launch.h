@@ -106,6 +106,7 @@ class GameLaunch : public core::Launching {
     bool ShowLoadingAndMount(const Run& run);
     void StartEmulatorProgram(Run& run);
     void FinishStart(const std::string& notedTitle);
+    void RunScriptOfGame();
     void GiveUp(const Run& run, const std::string& notedTitle, forms::Control* focus);
     void ReturnToLists(forms::Control* focus);
 

@@ -20,6 +20,8 @@ LoadingOpener::LoadingOpener(core::Form1& form, forms::WindowHost& windows,
 }
 
 void LoadingOpener::ShowLoadingInfo(forms::Form* owner) {
+    // Behind a modal window it could not be clicked: it comes anew over the one in front.
+    if (IsShown() && windows.IsBlocked(window.Get().GetForm())) Unload();
     if (!IsShown()) {
         shownAt = clock.Steady();
         questionsBelow = windows.Questions();
@@ -39,20 +41,25 @@ void LoadingOpener::Unload() {
 }
 
 bool LoadingOpener::GivenUp() const {
-    return form.StartGivenUp;
+    return form.StartCanBeGivenUp && form.StartGivenUp;
 }
 
 bool LoadingOpener::TakesKey(const forms::Key& key) {
+    if (key.repeat && key.code == held) return true;
+    held = 0;
     if (key.shift != 0) return false;
     if (key.code == keys::escape && form.StartCanBeGivenUp) {
         form.StartGivenUp = true;
+        held = key.code;
         Unload();
         return true;
     }
     const bool skips =
         key.code == keys::escape || key.code == keys::enter || key.code == keys::space;
     if (!skips || !IsShown()) return false;
-    if (!key.repeat && clock.Steady() - shownAt >= tooSoon) Unload();
+    if (key.repeat || clock.Steady() - shownAt < tooSoon) return true;
+    held = key.code;
+    Unload();
     return true;
 }
 

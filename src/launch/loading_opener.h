@@ -34,6 +34,7 @@ class LoadingOpener : public core::LoadingScreen {
     forms::OnDemand<LoadingWindow> window;
     std::chrono::milliseconds shownAt{};
     int questionsBelow = 0;  // that it has been shown over
+    int held = 0;            // the key that has taken it away, until another press
 };
 
 }  // namespace kivu::launch

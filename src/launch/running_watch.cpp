@@ -95,6 +95,8 @@ void RunningWatch::EndOfGame() {
 void RunningWatch::AppRunningPicture_Click() {
     const bool ran = form.EmulatorRuns();
     EndEmulator();
+    // What is under way without a game brings the window back itself, at its end.
+    if (form.Busy && !form.GameIsRunning) return;
     // An emulator that was to be set up has been started out of the choice.
     routines.choice.CloseChoice();
     // The loading screen may outlast its game, or its program was only tried out from the settings:
@@ -108,6 +110,8 @@ void RunningWatch::AppRunningPicture_Click() {
 }
 
 void RunningWatch::EndEmulator() {
+    // Also where its program has not come up yet.
+    StopLaunch();
     if (form.CurrentRunninApplication.empty()) return;
     const auto id = processes.FindProcessId(form.CurrentRunninApplication, Reach::andLaunch);
     if (id == 0) return;
@@ -130,7 +134,13 @@ void RunningWatch::KillRunning() {
     if (id != 0) Kill(id, name);
 }
 
+// Before its start what is ended is the last game, which has nothing to do with this one.
+void RunningWatch::StopLaunch() {
+    if (!form.StartingGame.empty() && !form.StartCanBeGivenUp) form.StartGivenUp = true;
+}
+
 void RunningWatch::Kill(std::int32_t id, const std::string& name) {
+    StopLaunch();
     log.Write("killed: " + name + ", process " + std::to_string(id));
     processes.KillProcess(id);
 }

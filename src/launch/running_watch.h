@@ -68,6 +68,8 @@ class RunningWatch : public core::RunningEmulator {
     void LogEnd();
     void Kill(std::int32_t id, const std::string& name);
     void EndEmulator();
+    // What a launch that is under way would still do for its game is not done.
+    void StopLaunch();
 
     core::Form1& form;
     profile::Ini& ini;

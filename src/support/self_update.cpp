@@ -32,19 +32,20 @@ std::string UpdaterCommand(std::string_view updater, std::string_view fileToUpda
 
 bool SelfUpdate::UpdateProgram(const std::string& directory, const std::string& programName,
                                bool installed, const platform::Downloader::GoOn& goOn) {
+    // Whatever the base: its directory need not hold the program.
     if (!build.replacesItself && installed) {
         Tell("Kivu wird mit den Paketen des Systems aktualisiert.",
              "Kivu is updated with the system's packages.");
         return false;
     }
-    if (build.base.empty()) {
-        Tell("Für diese Version ist keine Update-Adresse hinterlegt.",
-             "No update address is set in this version.");
-        return false;
-    }
     if (!build.replacesItself) {
         Tell("Diese Version aktualisiert sich nicht selbst.",
              "This version does not update itself.");
+        return false;
+    }
+    if (build.base.empty()) {
+        Tell("Für diese Version ist keine Update-Adresse hinterlegt.",
+             "No update address is set in this version.");
         return false;
     }
     const std::string inside = text::AddPathSeparator(directory);

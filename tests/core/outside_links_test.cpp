@@ -168,7 +168,12 @@ TEST_F(OutsideLinksTest, ALengthThatNobodyKnowsIsToldInKilobytes) {
 
 TEST_F(OutsideLinksTest, WhatDoesNotUpdateItselfSaysSo) {
     Links().UpdateProgram(link, {});
+    ExpectInformation("Online-Update", "This version does not update itself.");
+    build.replacesItself = true;
+    links.reset();
+    Links().UpdateProgram(link, {});
     ExpectInformation("Online-Update", "No update address is set in this version.");
+    build.replacesItself = false;
     build.installed = true;
     links.reset();
     Links().UpdateProgram(link, {});

@@ -59,6 +59,41 @@ TEST_F(RunningWatchTest, EndOnRequestBringsTheWindowBackWhereNothingIsWatched) {
     }
 }
 
+// The loading screen has outlasted its game, and its button is clicked in the middle of a rescan.
+TEST_F(RunningWatchTest, EndOnRequestLeavesTheWindowToWhatIsUnderWay) {
+    form.CurrentRunninApplication = "game.exe";
+    for (const bool isUp : {false, true}) {
+        if (isUp) host.processes.Add("game.exe", 7);
+        form.Busy = true;
+        busy.HideAll(false);
+        watch.AppRunningPicture_Click();
+        EXPECT_EQ(host.processes.kills.size(), isUp ? 1U : 0U);
+        EXPECT_FALSE(form.ListsVisible);
+        EXPECT_FALSE(form.SettingsBtn.Visible());
+        EXPECT_TRUE(form.LoadingBtn.Visible());
+    }
+    form.Busy = false;
+    watch.AppRunningPicture_Click();
+    EXPECT_TRUE(form.ListsVisible);
+}
+
+// A launch that is under way is told, once it is its own game that is ended.
+TEST_F(RunningWatchTest, EndOnRequestStopsTheLaunchOfThatGameAlone) {
+    form.CurrentRunninApplication = "game.exe";
+    form.GameIsRunning = true;
+    watch.AppRunningPicture_Click();
+    EXPECT_FALSE(form.StartGivenUp);
+    form.StartingGame = "/next.adf";
+    form.StartCanBeGivenUp = true;
+    host.processes.Add("game.exe", 7);
+    watch.KillRunning();
+    watch.AppRunningPicture_Click();
+    EXPECT_FALSE(form.StartGivenUp);
+    form.StartCanBeGivenUp = false;
+    watch.AppRunningPicture_Click();
+    EXPECT_TRUE(form.StartGivenUp);
+}
+
 // The change itself looks, while it is under way.
 TEST_F(RunningWatchTest, ChangeOfEmulatorLooksAtOnce) {
     form.Busy = true;

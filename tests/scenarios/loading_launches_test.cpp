@@ -33,6 +33,7 @@ TEST_F(LoadingLaunches, ButtonBeforeTheStartGivesTheLaunchUp) {
     });
     LaunchBee();
     ExpectGivenUp();
+    EXPECT_EQ(Call("GivenUp"), false);
     EXPECT_EQ(Get("GameIsRunning"), false);
     EXPECT_TRUE(Refused("tick", "Form1.EmuActiveTimer"));
     // The next one is a new one.
@@ -141,6 +142,37 @@ TEST_F(LoadingLaunches, KeysSkipItAfterHalfASecond) {
     }
 }
 
+// It would ask to quit, or start the game of the row.
+TEST_F(LoadingLaunches, KeyThatSkipsItMeansNothingElseWhileItIsHeld) {
+    Start();
+    for (const char* key : {"Escape", "Enter", "Space"}) {
+        LaunchBee();
+        Do("tick", "Form1.EmuActiveTimer", 4);
+        EXPECT_EQ(Runs(), 1U);
+        Later(3000);
+        Do("select", "Form1.UAE_Short", 2);
+        Do("key", "Form1.UAE_Short", key);
+        EXPECT_FALSE(IsUp()) << key;
+        for (int repeats = 0; repeats < 3; ++repeats)
+            Do("key", "Form1.UAE_Short", key, "repeat");
+        EXPECT_EQ(Runs(), 0U) << key;
+        EXPECT_EQ(Boxes(), 0U) << key;
+    }
+    Do("answer", "Cancel");
+    Key("Escape");
+    EXPECT_EQ(Boxes(), 1U);
+}
+
+TEST_F(LoadingLaunches, KeyThatGivesTheLaunchUpMeansNothingElseWhileItIsHeld) {
+    SplashWithMount("6");
+    Start();
+    DuringLaunch([this] { Key("Escape"); });
+    LaunchBee();
+    Do("key", "Form1", "Escape", "repeat");
+    ExpectGivenUp();
+    EXPECT_FALSE(session->ended);
+}
+
 TEST_F(LoadingLaunches, WithoutItEscapeAsksAsBefore) {
     Start();
     LaunchBee();
@@ -237,6 +269,36 @@ TEST_F(LoadingLaunches, ButtonDuringTheScriptsWaitEndsTheGame) {
     EXPECT_TRUE(done);
     EXPECT_EQ(Do("kills")["value"], Json::array({4711}));
     EXPECT_FALSE(IsUp());
+}
+
+// What it types would go to whatever is in front then.
+TEST_F(LoadingLaunches, NoScriptRunsForAGameThatTheUserHasEndedMeanwhile) {
+    Splash("6", {{"RunVBS_Script", "1"}});
+    tree.Write("Config/Alpha/Startscript.vbs", "x");
+    options.windowsStartFiles = true;
+    const std::vector<std::pair<const char*, std::function<void()>>> ways{
+        {"nothing", [] {}},
+        {"screen", [this] { EmulatorComesUp(), Click(".Command1"); }},
+        {"screen, before it is up", [this] { Click(".Command1"); }},
+        {"picture", [this] { EmulatorComesUp(), Call("AppRunningPicture_Click"); }},
+        {"button and its box",
+         [this] { EmulatorComesUp(), Do("answer", "Yes"), Do("click", "Form1.LoadingBtn"); }},
+        {"pad's button", [this] { EmulatorComesUp(), session->Routines().watch.KillRunning(); }},
+    };
+    std::size_t expected = 2;
+    for (const auto& [name, end] : ways) {
+        Start();
+        bool done = false;
+        Host().events.onEvents = [&, &end = end] {
+            if (done || !IsUp() || Text("LoadingBtn.Caption") != "Gamestart..") return;
+            done = true;
+            end();
+        };
+        LaunchBee();
+        EXPECT_TRUE(done) << name;
+        EXPECT_EQ(Runs(), expected) << name;
+        expected = 1;
+    }
 }
 
 TEST_F(LoadingLaunches, ComesUpForEachWayToStartAGame) {

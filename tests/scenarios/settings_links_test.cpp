@@ -62,6 +62,7 @@ TEST_F(SettingsLinks, WithoutAddressesTheUserIsTold) {
         ASSERT_EQ(boxes.size(), 2u);
         EXPECT_EQ(boxes[0]["title"], "Homepage");
         EXPECT_EQ(boxes[1]["title"], "Online-Update");
+        EXPECT_EQ(boxes[1]["text"], "This version does not update itself.");
         EXPECT_TRUE(On("Label5"));
         Key("Escape");
     });

@@ -52,6 +52,24 @@ TEST_F(Template, IsTriedOutAsItIsOnTheDisk) {
     });
 }
 
+// That of the last game stands below the window, where no click reaches it.
+TEST_F(Template, ATrialsLoadingScreenIsReachedWhereOneStandsAlready) {
+    Start();
+    Do("call", "ShowLoadingInfo");
+    Open([&] {
+        Click("WinUAEBtn");
+        EXPECT_TRUE(Refused("click", "LoadingInfo.Command1"));
+        Click("Command3");
+        EXPECT_EQ(Do("windows")["value"].back()["over"], "SettingsForm");
+        EXPECT_EQ(Do("get", "LoadingInfo.AboveAll")["value"], true);
+        Do("click", "LoadingInfo.Command1");
+        EXPECT_TRUE(open());
+        Do("answer", "OK");
+        Click("RemovePicEnabled");
+        Key("Escape");
+    });
+}
+
 TEST_F(Template, ATrialEndedInTheLoadingScreenLeavesTheMainWindowAsItWas) {
     Start();
     const auto look = [&] {

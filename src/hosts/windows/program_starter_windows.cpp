@@ -258,6 +258,10 @@ std::string WindowsProgramStarter::FindInPath(const std::string& name) const {
     return {};
 }
 
+bool WindowsProgramStarter::MayRun(const std::string& program) const {
+    return text::IsProgramFile(program) || IsBatchFile(program);
+}
+
 bool WindowsProgramStarter::SearchesIn(const std::string& directory) const {
     const WindowsFileSystem files;
     if (!files.IsDirectory(directory)) return false;

@@ -26,6 +26,8 @@ class WindowsProgramStarter : public platform::ProgramStarter {
     // In the system's directories, then in those of PATH; those that are not absolute may hold
     // anybody's files, and are passed over. A name with a directory is no bare one: empty.
     std::string FindInPath(const std::string& name) const override;
+    // Programs and batch files; documents would open in somebody else's program.
+    bool MayRun(const std::string& program) const override;
     bool SearchesIn(const std::string& directory) const override;
     std::string FindExecutable(const std::string& path) const override;
     std::error_code Open(const std::string& addressOrPath) override;
