@@ -95,7 +95,10 @@ void MasterText::FileMade() {
 
 void MasterText::FileMadeWith(std::string_view bytes) {
     const File file = Read(path);
-    if (!read.exists && file.bytes == bytes) FileMade();
+    if (file.bytes != bytes) return;
+    FileMade();
+    // What the box has been emptied of is nobody's work.
+    if (file == read) emptied = false;
 }
 
 std::optional<std::string> MasterText::Import(const std::string& name) {

@@ -23,6 +23,11 @@ void AltKey::See(const QEvent& event) {
     }
 }
 
+void AltKey::Use() {
+    used = true;
+    moved.reset();
+}
+
 bool AltKey::IsHeld() const {
     if (QGuiApplication::queryKeyboardModifiers() & Qt::AltModifier) return true;
     return moved && clock() - *moved <= onItsWay;

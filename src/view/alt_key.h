@@ -20,6 +20,8 @@ class AltKey {
     void See(const QEvent& event);
     // Now, or so lately that a close request can still be on its way.
     bool IsHeld() const;
+    // A close request has been taken for Alt+F4.
+    void Use();
 
  private:
     Clock clock;

@@ -367,6 +367,7 @@ bool FormView::WindowEvent(QEvent& event) {
 // Window managers take Alt+F4 for themselves and ask the window to close.
 bool FormView::IsCloseKey() {
     if (closeKeyPassed || !altKey.IsHeld()) return false;
+    altKey.Use();
     return input.KeyDown({forms::keys::f4, forms::shifts::alt}).code == 0;
 }
 
