@@ -21,7 +21,7 @@ struct Options {
     // The user's own, absolute; empty: there is none.
     std::string runtimeDirectory{};
     std::string temporaryDirectory{};
-    platform::Build build{};         // addresses; none, as in a build that names none
+    platform::Build build{};  // addresses; none, as in a build that names none
     const forms::TextMeasure* measure = nullptr;
 };
 

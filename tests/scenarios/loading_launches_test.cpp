@@ -150,11 +150,11 @@ TEST_F(LoadingLaunches, KeyThatSkipsItMeansNothingElseWhileItIsHeld) {
         Do("tick", "Form1.EmuActiveTimer", 4);
         EXPECT_EQ(Runs(), 1U);
         Later(3000);
-        Do("select", "Form1.UAE_Short", 2);
-        Do("key", "Form1.UAE_Short", key);
+        Do("select", "Form1.WIthoutDoubles", 1);
+        Do("key", "Form1.WIthoutDoubles", key);
         EXPECT_FALSE(IsUp()) << key;
         for (int repeats = 0; repeats < 3; ++repeats)
-            Do("key", "Form1.UAE_Short", key, "repeat");
+            Do("key", "Form1.WIthoutDoubles", key, "repeat");
         EXPECT_EQ(Runs(), 0U) << key;
         EXPECT_EQ(Boxes(), 0U) << key;
     }

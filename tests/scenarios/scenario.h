@@ -67,8 +67,8 @@ class Scenario : public ::testing::Test {
     std::filesystem::path before = std::filesystem::current_path();
 };
 
-// Two emulators with caches, without a loading screen; "Alpha" has three images of two games, "Beta" one. Alpha was the last
-// one.
+// Two emulators with caches, without a loading screen; "Alpha" has three images of two games,
+// "Beta" one. Alpha was the last one.
 class LoadedScenario : public Scenario {
  protected:
     LoadedScenario() {
@@ -78,9 +78,9 @@ class LoadedScenario : public Scenario {
                                    {"WinUAE_UseMasterConfig", "0"},
                                    {"SplashTimer", "0"},
                                    {"EmulatorParameterAddDiskPath", "1"}});
-        tree.AddEmulator("Beta", {{"RomPath", "/Roms/Beta"},
-                                  {"EmulatorPath", "/Emu/beta"},
-                                  {"SplashTimer", "0"}});
+        tree.AddEmulator(
+            "Beta",
+            {{"RomPath", "/Roms/Beta"}, {"EmulatorPath", "/Emu/beta"}, {"SplashTimer", "0"}});
         tree.WriteCache("Alpha",
                         {{"/Roms/Alpha/Ant (1990)(Maker)(Disk 1 of 2).adf", "Ant (1990)(Maker)"},
                          {"/Roms/Alpha/Ant (1990)(Maker)(Disk 2 of 2).adf", "Ant (1990)(Maker)"},

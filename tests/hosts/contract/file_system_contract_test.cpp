@@ -55,7 +55,7 @@ TEST_F(FilesContract, ADirectoryHoldsSomethingOrNothing) {
     directory.Write("sub/file", "x");
     EXPECT_EQ(files.HasEntries(directory.Path("sub")), true);
     for (const std::string& none : {directory.Path("missing"), directory.Path("sub/file"),
-                                   std::string(), directory.Root() + std::string("\0/x", 3)})
+                                    std::string(), directory.Root() + std::string("\0/x", 3)})
         EXPECT_EQ(files.HasEntries(none), std::nullopt) << none;
 }
 

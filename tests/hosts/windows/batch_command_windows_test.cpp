@@ -2,6 +2,7 @@
 #include <random>
 
 #include "hosts/windows/batch_command.h"
+#include "hosts/windows/program_starter_windows.h"
 
 namespace kivu::hosts {
 namespace {
@@ -74,6 +75,16 @@ TEST(BatchProcessorWindows, IsNamedByItsFullPath) {
     EXPECT_EQ(processor.program.substr(1, 2), L":\\");
     EXPECT_TRUE(processor.commandLine.starts_with(L"\"" + processor.program + L"\" "));
     EXPECT_NE(processor.commandLine.find(L"&%KIVU_START%\""), std::wstring::npos);
+}
+
+TEST(StartersWords, WhoMayRunAFileSaysItsEnding) {
+    const WindowsProgramStarter starter;
+    for (const char* program :
+         {"C:\\a b\\tool.exe", "C:\\TOOL.COM", "C:\\tool.Bat", "C:\\tool.cmd"})
+        EXPECT_TRUE(starter.MayRun(program)) << program;
+    for (const char* other :
+         {"", "C:\\readme.txt", "C:\\game.iso", "C:\\tool", "C:\\exe", "C:\\tool.exe.txt"})
+        EXPECT_FALSE(starter.MayRun(other)) << other;
 }
 
 }  // namespace

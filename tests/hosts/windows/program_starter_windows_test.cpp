@@ -62,15 +62,6 @@ TEST_F(ProgramStarterWindows, ArgumentsReachTheProgramAsTheCommandSaysThem) {
     EXPECT_EQ(told.directory, disk.Root());
 }
 
-TEST_F(ProgramStarterWindows, WhoMayRunAFileSaysItsEnding) {
-    for (const char* program :
-         {"C:\\a b\\tool.exe", "C:\\TOOL.COM", "C:\\tool.Bat", "C:\\tool.cmd"})
-        EXPECT_TRUE(starter.MayRun(program)) << program;
-    for (const char* other :
-         {"", "C:\\readme.txt", "C:\\game.iso", "C:\\tool", "C:\\exe", "C:\\tool.exe.txt"})
-        EXPECT_FALSE(starter.MayRun(other)) << other;
-}
-
 TEST_F(ProgramStarterWindows, APathAloneIsTheWholeCommandAlsoWithBlanks) {
     disk.MakeDirectory("my emus");
     const std::string program = Install("my emus\\the emu & co.exe");
