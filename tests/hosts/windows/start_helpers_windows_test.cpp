@@ -1,6 +1,7 @@
 // The tool for CD images and the start script, run by the real command processor.
 
 #include <gmock/gmock.h>
+#include <utility>
 
 #include "core/form1.h"
 #include "hosts/windows/file_system_windows.h"
@@ -131,12 +132,15 @@ class RealScript : public RealHelpers {
 };
 
 TEST_F(RealScript, ItRunsByItsFileTypeAndTheRunnerGoes) {
+    if (kivu::testing::IsWine())
+        GTEST_SKIP() << "Wine's command processor runs no document by its file type";
     form.VBSFilename = form.StartPfad + "Startscript.kivuvbs";
     EXPECT_FALSE(files.WriteFile(form.VBSFilename, "x"));
     // The second that it is given is as long as it takes.
     std::optional<kivu::testing::Told> told;
+    bool asked = false;
     clock.onRest = [&] {
-        if (!told) told = telling.Wait();
+        if (!std::exchange(asked, true)) told = telling.Wait();
     };
     helpers.RunStartScript();
     ASSERT_TRUE(told);
