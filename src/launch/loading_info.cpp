@@ -23,8 +23,7 @@ constexpr const char* gameImage = "LoadingInfo.GameImage";
 
 void LoadingInfo::Form_Load() {
     const std::string loading = ui::FindSkinFile(services.files, form.GetStartPfad(), "Loading");
-    // Names of files count without case.
-    const std::string settings = ui::FindSkinFile(services.files, form.GetStartPfad(), "settings");
+    const std::string settings = ui::FindSettingsPicture(services.files, form.GetStartPfad());
     TakeLook();
     LoadBackground(settings);
     LoadGameImage(loading);

@@ -28,7 +28,7 @@ class FileSystem {
     struct Identity {
         std::uint64_t device = 0;
         std::uint64_t inode = 0;
-        auto operator<=>(const Identity&) const = default;
+        auto operator<=>(const Identity&) const = default;  // NOLINT(modernize-use-nullptr)
     };
 
     struct Entry {

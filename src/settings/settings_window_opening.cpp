@@ -1,7 +1,6 @@
 // What the settings window does as it comes and goes.
 
 #include <initializer_list>
-#include <string_view>
 
 #include "core/form1.h"
 #include "core/raised.h"
@@ -17,7 +16,6 @@ namespace {
 
 // Of the picture that may still be on its way when the window has gone.
 constexpr const char* skinPurpose = "settings window";
-constexpr std::string_view skinFiles = "Settings.*";
 
 }  // namespace
 
@@ -76,8 +74,7 @@ void SettingsWindow::RunChangeHandlers(const SettingsValues& values) {
 }
 
 void SettingsWindow::ShowSkin() {
-    const std::string path =
-        ui::FindSkinFile(services.files, form.StartPfad, skinFiles.substr(0, skinFiles.find('.')));
+    const std::string path = ui::FindSettingsPicture(services.files, form.StartPfad);
     if (path.empty()) form.BackgroundFrame.SetPicture(designPicture);
     (void)routines.pictures.LoadSkin(path, skinPurpose, [this](forms::Picture picture) {
         form.BackgroundFrame.SetPicture(std::move(picture));

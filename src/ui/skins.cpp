@@ -15,6 +15,12 @@ std::string FindSkinFile(const platform::FileSystem& files, const std::string& p
     return found && files.FileExists(directory + *found) ? directory + *found : "";
 }
 
+// Names of files count without case; the section of the profiles is written otherwise.
+std::string FindSettingsPicture(const platform::FileSystem& files,
+                                const std::string& profileDirectory) {
+    return FindSkinFile(files, profileDirectory, "settings");
+}
+
 void Skins::KeepDesignPictures() {
     form.OrgBackGround.SetPicture(form.GetPicture());
     form.OrgTopLeft.SetPicture(form.TopRightPic.GetPicture());

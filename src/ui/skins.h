@@ -18,6 +18,9 @@ namespace kivu::ui {
 // order of names. Empty: there is none. `profileDirectory` is the emulator's own.
 std::string FindSkinFile(const platform::FileSystem& files, const std::string& profileDirectory,
                          std::string_view name);
+// The picture behind the settings, and behind the loading screen. Empty: there is none.
+std::string FindSettingsPicture(const platform::FileSystem& files,
+                                const std::string& profileDirectory);
 
 // The pictures that an emulator's skin gives to the main window. They are looked for anew at each
 // change of emulator. A file that is no picture leaves what is there.

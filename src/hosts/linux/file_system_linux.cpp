@@ -45,13 +45,14 @@ std::optional<struct stat> Status(const std::string& path) {
 
 // The pages of a large text at once: one by one, as they are written to, they cost twice the time.
 // What cannot be had so comes one by one.
-void TakePages(const std::string& text) {
+void TakePages(std::string& text) {
 #ifdef MADV_POPULATE_WRITE
-    const auto page = static_cast<std::uintptr_t>(::sysconf(_SC_PAGESIZE));
+    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
     const auto begin = reinterpret_cast<std::uintptr_t>(text.data());
-    const std::uintptr_t first = (begin + page - 1) / page * page;
-    const std::uintptr_t end = (begin + text.capacity()) / page * page;
-    if (first < end) ::madvise(reinterpret_cast<void*>(first), end - first, MADV_POPULATE_WRITE);
+    const std::size_t skipped = (page - begin % page) % page;
+    if (text.capacity() < skipped + page) return;
+    const std::size_t length = (text.capacity() - skipped) / page * page;
+    ::madvise(text.data() + skipped, length, MADV_POPULATE_WRITE);
 #endif
 }
 

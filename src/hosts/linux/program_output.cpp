@@ -91,6 +91,7 @@ std::optional<std::string> OutputOf(const std::vector<std::string>& words,
     const FileDescriptor from(ends[0]);
     FileDescriptor to(ends[1]);
     std::vector<char*> arguments;
+    arguments.reserve(words.size() + 1);
     for (const std::string& word : words)
         arguments.push_back(const_cast<char*>(word.c_str()));
     arguments.push_back(nullptr);
