@@ -74,7 +74,7 @@ Managed() { xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 'window id'; }
 # A display of its own, and a window manager as a desktop has one.
 StartScreen() {
   exec 3>"$work/display"
-  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp >/dev/null 2>&1 &
+  Xvfb -displayfd 3 -screen 0 "${size}x24" -nolisten tcp -noreset >/dev/null 2>&1 &
   display=$!
   exec 3>&-
   Until 20 test -s "$work/display" || Fail "no virtual display came up"

@@ -1,4 +1,5 @@
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QProcess>
 #include <QStandardPaths>
 #include <gtest/gtest.h>
@@ -13,14 +14,15 @@ class OwnDisplay {
  public:
     bool Start() {
         server.setProgram("Xvfb");
-        server.setArguments({"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp"});
+        server.setArguments(
+            {"-displayfd", "1", "-screen", "0", "1280x900x24", "-nolisten", "tcp", "-noreset"});
         server.start();
         if (!server.waitForStarted() || !server.waitForReadyRead(10000)) return false;
         const QByteArray display = ":" + server.readLine().trimmed();
         qputenv("DISPLAY", display);
         qputenv("QT_QPA_PLATFORM", "xcb");
         manager.start("openbox", {});
-        return manager.waitForStarted();
+        return manager.waitForStarted() && WaitUntilWindowsAreManaged();
     }
 
     ~OwnDisplay() {
@@ -31,6 +33,18 @@ class OwnDisplay {
     }
 
  private:
+    // A window that is shown before the manager has announced itself would never become active.
+    bool WaitUntilWindowsAreManaged() {
+        const QDeadlineTimer deadline(30000);
+        while (!deadline.hasExpired() && manager.state() == QProcess::Running) {
+            QProcess root;
+            root.start("xprop", {"-root", "_NET_SUPPORTING_WM_CHECK"});
+            if (!root.waitForFinished()) return false;
+            if (root.readAllStandardOutput().contains("window id")) return true;
+        }
+        return false;
+    }
+
     QProcess server;
     QProcess manager;
 };
