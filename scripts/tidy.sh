@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Usage: scripts/tidy.sh BUILD [--all]
 # KIVU_TIDY_SECONDS: no further source is begun after so many seconds (none: no limit); the next run goes on there.
-# Runs clang-tidy over the program's sources (src/) in a build that have changed since the last green run: whose text,
-# with all that they include of this tree, has another hash than then. The hashes are kept outside of the tree. Where
-# there are none yet, the sources that the last commit touched are looked at; --all: all of them, whatever the hashes
-# say.
+# Runs clang-tidy over the program's sources (src/) in a build that have changed since they were last found clean: whose
+# text, with all that they include of this tree, has another hash than then. The hashes are kept outside of the tree.
+# Where there are none yet, the sources that the last commit touched are looked at; --all: all of them, whatever the
+# hashes say.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-packages.sh tidy
@@ -70,18 +70,19 @@ look() {
     return 0
   fi
   cat "$work/out.$$" "$work/err.$$"
+  echo "$1" >> "$work/bad"
   return 1
 }
 export -f look
 export commands work until
-touch "$work/left"
+touch "$work/left" "$work/bad"
 failed=0
 xargs -d '\n' -r -n 1 -P "$(nproc)" bash -c 'look "$1"' look < "$work/todo" || failed=1
 
 if [ -s "$work/left" ]; then
   echo "clang-tidy: $(wc -l < "$work/left") sources are left for the next run"
-  grep -vxFf "$work/left" "$work/now" > "$work/looked" || true
-  mv "$work/looked" "$work/now"
 fi
-[ $failed -ne 0 ] || cp "$work/now" "$kept"
+cat "$work/left" "$work/bad" > "$work/open"
+grep -vxFf "$work/open" "$work/now" > "$work/looked" || true
+cp "$work/looked" "$kept"
 exit $failed

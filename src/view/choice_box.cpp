@@ -81,9 +81,11 @@ void ChoiceBox::paintEvent(QPaintEvent*) {
 }
 
 void ChoiceBox::changeEvent(QEvent* event) {
-    // The toolkit would make the popup for its font, and lay out all rows in it.
+    // The toolkit would make the popup for its font, and lay out all rows in it: what a plain
+    // widget does is enough. NOLINTBEGIN(bugprone-parent-virtual-call)
     const bool font = event->type() == QEvent::FontChange;
     font && !dressed ? QWidget::changeEvent(event) : QComboBox::changeEvent(event);
+    // NOLINTEND(bugprone-parent-virtual-call)
 }
 
 void ChoiceBox::mousePressEvent(QMouseEvent* event) {

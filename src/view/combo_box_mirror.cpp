@@ -49,8 +49,10 @@ class Combo : public QComboBox {
 
     void changeEvent(QEvent* event) override {
         const bool font = event->type() == QEvent::FontChange;
-        // The toolkit would make the popup for its font, and lay out all rows in it.
+        // The toolkit would make the popup for its font, and lay out all rows in it: what a plain
+        // widget does is enough. NOLINTBEGIN(bugprone-parent-virtual-call)
         font && !dressed ? QWidget::changeEvent(event) : QComboBox::changeEvent(event);
+        // NOLINTEND(bugprone-parent-virtual-call)
         if (font) FitText();
     }
 

@@ -142,7 +142,8 @@ class PanelWidget : public QWidget {
         const int rows = qBound(1, (height() - 6) / step, 4);
         const int top = (height() - (rows - 1) * step) / 2;
         for (int dot = 0; dot < 2 * rows; ++dot) {
-            const QRectF place(5 + step * (dot % 2), top - 1 + step * (dot / 2), 2, 2);
+            const int column = dot % 2, row = dot / 2;
+            const QRectF place(5 + step * column, top - 1 + step * row, 2, 2);
             FillRounded(painter, place, 1, dots);
         }
     }
