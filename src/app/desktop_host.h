@@ -35,6 +35,8 @@ class DesktopHost {
     // `end` is called when somebody asks the process to end: by a signal, or by closing its
     // console.
     void ListenForEnd(std::function<void()> end);
+    // The process ends, whatever is under way: no part of a download stays behind.
+    void AbandonDownloads();
 
  private:
     struct Parts;

@@ -150,4 +150,8 @@ void DesktopHost::ListenForEnd(std::function<void()> end) {
                      });
 }
 
+void DesktopHost::AbandonDownloads() {
+    parts->downloads.Abandon();
+}
+
 }  // namespace kivu::app

@@ -128,4 +128,8 @@ void DesktopHost::ListenForEnd(std::function<void()> end) {
         [end = std::move(end)] { QMetaObject::invokeMethod(qApp, end, Qt::QueuedConnection); });
 }
 
+// The system takes them away with the process.
+void DesktopHost::AbandonDownloads() {
+}
+
 }  // namespace kivu::app

@@ -20,12 +20,18 @@
 #include "view/style.h"
 #include "view/text_measure.h"
 #include "wiring/launcher.h"
+#include "wiring/process_exit.h"
 
 namespace {
+
+// What is left to do where the process ends, and whom to ask for it.
+kivu::wiring::Launcher* launcherAtExit = nullptr;
+kivu::app::DesktopHost* hostAtExit = nullptr;
 
 // The program ends where it stands: routines further up must not go on, and nothing is left to
 // write.
 void EndAtOnce() {
+    hostAtExit->AbandonDownloads();
     for (QWidget* window : QApplication::topLevelWidgets()) {
         window->hide();
     }
@@ -37,7 +43,11 @@ void EndAtOnce() {
 Q_LOGGING_CATEGORY(startStages, "kivu.start", QtWarningMsg)
 
 // For exit(), which the toolkit calls where its display has gone: many a session ends so.
-kivu::wiring::Launcher* storesAtExit = nullptr;
+void LeaveAtExit() {
+    if (!launcherAtExit) return;
+    kivu::wiring::LeaveProcess(*launcherAtExit);
+    hostAtExit->AbandonDownloads();
+}
 
 // How far the start has come, by the steady clock in nanoseconds, for who has asked for these
 // messages.
@@ -63,6 +73,7 @@ int main(int argc, char** argv) {
     Reached("application");
 
     kivu::app::DesktopHost host(argc, argv);
+    hostAtExit = &host;
     const kivu::view::TextMeasure measure;
     kivu::view::ScreenWindows windows;
     windows.SetCompositing(kivu::hosts::IsComposited);
@@ -82,10 +93,8 @@ int main(int argc, char** argv) {
     const kivu::view::ProgramEnd sessionEnd([&] { launcher.SessionEnds(); },
                                             [&] { launcher.EndFromOutside(); });
     host.ListenForEnd([&] { launcher.EndFromOutside(); });
-    storesAtExit = &launcher;
-    std::atexit([] {
-        if (storesAtExit) storesAtExit->SessionEnds();
-    });
+    launcherAtExit = &launcher;
+    std::atexit(LeaveAtExit);
     Reached("view");
     view.Show();
     Reached("shown");
@@ -99,6 +108,6 @@ int main(int argc, char** argv) {
         host.WindowStands();
     });
     const int code = QApplication::exec();
-    storesAtExit = nullptr;
+    launcherAtExit = nullptr;
     return code;
 }

@@ -51,6 +51,7 @@ void ShutDown::StoreWindow(bool byTheUser) {
 void ShutDown::EndProgram() {
     form.Ended = true;
     ini.StoreWriteBacks();
+    hooks.DeletePassingFiles();
     hooks.EndProcess();
 }
 

@@ -18,6 +18,8 @@ class ShutDown {
     struct Hooks {
         // At once; where a test plays the host it may come back.
         Hook<void()> EndProcess{"ShutDown.EndProcess"};
+        // Small files that only a routine which has not come to its end would take away.
+        Hook<void()> DeletePassingFiles{"ShutDown.DeletePassingFiles"};
         // Whether the drives stand where this profile has put them: in the middle of a switch they
         // still stand where the emulator before had them.
         Hook<bool(const std::string& profile)> DrivesAreOf{"ShutDown.DrivesAreOf"};

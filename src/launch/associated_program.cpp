@@ -19,8 +19,10 @@ bool IsThere(const platform::FileSystem& files, const std::string& path) {
 // is.
 class OwnFile {
  public:
-    OwnFile(platform::FileSystem& files, const std::string& path, const std::string& bytes)
-        : files(files) {
+    OwnFile(const AssociatedProgram::Services& services, const std::string& path,
+            const std::string& bytes)
+        : passing(services.passing) {
+        platform::FileSystem& files = services.files;
         const std::string draft = path + ".new";
         if (IsThere(files, path) || IsThere(files, draft)) return;
         if (files.WriteFile(draft, bytes)) return;
@@ -28,10 +30,11 @@ class OwnFile {
             (void)files.DeleteFile(draft);
         } else {
             made = path;
+            passing.Note(path);
         }
     }
     ~OwnFile() {
-        if (made) (void)files.DeleteFile(*made);
+        if (made) passing.Delete(*made);
     }
     OwnFile(const OwnFile&) = delete;
     OwnFile& operator=(const OwnFile&) = delete;
@@ -39,7 +42,7 @@ class OwnFile {
     bool IsMade() const { return made.has_value(); }
 
  private:
-    platform::FileSystem& files;
+    core::PassingFiles& passing;
     std::optional<std::string> made;
 };
 
@@ -49,7 +52,7 @@ std::string AssociatedProgram::FindAssociatedProgram(const std::string& file) {
     platform::FileSystem& files = services.files;
     if (file.empty()) return {};
     std::optional<OwnFile> standIn;
-    if (!IsThere(files, file)) standIn.emplace(files, file, "");
+    if (!IsThere(files, file)) standIn.emplace(services, file, "");
     const char separator = file.find('/') != file.npos ? '/' : '\\';
     const std::size_t last = file.rfind(separator);
     std::string name = last == file.npos ? file : file.substr(last + 1);
@@ -82,7 +85,7 @@ std::string AssociatedProgram::AskWith(const std::string& temporaryName, const s
         const std::string path =
             directory + (number == 0 ? "" : std::to_string(number)) + temporaryName;
         if (IsThere(services.files, path)) continue;
-        const OwnFile own(services.files, path, bytes);
+        const OwnFile own(services, path, bytes);
         if (own.IsMade()) return services.FindExecutableOf(path);
     }
     return {};

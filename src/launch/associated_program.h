@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 
+#include "core/passing_files.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 
@@ -14,6 +15,7 @@ class AssociatedProgram {
  public:
     struct Services {
         platform::FileSystem& files;
+        core::PassingFiles& passing;
         platform::Dialogs& dialogs;
         // The host's own answer for a file that is there; empty: it has none.
         std::function<std::string(const std::string& file)> FindExecutableOf;

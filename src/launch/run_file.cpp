@@ -23,7 +23,7 @@ std::string RunFile::FindExecutableOf(const std::string& file) const {
 }
 
 std::string RunFile::FindAssociatedProgram(const std::string& file) {
-    AssociatedProgram program({services.files, services.dialogs,
+    AssociatedProgram program({services.files, services.passing, services.dialogs,
                                [this](const std::string& found) { return FindExecutableOf(found); },
                                services.temporaryDirectory, core::defaultTitle});
     return program.FindAssociatedProgram(file);

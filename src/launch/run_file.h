@@ -3,6 +3,7 @@
 #include <string>
 
 #include "core/busy_state.h"
+#include "core/passing_files.h"
 #include "platform/dialogs.h"
 #include "platform/file_system.h"
 #include "platform/program_starter.h"
@@ -14,6 +15,7 @@ class RunFile {
  public:
     struct Services {
         platform::FileSystem& files;
+        core::PassingFiles& passing;
         platform::ProgramStarter& starter;
         platform::Dialogs& dialogs;
         std::string temporaryDirectory;

@@ -44,7 +44,7 @@ bool StartHelpers::MountGameImage(const std::string& GamePath) {
     const bool plain = services.files.FileExists(GamePath);
     Mount(plain ? GamePath : text::RemoveQuotes(GamePath));
     // Also in the moment in which the tool has ended.
-    return !ports.loading->GivenUp();
+    return !ports.loading->GivenUp() && !form.Ended;
 }
 
 void StartHelpers::Mount(const std::string& game) {
@@ -71,7 +71,7 @@ void StartHelpers::RunMountFile(const MountFile& file) {
     const std::string path = form.StartPfad + "MountDeamon.bat";
     if (file.way == MountFile::Way::startFile && WriteStartFile(path, file.text)) {
         (void)RunToItsEnd(StartFileRequest(path));
-        (void)services.files.DeleteFile(path);
+        services.passing.Delete(path);
         return;
     }
     for (const HelperCommand& command : file.commands) {
@@ -100,7 +100,9 @@ void StartHelpers::TellOfRefusedName(const std::string& tool, const std::string&
 bool StartHelpers::WriteStartFile(const std::string& path, const std::string& text) {
     const auto bytes =
         services.starter.UsesShell() ? std::optional(text) : services.starter.StartFileBytes(text);
-    return bytes && !services.files.WriteFile(path, *bytes);
+    if (!bytes || services.files.WriteFile(path, *bytes)) return false;
+    services.passing.Note(path);
+    return true;
 }
 
 platform::StartRequest StartHelpers::Request() const {
@@ -137,7 +139,7 @@ void StartHelpers::RunStartScript() {
     const bool written = line && WriteStartFile(runner, *line);
     (void)services.starter.Run(written ? StartFileRequest(runner) : direct);
     WAIT(1, services.clock, pacer);
-    if (written) (void)services.files.DeleteFile(runner);
+    if (written) services.passing.Delete(runner);
 }
 
 std::vector<std::string> StartHelpers::RunnerWords(const std::string& script) {

@@ -5,6 +5,7 @@
 
 #include "core/busy_state.h"
 #include "core/hook.h"
+#include "core/passing_files.h"
 #include "core/ports.h"
 #include "launch/mount_file.h"
 #include "platform/clock.h"
@@ -29,6 +30,7 @@ class StartHelpers : public core::StartHelpers {
     };
     struct Services {
         platform::FileSystem& files;
+        core::PassingFiles& passing;
         platform::ProgramStarter& starter;
         platform::Clock& clock;
         platform::Dialogs& dialogs;
@@ -54,7 +56,8 @@ class StartHelpers : public core::StartHelpers {
     // While events run. False: given up.
     bool RunToItsEnd(const platform::StartRequest& request);
     void TellOfRefusedName(const std::string& tool, const std::string& game);
-    // The start file is there with this text. False: it is not, and must not be run.
+    // The start file is there with this text, until it is deleted or the program ends. False: it is
+    // not, and must not be run.
     bool WriteStartFile(const std::string& path, const std::string& text);
     // What runs a script on a host with a shell; empty: it is not installed, and the user knows.
     std::vector<std::string> RunnerWords(const std::string& script);

@@ -15,6 +15,7 @@ void Launcher::Routines::JoinLaunch() {
     windows.onQuestions = [this] { windowsBeside.loading.QuestionsChanged(); };
     watch.hooks.SetVorschau = [this] { layout.SetVorschau(); };
     startHelpers.ports.loading = windowsBeside.loading;
+    shutDown.hooks.DeletePassingFiles = [this] { passingFiles.DeleteAll(); };
     emulatorSwitch.hooks.SaveAndSetDisplayMode = [this] { displayMode.SaveAndSetDisplayMode(); };
     watch.hooks.RestoreDisplayMode = [this] { displayMode.RestoreDisplayMode(); };
     handedFile.hooks.BoxIsOpen = [this] { return windows.Questions() > 0; };

@@ -7,6 +7,7 @@
 #include "core/emulator_switch.h"
 #include "core/form1.h"
 #include "core/outside_links.h"
+#include "core/passing_files.h"
 #include "core/settings_loader.h"
 #include "core/shut_down.h"
 #include "core/start_up.h"
@@ -100,6 +101,7 @@ struct Launcher::Routines {
     support::AlwaysOnTop alwaysOnTop;
     ui::PictureLoader pictureLoader;
 
+    core::PassingFiles passingFiles;
     core::ShutDown shutDown;
     core::SettingsLoader settingsLoader;
     core::EmulatorSwitch emulatorSwitch;

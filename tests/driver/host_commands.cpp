@@ -254,6 +254,13 @@ Json Downloads(Session& session, const Json&) {
     return Told("downloads", std::move(downloads));
 }
 
+Json Waits(Session& session, const Json& command) {
+    const int looks = WholeFrom(command[1], "the number");
+    if (looks < 1) throw CommandError("the number must be 1 or more");
+    session.Host().starter.looksWhileWaiting = looks;
+    return Json::object();
+}
+
 // A later instance calls, as the program's main joins it.
 Json Signal(Session& session, const Json&) {
     session.Program().EndFromOutside();
@@ -294,6 +301,7 @@ const std::vector<Command>& HostCommands() {
         {"input", 1, anyNumber, false, QueueInputs},
         {"boxes", 0, 0, false, Boxes},
         {"runs", 0, 0, false, Runs},
+        {"waits", 1, 1, false, Waits},
         {"beeps", 0, 0, false, Beeps},
         {"kills", 0, 0, false, Kills},
         {"log", 0, 0, false, Log},

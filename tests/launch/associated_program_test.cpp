@@ -21,7 +21,7 @@ class AssociatedProgramTest : public ::testing::Test {
     }
 
     std::string Find(const std::string& file) {
-        AssociatedProgram program({files, dialogs,
+        AssociatedProgram program({files, passing, dialogs,
                                    [this](const std::string& path) {
                                        asked.push_back(path + "=" + files.BytesOf(path));
                                        return answers.contains(path) ? answers[path] : "";
@@ -31,6 +31,7 @@ class AssociatedProgramTest : public ::testing::Test {
     }
 
     testing::MemoryFileSystem files;
+    core::PassingFiles passing{files};
     testing::ScriptedDialogs dialogs;
     std::map<std::string, std::string> answers;
     std::vector<std::string> asked;
@@ -86,6 +87,17 @@ TEST_F(AssociatedProgramTest, StarsAreAskedAbout) {
     // One in front alone is taken away.
     answers["/tmp/zzzzzzzTemp_.txt"] = "/usr/bin/editor";
     EXPECT_EQ(Find("/d/*.txt"), "/usr/bin/editor");
+    EXPECT_EQ(dialogs.shown.size(), 1U);
+}
+
+// While the question is open the program may end, and nothing comes back to this.
+TEST_F(AssociatedProgramTest, TheProgramsEndTakesItsFileAway) {
+    dialogs.onShow = [this] {
+        EXPECT_EQ(files.BytesOf("/k/a*b.txt"), "");
+        passing.DeleteAll();
+        EXPECT_EQ(files.BytesOf("/k/a*b.txt"), "(no file)");
+    };
+    Find("/k/a*b.txt");
     EXPECT_EQ(dialogs.shown.size(), 1U);
 }
 

@@ -64,13 +64,14 @@ struct HelpersRoom {
     kivu::testing::ScriptedHost host{files};
     core::Form1 form{forms::Toolkit{}};
     profile::Ini ini{files};
+    core::PassingFiles passing{files};
     core::EventPacer pacer{host.events, host.clock};
     GivenUpLoading loading;
     StartHelpers helpers{
         form,
         ini,
         pacer,
-        {files, host.starter, host.clock, host.dialogs, host.log, "/run/user/1000"}};
+        {files, passing, host.starter, host.clock, host.dialogs, host.log, "/run/user/1000"}};
 };
 
 }  // namespace kivu::launch

@@ -196,7 +196,8 @@ TEST_F(MountShell, TheProgramsEndEndsTheWait) {
     Tool("/t/hangs");
     host.starter.looksWhileWaiting = 1000;
     host.events.onEvents = [this] { form.Ended = true; };
-    helpers.MountGameImage("/r/a");
+    // And nothing is launched.
+    EXPECT_FALSE(helpers.MountGameImage("/r/a"));
     EXPECT_EQ(host.events.count, 1);
 }
 

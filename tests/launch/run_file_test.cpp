@@ -12,9 +12,10 @@ using ::testing::ElementsAre;
 
 struct RunFileTest : ::testing::Test {
     testing::MemoryFileSystem files;
+    core::PassingFiles passing{files};
     testing::ScriptedHost host{files};
     core::EventPacer pacer{host.events, host.clock};
-    RunFile runFile{{files, host.starter, host.dialogs, "/tmp"}, pacer};
+    RunFile runFile{{files, passing, host.starter, host.dialogs, "/tmp"}, pacer};
 };
 
 TEST_F(RunFileTest, ACommandIsWaitedForWhileEventsRun) {

@@ -105,5 +105,46 @@ def emulator_lives_on():
         os.kill(emulator, signal.SIGKILL)
 
 
+# A tool that hangs is waited for; the program may end in it, and its small files with it.
+def nothing_is_left_of_a_mount(end):
+    with Desk() as desk:
+        program = Program(desk, binary, "DeamonToolPath=/hang\r\n")
+        program.write("Config/Alpha/Kivu.ini", program.read("Config/Alpha/Kivu.ini") +
+                      "AutoMountDeamonTool=1\r\nSplashTimer=0\r\n")
+        program.write("hang", "#!/bin/sh\necho $$ >> '" + program.path("hanging") + "'\nexec sleep 60\n")
+        os.chmod(program.path("hang"), 0o755)
+        program.start()
+        widen(desk, program)
+        desk.output(["xdotool", "mousemove", "--window", program.window, "150", "110",
+                     "click", "--repeat", "2", "--delay", "60", "1"])
+        tool = int(until("the tool", lambda: program.read("hanging")))
+        assert os.path.exists(program.path("Config/Alpha/MountDeamon.bat"))
+        end(desk, program)
+        program.wait()
+        os.kill(tool, signal.SIGKILL)
+        assert not os.path.exists(program.path("Config/Alpha/MountDeamon.bat"))
+        assert program.read("started") == "", "the emulator"
+        expect(program)
+
+
+def signal_while_a_mount_waits():
+    nothing_is_left_of_a_mount(lambda desk, program: program.signal())
+
+
+def display_that_goes_while_a_mount_waits():
+    nothing_is_left_of_a_mount(lambda desk, program: desk.server.terminate())
+
+
+def question_while_a_mount_waits():
+    def end(desk, program):
+        desk.output(["wmctrl", "-i", "-c", program.window])
+        until("the question", lambda: "Exit Kivu?" in desk.output(
+            ["xdotool", "getactivewindow", "getwindowname"]))
+        assert os.path.exists(program.path("Config/Alpha/MountDeamon.bat"))
+        desk.output(["xdotool", "key", "Return"])
+    nothing_is_left_of_a_mount(end)
+
+
 run([each_signal_stores, signal_with_the_question_open, panel_asks_and_enter_ends, alt_f4_ends_nothing,
-     display_that_goes_stores, emulator_lives_on])
+     display_that_goes_stores, emulator_lives_on, signal_while_a_mount_waits, display_that_goes_while_a_mount_waits,
+     question_while_a_mount_waits])

@@ -12,7 +12,7 @@ const std::vector<Action>& All() {
     static const std::vector<Action> all = [] {
         std::vector<Action> joined;
         for (const auto* table : {&ListActions(), &ControlActions(), &KeyActions(), &PadActions(),
-                                  &WindowActions(), &WorldActions()})
+                                  &WindowActions(), &WorldActions(), &HelperActions()})
             joined.insert(joined.end(), table->begin(), table->end());
         return joined;
     }();

@@ -26,6 +26,7 @@ const std::vector<Action>& KeyActions();
 const std::vector<Action>& PadActions();
 const std::vector<Action>& WindowActions();  // windows beside the main one
 const std::vector<Action>& WorldActions();   // processes, files, the window's size
+const std::vector<Action>& HelperActions();  // mounts, start scripts, display modes
 
 inline Json Command(std::initializer_list<Json> parts) {
     return Json::array_t(parts);

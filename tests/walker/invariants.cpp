@@ -18,9 +18,10 @@ std::vector<Expected> Moment::AllExpected() const {
 }
 
 std::optional<Fault> Check(const Moment& moment, const std::set<std::string>& leftOut) {
-    for (const auto* table : {&StartInvariants(), &HandedInvariants(), &RunningInvariants(),
-                              &PadInvariants(), &FrontInvariants(), &ListInvariants(),
-                              &PreviewInvariants(), &StoreInvariants(), &WindowInvariants()}) {
+    for (const auto* table :
+         {&StartInvariants(), &HandedInvariants(), &RunningInvariants(), &PadInvariants(),
+          &FrontInvariants(), &ListInvariants(), &PreviewInvariants(), &StoreInvariants(),
+          &WindowInvariants(), &HelperInvariants()}) {
         for (const Invariant& invariant : *table) {
             const bool exempt =
                 std::any_of(invariant.exemptions.begin(), invariant.exemptions.end(),

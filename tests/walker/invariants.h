@@ -22,8 +22,9 @@ struct Memory {
 struct Intrusion {
     Hand hand;
     Expected expected;
-    bool atBox;  // while a box was on the screen
-    bool idle;   // there, or while something was under way: nothing comes of it
+    bool atBox;               // while a box was on the screen
+    bool idle;                // there, or while something was under way: nothing comes of it
+    bool stopsStart = false;  // it calls off the start that is under way
 };
 
 // A command that was served while a modal window was open.
@@ -85,6 +86,7 @@ const std::vector<Invariant>& PadInvariants();      // the pad and its switch
 const std::vector<Invariant>& PreviewInvariants();  // the picture at the right
 const std::vector<Invariant>& StoreInvariants();    // the files
 const std::vector<Invariant>& WindowInvariants();   // windows beside the main one
+const std::vector<Invariant>& HelperInvariants();   // mounts, start scripts, display modes
 
 struct Fault {
     const Invariant* invariant = nullptr;

@@ -67,7 +67,7 @@ class Player {
 
     static bool IsForHost(const Json& command) {
         return command[0] == "answer" || command[0] == "input" || command[0] == "meanwhile" ||
-               command[0] == "device";
+               command[0] == "device" || command[0] == "waits" || command[0] == "display";
     }
 
     // What a command is to do where it comes in the middle of another one.
@@ -78,6 +78,10 @@ class Player {
         Intrusion intrusion{HandOf(command), {}, atBox, atBox || look.busy};
         // Behind a box there is no hand, and nothing from outside is to do anything; so it is while
         // something is under way.
+        const bool button = look.splash && intrusion.hand.control == "LoadingInfo.Command1";
+        intrusion.stopsStart =
+            !atBox && world.Form().StartCanBeGivenUp &&
+            (button || (intrusion.hand.gesture == "key" && intrusion.hand.key == "Escape"));
         if (!intrusion.idle) intrusion.expected = Expect(look, ReadStores(world, look), command);
         inner.push_back(std::move(intrusion));
     }

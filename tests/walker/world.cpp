@@ -84,6 +84,12 @@ std::string World::Read(const std::string& path) const {
 }
 
 void World::NoteStart(const platform::StartRequest& request) {
+    if (!request.watched) {
+        HelperRun helper{request.command, request.wait, starts.size()};
+        if (request.startFile) helper.text = disk.ReadFile(request.words.front()).value_or("");
+        helpers.push_back(std::move(helper));
+        return;
+    }
     Started started;
     const std::string& first = request.words.empty() ? request.command : request.words.front();
     started.game = request.words.size() != 1 || request.startFile;

@@ -23,6 +23,13 @@ struct Started {
     std::string program;   // of an emulator that is started without a start file
 };
 
+// A mount tool or the user's script beside a start.
+struct HelperRun {
+    std::string text;  // all that the command processor gets to read
+    bool mounts = false;
+    std::size_t startsBefore = 0;  // programs that had been started since the last look at them
+};
+
 struct BoxLook {
     testing::ShownBox box;
     Look look;  // while it is on the screen
@@ -69,6 +76,14 @@ class World {
     // Writes that the disk has refused.
     int TakeRefusals();
     std::vector<Started> TakeStarts() { return std::exchange(starts, {}); }
+    std::vector<HelperRun> TakeHelpers() { return std::exchange(helpers, {}); }
+    // Display modes that were asked for, and processes that were ended.
+    std::vector<platform::DisplayMode> TakeModes() {
+        return std::exchange(Host().display.sent, {});
+    }
+    std::size_t TakeKills() { return std::exchange(Host().processes.kills, {}).size(); }
+    // In this run of the program, at any time.
+    bool DiskHasRefused() const { return refusals > 0; }
     std::vector<BoxLook> TakeBoxes() { return std::exchange(boxes, {}); }
 
  private:
@@ -84,6 +99,7 @@ class World {
     std::deque<Json> following;
     std::vector<std::pair<Json, Json>> inside;
     std::vector<Started> starts;
+    std::vector<HelperRun> helpers;
     std::vector<BoxLook> boxes;
     std::optional<std::string> broken;  // what paths hold that cannot be written; empty: all
     int refusals = 0;

@@ -225,13 +225,21 @@ Fetched CurlDownloader::Fetch(const std::string& url, const std::string& path,
     if (curl == nullptr) return Fetched::unreachable;
     PartFile part;
     if (!part.Open(path)) return Fetched::notWritable;
+    underWay.push_back(&part);
     Transfer transfer(*curl, certificates, {maxBytes, patience}, part);
     auto result = std::async(std::launch::async, [&] { return RunQuietly(transfer, url); });
     while (result.wait_for(std::chrono::milliseconds(100)) != std::future_status::ready) {
         if (!transfer.cancelled && goOn && !goOn(transfer.got, transfer.total))
             transfer.cancelled = true;
     }
-    return result.get();
+    const Fetched ended = result.get();
+    underWay.pop_back();
+    return ended;
+}
+
+void CurlDownloader::Abandon() {
+    for (PartFile* part : underWay)
+        part->Abandon();
 }
 
 }  // namespace kivu::hosts

@@ -9,7 +9,13 @@
 namespace kivu::hosts {
 
 PartFile::~PartFile() {
+    Abandon();
+}
+
+void PartFile::Abandon() {
+    const std::scoped_lock lock(naming);
     if (!name.empty()) ::unlink(name.c_str());
+    name.clear();
 }
 
 bool PartFile::Open(const std::string& path) {
@@ -45,7 +51,8 @@ bool PartFile::Write(const char* bytes, std::size_t size) {
 
 bool PartFile::Finish() {
     if (::fsync(file.Get()) != 0 || !file.Close()) return false;
-    if (std::rename(name.c_str(), target.c_str()) != 0) return false;
+    const std::scoped_lock lock(naming);
+    if (name.empty() || std::rename(name.c_str(), target.c_str()) != 0) return false;
     name.clear();
     return true;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <mutex>
 #include <string>
 
 #include "hosts/linux/file_descriptor.h"
@@ -22,9 +23,13 @@ class PartFile {
     bool Write(const char* bytes, std::size_t size);
     // On the disk and at its place. False: the old file is still there.
     bool Finish();
+    // The process ends before this does: the file goes now. From any thread.
+    void Abandon();
 
  private:
-    std::string target, name;
+    std::string target;
+    std::mutex naming;
+    std::string name;  // empty: there is none (any more)
     FileDescriptor file;
 };
 

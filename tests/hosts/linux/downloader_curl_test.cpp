@@ -9,6 +9,7 @@
 #include <unistd.h>
 
 #include "as_user.h"
+#include "hosts/linux/part_file.h"
 #include "testing/environment_variable.h"
 #include "testing/temporary_directory.h"
 #include "web_server.h"
@@ -183,6 +184,42 @@ TEST_F(DownloaderCurl, AnotherDownloadMayRunWithinIt) {
     EXPECT_EQ(inner, Fetched::ok);
     EXPECT_EQ(directory.Read("other"), "content of /file");
     EXPECT_EQ(directory.Read("target"), "old");
+}
+
+// In the middle of both the process ends, and nothing comes back to clean up.
+TEST_F(DownloaderCurl, TheEndOfTheProcessLeavesNoPartOfAFile) {
+    CurlDownloader downloader;
+    const std::string other = directory.Path("other");
+    std::size_t during = 0, afterwards = 0;
+    const auto stop = [](std::int64_t, std::int64_t) { return false; };
+    downloader.Fetch(server->Http("/slow"), target, much, [&](std::int64_t, std::int64_t) {
+        downloader.Fetch(server->Http("/slow"), other, much, [&](std::int64_t, std::int64_t) {
+            during = directory.Count();
+            downloader.Abandon();
+            afterwards = directory.Count();
+            return false;
+        });
+        return false;
+    });
+    EXPECT_EQ(during, 3U);
+    EXPECT_EQ(afterwards, 1U);
+    ExpectTheOldFile();
+    // What is over is no longer its own.
+    directory.Write("target.part", "of a browser");
+    EXPECT_EQ(downloader.Fetch(server->Http("/slow"), target, much, stop), Fetched::cancelled);
+    downloader.Abandon();
+    EXPECT_EQ(directory.Read("target.part"), "of a browser");
+    EXPECT_EQ(directory.Count(), 2U);
+}
+
+// All of it may have come by then.
+TEST_F(DownloaderCurl, AnAbandonedFileTakesNobodysPlace) {
+    PartFile part;
+    ASSERT_TRUE(part.Open(target));
+    ASSERT_TRUE(part.Write("new", 3));
+    part.Abandon();
+    EXPECT_FALSE(part.Finish());
+    ExpectTheOldFile();
 }
 
 TEST_F(DownloaderCurl, AnotherProgramsPartIsLeftAlone) {

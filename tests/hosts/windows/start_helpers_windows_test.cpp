@@ -55,6 +55,7 @@ class RealHelpers : public ::testing::Test {
     ScratchDirectory disk;
     kivu::testing::Telling telling;
     hosts::WindowsFileSystem files;
+    core::PassingFiles passing{files};
     hosts::WindowsProgramStarter starter;
     kivu::testing::ScriptedClock clock;
     kivu::testing::ScriptedDialogs dialogs;
@@ -64,7 +65,7 @@ class RealHelpers : public ::testing::Test {
     profile::Ini ini{files};
     core::EventPacer pacer{events, clock};
     kivu::testing::QuietLoadingScreen loading;
-    StartHelpers helpers{form, ini, pacer, {files, starter, clock, dialogs, log, ""}};
+    StartHelpers helpers{form, ini, pacer, {files, passing, starter, clock, dialogs, log, ""}};
 };
 
 TEST_F(RealHelpers, TheToolGetsTheImageWhateverItsName) {
