@@ -1,8 +1,11 @@
 #include "view/choice_box.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QHelpEvent>
+#include <QKeyEvent>
 #include <QListView>
+#include <QPointer>
 #include <QStylePainter>
 #include <QToolTip>
 #include <algorithm>
@@ -14,6 +17,46 @@
 
 namespace kivu::view {
 
+namespace {
+
+// The toolkit's popup closes by a key while that is offered as a shortcut, in front of its press.
+// Where the session leaves the keyboard with the window (Wayland), the press would then be the
+// window's: Escape would ask to quit, Enter would start what is marked. So it closes by the press.
+class KeysOfPopup : public QObject {
+ public:
+    explicit KeysOfPopup(QAbstractItemView& view) : QObject(&view), view(view) {
+        view.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* object, QEvent* event) override {
+        if (offering || object != &view) return false;
+        if (event->type() == QEvent::ShortcutOverride) {
+            event->accept();
+            return true;
+        }
+        return event->type() == QEvent::KeyPress && Close(static_cast<QKeyEvent&>(*event));
+    }
+
+ private:
+    bool Close(QKeyEvent& press) {
+        QKeyEvent offer(QEvent::ShortcutOverride, press.key(), press.modifiers(), press.text(),
+                        press.isAutoRepeat());
+        const QPointer<QObject> alive(this);
+        offering = true;
+        QCoreApplication::sendEvent(&view, &offer);
+        // The row that is chosen may have done away with all of this.
+        if (alive) offering = false;
+        if (alive && view.isVisible()) return false;
+        press.accept();
+        return true;
+    }
+
+    QAbstractItemView& view;
+    bool offering = false;
+};
+
+}  // namespace
+
 void DressPopup(QComboBox& combo, const RowSource& source) {
     QAbstractItemView* view = combo.view();
     if (!dynamic_cast<RowDelegate*>(view->itemDelegate())) {
@@ -21,6 +64,7 @@ void DressPopup(QComboBox& combo, const RowSource& source) {
         view->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
         if (auto* list = qobject_cast<QListView*>(view)) list->setUniformItemSizes(true);
         view->window()->setFont(combo.font());
+        new KeysOfPopup(*view);
     }
     view->setMinimumWidth(combo.width());
 }

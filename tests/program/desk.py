@@ -29,11 +29,10 @@ def until(what, condition):
         time.sleep(0.05)
 
 
-class Desk:
-    def __init__(self, manager=True):
-        missing = [tool for tool in ("Xvfb", "openbox", "xdotool", "wmctrl", "xprop") if not shutil.which(tool)]
-        if missing:
-            skip("not installed: " + ", ".join(missing))
+class Place:
+    """What a desk of either kind has: a directory that goes with it, and its processes."""
+
+    def __init__(self, platform):
         self.directory = tempfile.mkdtemp(prefix="kivu-program-")
         runtime = os.path.join(self.directory, "run")
         os.mkdir(runtime, 0o700)
@@ -42,27 +41,10 @@ class Desk:
             "HOME": self.directory,
             "XDG_RUNTIME_DIR": runtime,
             "LANG": "C.UTF-8",
-            "QT_QPA_PLATFORM": "xcb",
+            "QT_QPA_PLATFORM": platform,
             **{name: value for name, value in os.environ.items() if name.endswith("SAN_OPTIONS")},
         }
         self.processes = []
-        read, write = os.pipe()
-        self.server = self.start(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
-                                  "-noreset"], pass_fds=[write])
-        os.close(write)
-        with os.fdopen(read) as number:
-            display = number.readline().strip()
-        if not display:
-            skip("no virtual display can be made here")
-        self.environment["DISPLAY"] = ":" + display
-        if manager:
-            self.start(["openbox"])
-            try:
-                until("a window manager",
-                      lambda: "window id" in self.output(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]))
-            except AssertionError:
-                self.close()
-                raise
 
     def start(self, words, **more):
         process = subprocess.Popen(words, env=self.environment, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
@@ -85,6 +67,35 @@ class Desk:
 
     def __exit__(self, *_):
         self.close()
+
+
+def skip_without(*tools):
+    missing = [tool for tool in tools if not shutil.which(tool)]
+    if missing:
+        skip("not installed: " + ", ".join(missing))
+
+
+class Desk(Place):
+    def __init__(self, manager=True):
+        skip_without("Xvfb", "openbox", "xdotool", "wmctrl", "xprop")
+        super().__init__("xcb")
+        read, write = os.pipe()
+        self.server = self.start(["Xvfb", "-displayfd", str(write), "-screen", "0", "1280x900x24", "-nolisten", "tcp",
+                                  "-noreset"], pass_fds=[write])
+        os.close(write)
+        with os.fdopen(read) as number:
+            display = number.readline().strip()
+        if not display:
+            skip("no virtual display can be made here")
+        self.environment["DISPLAY"] = ":" + display
+        if manager:
+            self.start(["openbox"])
+            try:
+                until("a window manager",
+                      lambda: "window id" in self.output(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"]))
+            except AssertionError:
+                self.close()
+                raise
 
 
 class Program:

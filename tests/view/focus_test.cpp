@@ -119,6 +119,40 @@ TEST_F(FocusTest, KeysAreTheOpenDropDowns) {
     EXPECT_EQ(form.log.size(), 1U);
 }
 
+// As the session hands them to the window: offered as a shortcut first, then pressed.
+TEST_F(FocusTest, KeyThatClosesADropDownDoesNothingElse) {
+    for (forms::ComboBox* box : {&form.combo, &form.choice}) {
+        for (const char* row : {"One", "Two"})
+            box->AddItem(row);
+    }
+    form.choice.SetVisible(true);
+    Show();
+    for (forms::ComboBox* box : {&form.combo, &form.choice}) {
+        box->SetFocus();
+        auto* combo = Find<QComboBox>(box->FullName().c_str());
+        for (const int key : {Qt::Key_Escape, Qt::Key_Return, Qt::Key_F4, Qt::Key_Down}) {
+            SCOPED_TRACE(box->FullName() + ": " + std::to_string(key));
+            const Qt::KeyboardModifiers held =
+                key == Qt::Key_Down ? Qt::AltModifier : Qt::NoModifier;
+            box->SetListIndex(0);
+            form.onPreviewKeyDown = nullptr;
+            combo->showPopup();
+            ASSERT_TRUE(QApplication::activePopupWidget());
+            form.log.clear();
+            form.onPreviewKeyDown = [this](forms::Key&) { form.log.push_back("key"); };
+            QTest::keyClick(view.Window().windowHandle(), Qt::Key_Down);
+            EXPECT_TRUE(QApplication::activePopupWidget());
+            QTest::keyClick(view.Window().windowHandle(), static_cast<Qt::Key>(key), held);
+            EXPECT_FALSE(QApplication::activePopupWidget());
+            EXPECT_TRUE(form.log.empty());
+            EXPECT_EQ(box->ListIndex(), key == Qt::Key_Return ? 1 : 0);
+            // The next one is the window's again.
+            QTest::keyClick(view.Window().windowHandle(), Qt::Key_Escape);
+            EXPECT_EQ(form.log, std::vector<std::string>{"key"});
+        }
+    }
+}
+
 TEST_F(FocusTest, StaysWhileAPopupIsOpen) {
     form.combo.AddItem("a");
     form.combo.AddItem("b");
