@@ -47,6 +47,9 @@ done
 desktop-file-validate "$work/demo/kivu-demo.desktop" >"$work/told" 2>&1 || Fail "$(cat "$work/told")"
 [ ! -s "$work/told" ] || Fail "$(cat "$work/told")"
 Manual "$work/demo/kivu-demo.1"
+# The windows of both are of one class, which a dock looks for in all entries: one of them has it.
+grep -qx 'StartupWMClass=Kivu' "$desktop" || Fail "the desktop file does not name the class of its windows"
+! grep -q '^StartupWMClass' "$work/demo/kivu-demo.desktop" || Fail "the demo's entry takes the windows of Kivu's"
 
 # Each icon has the size of its directory.
 for icon in "$prefix"/share/icons/hicolor/*x*/apps/*.png; do
