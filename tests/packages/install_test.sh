@@ -8,9 +8,10 @@ FilesOf "$prefix" >"$work/files"
 # Chapters and pictures come and go.
 {
   cat "$here/installed.txt"
-  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/guide*.md docs/*.png)
+  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/guide*.md docs/keyboard*.md docs/*.png)
 } | sort >"$work/expected"
 Same "$work/expected" "$work/files" "the installed files"
+"$tree/scripts/packages/dead-links.sh" "$prefix/share/doc" || Fail "a document leads to none that is installed"
 [ -x "$prefix/bin/Kivu" ] || Fail "the program cannot be run"
 
 id=$(sed -n 's/^set(KIVU_APP_ID "\([^"]*\)".*/\1/p' "$tree/CMakeLists.txt")
