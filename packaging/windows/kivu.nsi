@@ -31,6 +31,7 @@ VIAddVersionKey "LegalCopyright" "Copyright (c) 2026 The Kivu developers, MIT li
 !define MUI_UNICON "${TREE}/assets/icon/kivu.ico"
 !define MUI_FINISHPAGE_RUN "$INSTDIR\Kivu.exe"
 !insertmacro MUI_PAGE_LICENSE "${TREE}/LICENSE"
+!define MUI_PAGE_CUSTOMFUNCTION_LEAVE CheckPlace
 !insertmacro MUI_PAGE_DIRECTORY
 !insertmacro MUI_PAGE_INSTFILES
 !insertmacro MUI_PAGE_FINISH
@@ -43,6 +44,8 @@ LangString running ${LANG_ENGLISH} "Kivu is running. Please end it, then press R
 LangString running ${LANG_GERMAN} "Kivu läuft. Bitte beenden Sie es und wählen Sie dann Wiederholen."
 LangString tooOld ${LANG_ENGLISH} "Kivu needs Windows 10 or later."
 LangString tooOld ${LANG_GERMAN} "Kivu braucht Windows 10 oder neuer."
+LangString taken ${LANG_ENGLISH} "Another program lies in this directory. Please choose a different one."
+LangString taken ${LANG_GERMAN} "In diesem Verzeichnis liegt ein anderes Programm. Bitte wählen Sie ein anderes."
 
 ; Windows lets nobody write to the file of a program that runs. Without a window nobody can be asked: it ends there.
 !macro WaitForEnd PREFIX
@@ -72,7 +75,19 @@ Function .onInit
   ${EndIf}
 FunctionEnd
 
+; An uninstaller of this name that is not ours takes a program away that nobody wants to miss. It is neither run nor
+; replaced: nothing is laid down there.
+Function CheckPlace
+  ReadRegStr $0 HKCU "${UNINSTALL}" "InstallLocation"
+  ${If} ${FileExists} "$INSTDIR\Uninstall.exe"
+  ${AndIf} $0 != $INSTDIR
+    MessageBox MB_OK|MB_ICONEXCLAMATION "$(taken)" /SD IDOK
+    Abort
+  ${EndIf}
+FunctionEnd
+
 Section
+  Call CheckPlace
   Call WaitForEnd
   ; A version before this one may have had files that this one has not.
   ${If} ${FileExists} "$INSTDIR\Uninstall.exe"

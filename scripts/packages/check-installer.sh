@@ -50,6 +50,13 @@ winecfg -v win81
 Install
 [ ! -e "$place" ] || Fail "it installs on a Windows that is too old"
 winecfg -v win10
+# Where another program lies: its uninstaller may have the same name.
+mkdir -p "$place"
+echo theirs >"$place/Uninstall.exe"
+Install
+[ "$(FilesOf "$place"; cat "$place/Uninstall.exe")" = "./Uninstall.exe
+theirs" ] || Fail "it takes another program's uninstaller for its own"
+rm -r "$place"
 Install
 for file in Kivu.exe Uninstall.exe LICENSE.txt README.md CHANGELOG.md docs/guide.md Skins/Papier/Skin.ini; do
   [ -s "$place/$file" ] || Fail "it has not laid down $file"

@@ -23,6 +23,7 @@ program_dir=$(echo "$place"/Kivu-*)
 for file in Kivu qt.conf lib/libQt6Core.so.6 plugins/platforms/libqxcb.so licences/libqt6core6.txt LICENSE; do
   [ -s "$program_dir/$file" ] || Fail "the tarball lacks $file"
 done
+"$here/scripts/packages/dead-links.sh" "$program_dir" || Fail "a document leads to none in the tarball"
 [ "$(find "$program_dir" -name '*.so*' -newermt '@'"$(date +%s)" | wc -l)" -eq 0 ] || Fail "its times are those of its making"
 
 as=(unshare -m)

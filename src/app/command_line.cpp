@@ -25,6 +25,17 @@ bool IsWhole(const std::string& path, char separator) {
     return path.starts_with("\\\\") || (path.size() > 2 && path[1] == ':' && path[2] == '\\');
 }
 
+// With those above it that are missing. Whether it is there then shows in what follows.
+void MakeDirectories(const std::string& path, std::size_t root, platform::FileSystem& files) {
+    if (files.IsDirectory(path)) return;
+    const std::string separators = {'/', files.Separator()};
+    for (std::size_t end = root; end != std::string::npos;) {
+        end = path.find_first_of(separators, end + 1);
+        const std::string part = path.substr(0, end);
+        if (!files.IsDirectory(part)) (void)files.MakeDirectory(part);
+    }
+}
+
 }  // namespace
 
 Options TakeOptions(std::vector<std::string>& arguments,
@@ -94,9 +105,12 @@ std::optional<SpokenAnswer> AnswerTo(const Options& options, const std::string& 
 }
 
 std::string DataDirectory(const std::string& given, platform::FileSystem& files) {
+    const auto rootOf = [](const std::string& path) -> std::size_t {
+        return path.starts_with('/') || path.starts_with('\\') ? 1 : 3;
+    };
     const auto trimmed = [&](std::string path) {
-        const std::size_t root = path.starts_with('/') ? 1 : 3;
-        while (path.size() > root && (path.back() == '/' || path.back() == files.Separator()))
+        while (path.size() > rootOf(path) &&
+               (path.back() == '/' || path.back() == files.Separator()))
             path.pop_back();
         return path;
     };
@@ -108,8 +122,7 @@ std::string DataDirectory(const std::string& given, platform::FileSystem& files)
         path += given;
     }
     path = trimmed(path);
-    // Whether it is there shows in what follows.
-    if (!files.IsDirectory(path)) (void)files.MakeDirectory(path);
+    MakeDirectories(path, rootOf(path), files);
     // Without "." and "..", or the drive of the moment, which would stand in the way of paths below
     // it. What is whole already keeps its links.
     return IsWhole(given, files.Separator()) ? path : trimmed(files.ResolvedPath(path));

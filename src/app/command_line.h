@@ -35,7 +35,7 @@ std::optional<SpokenAnswer> AnswerTo(const Options& options, const std::string& 
                                      bool german);
 
 // The directory that the user has named, absolute and without a closing separator. A missing one is
-// made where there is one above it.
+// made, and those above it.
 std::string DataDirectory(const std::string& given, platform::FileSystem& files);
 
 // The user's arguments as one text, joined by blanks. A relative path of an existing file becomes

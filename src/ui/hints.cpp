@@ -31,10 +31,24 @@ void Hints::Refresh() {
 }
 
 void Hints::ShowFirstSteps() {
-    if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
+    if (form.Ended) return;
     storesNothing = !support::CanWriteIn(files, form.ConfigPath);
+    // By its name, as the desktop's menu finds it.
+    demoIsThere = form.EmuListbox.ListCount() == 0 && !starter.FindInPath("kivu-demo").empty();
     Refresh();
-    form.LoadingBtn.SetHint(FirstStep());
+    MyCaptionLabel_Change();
+    if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible()) form.LoadingBtn.SetHint(FirstStep());
+}
+
+void Hints::MyCaptionLabel_Change() {
+    if (!storesNothing) return;
+    forms::Label& line = form.MyCaptionLabel;
+    // The path stands where a line that is too long is cut, and is whole in the tool tip.
+    line.SetShownText(line.Caption() +
+                      form.Say(" – Nichts wird gespeichert, nicht beschreibbar: ",
+                               " – Nothing will be stored, not writable: ") +
+                      form.ConfigPath);
+    line.SetToolTipText(NotStored());
 }
 
 // Where nothing can be stored, there is no sense in making an emulator.
@@ -55,11 +69,15 @@ std::string Hints::NotStored() const {
 std::string Hints::NoEmulator() const {
     if (form.EmuListbox.ListCount() > 0)
         return form.Say("Wähle oben links einen Emulator.", "Choose an emulator at the top left.");
+    const std::string demo =
+        form.Say("\r\rZum Ausprobieren: \"Kivu-Demo\" im Menü\rder Anwendungen.",
+                 "\r\rTo look around first: \"Kivu Demo\"\rin the menu of applications.");
     return form.Say("Noch kein Emulator.\rDrücke unten rechts auf \"",
                     "No emulator yet.\rPress \"") +
            form.SettingsBtn.Caption() +
            form.Say("\"\rund dort auf \"Neuer Emulator..\".",
-                    "\" at the bottom right\rand there \"New emulator..\".");
+                    "\" at the bottom right\rand there \"New emulator..\".") +
+           (demoIsThere ? demo : "");
 }
 
 std::string Hints::NoGames() const {

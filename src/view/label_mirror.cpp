@@ -65,8 +65,7 @@ class LabelWidget : public QWidget {
             FillRounded(painter, rect(), cornerRadius, veil);
         }
         if (!isEnabled()) {
-            const QColor ground = label.IsOpaque() || marked ? back : window;
-            text = MixFor(3.5, ground, Readable(text, ground, 3.5), 0.5);
+            text = MixFor(3.5, Ground(), Readable(text, Ground(), 3.5), 0.5);
         }
         if (label.IsLink()) MarkLink(painter);
         painter.setPen(text);
@@ -77,6 +76,11 @@ class LabelWidget : public QWidget {
     void resizeEvent(QResizeEvent*) override { Forget(); }
 
  private:
+    // What the text lies on.
+    QColor Ground() const {
+        const bool own = label.IsOpaque() || IsMarked(label);
+        return ToQt(own ? label.BackColor() : label.ParentForm()->BackColor());
+    }
     // A link is underlined, and in a frame while it has the focus.
     void MarkLink(QPainter& painter) {
         QFont underlined = font();
@@ -130,9 +134,7 @@ class LabelWidget : public QWidget {
         if (label.Hint().empty()) return;
         const QRectF place = QRectF(rect()).adjusted(24, 0, -24, 0);
         painter.setFont(HintFont(font()));
-        QColor quiet = painter.pen().color();
-        quiet.setAlphaF(0.75F);
-        painter.setPen(quiet);
+        painter.setPen(MixFor(textContrast, Ground(), painter.pen().color(), 0.75));
         const QRectF below(place.left(), top + 12, place.width(), place.bottom() - top - 12);
         if (below.isEmpty()) return;
         const QStringList lines =

@@ -53,7 +53,8 @@ void ListView::paintEvent(QPaintEvent* event) {
     QPainter painter(viewport());
     painter.setFont(HintFont(font()));
     const QColor base = palette().color(QPalette::Base);
-    painter.setPen(Mix(base, Readable(palette().color(QPalette::Text), base), 0.72));
+    painter.setPen(
+        MixFor(textContrast, base, Readable(palette().color(QPalette::Text), base), 0.72));
     constexpr int air = 24;
     const QRect place = viewport()->rect().adjusted(air, air, -air, -air);
     if (place.isEmpty()) return;

@@ -55,6 +55,7 @@ void Launcher::Routines::JoinWindow() {
     form.MyCaptionLabel.onMouseDown = drag;
     form.TitleStr.onClick = [this] { links.ShowHomePage(); };
     form.DonateBtn.onClick = [this] { links.Donate(); };
+    form.MyCaptionLabel.onChange = [this] { hints.MyCaptionLabel_Change(); };
     form.MyCaptionLabel.onDblClick = [this] { surface.MyCaptionLabel_DblClick(); };
     form.NormalMaxCapt.onClick = [this] { surface.NormalMaxCapt_Click(); };
 

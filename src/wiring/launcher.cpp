@@ -29,7 +29,6 @@ core::Form1& Launcher::MainWindow() {
 void Launcher::Start() {
     routines->alwaysOnTop.LoadSettings();
     routines->startUp.Form_Load();
-    routines->hints.Refresh();
     routines->hints.ShowFirstSteps();
 }
 
@@ -102,7 +101,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       fontSize(form, layout),
       skins(form, host.files, pictureLoader),
       windowColors(form, ini),
-      hints(form, host.files),
+      hints(form, host.files, host.starter),
       surface(form, ini, {dialogs, host.files}, busy, alwaysOnTop),
       panelDrag(form, layout),
       previews(form, {host.files, host.background}, layout, pictureLoader),

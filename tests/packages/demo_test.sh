@@ -58,4 +58,21 @@ wait $first
 export XDG_DATA_HOME="$work/elsewhere"
 "$prefix/bin/kivu-demo"
 [ -e "$work/elsewhere/Kivu-Demo/Config/DOSBox/Kivu.ini" ] || Fail "XDG_DATA_HOME does not count"
+
+# Where it cannot be laid out Kivu comes up all the same: it has a window to say so, and the menu's entry has none.
+# StartsBare DATA_HOME
+StartsBare() {
+  rm -f "$HOME/told"
+  XDG_DATA_HOME=$1 "$prefix/bin/kivu-demo" x 2>"$work/words" || Fail "kivu-demo fails where it lays nothing out"
+  printf '%s\n' --data "$1/Kivu-Demo" x >"$work/told"
+  Same "$work/told" "$HOME/told" "what Kivu is started with where nothing can be laid out"
+  grep -q '^kivu-demo: the collection in ' "$work/words" || Fail "a terminal hears nothing of it"
+}
+StartsBare "$work/told/below a file"
+mkdir -p "$work/locked/Kivu-Demo/.lock"
+StartsBare "$work/locked"
+# As on a full disk.
 chmod -R u+w "$prefix"
+printf '#!/bin/sh\nexit 1\n' >"$share/lay-out.sh"
+StartsBare "$work/full"
+[ ! -e "$work/full/Kivu-Demo/.laid-out" ] || Fail "what has broken off counts as laid out"

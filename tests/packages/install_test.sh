@@ -8,9 +8,10 @@ FilesOf "$prefix" >"$work/files"
 # Chapters and pictures come and go.
 {
   cat "$here/installed.txt"
-  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/guide*.md docs/*.png)
+  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/guide*.md docs/keyboard*.md docs/*.png)
 } | sort >"$work/expected"
 Same "$work/expected" "$work/files" "the installed files"
+"$tree/scripts/packages/dead-links.sh" "$prefix/share/doc" || Fail "a document leads to none that is installed"
 [ -x "$prefix/bin/Kivu" ] || Fail "the program cannot be run"
 
 id=$(sed -n 's/^set(KIVU_APP_ID "\([^"]*\)".*/\1/p' "$tree/CMakeLists.txt")
@@ -47,6 +48,9 @@ done
 desktop-file-validate "$work/demo/kivu-demo.desktop" >"$work/told" 2>&1 || Fail "$(cat "$work/told")"
 [ ! -s "$work/told" ] || Fail "$(cat "$work/told")"
 Manual "$work/demo/kivu-demo.1"
+# The windows of both are of one class, which a dock looks for in all entries: one of them has it.
+grep -qx 'StartupWMClass=Kivu' "$desktop" || Fail "the desktop file does not name the class of its windows"
+! grep -q '^StartupWMClass' "$work/demo/kivu-demo.desktop" || Fail "the demo's entry takes the windows of Kivu's"
 
 # Each icon has the size of its directory.
 for icon in "$prefix"/share/icons/hicolor/*x*/apps/*.png; do

@@ -61,8 +61,75 @@ TEST_F(FirstSteps, SayItBesideTheEmulatorsToo) {
     EXPECT_THAT(Text("LoadingBtn.Hint"), HasSubstr("nothing will be stored"));
 }
 
+TEST_F(FirstSteps, LeadToTheDemoWhereItIsInstalled) {
+    prepare = [](driver::Session& run) { run.Host().starter.path["kivu-demo"] = "/usr/bin/x"; };
+    Start();
+    EXPECT_EQ(Text("LoadingBtn.Hint"),
+              "No emulator yet.\rPress \"Optionen..\" at the bottom right\r"
+              "and there \"New emulator..\".\r\r"
+              "To look around first: \"Kivu Demo\"\rin the menu of applications.");
+    EXPECT_EQ(Text("EmulatorLongListbox.Hint"), Text("LoadingBtn.Hint"));
+    options.language = "German";
+    Start();
+    EXPECT_THAT(Text("LoadingBtn.Hint"),
+                HasSubstr("Zum Ausprobieren: \"Kivu-Demo\" im Menü\rder Anwendungen."));
+    // Who has emulators has no need of it, and where nothing is stored it cannot be made.
+    tree.AddEmulator("Alpha");
+    Start();
+    EXPECT_EQ(Text("LoadingBtn.Hint"), "Wähle oben links einen Emulator.");
+    std::filesystem::remove_all(tree.Path("Config/Alpha"));
+    prepare = [](driver::Session& run) {
+        run.Host().starter.path["kivu-demo"] = "/usr/bin/x";
+        run.disk.MakeReadOnly();
+    };
+    Start();
+    EXPECT_THAT(Text("LoadingBtn.Hint"), ::testing::Not(HasSubstr("Demo")));
+}
+
 TEST_F(FirstSteps, LookingLeavesNothingBehind) {
     Start();
+    for (const auto& entry : std::filesystem::directory_iterator(tree.Path("Config")))
+        EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
+}
+
+TEST_F(Hints, TheTitlesLineSaysThatNothingCanBeStored) {
+    for (const char* language : {"English", "German"}) {
+        const bool english = language == std::string("English");
+        options.language = language;
+        prepare = [](driver::Session& run) { run.disk.MakeReadOnly(); };
+        Start();
+        ASSERT_EQ(Get("CurrentEmuIndex"), 0);
+        const std::string words = (english ? " – Nothing will be stored, not writable: "
+                                           : " – Nichts wird gespeichert, nicht beschreibbar: ") +
+                                  Text("ConfigPath");
+        EXPECT_EQ(Text("MyCaptionLabel.Caption"), "Kivu 1.4b");
+        EXPECT_EQ(Text("MyCaptionLabel.ShownText"), "Kivu 1.4b" + words);
+        EXPECT_THAT(Text("MyCaptionLabel.ToolTipText"), HasSubstr(Text("ConfigPath")));
+        EXPECT_THAT(Text("MyCaptionLabel.ToolTipText"), HasSubstr("--data"));
+        // Nobody has to answer, and what the line says of the moment stands in front.
+        EXPECT_EQ(Do("boxes")["value"], Json::array());
+        Do("set", "Form1.MyCaptionLabel.Caption", "Running: alpha");
+        EXPECT_EQ(Text("MyCaptionLabel.ShownText"), "Running: alpha" + words);
+        // With another emulator too.
+        Do("focus", "Form1.EmuListbox");
+        Do("dblclick", "Form1.EmulatorLongListbox", 1);
+        ASSERT_EQ(Get("CurrentEmuIndex"), 1);
+        EXPECT_EQ(Text("MyCaptionLabel.ShownText"), "Kivu 1.4b" + words);
+    }
+}
+
+TEST_F(Hints, TheTitlesLineSaysItWithTheLastEmulatorGoneToo) {
+    tree.WriteProgramProfile({{"LastEmulator", "Gone"}});
+    prepare = [](driver::Session& run) { run.disk.FillDisk(); };
+    Start();
+    ASSERT_EQ(Get("CurrentEmuIndex"), -1);
+    EXPECT_THAT(Text("MyCaptionLabel.ShownText"), HasSubstr("Nothing will be stored"));
+}
+
+TEST_F(Hints, TheTitlesLineIsPlainWhereAllCanBeStored) {
+    Start();
+    EXPECT_EQ(Text("MyCaptionLabel.ShownText"), "");
+    EXPECT_EQ(Text("MyCaptionLabel.ToolTipText"), "");
     for (const auto& entry : std::filesystem::directory_iterator(tree.Path("Config")))
         EXPECT_NE(entry.path().extension(), ".tmp") << entry.path();
 }

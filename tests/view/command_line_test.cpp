@@ -125,9 +125,31 @@ TEST(CommandLine, TheDirectoryOfTheRunIsWholeAndThere) {
     EXPECT_EQ(app::DataDirectory("other", files), "/home/u/other");
     EXPECT_TRUE(files.IsDirectory("/home/u/other"));
     EXPECT_EQ(app::DataDirectory("/", files), "/");
-    // It stands for itself where it cannot be made; the first screen says so.
-    EXPECT_EQ(app::DataDirectory("/missing/deep", files), "/missing/deep");
-    EXPECT_FALSE(files.IsDirectory("/missing"));
+}
+
+TEST(CommandLine, TheDirectoryOfTheRunIsMadeWithThoseAboveIt) {
+    testing::MemoryFileSystem files;
+    files.AddDirectory("/home/u");
+    ASSERT_FALSE(files.ChangeDirectory("/home/u"));
+    EXPECT_EQ(app::DataDirectory("/missing/as//deep/", files), "/missing/as//deep");
+    EXPECT_TRUE(files.IsDirectory("/missing/as/deep"));
+    EXPECT_EQ(app::DataDirectory("a/b/c", files), "/home/u/a/b/c");
+    EXPECT_TRUE(files.IsDirectory("/home/u/a/b/c"));
+    testing::MemoryFileSystem drive{'\\'};
+    EXPECT_EQ(app::DataDirectory("C:\\x\\y\\Kivu", drive), "C:\\x\\y\\Kivu");
+    EXPECT_TRUE(drive.IsDirectory("C:\\x\\y\\Kivu"));
+    // Of the drive of the moment.
+    (void)app::DataDirectory("\\a\\b\\c", drive);
+    EXPECT_TRUE(drive.IsDirectory("C:\\a\\b\\c"));
+}
+
+TEST(CommandLine, TheDirectoryOfTheRunStandsForItselfWhereItCannotBeMade) {
+    testing::MemoryFileSystem files;
+    files.AddDirectory("/home/u");
+    files.SetReadOnly("/home/u");
+    // The first screen says so.
+    EXPECT_EQ(app::DataDirectory("/home/u/a/b", files), "/home/u/a/b");
+    EXPECT_FALSE(files.IsDirectory("/home/u/a"));
 }
 
 TEST(CommandLine, TheDirectoryOfTheRunIsSpelledAsTheHostDoes) {

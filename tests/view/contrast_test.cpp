@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QDir>
+#include <QPainter>
 #include <QSettings>
 #include <functional>
 
@@ -30,6 +31,37 @@ std::vector<Look> Looks() {
         looks.push_back({name, color("BackColor"), color("FontColor")});
     }
     return looks;
+}
+
+// What the pictures of a look lie on: its own one in the corner of the window where they are, in
+// patches, and its plain colour.
+std::vector<QColor> GroundsOf(const Look& look) {
+    const QString skins = QStringLiteral(KIVU_SKINS "/");
+    const QImage picture(look.name == QStringLiteral("default")
+                             ? skins + QStringLiteral("../png/background.png")
+                             : skins + look.name + QStringLiteral("/Background.jpg"));
+    EXPECT_FALSE(picture.isNull()) << look.name.toStdString();
+    QImage covered(8, 6, QImage::Format_RGB32);
+    covered.fill(look.back);
+    QPainter(&covered).drawImage(
+        0, 0, picture.scaled(covered.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    std::vector<QColor> grounds{look.back};
+    for (int y = covered.height() / 2; y < covered.height(); ++y)
+        for (int x = covered.width() / 2; x < covered.width(); ++x)
+            grounds.push_back(covered.pixelColor(x, y));
+    return grounds;
+}
+
+// A picture of ours as it is shown, this many pixels wide and high.
+QImage PictureOn(const QColor& ground, const char* name, int size) {
+    const QString directory = QStringLiteral(KIVU_SKINS "/../png/");
+    const QImage picture(directory + QLatin1String(name) + QStringLiteral(".png"));
+    EXPECT_FALSE(picture.isNull()) << name;
+    QImage shown(size, size, QImage::Format_RGB32);
+    shown.fill(ground);
+    QPainter(&shown).drawImage(
+        0, 0, picture.scaled(shown.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    return shown;
 }
 
 forms::Color Of(const QColor& color) {
@@ -142,6 +174,18 @@ TEST_F(ContrastTest, WordsCanBeRead) {
     });
 }
 
+// Blocks in place of letters: they show their colour whole.
+TEST_F(ContrastTest, HintsCanBeRead) {
+    const std::string blocks = "\u2588\u2588\u2588\u2588";
+    form.other.SetHint(blocks);
+    form.label.Move(8400, 3600, 3000, 1800);
+    form.label.SetHint(blocks);
+    InEachLook([this] {
+        EXPECT_GE(FurthestContrast(Grab("Other", QRect(30, 24, 140, 16))), text);
+        EXPECT_GE(FurthestContrast(Grab("Label", QRect(30, 48, 140, 40))), text);
+    });
+}
+
 TEST_F(ContrastTest, LettersOfAButtonKeepTheirColourUnderTheMouse) {
     Show();
     const QRect words(8, 8, 80, 24);
@@ -214,6 +258,20 @@ TEST_F(ContrastTest, ControlsAreSeen) {
         auto* bar = Find<QAbstractItemView>("List")->verticalScrollBar();
         EXPECT_GE(FurthestContrast(bar->grab().toImage()), shape);
     });
+}
+
+TEST_F(ContrastTest, PicturesAreSeen) {
+    const std::vector<std::pair<const char*, int>> pictures{
+        {"pin-enabled", 28}, {"pin-disabled", 28}, {"pin-hover", 28}, {"search", 22},
+        {"joystick", 28},    {"close", 24},        {"fault", 24}};
+    for (const Look& look : Looks()) {
+        for (const QColor& ground : GroundsOf(look)) {
+            for (const auto& [name, size] : pictures)
+                EXPECT_GE(FurthestContrast(PictureOn(ground, name, size)), shape)
+                    << look.name.toStdString() << ", " << name << " on "
+                    << ground.name().toStdString();
+        }
+    }
 }
 
 TEST_F(ContrastTest, FocusIsSeen) {
