@@ -142,7 +142,7 @@ Book() {
   xdotool key F2
   Take zoomed
   xdotool key F2 Right
-  xdotool key --delay 80 a r
+  xdotool key --delay 80 r i
   Take search
   xdotool key ctrl+Return
   Take everywhere
