@@ -53,8 +53,9 @@ install(FILES ${made}/Kivu.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # Those for players, with their pictures; the others are for those who build it.
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${documents}/kivu)
-file(GLOB chapters CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/guide*.md ${PROJECT_SOURCE_DIR}/docs/*.png)
-install(FILES ${chapters} docs/install.md docs/profiles.md docs/skins.md DESTINATION ${documents}/kivu/docs)
+install(DIRECTORY docs/book DESTINATION ${documents}/kivu/docs)
+install(FILES docs/install.md docs/profiles.md docs/skins.md docs/mount-udisksctl.sh docs/startscript-xdotool.sh
+        DESTINATION ${documents}/kivu/docs)
 
 # Beside bin/ it also tells the program that it is installed and keeps its data with the user's.
 install(DIRECTORY assets/skins/ DESTINATION ${data}/kivu/skins)

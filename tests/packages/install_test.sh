@@ -8,7 +8,7 @@ FilesOf "$prefix" >"$work/files"
 # Chapters and pictures come and go.
 {
   cat "$here/installed.txt"
-  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/guide*.md docs/*.png)
+  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/book/*.md docs/book/*/*.md docs/book/*/*/*.png)
 } | sort >"$work/expected"
 Same "$work/expected" "$work/files" "the installed files"
 [ -x "$prefix/bin/Kivu" ] || Fail "the program cannot be run"
