@@ -53,10 +53,8 @@ install(FILES ${made}/Kivu.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # Those for players, with their pictures; the others are for those who build it.
 install(FILES README.md CHANGELOG.md LICENSE DESTINATION ${documents}/kivu)
-file(GLOB chapters CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/docs/guide*.md ${PROJECT_SOURCE_DIR}/docs/*.png
-     ${PROJECT_SOURCE_DIR}/docs/keyboard*.md)
-install(FILES ${chapters} docs/install.md docs/profiles.md docs/skins.md docs/windows.md
-        DESTINATION ${documents}/kivu/docs)
+install(DIRECTORY docs/book DESTINATION ${documents}/kivu/docs)
+install(FILES docs/install.md docs/profiles.md docs/skins.md DESTINATION ${documents}/kivu/docs)
 # Examples that they lead to.
 install(PROGRAMS docs/mount-udisksctl.sh docs/startscript-xdotool.sh DESTINATION ${documents}/kivu/docs)
 

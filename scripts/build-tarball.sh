@@ -28,7 +28,7 @@ install -m 755 "$program" "$directory/Kivu"
 strip "$directory/Kivu"
 scripts/packages/tarball-libraries.sh "$directory"
 cp LICENSE README.md CHANGELOG.md "$directory/"
-cp docs/guide*.md docs/keyboard*.md docs/{install,profiles,skins,windows}.md docs/*.sh docs/*.png "$directory/docs/"
+cp -R docs/book docs/{install,profiles,skins}.md docs/*.sh "$directory/docs/"
 cp -R assets/skins/. "$directory/Skins/"
 
 # The same files give the same bytes, whoever packs them.

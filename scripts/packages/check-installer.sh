@@ -58,7 +58,7 @@ Install
 theirs" ] || Fail "it takes another program's uninstaller for its own"
 rm -r "$place"
 Install
-for file in Kivu.exe Uninstall.exe LICENSE.txt README.md CHANGELOG.md docs/guide.md Skins/Papier/Skin.ini; do
+for file in Kivu.exe Uninstall.exe LICENSE.txt README.md CHANGELOG.md docs/book/README.md Skins/Papier/Skin.ini; do
   [ -s "$place/$file" ] || Fail "it has not laid down $file"
 done
 [ -d "$place/Config" ] || Fail "there is no place for profiles"
@@ -72,7 +72,7 @@ ExpectWindow start "the installed program, by its start menu entry"
 [ -d "$place/Config" ] || Fail "it has no Config"
 
 # Neither replaced nor removed while it runs.
-rm "$place/docs/guide.md"
+rm "$place/docs/book/README.md"
 FilesOf "$place" >"$work/before"
 Install
 Uninstall
@@ -87,7 +87,7 @@ mkdir -p "$place/Config/Amiga" "$place/Skins/Mine"
 echo mine | tee "$place/Config/Amiga/Kivu.ini" >"$place/Skins/Mine/Skin.ini"
 FilesOf "$place/Config" >"$work/profiles"
 Install
-[ -s "$place/docs/guide.md" ] || Fail "a second run lays down nothing"
+[ -s "$place/docs/book/README.md" ] || Fail "a second run lays down nothing"
 FilesOf "$place/Config" | diff "$work/profiles" - || Fail "a second run has touched the profiles"
 Registered UninstallString Uninstall.exe || Fail "a second run is not registered"
 

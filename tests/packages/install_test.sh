@@ -8,7 +8,7 @@ FilesOf "$prefix" >"$work/files"
 # Chapters and pictures come and go.
 {
   cat "$here/installed.txt"
-  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/guide*.md docs/keyboard*.md docs/*.png)
+  (cd "$tree" && printf 'share/doc/kivu/%s\n' docs/book/*.md docs/book/*/*.md docs/book/*/*/*.png)
 } | sort >"$work/expected"
 Same "$work/expected" "$work/files" "the installed files"
 "$tree/scripts/packages/dead-links.sh" "$prefix/share/doc" || Fail "a document leads to none that is installed"
