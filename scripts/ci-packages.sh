@@ -6,6 +6,8 @@
 # The Debian packages are built, installed, played with and removed each time. What takes long and rarely changes is
 # done again when what it is made by has changed since it was last found good (or with --all): the tarball, the
 # installer, and the build that must give the same bytes twice. What they are made by is kept under ~/.cache/kivu.
+# KIVU_PACKAGES_SECONDS: none of these is begun after so many seconds (none given: no limit), but left for the next run;
+# with empty caches the Debian packages alone take their time.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -42,6 +44,10 @@ Changed() {
   } | sha256sum | cut -c1-40)"
   if [ "$all" != --all ] && [ "$(cat "$kept/$name" 2>/dev/null)" = "$now" ]; then
     echo "== $text: nothing has changed"
+    return
+  fi
+  if [ "$all" != --all ] && [ $SECONDS -ge "${KIVU_PACKAGES_SECONDS:-86400}" ]; then
+    echo "== $text: LEFT FOR THE NEXT RUN, $SECONDS s have gone by"
     return
   fi
   Stage "$text" "${command[@]}"

@@ -29,8 +29,9 @@ trap Finish EXIT
 file "$installer" | grep -q 'PE32+ .*x86-64' || Fail "the installer is none of 64 bits"
 
 StartScreen
-wineboot -i >/dev/null 2>&1
-wineserver -w
+timeout 300 wineboot -i >/dev/null 2>&1 || Fail "no Windows can be made"
+AllEnded() { timeout 60 wineserver -w || Fail "programs have stayed in Windows"; }
+AllEnded
 user=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Local)
 place=$user/Programs/Kivu
 link=$(dirname "$user")/Roaming/Microsoft/Windows/'Start Menu'/Programs/Kivu.lnk
@@ -39,8 +40,11 @@ key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Kivu'
 # The uninstaller goes on by a copy of itself.
 Working() { pgrep -f '[\\/]kivu-install\.exe|Uninstall\.exe|nsu.*\.exe|[AU][un]_[A-Z]?\.exe'; }
 Idle() { ! Working; }
-Install() { wine "$work/kivu-install.exe" /S >"$work/kivu.log" 2>&1 || true; Until 60 Idle || Fail "the installer does not end"; }
-Uninstall() { wine "$place/Uninstall.exe" /S >"$work/kivu.log" 2>&1 || true; }
+Install() {
+  timeout 120 wine "$work/kivu-install.exe" /S >"$work/kivu.log" 2>&1 || true
+  Until 60 Idle || Fail "the installer does not end"
+}
+Uninstall() { timeout 120 wine "$place/Uninstall.exe" /S >"$work/kivu.log" 2>&1 || true; }
 FilesOf() { (cd "$1" && find . -type f | sort); }
 Registered() { wine reg query "$key" /v "$1" 2>/dev/null | grep -qF "$2"; }
 
@@ -73,7 +77,7 @@ Until 60 Idle || Fail "the uninstaller does not end"
 FilesOf "$place" | diff "$work/before" - || Fail "the running program was touched"
 FindKivu || Fail "the running program has gone"
 EndKivu
-wineserver -w
+AllEnded
 
 # Over an older one: what the user has made stays.
 mkdir -p "$place/Config/Amiga" "$place/Skins/Mine"

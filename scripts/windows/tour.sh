@@ -157,7 +157,7 @@ Asked() { [ "$(xdotool search --onlyvisible --class 'kivu.exe' | wc -l)" -gt 1 ]
 Until 20 Asked || Fail "the task bar's wish has not asked"
 Shot closing "the question of the task bar"
 ! Ended || Fail "the task bar's wish has ended the program"
-wine wineboot --end-session >"$work/session.log" 2>&1 &
+timeout 60 wine wineboot --end-session >"$work/session.log" 2>&1 &
 Until 30 Ended || Fail "the program did not end with the session"
 [ "$(Width)" -gt "$width" ] || Fail "the window's place was not kept at the end of the session"
 echo "The tour is through; the pictures are in ${shots#"$here"/}."
