@@ -140,7 +140,7 @@ xdotool key Return
 Playing() { Players -f '^kivu-dosbox.sh '; }
 Until 20 Playing || Fail "the game did not come up: $(cat "$work/kivu.log")"
 GameShows() {
-  game=$(xdotool search --onlyvisible --name '^DOSBox' 2>/dev/null | tail -n 1) && [ -n "$game" ] &&
+  game=$(xdotool search --onlyvisible --name 'Program: *GAME' 2>/dev/null | tail -n 1) && [ -n "$game" ] &&
     import -window "$game" "$work/game.png" && [ "$(identify -format '%k' "$work/game.png")" -gt 3 ]
 }
 Until 40 GameShows || Fail "the game shows nothing"

@@ -32,7 +32,9 @@ void Hints::Refresh() {
 
 void Hints::ShowFirstSteps() {
     if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
-    storesNothing = !support::CanWriteIn(files, form.ConfigPath);
+    storesNothing = !support::CanWriteIn(services.files, form.ConfigPath);
+    // As the package of the collection calls what it puts into the menu.
+    hasDemo = !services.starter.FindInPath("kivu-demo").empty();
     Refresh();
     form.LoadingBtn.SetHint(FirstStep());
 }
@@ -59,7 +61,15 @@ std::string Hints::NoEmulator() const {
                     "No emulator yet.\rPress \"") +
            form.SettingsBtn.Caption() +
            form.Say("\"\rund dort auf \"Neuer Emulator..\".",
-                    "\" at the bottom right\rand there \"New emulator..\".");
+                    "\" at the bottom right\rand there \"New emulator..\".") +
+           LookAtDemo();
+}
+
+std::string Hints::LookAtDemo() const {
+    if (!hasDemo) return "";
+    return form.Say(
+        "\r\rZum Ansehen: \"Kivu-Demo\" im Menü der Spiele\rbringt eine kleine Sammlung mit.",
+        "\r\rTo look around: \"Kivu Demo\" in the menu of games\rbrings a small collection.");
 }
 
 std::string Hints::NoGames() const {

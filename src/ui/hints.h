@@ -3,6 +3,7 @@
 #include <string>
 
 #include "platform/file_system.h"
+#include "platform/program_starter.h"
 
 namespace kivu::core {
 struct Form1;
@@ -13,7 +14,12 @@ namespace kivu::ui {
 // Quiet words in the places of rows that are not there: what is the matter, and what to do next.
 class Hints {
  public:
-    Hints(core::Form1& form, platform::FileSystem& files) : form(form), files(files) {}
+    struct Services {
+        platform::FileSystem& files;
+        platform::ProgramStarter& starter;
+    };
+
+    Hints(core::Form1& form, Services services) : form(form), services(services) {}
 
     // Whenever another emulator, another directory or other words to search for are there.
     void Refresh();
@@ -25,12 +31,14 @@ class Hints {
     std::string FirstStep() const;
     std::string NotStored() const;
     std::string NoEmulator() const;
+    std::string LookAtDemo() const;
     std::string NoGames() const;
     std::string NoHits(const char* where) const;
 
     core::Form1& form;
-    platform::FileSystem& files;
+    Services services;
     bool storesNothing = false;
+    bool hasDemo = false;
 };
 
 }  // namespace kivu::ui

@@ -101,7 +101,7 @@ Launcher::Routines::Routines(platform::Host hostServices, const forms::TextMeasu
       fontSize(form, layout),
       skins(form, host.files, pictureLoader),
       windowColors(form, ini),
-      hints(form, host.files),
+      hints(form, {host.files, host.starter}),
       surface(form, ini, {dialogs, host.files}, busy, alwaysOnTop),
       panelDrag(form, layout),
       previews(form, {host.files, host.background}, layout, pictureLoader),

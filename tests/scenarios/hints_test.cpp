@@ -24,6 +24,25 @@ TEST_F(FirstSteps, StandBelowTheTitleOfAFirstStart) {
         EXPECT_FALSE(Visible(name)) << name;
 }
 
+TEST_F(FirstSteps, LeadToTheDemoWhereThatIsInstalled) {
+    for (const char* language : {"English", "German"}) {
+        options.language = language;
+        prepare = [](driver::Session& run) {
+            run.starter.path["kivu-demo"] = "/usr/bin/kivu-demo";
+        };
+        Start();
+        EXPECT_THAT(Text("LoadingBtn.Hint"),
+                    HasSubstr(language == std::string("English")
+                                  ? "\"New emulator..\".\r\rTo look around: \"Kivu Demo\""
+                                  : "\"Neuer Emulator..\".\r\rZum Ansehen: \"Kivu-Demo\""));
+        EXPECT_EQ(Text("EmulatorLongListbox.Hint"), Text("LoadingBtn.Hint"));
+    }
+    // With an emulator of one's own there is something better to look at.
+    tree.AddEmulator("Alpha");
+    Start();
+    EXPECT_EQ(Text("LoadingBtn.Hint"), "Wähle oben links einen Emulator.");
+}
+
 TEST_F(FirstSteps, AreToChooseAnEmulatorWhereThereAreSome) {
     options.language = "German";
     tree.AddEmulator("Alpha");
