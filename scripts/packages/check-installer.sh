@@ -11,27 +11,13 @@ here=$(cd "$(dirname "$0")/../.." && pwd)
 shots=${2:-$here/tour/installer}
 . "$here/scripts/screen.sh"
 . "$here/scripts/packages/window.sh"
-
-export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" LANG=${LANG:-C.UTF-8}
-# A Windows of its own, which nothing else keeps running.
-export WINEPREFIX="$work/prefix" HOME="$work/home"
-mkdir "$HOME"
+. "$here/scripts/packages/wine.sh"
 cp "$installer" "$work/kivu-install.exe"
-
-kivu=0
-Finish() {
-  wineserver -k 2>/dev/null || true
-  StopScreen
-}
-trap Finish EXIT
 
 [ "$(sed -n 1p "$here/packaging/windows/kivu.nsi")" = "Target amd64-unicode" ] || Fail "the stub may be one of 32 bits"
 file "$installer" | grep -q 'PE32+ .*x86-64' || Fail "the installer is none of 64 bits"
 
-StartScreen
-timeout 300 wineboot -i >/dev/null 2>&1 || Fail "no Windows can be made"
-AllEnded() { timeout 60 wineserver -w || Fail "programs have stayed in Windows"; }
-AllEnded
+StartWindows
 user=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Local)
 place=$user/Programs/Kivu
 link=$(dirname "$user")/Roaming/Microsoft/Windows/'Start Menu'/Programs/Kivu.lnk
