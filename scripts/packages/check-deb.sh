@@ -32,7 +32,7 @@ trap Finish EXIT
 ! Players || Fail "somebody runs programs as user $player"
 
 apart=(unshare -m --propagation private -pf --kill-child)
-if "${apart[@]}" true && archive=$("$here/scripts/packages/debian-tree.sh" "${debs[@]}"); then
+if "${apart[@]}" true 2>/dev/null && archive=$("$here/scripts/packages/debian-tree.sh" "${debs[@]}"); then
   root=$work/debian
   mkdir "$root"
   tar -xf "$archive" -C "$root"
