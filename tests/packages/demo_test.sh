@@ -54,6 +54,18 @@ wait $first
 [ "$(cat "$collection/Config/DOSBox/Kivu.ini")" = mine ] || Fail "a new version has taken the user's profile"
 [ "$(cat "$collection/.laid-out")" = 1.1 ] || Fail "the new version is not kept"
 
+# Where nothing can be written Kivu is left to say so: no directory can be made there, or something is in the way of the
+# collection's files.
+touch "$work/file"
+mkdir -p "$work/full/Kivu-Demo/.lock"
+for place in "$work/file" "$work/full"; do
+  rm "$HOME/told"
+  XDG_DATA_HOME=$place "$prefix/bin/kivu-demo" 2>"$work/warned"
+  grep -q 'not laid out' "$work/warned" || Fail "nobody is told that there is no collection"
+  printf '%s\n' --data "$place/Kivu-Demo" >"$work/told"
+  Same "$work/told" "$HOME/told" "what Kivu is started with where nothing can be written"
+done
+
 # Another place for a user's data.
 export XDG_DATA_HOME="$work/elsewhere"
 "$prefix/bin/kivu-demo"
