@@ -28,7 +28,7 @@ TEST_F(FirstSteps, LeadToTheDemoWhereThatIsInstalled) {
     for (const char* language : {"English", "German"}) {
         options.language = language;
         prepare = [](driver::Session& run) {
-            run.starter.path["kivu-demo"] = "/usr/bin/kivu-demo";
+            run.Host().starter.path["kivu-demo"] = "/usr/bin/kivu-demo";
         };
         Start();
         EXPECT_THAT(Text("LoadingBtn.Hint"),
