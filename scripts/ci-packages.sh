@@ -4,8 +4,10 @@
 #     scripts/ci-packages.sh [--all]      (--all: as for a release)
 #
 # The Debian packages are built, installed, played with and removed each time. What takes long and rarely changes is
-# done again when what it is made by has changed since it was last found good (or with --all): the tarball, the
+# done again when what it is made by has changed since it was last found good (or with --all): the tarball, zip and
 # installer, and the build that must give the same bytes twice. What they are made by is kept under ~/.cache/kivu.
+# KIVU_PACKAGES_SECONDS: none of these is begun after so many seconds (none given: no limit), but left for the next run;
+# with empty caches the Debian packages alone take their time.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 
@@ -44,6 +46,10 @@ Changed() {
     echo "== $text: nothing has changed"
     return
   fi
+  if [ "$all" != --all ] && [ $SECONDS -ge "${KIVU_PACKAGES_SECONDS:-86400}" ]; then
+    echo "== $text: LEFT FOR THE NEXT RUN, $SECONDS s have gone by"
+    return
+  fi
   Stage "$text" "${command[@]}"
   echo "$now" >"$kept/$name"
 }
@@ -56,8 +62,9 @@ Tarball() {
   rm -rf "$program"
   scripts/packages/check-tarball.sh build/tarball/*.tar.xz
 }
-Installer() {
+Windows() {
   [ -e build/windows/package/Kivu/Kivu.exe ] || scripts/build-windows.sh
+  scripts/packages/check-zip.sh build/windows/Kivu-*-windows.zip
   scripts/build-installer.sh
   scripts/packages/check-installer.sh build/windows/Kivu-*-windows-setup.exe
 }
@@ -67,8 +74,9 @@ recipe=(CMakeLists.txt CMakePresets.json cmake src/CMakeLists.txt src/app/CMakeL
 Stage "Debian packages" scripts/build-deb.sh
 Stage "Debian packages, installed and removed" scripts/packages/check-deb.sh build/deb
 Changed tarball "tarball" Tarball -- "${recipe[@]}" scripts/build-tarball.sh scripts/packages scripts/screen.sh
-Changed installer "installer for Windows" Installer -- packaging/windows scripts/build-windows.sh \
-  scripts/build-installer.sh scripts/release.sh scripts/packages/check-installer.sh scripts/packages/window.sh
+Changed windows "zip and installer for Windows" Windows -- packaging/windows scripts/build-windows.sh \
+  scripts/build-installer.sh scripts/release.sh scripts/install-packages.sh scripts/screen.sh \
+  scripts/packages/{check-zip,check-installer,window,wine}.sh
 # A source file can't differ from build to build: packages take no __DATE__ (-Werror=date-time).
 Changed reproducible "the same bytes twice" scripts/check-reproducible.sh build/deb -- "${recipe[@]}" debian packaging/linux \
   demo scripts/build-deb.sh scripts/build-tarball.sh scripts/packages/tarball-libraries.sh scripts/check-reproducible.sh

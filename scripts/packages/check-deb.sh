@@ -4,8 +4,8 @@
 #
 #     scripts/packages/check-deb.sh DIRECTORY [SCREENSHOT_DIR]
 #
-# DIRECTORY holds the packages. Needs root. Where no fresh Debian can be made, it is this machine that they are
-# installed on.
+# DIRECTORY holds the packages. Needs root. Where no fresh Debian can be made, or nothing be mounted in it, it is this
+# machine that they are installed on.
 set -euo pipefail
 
 debs=("$(realpath "$1")"/kivu_*.deb "$(realpath "$1")"/kivu-demo_*.deb)
@@ -31,7 +31,8 @@ trap Finish EXIT
 [ "$(id -u)" -eq 0 ] || Fail "packages are installed by root"
 ! Players || Fail "somebody runs programs as user $player"
 
-if archive=$("$here/scripts/packages/debian-tree.sh" "${debs[@]}"); then
+apart=(unshare -m --propagation private -pf --kill-child)
+if "${apart[@]}" true 2>/dev/null && archive=$("$here/scripts/packages/debian-tree.sh" "${debs[@]}"); then
   root=$work/debian
   mkdir "$root"
   tar -xf "$archive" -C "$root"
@@ -43,7 +44,7 @@ if archive=$("$here/scripts/packages/debian-tree.sh" "${debs[@]}"); then
   packages=("${debs[@]/#*\//\/packages\/}")
   echo "In a fresh Debian:"
 else
-  echo "No fresh Debian can be made: THE PACKAGES ARE INSTALLED ON THIS MACHINE."
+  echo "No fresh Debian can be made here: THE PACKAGES ARE INSTALLED ON THIS MACHINE."
   ! dpkg-query -W kivu >/dev/null 2>&1 || Fail "Kivu is installed on it already"
   chmod 755 "$work"
   home=$work/home
@@ -72,22 +73,28 @@ grep -qx /usr/share/kivu "$work/list" || Fail "nothing tells Kivu that it is ins
 
 # Start ID USER HOME: what a desktop file starts, as a desktop does it, with no file. All that comes of it ends with it.
 Start() {
-  local command
-  command=$(sed -n 's/^Exec=//p' "$root/usr/share/applications/$1.desktop" | sed 's/ %[a-zA-Z]//g')
-  # shellcheck disable=SC2016
-  unshare -m --propagation private -pf --kill-child bash -c '
-    root=$1 user=$2 command=$3
-    shift 3
-    [ -z "$root" ] || mount --rbind /dev "$root/dev"
-    mount -t proc proc "$root/proc"
-    exec chroot --userspec="$user:$user" "${root:-/}" env -i "$@" sh -c "cd && exec $command"
-  ' start "$root" "$2" "$command" PATH=/usr/local/bin:/usr/bin:/bin:/usr/games HOME="$3" XDG_RUNTIME_DIR="$3/run" \
-    LANG=C.UTF-8 DISPLAY="$DISPLAY" >"$work/kivu.log" 2>&1 &
+  local command environment
+  command="cd && exec $(sed -n 's/^Exec=//p' "$root/usr/share/applications/$1.desktop" | sed 's/ %[a-zA-Z]//g')"
+  environment=(env -i PATH=/usr/local/bin:/usr/bin:/bin:/usr/games HOME="$3" XDG_RUNTIME_DIR="$3/run" LANG=C.UTF-8
+               DISPLAY="$DISPLAY")
+  if [ -z "$root" ]; then
+    setpriv --reuid="$2" --regid="$2" --clear-groups "${environment[@]}" sh -c "$command" >"$work/kivu.log" 2>&1 &
+  else
+    # shellcheck disable=SC2016
+    "${apart[@]}" bash -c '
+      root=$1 user=$2
+      shift 2
+      mount --rbind /dev "$root/dev"
+      mount -t proc proc "$root/proc"
+      exec chroot --userspec="$user:$user" "$root" "$@"
+    ' start "$root" "$2" "${environment[@]}" sh -c "$command" >"$work/kivu.log" 2>&1 &
+  fi
   kivu=$!
 }
 # End: by its keys, as its user does.
 End() {
   EndKivu
+  Until 15 Gone || Fail "the program has no window any more and does not end"
   wait $kivu || true
   kivu=0
 }
@@ -114,8 +121,11 @@ fi
 collection=$data/Kivu-Demo
 Start $id.Demo $player "$home"
 ExpectWindow demo "the demo"
+# Moved: the window has another picture than in the last shot.
+Moved() { import -window root "$work/now.png" && [ "$(Difference "$last" "$work/now.png")" -gt 3000 ]; }
 Click 110 52
-sleep 0.5
+Until 15 Moved || Fail "the list of emulators did not open"
+Shot emulators "the emulators of the demo"
 # DOSBox is the second row, behind Disk Box.
 Click 100 96
 xdotool key Down Return
@@ -129,15 +139,21 @@ Shot chosen "one of them"
 xdotool key Return
 Playing() { Players -f '^kivu-dosbox.sh '; }
 Until 20 Playing || Fail "the game did not come up: $(cat "$work/kivu.log")"
-sleep 3
+GameShows() {
+  game=$(xdotool search --onlyvisible --name 'Program: *GAME' 2>/dev/null | tail -n 1) && [ -n "$game" ] &&
+    import -window "$game" "$work/game.png" && [ "$(identify -format '%k' "$work/game.png")" -gt 3 ]
+}
+Until 40 GameShows || Fail "the game shows nothing"
 MovingShot playing "a game of it"
-# Each game ends with Escape.
-xdotool search --onlyvisible --name DOSBox windowactivate --sync 2>/dev/null || true
-sleep 1
-xdotool key Escape
+# Each game ends with Escape, once it has begun.
 NotPlaying() { ! Playing; }
-Until 15 NotPlaying || Fail "the game was not ended"
-sleep 3
+for tries in 1 2 3 4 5 6 7 8; do
+  timeout 10 xdotool search --onlyvisible --name '^DOSBox' windowactivate --sync key Escape 2>/dev/null || true
+  if Until 5 NotPlaying; then break; fi
+done
+NotPlaying || Fail "the game was not ended"
+NoGame() { ! xdotool search --onlyvisible --name '^DOSBox'; }
+Until 15 NoGame || Fail "the game's window has stayed"
 End
 [ "$(cd "$data" && echo *)" = "Kivu Kivu-Demo" ] || Fail "more than the user's data: $(ls -a "$data")"
 

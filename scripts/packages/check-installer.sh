@@ -11,26 +11,13 @@ here=$(cd "$(dirname "$0")/../.." && pwd)
 shots=${2:-$here/tour/installer}
 . "$here/scripts/screen.sh"
 . "$here/scripts/packages/window.sh"
-
-export WINEARCH=win64 WINEDEBUG=-all WINEDLLOVERRIDES="mscoree,mshtml=" LANG=${LANG:-C.UTF-8}
-# A Windows of its own, which nothing else keeps running.
-export WINEPREFIX="$work/prefix" HOME="$work/home"
-mkdir "$HOME"
+. "$here/scripts/packages/wine.sh"
 cp "$installer" "$work/kivu-install.exe"
-
-kivu=0
-Finish() {
-  wineserver -k 2>/dev/null || true
-  StopScreen
-}
-trap Finish EXIT
 
 [ "$(sed -n 1p "$here/packaging/windows/kivu.nsi")" = "Target amd64-unicode" ] || Fail "the stub may be one of 32 bits"
 file "$installer" | grep -q 'PE32+ .*x86-64' || Fail "the installer is none of 64 bits"
 
-StartScreen
-wineboot -i >/dev/null 2>&1
-wineserver -w
+StartWindows
 user=$(echo "$WINEPREFIX"/drive_c/users/*/AppData/Local)
 place=$user/Programs/Kivu
 link=$(dirname "$user")/Roaming/Microsoft/Windows/'Start Menu'/Programs/Kivu.lnk
@@ -39,8 +26,11 @@ key='HKCU\Software\Microsoft\Windows\CurrentVersion\Uninstall\Kivu'
 # The uninstaller goes on by a copy of itself.
 Working() { pgrep -f '[\\/]kivu-install\.exe|Uninstall\.exe|nsu.*\.exe|[AU][un]_[A-Z]?\.exe'; }
 Idle() { ! Working; }
-Install() { wine "$work/kivu-install.exe" /S >"$work/kivu.log" 2>&1 || true; Until 60 Idle || Fail "the installer does not end"; }
-Uninstall() { wine "$place/Uninstall.exe" /S >"$work/kivu.log" 2>&1 || true; }
+Install() {
+  timeout 120 wine "$work/kivu-install.exe" /S >"$work/kivu.log" 2>&1 || true
+  Until 60 Idle || Fail "the installer does not end"
+}
+Uninstall() { timeout 120 wine "$place/Uninstall.exe" /S >"$work/kivu.log" 2>&1 || true; }
 FilesOf() { (cd "$1" && find . -type f | sort); }
 Registered() { wine reg query "$key" /v "$1" 2>/dev/null | grep -qF "$2"; }
 
@@ -80,7 +70,7 @@ Until 60 Idle || Fail "the uninstaller does not end"
 FilesOf "$place" | diff "$work/before" - || Fail "the running program was touched"
 FindKivu || Fail "the running program has gone"
 EndKivu
-wineserver -w
+AllEnded
 
 # Over an older one: what the user has made stays.
 mkdir -p "$place/Config/Amiga" "$place/Skins/Mine"

@@ -28,13 +28,19 @@ done
 
 as=(unshare -m)
 [ "$(id -u)" -eq 0 ] || as=(unshare -Urm)
+alone=("${as[@]}" "$here/scripts/packages/run-alone.sh" "$program_dir")
 mkdir -p "$work/home"
 mkdir -m 700 "$work/run"
 StartScreen
-echo "The tarball's program where the system's Qt is hidden:"
+if "${as[@]}" true 2>/dev/null; then
+  echo "The tarball's program where the system's Qt is hidden:"
+else
+  echo "The tarball's program; nothing can be mounted here: THE SYSTEM'S QT IS NOT HIDDEN."
+  alone=("$program_dir/Kivu")
+fi
 # None of the tree's variables: only what a desktop gives.
 env -i PATH="$PATH" TMPDIR="$work" HOME="$work/home" XDG_RUNTIME_DIR="$work/run" DISPLAY="$DISPLAY" LANG=C.UTF-8 \
-  "${as[@]}" "$here/scripts/packages/run-alone.sh" "$program_dir" 2>"$work/kivu.log" &
+  "${alone[@]}" 2>"$work/kivu.log" &
 kivu=$!
 ExpectWindow start "its window"
 

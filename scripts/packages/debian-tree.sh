@@ -29,14 +29,15 @@ if [ ! -e "$archive" ]; then
   printf '%s\n' 'Package: kivu-needs' 'Version: 1' 'Architecture: all' 'Maintainer: nobody <nobody@localhost>' \
     "Depends: $depends" 'Description: what packages depend on' >"$work/needs/DEBIAN/control"
   dpkg-deb -b "$work/needs" "$work/needs.deb" >/dev/null
-  mmdebstrap --variant=apt --format=tar --quiet \
+  timeout 900 mmdebstrap --variant=apt --format=tar --quiet \
     --aptopt='APT::Install-Recommends "false"' \
     --customize-hook='copy-in '"$work/needs.deb"' /tmp' \
     --customize-hook='APT_CONFIG="$MMDEBSTRAP_APT_CONFIG" apt-get install -y -qq -o DPkg::Chroot-Directory="$1" -o Debug::NoLocking=true "$1/tmp/needs.deb" >/dev/null' \
     --customize-hook='chroot "$1" dpkg --purge kivu-needs >/dev/null' \
     --customize-hook='rm "$1/tmp/needs.deb"' \
     "$codename" "$archive.$$" "${sources[@]}" >&2
-  rm -f "$cache"/debian-tree-*.tar
+  # Those of other needs, and what a run that broke off has left.
+  find "$cache" -maxdepth 1 -name 'debian-tree-*.tar*' -not -name "*.$$" -delete
   mv "$archive.$$" "$archive"
 fi
 echo "$archive"

@@ -7,7 +7,10 @@ FindKivu() {
 }
 # Its process, as the caller knows it, is no more.
 Gone() { [ "$kivu" -ne 0 ] && ! kill -0 "$kivu" 2>/dev/null; }
-NoKivu() { ! FindKivu; }
+NoKivu() {
+  local window
+  ! FindKivu
+}
 
 # Its picture has more than a surface of one colour. The first one may be taken before it is painted.
 Painted() {
@@ -25,12 +28,21 @@ ExpectWindow() {
   Shot "$1" "$2"
 }
 
-# Escape asks, and Enter on its OK ends the program.
+# Another window of the program's than its own has the keyboard: its question, for nothing else is open.
+Asked() {
+  local active
+  active=$(xdotool getactivewindow 2>/dev/null) && [ "$active" != "$window" ] &&
+    xprop -id "$active" WM_CLASS 2>/dev/null | grep -qi '"kivu'
+}
+
+# Escape asks, and Enter on its OK ends the program. A key that comes while the window is not ready for it is lost.
 EndKivu() {
-  xdotool windowactivate --sync "$window" 2>/dev/null || true
-  sleep 0.5
-  xdotool key Escape
-  sleep 1.5
-  xdotool key Return
-  Until 15 NoKivu || Fail "the program did not end"
+  local tries
+  for tries in 1 2 3 4 5 6; do
+    Asked || timeout 10 xdotool windowactivate --sync "$window" key Escape 2>/dev/null || true
+    Until 5 Asked || continue
+    xdotool key Return
+    if Until 10 NoKivu; then return; fi
+  done
+  Fail "the program did not end"
 }

@@ -49,12 +49,19 @@ wineserver -w
 import -window root "$work/black.png"
 
 echo "A tour of Kivu for Windows on a screen of $size:"
-(cd "$program_dir" && exec wine Kivu.exe >"$work/kivu.log" 2>&1) &
-kivu=$!
 window=""
 FindWindow() {
   window=$(xdotool search --onlyvisible --class 'kivu.exe' 2>/dev/null | tail -n 1)
   [ -n "$window" ]
+}
+# The window is there before its picture is.
+Painted() { import -window root "$work/now.png" && [ "$(Difference "$work/black.png" "$work/now.png")" -gt 100000 ]; }
+Ended() { ! kill -0 "$kivu" 2>/dev/null; }
+StartKivu() {
+  (cd "$program_dir" && exec wine Kivu.exe >"$work/kivu.log" 2>&1) &
+  kivu=$!
+  Until 90 FindWindow || Fail "no window came up: $(cat "$work/kivu.log")"
+  Until 60 Painted || Fail "the window shows nothing"
 }
 # Wine may have given the launcher another window meanwhile.
 Activate() {
@@ -62,10 +69,7 @@ Activate() {
   xdotool windowactivate --sync "$window"
   sleep 1
 }
-Until 90 FindWindow || Fail "no window came up: $(cat "$work/kivu.log")"
-# The window is there before its picture is.
-Painted() { import -window root "$work/now.png" && [ "$(Difference "$work/black.png" "$work/now.png")" -gt 100000 ]; }
-Until 60 Painted || Fail "the window shows nothing"
+StartKivu
 Shot start "the window after the start"
 start=$last
 
@@ -138,7 +142,22 @@ xdotool key Escape
 sleep 2
 Shot question "the question before the end"
 xdotool key Return
-Ended() { ! kill -0 "$kivu" 2>/dev/null; }
 Until 20 Ended || Fail "the program did not end"
-grep -q '^WindowX=' "$program_dir/Config/Kivu.ini" || Fail "the window's place was not kept"
+Width() { sed -n 's/^WindowX=\([0-9]*\).*/\1/p' "$program_dir/Config/Kivu.ini"; }
+width=$(Width)
+[ -n "$width" ] || Fail "the window's place was not kept"
+
+# Ended by others: the task bar's wish asks. The end of the session doesn't, not even behind that question.
+StartKivu
+Activate
+xdotool key alt+Right
+sleep 1
+wmctrl -i -c "$window"
+Asked() { [ "$(xdotool search --onlyvisible --class 'kivu.exe' | wc -l)" -gt 1 ]; }
+Until 20 Asked || Fail "the task bar's wish has not asked"
+Shot closing "the question of the task bar"
+! Ended || Fail "the task bar's wish has ended the program"
+timeout 60 wine wineboot --end-session >"$work/session.log" 2>&1 &
+Until 30 Ended || Fail "the program did not end with the session"
+[ "$(Width)" -gt "$width" ] || Fail "the window's place was not kept at the end of the session"
 echo "The tour is through; the pictures are in ${shots#"$here"/}."

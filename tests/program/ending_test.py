@@ -1,11 +1,13 @@
 #!/usr/bin/env python3
 """The real program is ended in every way but its own, and its files are looked at: ending_test.py KIVU"""
 
+import atexit
 import os
 import signal
 import sys
 
 from desk import Desk, Program, run, until
+from session import SessionManager, Unavailable
 
 binary = sys.argv[1]
 
@@ -81,6 +83,44 @@ def alt_f4_ends_nothing():
         program.wait()
 
 
+def end_of_the_session_stores_and_asks_nothing():
+    for question in (False, True):
+        with Desk() as desk:
+            desk.environment["SESSION_MANAGER"] = manager.address
+            program = Program(desk, binary)
+            program.start()
+            until("the client of the session", lambda: manager.saved == 1)
+            widen(desk, program)
+            if question:
+                desk.output(["wmctrl", "-i", "-c", program.window])
+                until("the question", lambda: len(program.windows()) > 1)
+            manager.ask_to_save()
+            until("the answer to the session's end", lambda: manager.saved == 2)
+            # Before the session goes on to its end, which may take the program's files with it.
+            expect(program)
+            assert not program.ended() and manager.interactions == 0
+            manager.end()
+            assert program.wait() == 0
+            expect(program)
+
+
+def session_that_is_called_off_leaves_the_program():
+    with Desk() as desk:
+        desk.environment["SESSION_MANAGER"] = manager.address
+        program = Program(desk, binary)
+        program.start()
+        until("the client of the session", lambda: manager.saved == 1)
+        manager.ask_to_save()
+        until("the answer to the session's end", lambda: manager.saved == 2)
+        manager.call_off()
+        # Asked as ever.
+        desk.output(["wmctrl", "-i", "-c", program.window])
+        until("the question", lambda: len(program.windows()) > 1)
+        assert not program.ended()
+        program.signal()
+        assert program.wait() == 0
+
+
 def display_that_goes_stores():
     with Desk() as desk:
         program = Program(desk, binary)
@@ -145,6 +185,13 @@ def question_while_a_mount_waits():
     nothing_is_left_of_a_mount(end)
 
 
-run([each_signal_stores, signal_with_the_question_open, panel_asks_and_enter_ends, alt_f4_ends_nothing,
-     display_that_goes_stores, emulator_lives_on, signal_while_a_mount_waits, display_that_goes_while_a_mount_waits,
-     question_while_a_mount_waits])
+tests = [each_signal_stores, signal_with_the_question_open, panel_asks_and_enter_ends, alt_f4_ends_nothing,
+         display_that_goes_stores, emulator_lives_on, signal_while_a_mount_waits,
+         display_that_goes_while_a_mount_waits, question_while_a_mount_waits]
+try:
+    manager = SessionManager()
+    atexit.register(manager.close)
+    tests += [end_of_the_session_stores_and_asks_nothing, session_that_is_called_off_leaves_the_program]
+except Unavailable as reason:
+    print("  without a session: %s" % reason)
+run(tests)
