@@ -4,6 +4,7 @@
 #include <string_view>
 #include <utility>
 
+#include "core/disabled_meanwhile.h"
 #include "core/form1.h"
 #include "core/raised.h"
 #include "support/web_address.h"
@@ -21,24 +22,6 @@ support::Say SayOf(const Form1& form) {
 support::SelfUpdate::Build UpdateOf(const platform::Build& build) {
     return {build.updateBase, build.updaterHash, build.replacesItself};
 }
-
-// Off for as long as this lives. The keyboard comes back to it, unless it has gone elsewhere.
-class Disabled {
- public:
-    explicit Disabled(forms::Control& control) : control(control), hadFocus(control.HasFocus()) {
-        control.SetEnabled(false);
-    }
-    ~Disabled() {
-        control.SetEnabled(true);
-        if (hadFocus && !control.ParentForm()->Focus()) control.SetFocus();
-    }
-    Disabled(const Disabled&) = delete;
-    Disabled& operator=(const Disabled&) = delete;
-
- private:
-    forms::Control& control;
-    bool hadFocus;
-};
 
 // Shows something else for as long as this lives.
 class OtherCaption {
@@ -89,7 +72,7 @@ bool OutsideLinks::HasDonations() const {
 
 void OutsideLinks::Donate() {
     if (!HasDonations()) return;
-    const Disabled meanwhile(form.DonateBtn);
+    const DisabledMeanwhile meanwhile(form.DonateBtn);
     (void)ShowHtmlWithBrowser(build.donateUrl);
 }
 
@@ -97,7 +80,7 @@ void OutsideLinks::UpdateProgram(forms::Label& link, const std::function<bool()>
     if (updating) return;
     const Raised once(updating);
     const OtherCaption percent(link);
-    const Disabled meanwhile(link);
+    const DisabledMeanwhile meanwhile(link);
     const auto goOn = [&](std::int64_t got, std::int64_t total) {
         link.SetCaption(ProgressText(got, total));
         services.events.DoEvents();

@@ -1,10 +1,10 @@
 #include "settings/paths_group.h"
 
+#include "core/disabled_meanwhile.h"
 #include "core/form1.h"
 #include "launch/emulator_setup.h"
 #include "settings/boxes.h"
 #include "settings/detection.h"
-#include "settings/disabled_meanwhile.h"
 #include "settings/known_group.h"
 #include "settings/new_emulator_group.h"
 #include "settings/path_box.h"
@@ -125,7 +125,7 @@ void PathsGroup::BrowseDir_Click() {
 void PathsGroup::LaunchButton_Click() {
     // Events run while the emulator comes up.
     if (main.Busy) return;
-    const DisabledMeanwhile off(form.LaunchButton);
+    const core::DisabledMeanwhile off(form.LaunchButton);
     const std::string program = routines.known.ProgramOf(form.txtWinUAEExe.Text());
     if (!program.empty()) services.setup.StartProgram(program, form.EmuNameLabel.Caption());
     (void)services.files.ChangeDirectory(main.AppDir);

@@ -1,10 +1,10 @@
 #include "settings/program_group.h"
 
+#include "core/disabled_meanwhile.h"
 #include "core/form1.h"
 #include "core/raised.h"
 #include "favourites/repair_favoriten.h"
 #include "joystick/button_setup_opener.h"
-#include "settings/disabled_meanwhile.h"
 #include "settings/path_box.h"
 #include "settings/path_fields.h"
 #include "settings/settings_form.h"
@@ -129,12 +129,12 @@ void ProgramGroup::Picture2_Click() {
 // Events run in there.
 void ProgramGroup::FavoritenReparierenLabel_Click() {
     if (main.Busy) return;
-    const DisabledMeanwhile off(form.FavoritenReparierenLabel);
+    const core::DisabledMeanwhile off(form.FavoritenReparierenLabel);
     routines.repair.RepairFavoriten();
 }
 
 void ProgramGroup::Label7_Click() {
-    const DisabledMeanwhile off(form.Label7);
+    const core::DisabledMeanwhile off(form.Label7);
     routines.links.ShowHomePage();
 }
 
@@ -148,12 +148,12 @@ void ProgramGroup::Label5_Click() {
 }
 
 void ProgramGroup::EmuDownload_Click() {
-    const DisabledMeanwhile off(form.EmuDownload);
+    const core::DisabledMeanwhile off(form.EmuDownload);
     routines.links.OpenEmuDownload();
 }
 
 void ProgramGroup::DonateBtn_Click() {
-    const DisabledMeanwhile off(form.DonateBtn);
+    const core::DisabledMeanwhile off(form.DonateBtn);
     routines.links.Donate();
 }
 

@@ -1,12 +1,12 @@
 #include "settings/winuae_group.h"
 
+#include "core/disabled_meanwhile.h"
 #include "core/form1.h"
 #include "launch/emulator_program.h"
 #include "launch/game_launch.h"
 #include "launch/uae_configuration.h"
 #include "launch/uae_files.h"
 #include "settings/boxes.h"
-#include "settings/disabled_meanwhile.h"
 #include "settings/linux_emulators.h"
 #include "settings/path_box.h"
 #include "settings/path_fields.h"
@@ -194,7 +194,7 @@ void WinuaeGroup::Command1_Click() {
 }
 
 void WinuaeGroup::Command3_Click() {
-    const DisabledMeanwhile off(form.Command3);
+    const core::DisabledMeanwhile off(form.Command3);
     StartWith(PathOfMaster());
     services.loadingScreen.ShowLoadingInfo(&form);
     form.MarkUnsaved();

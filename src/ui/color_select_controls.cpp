@@ -23,11 +23,13 @@ ColorSelectControls::ColorSelectControls(forms::Container* parent)
         ColSlider1[i].SetRange(0, 255);
         ColSlider1[i].Move(edge + 900, top, width - 2 * edge - 900, 390);
     }
-    BackGroundPix.Move(edge, 480 + 3 * row + 90, half, 960);
+    // The lines of a skin are longer than the sample, and grow where the text is rounded up.
+    constexpr int lines = half + 450, sample = half - 450;
+    BackGroundPix.Move(edge, 480 + 3 * row + 90, sample, 960);
     SampleText.SetAlignment(forms::Alignment::center);
-    SampleText.Move(60, 330, half - 120, 300);
+    SampleText.Move(60, 330, sample - 120, 300);
     SkinLines.SetMultiLine(true);
-    SkinLines.Move(2 * edge + half, BackGroundPix.Top(), half, 960);
+    SkinLines.Move(2 * edge + sample, BackGroundPix.Top(), lines, 960);
 }
 
 }  // namespace kivu::ui

@@ -7,11 +7,25 @@
 
 namespace kivu::ui {
 
+namespace {
+
+// A scan leaves the simple list as it was.
+std::string GamesInCompleteList(const core::Form1& form) {
+    return form.Say(
+        "Die Spiele stehen in der Liste \"Komplett\".\r"
+        "Hier stehen sie, sobald der Emulator neu gewählt wird.",
+        "The games are in \"Complete List\".\r"
+        "They will be here once the emulator is chosen anew.");
+}
+
+}  // namespace
+
 void Hints::Refresh() {
     const std::string none = form.CurrentEmuIndex < 0 ? FirstStep() : "";
     form.EmulatorLongListbox.SetHint(FirstStep());
     const std::string games = none.empty() ? NoGames() : none;
-    form.WIthoutDoubles.SetHint(games);
+    const bool scanned = none.empty() && form.UAE_Short.ListCount() > 0;
+    form.WIthoutDoubles.SetHint(scanned ? GamesInCompleteList(form) : games);
     form.UAE_Short.SetHint(games);
     form.FavoritenListe.SetHint(
         none.empty()

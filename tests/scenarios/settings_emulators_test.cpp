@@ -81,6 +81,9 @@ TEST_F(FirstEmulator, IsThereWithoutATextEditor) {
     EXPECT_EQ(tree.Stored("Config/Atari 2600/Kivu.ini", "EmulatorPath"),
               testing::HostPath("/Emu/stella.exe"));
     EXPECT_EQ(tree.Stored(programProfile, "LastEmulator"), "Atari 2600");
+    // A scan fills the complete list alone, and the other one says so.
+    EXPECT_EQ(Get("WIthoutDoubles.ListCount"), 0);
+    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr("\"Complete List\""));
     Do("runs");
     Do("click", "Form1.Label3");
     Do("dblclick", "Form1.UAE_Short", 0);
@@ -90,6 +93,20 @@ TEST_F(FirstEmulator, IsThereWithoutATextEditor) {
     Start();
     EXPECT_EQ(Get("CurrentEmuIndex"), 0);
     EXPECT_EQ(Get("UAE_Short.ListCount"), 2);
+}
+
+TEST_F(FirstEmulator, ChosenOnceMoreItsGamesAreInTheSimpleListToo) {
+    tree.AddEmulator("VCS", {{"RomPath", "/Games"}, {"Dir_Parameter", "*.bin"}});
+    tree.WriteProgramProfile({{"LastEmulator", "VCS"}});
+    Start();
+    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr("No games in the list"));
+    Do("click", "Form1.LoadBtn");
+    EXPECT_EQ(Get("UAE_Short.ListCount"), 2);
+    EXPECT_EQ(Get("WIthoutDoubles.ListCount"), 0);
+    EXPECT_THAT(Text("WIthoutDoubles.Hint"), HasSubstr("once the emulator is chosen anew"));
+    Do("focus", "Form1.EmuListbox");
+    Do("dblclick", "Form1.EmulatorLongListbox", 0);
+    EXPECT_EQ(Get("WIthoutDoubles.ListCount"), 2);
 }
 
 TEST_F(FirstEmulator, TakesWhatWasTypedBeforeIt) {

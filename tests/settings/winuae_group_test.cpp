@@ -1,19 +1,9 @@
 #include "settings/winuae_group.h"
 
-#include <gmock/gmock.h>
-
-#include "launch/uae_configuration.h"
-#include "testing/md5.h"
 #include "winuae_room.h"
 
 namespace kivu::settings {
 namespace {
-
-using kivu::testing::Md5;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::Pair;
-using Answer = platform::Answer;
 
 // --- The panel.
 

@@ -1,20 +1,9 @@
 // The master configuration between its file and its box.
 
-#include <gmock/gmock.h>
-
-#include "launch/uae_configuration.h"
-#include "settings/winuae_group.h"
-#include "testing/md5.h"
 #include "winuae_room.h"
 
 namespace kivu::settings {
 namespace {
-
-using kivu::testing::Md5;
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
-using ::testing::Pair;
-using Answer = platform::Answer;
 
 TEST_F(Winuae, TheMasterIsShownWithoutWhatEachLaunchWrites) {
     OpenWindow();

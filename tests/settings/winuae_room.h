@@ -3,9 +3,18 @@
 #include <gmock/gmock.h>
 #include <string_view>
 
+#include "launch/uae_configuration.h"
+#include "settings/winuae_group.h"
 #include "settings_room.h"
+#include "testing/md5.h"
 
 namespace kivu::settings {
+
+using kivu::testing::Md5;
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+using ::testing::Pair;
+using Answer = platform::Answer;
 
 inline constexpr const char* masterName = "C:\\Kivu\\Config\\Kivu_Master.uaecfg";
 

@@ -3,7 +3,7 @@
 #include "forms/control.h"
 #include "forms/form.h"
 
-namespace kivu::settings {
+namespace kivu::core {
 
 // Off while what it has started is under way; the focus comes back to it. Its form must be held.
 class DisabledMeanwhile {
@@ -24,4 +24,4 @@ class DisabledMeanwhile {
     const bool hadFocus;
 };
 
-}  // namespace kivu::settings
+}  // namespace kivu::core
