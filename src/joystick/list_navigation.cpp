@@ -13,7 +13,7 @@ void ListNavigation::JoystickDirection(int KeyValue) {
     if (form.JoystickFocus < 0 || form.Busy) return;
     if (form.EmulatorLongListbox.Visible()) form.JoystickFocus = 5;
     // The search box must not take the focus during the step.
-    const bool searching = form.SearchDblsTxt.HasFocus();
+    forms::Control* had = form.Focus();
     form.SearchDblsTxt.SetEnabled(false);
     if (form.JoystickFocus > 6) form.JoystickFocus = 1;
     const int focus = form.JoystickFocus;
@@ -36,8 +36,10 @@ void ListNavigation::JoystickDirection(int KeyValue) {
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
     form.SearchDblsTxt.SetEnabled(true);
     form.EmuListbox.SetEnabled(true);
-    // Over the open choice a step to the side leads nowhere.
-    if (searching && !form.Focus()) form.SearchDblsTxt.SetFocus();
+    // Over the open choice a step to the side leads nowhere, and one down hides the long list for a
+    // moment.
+    const bool held = had == &form.SearchDblsTxt || had == &form.EmulatorLongListbox;
+    if (held && !form.Focus()) had->SetFocus();
 }
 
 void ListNavigation::MoveRow(forms::ListBox& list, int step) {

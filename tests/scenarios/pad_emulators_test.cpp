@@ -62,6 +62,21 @@ TEST_F(PadEmulators, UpAndDownEndAtTheEnds) {
     EXPECT_FALSE(Form().EmuListBrowsing);
 }
 
+// A row clicked with the mouse has given the long list the keys.
+TEST_F(PadEmulators, StepsLeaveTheKeysWithTheLongList) {
+    Start();
+    Tap(2);
+    Do("select", "Form1.EmulatorLongListbox", 1);
+    for (const int place : {65535, 0}) {
+        TapStick("y", place);
+        EXPECT_TRUE(Visible("EmulatorLongListbox"));
+        EXPECT_NE(Get("Focus"), "") << place;
+    }
+    EXPECT_EQ(Get("EmuListbox.ListIndex"), 1);
+    Do("key", "Form1", "Escape");
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+}
+
 TEST_F(PadEmulators, SelectKeepsTheChoiceOpen) {
     Start();
     Tap(2);

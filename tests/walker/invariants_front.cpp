@@ -123,9 +123,12 @@ const std::vector<Invariant>& FrontInvariants() {
          {ended,
           running,
           nothingLoaded,
-          {"a double click on a global favourite loads its emulator and shows the list again",
+          {"a double click on a global favourite loads its emulator and shows the list again; a "
+           "Tab "
+           "meanwhile comes to the search box",
            [](const Moment& m) {
-               return m.after.At(List::globalFavourites).visible && m.after.mode == "2";
+               return m.after.At(List::globalFavourites).visible &&
+                      (m.after.mode == "2" || m.after.mode == "7");
            }},
           {"a search typed over the open choice goes through all emulators, which stay in front",
            [](const Moment& m) {

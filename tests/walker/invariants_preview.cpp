@@ -32,6 +32,13 @@ bool IsOfNamedGame(const Moment& m) {
     return !name.empty() && IsOfGame(m.after.preview, name, m.after.Loaded());
 }
 
+// A favourite that is removed, or whose file has gone, selects nothing: where no game is selected,
+// as after a rescan, the picture of the last one stays.
+bool IsLeftByFavourite(const Moment& m) {
+    return m.after.InFront() == std::vector<List>{List::favourites} &&
+           m.after.preview == m.before.preview;
+}
+
 std::string OfSelectedGame(const Moment& m) {
     if (m.after.preview.empty()) return {};
     const int selected = m.after.At(List::complete).row;
@@ -39,7 +46,7 @@ std::string OfSelectedGame(const Moment& m) {
     if (meant.kind == Meaning::Kind::untold) return {};
     const std::string path = selected < 0 ? meant.path : m.after.paths.Text(selected);
     if (!path.empty() && IsOfGame(m.after.preview, path, m.after.Loaded())) return {};
-    if (IsOfNamedGame(m)) return {};
+    if (IsOfNamedGame(m) || (path.empty() && IsLeftByFavourite(m))) return {};
     return m.after.preview + " is to be seen, selected is " + Quoted(path);
 }
 
