@@ -35,6 +35,9 @@ void Hints::ShowFirstSteps() {
     storesNothing = !support::CanWriteIn(files, form.ConfigPath);
     Refresh();
     form.LoadingBtn.SetHint(FirstStep());
+    // What they tell to press; a screen reader says nothing where nothing has the focus. The empty
+    // drop-down would open its list over them.
+    if (form.EmuListbox.ListCount() == 0 && !form.Focus()) form.SettingsBtn.SetFocus();
 }
 
 // Where nothing can be stored, there is no sense in making an emulator.
