@@ -11,6 +11,7 @@
 #include "app/build.h"
 #include "app/desktop_host.h"
 #include "hosts/qt/active_window_qt.h"
+#include "hosts/qt/close_requests_qt.h"
 #include "hosts/qt/compositing_qt.h"
 #include "view/cover_picture.h"
 #include "view/fit_into.h"
@@ -78,6 +79,7 @@ int main(int argc, char** argv) {
     kivu::view::ScreenWindows windows;
     windows.SetCompositing(kivu::hosts::IsComposited);
     windows.SetElsewhere(kivu::hosts::IsAnotherProgramActive);
+    const kivu::hosts::CloseRequests closeRequests(application);
     kivu::wiring::Launcher launcher(host.Services(), &measure, EndAtOnce, &windows);
     // A size that the user has left it in comes after this, whatever it is.
     if (const QScreen* screen = QApplication::primaryScreen())

@@ -175,6 +175,7 @@ void Form1::DesignFrame() {
     ExitBtn.Move(0, 0, 1050, 420);
     FontSizeCombo.Move(0, 0, 2100, 420);
     FontSizeCombo.SetChoice(true);
+    FontSizeCombo.SetToolTipText("Schriftgröße der Listen");
     JoystickIcon.Move(0, 0, 420, 420);
     JoystickIcon.SetPicture({":/joystick", nullptr});
     JoystickIcon.SetToolTipText("Joysticksteuerung aktiv");
@@ -221,6 +222,7 @@ void Form1::DesignCorner() {
     TitleStr.Move(60, 120, 1400, 300);
     TitleStr.SetFont({"", 9, false});
     TitleStr.SetCaption(defaultTitle);
+    TitleStr.SetToolTipText("Öffnet die Homepage im Browser");
     TimeString.Move(1500, 60, 1290, 420);
     TimeString.SetFont({"", 15, true});
     TimeString.SetAlignment(forms::Alignment::right);

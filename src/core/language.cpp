@@ -24,6 +24,8 @@ void ApplyEnglishCaptions(Form1& form) {
     form.DrivesResizeLabel.SetToolTipText("Fold and unfold the drives");
     form.SearchDblsTxt.SetToolTipText("Search for a game (Ctrl+F)");
     form.SuchErg.SetToolTipText("Search");
+    form.FontSizeCombo.SetToolTipText("Font size of the lists");
+    form.TitleStr.SetToolTipText("Opens the home page in the browser");
     form.NormalMaxCapt.SetToolTipText("Maximize and back");
     form.JoystickIcon.SetToolTipText("Joystick / Gamepad navigation aktiv");
 }

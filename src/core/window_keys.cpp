@@ -10,7 +10,23 @@ namespace shifts = forms::shifts;
 
 namespace {
 constexpr int zoomKey = keys::f1 + 1;
+constexpr int maximizeKey = keys::f1 + 10;
+
+forms::Image& ShownPin(Form1& form) {
+    if (form.AOT_Enabled.Visible()) return form.AOT_Enabled;
+    return form.AOT_MouseMove.Visible() ? form.AOT_MouseMove : form.AOT_Disabled;
 }
+
+// What the Tab key does not come to and a key clicks: the sign that makes the window large, the
+// pin, and the handle of the drives. Null: it is no such key.
+forms::Control* ClickedBy(forms::Key key, Form1& form) {
+    if (key.code == maximizeKey && key.shift == 0) return &form.NormalMaxCapt;
+    if (key.shift != shifts::ctrl) return nullptr;
+    if (key.code == 'T') return &ShownPin(form);
+    return key.code == 'D' ? &form.DrivesResizeLabel : nullptr;
+}
+
+}  // namespace
 
 void WindowKeys::Form_KeyDown(forms::Key& key) {
     if (ports.loading->TakesKey(key)) {
@@ -25,6 +41,11 @@ void WindowKeys::Form_KeyDown(forms::Key& key) {
     if (key.code == zoomKey && key.shift == 0) {
         // Held down, it would flicker.
         if (!key.repeat) hooks.TogglePictureZoom();
+        key = {};
+        return;
+    }
+    if (forms::Control* clicked = ClickedBy(key, form)) {
+        if (!key.repeat && clicked->IsReachable()) clicked->Click();
         key = {};
         return;
     }

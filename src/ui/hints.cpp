@@ -52,6 +52,9 @@ void Hints::ShowFirstSteps() {
     Refresh();
     MyCaptionLabel_Change();
     if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible()) form.LoadingBtn.SetHint(FirstStep());
+    // What they tell to press; a screen reader says nothing where nothing has the focus. The empty
+    // drop-down would open its list over them.
+    if (form.EmuListbox.ListCount() == 0 && !form.Focus()) form.SettingsBtn.SetFocus();
 }
 
 void Hints::MyCaptionLabel_Change() {

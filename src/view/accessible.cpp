@@ -28,6 +28,19 @@ void Tell(QAccessibleEvent event) {
     QAccessible::updateAccessibility(&event);
 }
 
+// The picture of a switch's one state has come or gone.
+void TellSwitch(Mirror& picture) {
+    forms::Container* around = picture.GetControl().Parent();
+    if (!around || !IsSwitch(*around) || around->Children().front() != &picture.GetControl())
+        return;
+    Mirror* mirror = picture.Host().MirrorOf(*around);
+    if (!mirror || !mirror->Widget()) return;
+    QAccessible::State changed;
+    changed.checked = true;
+    QAccessibleStateChangeEvent event(mirror->Widget(), changed);
+    QAccessible::updateAccessibility(&event);
+}
+
 }  // namespace
 
 void ServeAssistiveTools() {
@@ -59,6 +72,7 @@ void TellChange(Mirror& mirror, forms::Aspect aspect) {
     QWidget* widget = mirror.Widget();
     if (!QAccessible::isActive() || !widget) return;
     const forms::Control& control = mirror.GetControl();
+    if (aspect == forms::Aspect::visible) TellSwitch(mirror);
     const Meaning meaning = MeaningOf(control);
     if (meaning == Meaning::nothing) return;
     const bool words = aspect == forms::Aspect::text || aspect == forms::Aspect::toolTip;
@@ -66,6 +80,9 @@ void TellChange(Mirror& mirror, forms::Aspect aspect) {
         QAccessibleValueChangeEvent event(
             widget, ToQt(static_cast<const forms::ComboBox&>(control).Text()));
         QAccessible::updateAccessibility(&event);
+    } else if (words && meaning == Meaning::list && aspect == forms::Aspect::text) {
+        // Its hint; what it is called stands on its tab.
+        Tell(QAccessibleEvent(widget, QAccessible::DescriptionChanged));
     } else if (words && meaning != Meaning::field && meaning != Meaning::slider) {
         Tell(QAccessibleEvent(widget, QAccessible::NameChanged));
     }

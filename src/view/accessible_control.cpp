@@ -8,6 +8,7 @@
 #include "forms/access_keys.h"
 #include "forms/list_control.h"
 #include "view/accessible_text.h"
+#include "view/open_to_hands.h"
 #include "view/text.h"
 
 namespace kivu::view {
@@ -139,6 +140,10 @@ Mirror* AccessibleControl::Find() const {
     return MirrorOfWidget(widget);
 }
 
+bool AccessibleControl::IsOpen() const {
+    return Find() && Control().IsReachable() && IsOpenToHands(*widget);
+}
+
 bool AccessibleControl::isValid() const {
     return Find() != nullptr;
 }
@@ -259,7 +264,7 @@ QAccessible::State AccessibleControl::state() const {
     const forms::Control& control = mirror->GetControl();
     const Meaning meaning = MeaningOf(control);
     state.invisible = !widget->isVisible() || meaning == Meaning::nothing;
-    state.disabled = !control.IsReachable() && !state.invisible;
+    state.disabled = !IsOpen() && !state.invisible;
     state.focusable = control.TakesFocus();
     state.focused =
         control.GetKind() != forms::Kind::form && control.HasFocus() && widget->isActiveWindow();
@@ -270,6 +275,10 @@ QAccessible::State AccessibleControl::state() const {
     if (meaning == Meaning::tab) {
         state.selectable = true;
         state.selected = IsMarked(static_cast<const forms::Label&>(control));
+    }
+    if (IsSwitch(control)) {
+        state.checkable = true;
+        state.checked = IsOn(control);
     }
     if (const auto* button = dynamic_cast<const forms::ValueButton*>(&control)) {
         state.checkable = true;
@@ -312,7 +321,7 @@ QStringList AccessibleControl::actionNames() const {
 
 void AccessibleControl::doAction(const QString& name) {
     Mirror* mirror = Find();
-    if (!mirror || !actionNames().contains(name) || !Control().IsReachable()) return;
+    if (!actionNames().contains(name) || !IsOpen()) return;
     if (name == setFocusAction()) {
         const RepaintRest::Handler running(mirror->Host().Rest());
         Control().SetFocus();
@@ -323,7 +332,7 @@ void AccessibleControl::doAction(const QString& name) {
     QTimer::singleShot(0, widget, [asked] {
         auto* made = dynamic_cast<AccessibleControl*>(
             asked ? QAccessible::queryAccessibleInterface(asked) : nullptr);
-        if (made && made->Find() && made->Control().IsReachable()) made->Press();
+        if (made && made->IsOpen()) made->Press();
     });
 }
 
@@ -335,7 +344,7 @@ void AccessibleControl::Press() {
         mirror.GetControl().SetFocus();
         mirror.ShowRows();
     } else {
-        mirror.Host().Input().Click(mirror.GetControl());
+        mirror.Host().Input().Click(ClickedOf(mirror.GetControl()));
     }
 }
 
@@ -354,7 +363,7 @@ QVariant AccessibleValue::currentValue() const {
 }
 
 void AccessibleValue::setCurrentValue(const QVariant& value) {
-    if (!Find() || !Control().IsReachable()) return;
+    if (!IsOpen()) return;
     const RepaintRest::Handler running(Find()->Host().Rest());
     static_cast<forms::Slider&>(Control()).SetValue(value.toInt());
 }

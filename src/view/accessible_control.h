@@ -42,6 +42,8 @@ class AccessibleControl : public QAccessibleInterface, public QAccessibleActionI
  protected:
     // Null once the control has gone from the screen.
     Mirror* Find() const;
+    // The user's hands reach it: whatever they cannot do no tool does for them.
+    bool IsOpen() const;
     forms::Control& Control() const { return Find()->GetControl(); }
     virtual void Press();
 

@@ -37,8 +37,9 @@ QString TextOf(const forms::Label& label) {
 Meaning MeaningOfLabel(const forms::Label& label) {
     if (label.IsLink()) return Meaning::link;
     if (IsTab(label)) return Meaning::tab;
-    // One that the window is gripped by is no button.
-    if (IsClickable(label) && !label.onMouseDown) return Meaning::button;
+    // One that the window is gripped by is no button, nor one that does not tell what it is for.
+    const bool tells = !label.ToolTipText().empty();
+    if (IsClickable(label) && !label.onMouseDown && tells) return Meaning::button;
     return TextOf(label).isEmpty() && label.Hint().empty() ? Meaning::nothing : Meaning::text;
 }
 
@@ -49,6 +50,8 @@ const forms::Label* LabelBeside(const forms::Control& control) {
     for (const forms::Control* other : control.Parent()->Children()) {
         const forms::Label* label = LabelOf(*other);
         if (!label || !label->Visible() || MeaningOf(*label) != Meaning::text) continue;
+        // What explains itself names nothing else.
+        if (!label->ToolTipText().empty()) continue;
         const bool sameLine = label->Top() <= middle && middle <= label->Bottom();
         if (!sameLine || label->Left() >= control.Left()) continue;
         if (!best || label->Left() > best->Left()) best = label;
@@ -89,6 +92,47 @@ QString NameOfList(const forms::Control& control) {
     return NameOfField(control);
 }
 
+// The pictures that take turns on a switch; none: the control is something else.
+std::vector<forms::Control*> PicturesOf(const forms::Control& control) {
+    if (control.GetKind() != forms::Kind::frame) return {};
+    const auto& on = static_cast<const forms::Frame&>(control).Children();
+    const auto fits = [&](const forms::Control* one) {
+        return one->GetKind() == forms::Kind::image && one->onClick &&
+               !one->ToolTipText().empty() && one->ToolTipText() == on.front()->ToolTipText();
+    };
+    if (on.size() < 2 || !std::all_of(on.begin(), on.end(), fits)) return {};
+    return on;
+}
+
+forms::Control* PictureInFront(const forms::Control& theSwitch) {
+    const std::vector<forms::Control*> pictures = PicturesOf(theSwitch);
+    const auto shown = std::find_if(pictures.begin(), pictures.end(),
+                                    [](const forms::Control* one) { return one->Visible(); });
+    return shown == pictures.end() ? nullptr : *shown;
+}
+
+// A list's, or those of the one that the drop-down leads.
+QString WordsForRows(const forms::Control& control) {
+    if (const auto* list = dynamic_cast<const forms::ListBox*>(&control))
+        return list->ListCount() > 0 ? QString() : Read(list->Hint());
+    if (control.GetKind() != forms::Kind::comboBox) return {};
+    for (const forms::Control* other : control.ParentForm()->Controls()) {
+        const auto* led = dynamic_cast<const forms::ListBox*>(other);
+        if (led && led->Leader() == &control) return WordsForRows(*led);
+    }
+    return {};
+}
+
+// A window that shows them has little else to tell.
+QString FirstSteps(const forms::Control& control) {
+    if (!control.HasFocus()) return {};
+    for (const forms::Control* other : control.ParentForm()->Controls()) {
+        const forms::Label* label = LabelOf(*other);
+        if (label && label->Visible() && !label->Hint().empty()) return Read(label->Hint());
+    }
+    return {};
+}
+
 // A picture without words is known by its file.
 QString NameOfPicture(const forms::Control& control) {
     if (!control.ToolTipText().empty()) return Read(control.ToolTipText());
@@ -96,6 +140,23 @@ QString NameOfPicture(const forms::Control& control) {
     QString name = ToQt(control.GetPicture().source);
     name = name.mid(std::max(name.lastIndexOf(u'/'), name.lastIndexOf(u'\\')) + 1);
     return name.left(name.lastIndexOf(u'.'));
+}
+
+// A click anywhere on the window does the same, and it is not moved by its surface.
+bool IsOfSurface(const forms::Control& control) {
+    const forms::Form& form = FormOf(control);
+    return form.onClick && !form.onMouseDown && control.ToolTipText().empty();
+}
+
+// One without a name would be a button for nobody knows what.
+Meaning MeaningOfPicture(const forms::Control& control) {
+    const bool button = control.onClick && !IsOfSurface(control) && !IsSwitch(*control.Parent());
+    return button && !NameOfPicture(control).isEmpty() ? Meaning::button : Meaning::nothing;
+}
+
+Meaning MeaningOfFrame(const forms::Frame& frame) {
+    if (IsSwitch(frame)) return PictureInFront(frame) ? Meaning::check : Meaning::nothing;
+    return frame.Caption().empty() ? Meaning::nothing : Meaning::group;
 }
 
 // "Df0:" calls for the file that its tool tip names.
@@ -153,6 +214,20 @@ bool IsMarked(const forms::Label& label) {
            (label.IsOpaque() || label.BackColor() != label.ParentForm()->BackColor());
 }
 
+bool IsSwitch(const forms::Control& control) {
+    return !PicturesOf(control).empty();
+}
+
+bool IsOn(const forms::Control& theSwitch) {
+    const std::vector<forms::Control*> pictures = PicturesOf(theSwitch);
+    return !pictures.empty() && pictures.front()->Visible();
+}
+
+forms::Control& ClickedOf(forms::Control& control) {
+    forms::Control* picture = PictureInFront(control);
+    return picture ? *picture : control;
+}
+
 Meaning MeaningOf(const forms::Control& control) {
     switch (control.GetKind()) {
         case forms::Kind::form:
@@ -177,15 +252,13 @@ Meaning MeaningOf(const forms::Control& control) {
         case forms::Kind::fileListBox:
             return Meaning::list;
         case forms::Kind::frame:
-            return static_cast<const forms::Frame&>(control).Caption().empty() ? Meaning::nothing
-                                                                               : Meaning::group;
+            return MeaningOfFrame(static_cast<const forms::Frame&>(control));
         case forms::Kind::image:
-            return control.onClick ? Meaning::button : Meaning::nothing;
-        case forms::Kind::pictureBox: {
+            return MeaningOfPicture(control);
+        case forms::Kind::pictureBox:
             // With something on it, it is a ground.
-            const bool empty = static_cast<const forms::Container&>(control).Children().empty();
-            return control.onClick && empty ? Meaning::button : Meaning::nothing;
-        }
+            if (!static_cast<const forms::Container&>(control).Children().empty()) break;
+            return MeaningOfPicture(control);
         case forms::Kind::timer:
             break;
     }
@@ -194,6 +267,7 @@ Meaning MeaningOf(const forms::Control& control) {
 
 QString NameOf(const forms::Control& control) {
     if (const auto* label = LabelOf(control)) return NameOfLabel(*label);
+    if (const forms::Control* picture = PictureInFront(control)) return NameOfPicture(*picture);
     switch (MeaningOf(control)) {
         case Meaning::window:
             return Read(static_cast<const forms::Form&>(control).Caption());
@@ -215,8 +289,13 @@ QString NameOf(const forms::Control& control) {
 }
 
 QString DescriptionOf(const forms::Control& control) {
+    QStringList parts;
     const QString tip = Read(control.ToolTipText());
-    return NameOf(control).contains(tip) ? QString() : tip;
+    if (!NameOf(control).contains(tip)) parts << tip;
+    const QString rows = WordsForRows(control);
+    const QString words = rows.isEmpty() ? FirstSteps(control) : rows;
+    if (!words.isEmpty()) parts << words;
+    return parts.join(u' ');
 }
 
 std::vector<Part> PartsOf(const forms::Container& container) {

@@ -35,10 +35,18 @@ bool IsTab(const forms::Label& label);
 // The one whose list is in front.
 bool IsMarked(const forms::Label& label);
 
+// A frame with nothing on it but clickable pictures of one tool tip, which take turns: the one at
+// the back shows while it is on.
+bool IsSwitch(const forms::Control& control);
+bool IsOn(const forms::Control& theSwitch);
+// Of a switch the picture that shows takes the click.
+forms::Control& ClickedOf(forms::Control& control);
+
 // What it is called: by its caption or, where that has no letter, by its tool tip; a field by its
 // label; a list by its tab. Empty: by nothing.
 QString NameOf(const forms::Control& control);
-// What its tool tip has to add.
+// What its tool tip has to add; of a list without rows what stands in their place; and with the
+// focus what there is to do first in the window.
 QString DescriptionOf(const forms::Control& control);
 
 // One of what is to be told of in a container: a control, or the list of the tabs that lie on it.

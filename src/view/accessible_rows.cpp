@@ -3,12 +3,18 @@
 
 #include "forms/form.h"
 #include "view/accessible_control.h"
+#include "view/open_to_hands.h"
 #include "view/rows.h"
 #include "view/text.h"
 
 namespace kivu::view {
 
 namespace {
+
+// What a double click does: starts the game, or opens what the row stands for.
+QString ActivateAction() {
+    return QStringLiteral("Activate");
+}
 
 // One row. It stands for a number, whatever text that has by now.
 class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInterface {
@@ -44,7 +50,7 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
         state.selectable = state.focusable = true;
         state.selected = Source()->IsMarked(row);
         state.focused = control.HasFocus() && list->isActiveWindow() && Source()->Selected() == row;
-        state.disabled = !control.IsReachable() && list->isVisible();
+        state.disabled = !IsOpen() && list->isVisible();
         state.invisible = !list->isVisible();
         const QRect seen(list->mapToGlobal(QPoint(0, 0)), list->size());
         state.offscreen = !rect().intersects(seen);
@@ -56,21 +62,31 @@ class AccessibleRow : public QAccessibleInterface, public QAccessibleActionInter
                                                     : nullptr;
     }
     // To choose a row is to click it; Enter and the buttons take what has been clicked.
-    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    QStringList actionNames() const override {
+        QStringList names{pressAction(), setFocusAction()};
+        if (Find() && Find()->GetControl().onDblClick) names << ActivateAction();
+        return names;
+    }
     QStringList keyBindingsForAction(const QString&) const override { return {}; }
     void doAction(const QString& name) override {
-        if (!isValid() || !actionNames().contains(name)) return;
+        if (!isValid() || !IsOpen() || !actionNames().contains(name)) return;
         // Another emulator's games may be loaded for it, and the tool must not wait so long.
-        QTimer::singleShot(0, list, [list = list, row = row] {
-            Mirror* mirror = MirrorOfWidget(list);
-            if (!mirror || row >= mirror->RowsShown()->Count()) return;
-            const RepaintRest::Handler running(mirror->Host().Rest());
-            const forms::HeldForm held(mirror->GetControl());
-            mirror->Host().Input().Click(mirror->GetControl(), row);
+        QTimer::singleShot(0, list, [list = list, row = row, name] {
+            const AccessibleRow asked(list, row);
+            if (asked.isValid() && asked.IsOpen()) asked.Click(name == ActivateAction());
         });
     }
 
  private:
+    void Click(bool twice) const {
+        Mirror& mirror = *Find();
+        const RepaintRest::Handler running(mirror.Host().Rest());
+        forms::Control& control = mirror.GetControl();
+        const forms::HeldForm held(control);
+        forms::UserInput& input = mirror.Host().Input();
+        twice ? input.DoubleClick(control, row) : input.Click(control, row);
+    }
+    bool IsOpen() const { return Find()->GetControl().IsReachable() && IsOpenToHands(*list); }
     Mirror* Find() const { return MirrorOfWidget(list); }
     const RowSource* Source() const { return Find() ? Find()->RowsShown() : nullptr; }
 

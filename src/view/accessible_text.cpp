@@ -85,13 +85,13 @@ QString AccessibleText::attributes(int, int* start, int* end) const {
 }
 
 void AccessibleText::replaceText(int start, int end, const QString& text) {
-    if (!Box() || !Control().IsReachable()) return;
+    if (!Box() || !IsOpen()) return;
     const RepaintRest::Handler running(Find()->Host().Rest());
     const forms::HeldForm held(Control());
     const bool all = start <= 0 && end >= characterCount();
     // Its handler may put words away that only stand there while nobody writes.
     Control().SetFocus();
-    if (!Box() || !Control().IsReachable()) return;
+    if (!Box() || !IsOpen()) return;
     const int size = characterCount();
     const int from = all ? 0 : std::clamp(start, 0, size);
     const int to = all ? size : std::clamp(end, from, size);

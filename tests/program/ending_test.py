@@ -3,6 +3,7 @@
 
 import atexit
 import os
+import shutil
 import signal
 import sys
 
@@ -66,6 +67,31 @@ def panel_asks_and_enter_ends():
         desk.output(["xdotool", "key", "Return"])
         assert program.wait() == 0
         expect(program)
+
+
+def active(desk):
+    return desk.output(["xdotool", "getactivewindow"]).strip()
+
+
+def panel_fetches_the_settings_in_front():
+    with Desk() as desk:
+        program = Program(desk, binary)
+        # At a first start Enter opens the settings.
+        shutil.rmtree(program.path("Config"))
+        program.start()
+        desk.output(["xdotool", "windowactivate", "--sync", program.window, "key", "Return"])
+        until("the settings", lambda: len(program.windows()) > 1 and active(desk) not in ("", program.window))
+        settings = active(desk)
+        assert settings in program.windows()
+        # Another program's window comes over them.
+        other = Program(desk, binary)
+        other.start()
+        other.window = until("the other window", other.windows)[-1]
+        desk.output(["xdotool", "windowactivate", "--sync", other.window])
+        until("the other window in front", lambda: active(desk) == other.window)
+        desk.output(["wmctrl", "-i", "-c", program.window])
+        until("the settings in front", lambda: active(desk) == settings)
+        assert not program.ended()
 
 
 def alt_f4_ends_nothing():
@@ -185,9 +211,9 @@ def question_while_a_mount_waits():
     nothing_is_left_of_a_mount(end)
 
 
-tests = [each_signal_stores, signal_with_the_question_open, panel_asks_and_enter_ends, alt_f4_ends_nothing,
-         display_that_goes_stores, emulator_lives_on, signal_while_a_mount_waits,
-         display_that_goes_while_a_mount_waits, question_while_a_mount_waits]
+tests = [each_signal_stores, signal_with_the_question_open, panel_asks_and_enter_ends,
+         panel_fetches_the_settings_in_front, alt_f4_ends_nothing, display_that_goes_stores, emulator_lives_on,
+         signal_while_a_mount_waits, display_that_goes_while_a_mount_waits, question_while_a_mount_waits]
 try:
     manager = SessionManager()
     atexit.register(manager.close)

@@ -24,6 +24,19 @@ TEST_F(FirstSteps, StandBelowTheTitleOfAFirstStart) {
         EXPECT_FALSE(Visible(name)) << name;
 }
 
+TEST_F(FirstSteps, HaveTheFocusOnWhatTheyTellToPress) {
+    Start();
+    EXPECT_EQ(Get("Focus"), "Form1.SettingsBtn");
+    EXPECT_EQ(Get("ListMode"), "2");
+    EXPECT_FALSE(Visible("EmulatorLongListbox"));
+    // With emulators to choose from the drop-down is the first that the Tab key comes to.
+    tree.AddEmulator("Alpha");
+    Start();
+    EXPECT_EQ(Get("Focus"), "");
+    Do("key", "Form1", "Tab");
+    EXPECT_EQ(Get("Focus"), "Form1.EmuListbox");
+}
+
 TEST_F(FirstSteps, AreToChooseAnEmulatorWhereThereAreSome) {
     options.language = "German";
     tree.AddEmulator("Alpha");

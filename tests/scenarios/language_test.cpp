@@ -52,6 +52,8 @@ TEST_F(Language, EnglishWritesItsCaptionsOverThem) {
     EXPECT_EQ(Get("SearchDblsTxt.ToolTipText"), "Search for a game (Ctrl+F)");
     EXPECT_EQ(Get("SuchErg.ToolTipText"), "Search");
     EXPECT_EQ(Get("NormalMaxCapt.ToolTipText"), "Maximize and back");
+    EXPECT_EQ(Get("FontSizeCombo.ToolTipText"), "Font size of the lists");
+    EXPECT_EQ(Get("TitleStr.ToolTipText"), "Opens the home page in the browser");
     EXPECT_EQ(Get("Label1.Caption"), " Favorites (0) ");
     EXPECT_EQ(Get("Label2.Caption"), " Simple (2) ");
     EXPECT_EQ(Get("Label3.Caption"), " Complete List (3) ");

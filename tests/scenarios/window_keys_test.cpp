@@ -130,6 +130,61 @@ TEST_F(WindowKeys, WindowSignTogglesMaximisedAndDoubleClickMinimises) {
     EXPECT_EQ(Get("WindowState"), 1);
 }
 
+// What only the mouse came to: the Tab key passes it over.
+TEST_F(WindowKeys, F11MakesTheWindowLargeAndBack) {
+    Start();
+    Do("key", "Form1", "F11");
+    EXPECT_EQ(Get("WindowState"), 2);
+    Do("key", "Form1", "F11", "repeat");
+    EXPECT_EQ(Get("WindowState"), 2);
+    Do("key", "Form1", "F11");
+    EXPECT_EQ(Get("WindowState"), 0);
+    Do("key", "Form1", "Alt+F11");
+    Do("key", "Form1", "Ctrl+F11");
+    EXPECT_EQ(Get("WindowState"), 0);
+}
+
+TEST_F(WindowKeys, CtrlTTurnsThePin) {
+    Start();
+    Call("AlwaysOnTop1.LoadSettings");
+    ASSERT_EQ(Get("Topmost"), true);
+    Do("key", "Form1", "Ctrl+T");
+    EXPECT_EQ(Get("Topmost"), false);
+    EXPECT_EQ((Host().userStore.values[{"AlwaysOnTop", "OnTop"}]), "False");
+    Do("key", "Form1", "Ctrl+T", "repeat");
+    EXPECT_EQ(Get("Topmost"), false);
+    // The mouse may rest on it.
+    Do("mousemove", "Form1.AOT_Disabled", 0, 0, 5, 5);
+    Do("key", "Form1", "Ctrl+T");
+    EXPECT_EQ(Get("Topmost"), true);
+    EXPECT_TRUE(Visible("AOT_Enabled"));
+}
+
+TEST_F(WindowKeys, CtrlDFoldsTheDrivesWhereTheyShow) {
+    Start();
+    const Json width = Get("SettingsSubPicture.Width");
+    Do("key", "Form1", "Ctrl+D");
+    const Json folded = Get("SettingsSubPicture.Width");
+    EXPECT_LT(folded, width);
+    Do("key", "Form1", "Ctrl+D", "repeat");
+    EXPECT_EQ(Get("SettingsSubPicture.Width"), folded);
+    Call("HideAll", false);
+    Do("key", "Form1", "Ctrl+D");
+    EXPECT_EQ(Get("SettingsSubPicture.Width"), folded);
+    Call("HideAll", true);
+    Do("key", "Form1", "Ctrl+D");
+    EXPECT_EQ(Get("SettingsSubPicture.Width"), width);
+}
+
+TEST_F(WindowKeys, KeysOfTheSignsWriteNothingIntoTheSearch) {
+    Start();
+    Do("type", "Form1.SearchDblsTxt", "an");
+    for (const char* key : {"F11", "Ctrl+T", "Ctrl+D"})
+        Do("key", "Form1.SearchDblsTxt", key);
+    EXPECT_EQ(Get("SearchDblsTxt.Text"), "an");
+    EXPECT_EQ(Get("Focus"), "Form1.SearchDblsTxt");
+}
+
 TEST_F(WindowKeys, MinimisedWindowKeepsItsLayout) {
     Start();
     const Json width = Get("ListWidth");

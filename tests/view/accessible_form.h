@@ -16,6 +16,10 @@ inline void NoteEvent(QAccessibleEvent* event) {
     const std::string name = of ? of->text(QAccessible::Name).toStdString() : "";
     if (event->type() == QAccessible::Focus) told->push_back("focus " + name);
     if (event->type() == QAccessible::NameChanged) told->push_back("name " + name);
+    if (event->type() == QAccessible::DescriptionChanged) told->push_back("description " + name);
+    if (event->type() != QAccessible::StateChanged) return;
+    if (static_cast<QAccessibleStateChangeEvent*>(event)->changedStates().checked)
+        told->push_back("checked " + name);
 }
 
 // Controls that join the form late outlive its view.

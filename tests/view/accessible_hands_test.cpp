@@ -29,6 +29,25 @@ TEST_F(AccessibleTest, ChosenRowIsClicked) {
     EXPECT_EQ(form.list.ListIndex(), 4);
 }
 
+TEST_F(AccessibleTest, RowIsActivatedByADoubleClick) {
+    form.Fill(5);
+    QString activate = QStringLiteral("Activate");
+    const auto row = [&] { return Of("List")->child(2); };
+    Show();
+    // It would do nothing.
+    EXPECT_FALSE(row()->actionInterface()->actionNames().contains(activate));
+    Do(row(), activate);
+    EXPECT_EQ(form.list.ListIndex(), -1);
+    form.list.onClick = form.Note("click");
+    form.list.onDblClick = [this] { form.log.push_back("start " + form.list.SelectedText()); };
+    ASSERT_EQ(row()->actionInterface()->actionNames().size(), 3);
+    Do(row(), activate);
+    EXPECT_EQ(form.log, (std::vector<std::string>{"click", "start Row 2"}));
+    form.list.SetEnabled(false);
+    Do(row(), activate);
+    EXPECT_EQ(form.log.size(), 2U);
+}
+
 TEST_F(AccessibleTest, RowOfAListThatCannotBeReachedIsNotClicked) {
     form.Fill(5);
     Show();

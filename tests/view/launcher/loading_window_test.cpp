@@ -1,6 +1,7 @@
+#include <QAccessible>
 #include <QTest>
 #include <QWindow>
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "testing/memory_file_system.h"
 #include "testing/scripted_host.h"
@@ -112,6 +113,24 @@ TEST_F(LoadingView, StandsInTheMiddleOfTheScreen) {
     const QPoint middle = Screen().screen()->availableGeometry().center();
     EXPECT_NEAR(Screen().geometry().center().x(), middle.x(), 2);
     EXPECT_NEAR(Screen().geometry().center().y(), middle.y(), 2);
+}
+
+// A click anywhere sends it away: that makes no buttons of what lies on it.
+TEST_F(LoadingView, IsToldAsTwoTextsAndAButton) {
+    launcher.MainWindow().CurrentLanguage = 2;
+    Show();
+    ScreenForm().GameImage.SetPicture(
+        {"Turrican.png", std::make_shared<const forms::Bitmap>(forms::Bitmap{1, 1, {0}, true})});
+    const QAccessibleInterface* window = QAccessible::queryAccessibleInterface(&Screen());
+    std::vector<std::string> told;
+    for (int i = 0; i < window->childCount(); ++i) {
+        const bool text = window->child(i)->role() == QAccessible::StaticText;
+        told.push_back((text ? "text " : "") +
+                       window->child(i)->text(QAccessible::Name).toStdString());
+    }
+    EXPECT_THAT(told, ::testing::UnorderedElementsAre(
+                          "text Please wait... Loading:", "text Turrican (1990)(Rainbow)(Disk",
+                          ScreenForm().Command1.Caption()));
 }
 
 TEST_F(LoadingView, NoTextIsCutInEitherLanguageAtAnySize) {
