@@ -30,7 +30,7 @@ export XDG_RUNTIME_DIR=$work/run QT_QPA_PLATFORM=xcb TMPDIR=$work/tmp
 mkdir -p "$work/home/me" "$TMPDIR"
 mkdir -m 700 "$work/run"
 
-# Start PROGRAM: one of /home/me, which the programs' paths in the pictures are to begin with. It speaks $language.
+# Start PROGRAM: it finds itself in /home/me, so that the paths in the pictures are those of a user, and speaks $language.
 Start() {
   # shellcheck disable=SC2016
   env HOME=/home/me LANG=C.UTF-8 LC_MESSAGES="$language" unshare --map-root-user --mount \

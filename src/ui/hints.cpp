@@ -51,7 +51,8 @@ void Hints::ShowFirstSteps() {
     demoIsThere = form.EmuListbox.ListCount() == 0 && !starter.FindInPath("kivu-demo").empty();
     Refresh();
     MyCaptionLabel_Change();
-    if (form.CurrentEmuIndex < 0 && form.LoadingBtn.Visible()) form.LoadingBtn.SetHint(FirstStep());
+    if (form.CurrentEmuIndex >= 0 || !form.LoadingBtn.Visible()) return;
+    form.LoadingBtn.SetHint(FirstStep());
     // What they tell to press; a screen reader says nothing where nothing has the focus. The empty
     // drop-down would open its list over them.
     if (form.EmuListbox.ListCount() == 0 && !form.Focus()) form.SettingsBtn.SetFocus();

@@ -99,6 +99,12 @@ TEST_F(DocumentsOfThisTree, PicturesAreShown) {
     const std::vector<std::string> pictures = PicturesBelow(KIVU_SOURCE_DIR, "docs");
     ASSERT_FALSE(pictures.empty());
     EXPECT_EQ(Joined(UnusedPictures(tree, pictures)), "");
+    // Every package brings them.
+    constexpr std::uintmax_t mostBytes = 150'000;
+    for (const std::string& picture : pictures) {
+        const std::filesystem::path path = std::filesystem::path(KIVU_SOURCE_DIR) / picture;
+        EXPECT_LE(std::filesystem::file_size(path), mostBytes) << picture;
+    }
 }
 
 TEST_F(DocumentsOfThisTree, TheBookIsWholeInBothLanguages) {
