@@ -55,7 +55,9 @@ chmod 700 "$root$home/run"
 chown -R $player:$player "$root$home"
 
 InSystem() {
-  if [ -z "$root" ]; then "$@"; else env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 chroot "$root" "$@"; fi
+  local as=(env DEBIAN_FRONTEND=noninteractive)
+  [ -z "$root" ] || as=(env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin LANG=C.UTF-8 "${as[1]}" chroot "$root")
+  "${as[@]}" "$@"
 }
 # What packages lay down and remove, and not what their tools keep of it.
 Files() {
@@ -63,7 +65,7 @@ Files() {
     -o -path "$root/var/lib/apt" -o -path "$root/packages" -o -path "$root$home" -o -path "$root/tmp" \
     -o -path "$root/proc" -o -path "$root/dev" \) -prune -o -print | sort
 }
-Install() { DEBIAN_FRONTEND=noninteractive InSystem apt-get install -y -qq --no-install-recommends "${packages[@]}"; }
+Install() { InSystem apt-get install -y -qq --no-install-recommends "${packages[@]}"; }
 
 [ -z "$root" ] || Files >"$work/before"
 installed=1

@@ -22,9 +22,9 @@ Painted() {
 # ExpectWindow NAME TEXT: waits for the window and keeps a picture of it.
 ExpectWindow() {
   Up() { FindKivu || Gone; }
-  Until 60 Up
+  Until 120 Up
   FindKivu || Fail "no window came up: $(cat "$work/kivu.log")"
-  Until 30 Painted || Fail "the window shows nothing"
+  Until 60 Painted || Fail "the window shows nothing"
   Shot "$1" "$2"
 }
 
