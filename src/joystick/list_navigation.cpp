@@ -86,6 +86,8 @@ void ListNavigation::MoveEmulator(int step) {
             form.EmuListbox.SetFocus();
         } else {
             choice.EmuListbox_GotFocus();
+            // The long list that had it has been put away and brought back.
+            if (!form.Focus()) form.EmuListbox.SetFocus();
         }
     }
     form.JoystickFocus = 5;

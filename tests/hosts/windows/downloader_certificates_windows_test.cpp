@@ -5,7 +5,7 @@
 
 #include "hosts/windows/downloader_winhttp.h"
 #include "hosts/windows/scratch_directory.h"
-#include "unix_web_server.h"
+#include "hosts/windows/unix_web_server.h"
 
 // It needs windows.h.
 #include <wincrypt.h>
