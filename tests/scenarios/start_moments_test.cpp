@@ -94,12 +94,13 @@ TEST_F(StartMoments, TheScriptIsThatOfTheGamesEmulator) {
     EXPECT_EQ(Get("CurrentRunninApplication"), "alpha");
 }
 
-TEST_F(StartMoments, AProgramThatEndsInADownloadRunsNothing) {
+// The updater is on its way.
+TEST_F(StartMoments, AProgramThatEndsInAnUpdateRunsNothing) {
     options.build.updateBase = "https://h";
     options.build.replacesItself = true;
     Start();
     Do("download", "serve", "https://h/Update.exe", "MZ");
-    Do("meanwhile", "events", 2, Json::array({"signal"}));
+    Do("meanwhile", "events", 1, Json::array({"signal"}));
     const Json answer = Do("call", "DownloadUpdateWithUpdater", "https://h/Kivu/Kivu.exe",
                            tree.Path("Kivu.exe"), tree.Path("Updater.exe"), "https://h/Update.exe");
     EXPECT_EQ(answer["ended"], true) << answer;
