@@ -77,6 +77,20 @@ TEST_F(PadEmulators, StepsLeaveTheKeysWithTheLongList) {
     EXPECT_FALSE(Visible("EmulatorLongListbox"));
 }
 
+// Put away for a moment, the long list loses the keyboard.
+TEST_F(PadEmulators, AStepFromTheLongListLeavesTheKeyboardSomewhere) {
+    for (const int direction : {65535, 0}) {
+        Start();
+        Do("click", "Form1.EmuListbox");
+        Do("key", "Form1", "Tab");
+        ASSERT_EQ(Get("Focus"), "Form1.EmulatorLongListbox");
+        TapStick("y", direction);
+        EXPECT_NE(Get("Focus"), "") << direction;
+        EXPECT_TRUE(Visible("EmulatorLongListbox")) << direction;
+        EXPECT_EQ(Focus(), 5) << direction;
+    }
+}
+
 TEST_F(PadEmulators, SelectKeepsTheChoiceOpen) {
     Start();
     Tap(2);

@@ -122,7 +122,7 @@ Commands HandInStart(Random& random) {
 
 // Events run some times in front of the mount, and then for as long as the tool takes.
 Commands StartThatWaits(World& world, const Look& look, Random& random) {
-    if (!Mounts(world, look) || look.busy || look.Running() || look.splash) return {};
+    if (look.busy || look.Running() || look.splash) return {};
     std::vector<List> front;
     for (const List list : {List::favourites, List::simple, List::complete, List::hits}) {
         if (look.At(list).visible && !look.At(list).rows.empty() &&
@@ -131,7 +131,9 @@ Commands StartThatWaits(World& world, const Look& look, Random& random) {
     }
     if (front.empty()) return {};
     const List list = random.Pick(front);
-    Commands commands{Command({"waits", 10 + random.Below(30)})};
+    Commands commands = MountSetUp(world, look, random);
+    if (commands.empty()) return {};
+    commands.push_back(Command({"waits", 10 + random.Below(30)}));
     Json meanwhile = Json::array({"meanwhile", "events", 3 + random.Below(25)});
     for (Json& command : HandInStart(random))
         meanwhile.push_back(std::move(command));

@@ -98,8 +98,9 @@ std::int64_t Announced(HINTERNET request) {
 // One download. It lives as long as its thread, which a call that hangs may keep beyond its end.
 class Transfer {
  public:
-    Transfer(std::int64_t maxBytes, std::chrono::milliseconds patience)
-        : maxBytes(maxBytes), patience(patience) {}
+    Transfer(std::int64_t maxBytes, std::chrono::milliseconds patience,
+             std::unique_ptr<PartFile> part)
+        : maxBytes(maxBytes), patience(patience), part(std::move(part)) {}
 
     bool OpenTarget(const std::string& path) { return part->Open(path); }
     // On a thread of its own.
@@ -156,7 +157,7 @@ class Transfer {
 
     const std::int64_t maxBytes;
     const std::chrono::milliseconds patience;
-    std::unique_ptr<PartFile> part = std::make_unique<PartFile>();
+    std::unique_ptr<PartFile> part;
     std::atomic<bool> cancelled = false;
     std::mutex mutex;
     std::condition_variable over;
@@ -252,12 +253,16 @@ bool HasScheme(std::string_view url, std::string_view scheme) {
 
 }  // namespace
 
+std::unique_ptr<PartFile> WinHttpDownloader::NewPart() const {
+    return std::make_unique<PartFile>();
+}
+
 Fetched WinHttpDownloader::Fetch(const std::string& url, const std::string& path,
                                  std::int64_t maxBytes, const GoOn& goOn) {
     const std::wstring wide = Wide(url);
     if (!(HasScheme(url, "http://") || HasScheme(url, "https://")) || !Crack(wide))
         return Fetched::badAddress;
-    const auto transfer = std::make_shared<Transfer>(maxBytes, patience);
+    const auto transfer = std::make_shared<Transfer>(maxBytes, patience, NewPart());
     if (!transfer->OpenTarget(path)) return Fetched::notWritable;
     std::thread([transfer, wide] { transfer->Run(wide); }).detach();
     for (;;) {

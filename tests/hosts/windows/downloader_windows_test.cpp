@@ -1,6 +1,8 @@
 #include "hosts/windows/downloader_winhttp.h"
+#include "hosts/windows/part_file.h"
 #include "hosts/windows/raw_server.h"
 #include "hosts/windows/scratch_directory.h"
+#include "hosts/windows/started_program.h"
 
 namespace kivu::hosts {
 namespace {
@@ -134,6 +136,109 @@ TEST_F(DownloaderWindows, ATargetThatTakesNothingIsNamedSo) {
     EXPECT_EQ(into(directory.Path("nul")), Fetched::notWritable);
     EXPECT_EQ(into(directory.Path("a?b")), Fetched::notWritable);
     EXPECT_EQ(into(""), Fetched::notWritable);
+}
+
+// No call of Windows' makes a disk full for a test.
+struct FullDiskDownloader : WinHttpDownloader {
+    struct FullPart : PartFile {
+        bool Write(const char* bytes, std::size_t size) override {
+            const std::size_t fitting = std::min<std::size_t>(size, room);
+            room -= fitting;
+            return PartFile::Write(bytes, fitting) && fitting == size;
+        }
+        std::size_t room = 5;
+    };
+    std::unique_ptr<PartFile> NewPart() const override { return std::make_unique<FullPart>(); }
+};
+
+TEST_F(DownloaderWindows, ADiskThatIsFullLeavesTheOldFile) {
+    Serve("/file", RawServer::Ok("content", 7));
+    Serve("/fits", RawServer::Ok("conte", 5));
+    EXPECT_EQ(FullDiskDownloader().Fetch(server.Address("/file"), target, much, {}),
+              Fetched::notWritable);
+    ExpectTheOldFile();
+    EXPECT_EQ(FullDiskDownloader().Fetch(server.Address("/fits"), target, much, {}), Fetched::ok);
+}
+
+// What stands there may not be replaced, and is not.
+TEST_F(DownloaderWindows, AReadOnlyTargetStays) {
+    Serve("/file", RawServer::Ok("content", 7));
+    ASSERT_TRUE(directory.SetAttributes("target", FILE_ATTRIBUTE_READONLY));
+    EXPECT_EQ(Get("/file"), Fetched::notWritable);
+    ExpectTheOldFile();
+    ASSERT_TRUE(directory.SetAttributes("target", FILE_ATTRIBUTE_ARCHIVE));
+    {
+        const Handle reader(::CreateFileW(directory.WidePath("target").c_str(), GENERIC_READ,
+                                          FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr));
+        EXPECT_EQ(Get("/file"), Fetched::notWritable);
+    }
+    ExpectTheOldFile();
+    EXPECT_EQ(Get("/file"), Fetched::ok);
+}
+
+// Takes the right to make files in a directory away from everybody, until the end of its scope.
+class ClosedDirectory {
+ public:
+    explicit ClosedDirectory(std::wstring path) : path(std::move(path)) {
+        // Read and run alone, and nothing inherited.
+        Apply(L"D:P(A;;GRGX;;;WD)(A;;WDSD;;;WD)");
+    }
+    ~ClosedDirectory() { Apply(L"D:P(A;OICI;GA;;;WD)"); }
+    ClosedDirectory(const ClosedDirectory&) = delete;
+    ClosedDirectory& operator=(const ClosedDirectory&) = delete;
+
+ private:
+    void Apply(const wchar_t* rights) const {
+        PSECURITY_DESCRIPTOR descriptor = nullptr;
+        ::ConvertStringSecurityDescriptorToSecurityDescriptorW(rights, SDDL_REVISION_1, &descriptor,
+                                                               nullptr);
+        EXPECT_NE(::SetFileSecurityW(path.c_str(), DACL_SECURITY_INFORMATION, descriptor), 0);
+        ::LocalFree(descriptor);
+    }
+    std::wstring path;
+};
+
+TEST_F(DownloaderWindows, AReadOnlyDirectoryIsToldBeforeAnythingIsFetched) {
+    directory.MakeDirectory("closed");
+    const ClosedDirectory closed(directory.WidePath("closed"));
+    const Handle probe(::CreateFileW(directory.WidePath("closed\\probe").c_str(), GENERIC_WRITE, 0,
+                                     nullptr, CREATE_NEW, FILE_FLAG_DELETE_ON_CLOSE, nullptr));
+    if (probe) GTEST_SKIP() << "Wine asks the system below, where root may write everywhere";
+    EXPECT_EQ(WinHttpDownloader().Fetch("http://127.0.0.1:1/file", directory.Path("closed\\target"),
+                                        much, {}),
+              Fetched::notWritable);
+}
+
+// The process ends in the middle of it, and nothing comes back to clean up.
+TEST_F(DownloaderWindows, ItsPartGoesWithTheProcess) {
+    std::wstring command =
+        L"\"" + testing::HelperPath(L"leave_part") + L"\" \"" + Wide(target) + L"\"";
+    STARTUPINFOW startup{};
+    startup.cb = sizeof startup;
+    PROCESS_INFORMATION started{};
+    ASSERT_NE(::CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                               nullptr, &startup, &started),
+              0);
+    const Handle process(started.hProcess), thread(started.hThread);
+    ASSERT_EQ(::WaitForSingleObject(process.Get(), 30000), WAIT_OBJECT_0);
+    DWORD code = 0;
+    ::GetExitCodeProcess(process.Get(), &code);
+    EXPECT_EQ(code, 7U) << "it had a part of the file";
+    ExpectTheOldFile();
+}
+
+// Until then its name is taken, and a second download of the same file has another one.
+TEST_F(DownloaderWindows, TwoPartsOfOneTargetHaveNamesOfTheirOwn) {
+    PartFile first, second;
+    ASSERT_TRUE(first.Open(target));
+    ASSERT_TRUE(first.Write("first", 5));
+    ASSERT_TRUE(second.Open(target));
+    ASSERT_TRUE(second.Write("second", 6));
+    EXPECT_TRUE(second.Finish());
+    EXPECT_EQ(directory.Read("target"), "second");
+    EXPECT_TRUE(first.Finish());
+    EXPECT_EQ(directory.Read("target"), "first");
+    EXPECT_EQ(directory.Read("target.1.part"), "<no such file>");
 }
 
 }  // namespace

@@ -1,12 +1,14 @@
-# Servers for http and https on 127.0.0.1, for tests: web_server.py DIRECTORY
+# Servers for http and https on 127.0.0.1, for tests: web_server.py DIRECTORY [NAME]
+# The certificate is for that name, and for 127.0.0.1 without one.
 # Prints the ports of both and the https certificate's file, and serves until its standard input ends.
 import http.server, ssl, subprocess, sys, threading, time
 
 directory = sys.argv[1]
+host = sys.argv[2] if len(sys.argv) > 2 else "127.0.0.1"
 certificate, key = directory + "/certificate.pem", directory + "/key.pem"
 subprocess.run(["openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes",
                 "-keyout", key, "-out", certificate, "-days", "2", "-subj", "/CN=Kivu-test",
-                "-addext", "subjectAltName=IP:127.0.0.1"],
+                "-addext", "subjectAltName=" + ("DNS:" if len(sys.argv) > 2 else "IP:") + host],
                check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
 ports = {}
 # What holds an answer back, until the program ends.
@@ -71,9 +73,9 @@ class Handler(http.server.BaseHTTPRequestHandler):
         elif path == "/to/http":
             self.send(302, Location="http://127.0.0.1:%d/file" % ports["http"])
         elif path == "/to/https":
-            self.send(302, Location="https://127.0.0.1:%d/file" % ports["https"])
+            self.send(302, Location="https://%s:%d/file" % (host, ports["https"]))
         elif path == "/to/https/and/back":
-            self.send(302, Location="https://127.0.0.1:%d/to/http" % ports["https"])
+            self.send(302, Location="https://%s:%d/to/http" % (host, ports["https"]))
         elif path == "/to/file":
             self.send(302, Location="file:///etc/hostname")
         elif path == "/nowhere":
