@@ -11,11 +11,8 @@ namespace {
 
 // A scan leaves the simple list as it was.
 std::string GamesInCompleteList(const core::Form1& form) {
-    return form.Say(
-        "Die Spiele stehen in der Liste \"Komplett\".\r"
-        "Hier stehen sie, sobald der Emulator neu gewählt wird.",
-        "The games are in \"Complete List\".\r"
-        "They will be here once the emulator is chosen anew.");
+    return form.Say("Die Spiele stehen in der Liste \"Komplett\",\rhier ab dem nächsten Start.",
+                    "The games are in \"Complete List\",\rand here from the next start on.");
 }
 
 }  // namespace

@@ -114,6 +114,8 @@ TEST_F(OddEntries, AsTheProgramAreFaultyAndNotStarted) {
 TEST_F(OddEntries, AsRomAndMountingToolAreFaulty) {
     ForEach([&](const OddEntry& entry) {
         const std::string path = Make(entry, "odd");
+        Fill("KickstartRom", "");
+        tree.WriteProgramProfile({{"LastEmulator", "Alpha"}});
         Start();
         Open([&] {
             Set("TxtKickstartRomFile.Text", path);
