@@ -63,12 +63,13 @@ bool OpensWindow(const Step& step) {
     return !step.commands.empty() && step.commands.front()[0] == "call";
 }
 
-// Behind a box there are no hands.
+// Behind a box there are no hands, and nothing comes in the middle of what does.
 bool ComesMeanwhile(const Commands& commands, bool atBox) {
     return std::all_of(commands.begin(), commands.end(), [&](const Json& command) {
         static const std::set<std::string> outside{"process", "file",   "tick", "summon",
                                                    "disk",    "resize", "state"};
-        return !atBox || outside.contains(command[0].get<std::string>());
+        const std::string name = command[0];
+        return name != "meanwhile" && (!atBox || outside.contains(name));
     });
 }
 
