@@ -70,7 +70,8 @@ CloseRequests::~CloseRequests() {
 bool CloseRequests::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
     QWidget* modal = QApplication::activeModalWidget();
     // Its own request goes its own way, which begins here too.
-    if (modal && !modal->isActiveWindow() && IsCloseRequest(type, message)) {
+    const bool inFront = modal && modal->isActiveWindow() && !modal->isMinimized();
+    if (modal && !inFront && IsCloseRequest(type, message)) {
         const auto come = [modal] { BringToFront(*modal); };
         QMetaObject::invokeMethod(modal, come, Qt::QueuedConnection);
     }
