@@ -11,7 +11,7 @@ test=(libgtest-dev libgmock-dev nlohmann-json3-dev libpng-dev zlib1g-dev libdefl
       xserver-xorg-core xserver-xorg-video-dummy python3 openssl fuseiso
       desktop-file-utils appstream man-db imagemagick nasm mawk
       python3-pyatspi gir1.2-atspi-2.0 at-spi2-core dbus
-      sway wtype qt6-wayland util-linux)
+      sway wtype qt6-wayland util-linux qt6-base-private-dev)
 windows=(g++-mingw-w64-x86-64-posix libz-mingw-w64-dev dpkg-dev libpng-dev zip file)
 package=(debhelper dpkg-dev fakeroot git lintian nasm)
 tarball=(patchelf binutils xz-utils dpkg-dev qt6-wayland qt6-image-formats-plugins)

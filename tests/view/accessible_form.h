@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "view/listening.h"
 #include "view/shown_form.h"
 
 namespace kivu::tests {
@@ -35,13 +36,14 @@ struct Late {
 class AccessibleTest : protected Late, public ShownForm {
  protected:
     AccessibleTest() {
-        QAccessible::setActive(true);
+        SetListening(true);
         handler = QAccessible::installUpdateHandler(NoteEvent);
         told = &events;
     }
     ~AccessibleTest() override {
         told = nullptr;
         QAccessible::installUpdateHandler(handler);
+        SetListening(false);
     }
 
     QAccessibleInterface* Of(const char* name) {
@@ -85,7 +87,7 @@ class AccessibleTest : protected Late, public ShownForm {
         tabs[1]->SetOpaque(true);
     }
 
-    // A screen without assistive tools tells nobody anything; tests/program asks one that has them.
+    // Where the screen cannot be taken to have tools; tests/program asks one that has them.
     static bool ToldToNobody() { return !QAccessible::isActive(); }
 
     std::vector<forms::Label*> tabs;
