@@ -38,6 +38,9 @@ void Layout::Form_Resize() {
         if (form.ListsVisible || form.EmulatorLongListbox.Visible()) ArrangeLists();
         ResizeSettingsWindow();
         form.TopRightPic.SetLeft(form.Width() - form.TopRightPic.Width() - 230);
+        // Words that are too long end there, and not below the clock.
+        form.MyCaptionLabel.SetWidth(
+            std::max(0, form.TopRightPic.Left() - form.MyCaptionLabel.Left()));
         SetVorschau();
         // The open choice keeps it as wide as its list.
         form.EmuListbox.SetWidth(form.ChoiceInFront() ? form.EmulatorLongListbox.Width()

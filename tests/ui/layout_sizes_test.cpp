@@ -86,6 +86,15 @@ TEST_F(LayoutSizes, ToldOffsetsOfTheFrame) {
     EXPECT_EQ(form.Label1.Left(), 4020);
 }
 
+TEST_F(LayoutSizes, TheTitlesLineEndsAtTheCornersPicture) {
+    for (const int width : {30000, 14400, 9600, 6000}) {
+        Resize(width, 10200);
+        EXPECT_EQ(form.MyCaptionLabel.Right(), form.TopRightPic.Left()) << width;
+    }
+    Resize(3000, 3000);
+    EXPECT_EQ(form.MyCaptionLabel.Width(), 0);
+}
+
 TEST_F(LayoutSizes, TheShownPictureFillsItsFrameBeforeTheWindowIsReady) {
     EXPECT_FALSE(form.WindowReady);
     EXPECT_EQ(PlaceOf(form.GamePictureVis), (Place{0, 0, 4800, 4800}));
