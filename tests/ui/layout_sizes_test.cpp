@@ -87,9 +87,14 @@ TEST_F(LayoutSizes, ToldOffsetsOfTheFrame) {
 }
 
 TEST_F(LayoutSizes, TheTitlesLineEndsAtTheCornersPicture) {
-    for (const int width : {30000, 14400, 9600, 6000}) {
+    for (const int width : {9600, 6000}) {
         Resize(width, 10200);
         EXPECT_EQ(form.MyCaptionLabel.Right(), form.TopRightPic.Left()) << width;
+    }
+    // What lies between is the window's surface.
+    for (const int width : {14400, 30000}) {
+        Resize(width, 10200);
+        EXPECT_EQ(form.MyCaptionLabel.Width(), 9000) << width;
     }
     Resize(3000, 3000);
     EXPECT_EQ(form.MyCaptionLabel.Width(), 0);
