@@ -16,6 +16,7 @@ namespace kivu::ui {
 namespace {
 constexpr int cornerRadius = 30;  // pixels
 constexpr int tabGap = 200;
+constexpr int titleWidth = 9000;
 constexpr int allRoom = 1'000'000'000;
 
 // " Favorites (12) " as "Favorites".
@@ -38,6 +39,10 @@ void Layout::Form_Resize() {
         if (form.ListsVisible || form.EmulatorLongListbox.Visible()) ArrangeLists();
         ResizeSettingsWindow();
         form.TopRightPic.SetLeft(form.Width() - form.TopRightPic.Width() - 230);
+        // Words that are too long end there, and not below the clock. Beyond its own width the
+        // window's surface begins, which has other uses.
+        form.MyCaptionLabel.SetWidth(
+            std::clamp(form.TopRightPic.Left() - form.MyCaptionLabel.Left(), 0, titleWidth));
         SetVorschau();
         // The open choice keeps it as wide as its list.
         form.EmuListbox.SetWidth(form.ChoiceInFront() ? form.EmulatorLongListbox.Width()

@@ -86,6 +86,20 @@ TEST_F(LayoutSizes, ToldOffsetsOfTheFrame) {
     EXPECT_EQ(form.Label1.Left(), 4020);
 }
 
+TEST_F(LayoutSizes, TheTitlesLineEndsAtTheCornersPicture) {
+    for (const int width : {9600, 6000}) {
+        Resize(width, 10200);
+        EXPECT_EQ(form.MyCaptionLabel.Right(), form.TopRightPic.Left()) << width;
+    }
+    // What lies between is the window's surface.
+    for (const int width : {14400, 30000}) {
+        Resize(width, 10200);
+        EXPECT_EQ(form.MyCaptionLabel.Width(), 9000) << width;
+    }
+    Resize(3000, 3000);
+    EXPECT_EQ(form.MyCaptionLabel.Width(), 0);
+}
+
 TEST_F(LayoutSizes, TheShownPictureFillsItsFrameBeforeTheWindowIsReady) {
     EXPECT_FALSE(form.WindowReady);
     EXPECT_EQ(PlaceOf(form.GamePictureVis), (Place{0, 0, 4800, 4800}));
