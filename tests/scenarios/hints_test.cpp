@@ -27,7 +27,7 @@ TEST_F(FirstSteps, StandBelowTheTitleOfAFirstStart) {
 TEST_F(FirstSteps, HaveTheFocusOnWhatTheyTellToPress) {
     Start();
     EXPECT_EQ(Get("Focus"), "Form1.SettingsBtn");
-    EXPECT_EQ(Get("ListMode"), "2");
+    EXPECT_TRUE(Visible("LoadingBtn"));
     EXPECT_FALSE(Visible("EmulatorLongListbox"));
     // With emulators to choose from the drop-down is the first that the Tab key comes to.
     tree.AddEmulator("Alpha");

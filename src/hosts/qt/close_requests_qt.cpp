@@ -23,11 +23,11 @@ struct ClientMessage {
     std::uint16_t sequence;
     std::uint32_t window, type, values[5];
 };
-constexpr std::uint8_t clientMessage = 33;
 
 #if QT_CONFIG(xcb)
 
 bool IsClose(const ClientMessage& message) {
+    constexpr std::uint8_t clientMessage = 33;
     constexpr std::uint8_t kinds = 0x7f;  // the highest bit tells that a client has sent it
     X11Requests* x11 = (message.kind & kinds) == clientMessage ? X11Requests::Instance() : nullptr;
     if (!x11 || message.format != 32) return false;
