@@ -34,7 +34,8 @@ TEST_F(StartMoments, WhileItMountsNoWindowOpensAndNothingIsSearchedOrScanned) {
     EXPECT_GT(looks, 5);
     const auto ran = Ran();
     ASSERT_THAT(ran, SizeIs(2));
-    EXPECT_THAT(ran[1], HasSubstr("Bee (1991)"));
+    EXPECT_THAT(ran[0], HasSubstr("Bee (1991)"));
+    EXPECT_THAT(ran[1], HasSubstr("alpha"));
     EXPECT_EQ(Get("CurrentRunninApplication"), "alpha");
     EXPECT_FALSE(MountFileIsThere());
 }
