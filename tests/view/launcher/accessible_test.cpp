@@ -66,9 +66,6 @@ TEST_F(LauncherAloud, EmptyListTellsWhatIsTheMatter) {
     EXPECT_EQ(Described(Of("WIthoutDoubles")), "");
     Form().WIthoutDoubles.Clear();
     EXPECT_THAT(Described(Of("WIthoutDoubles")), HasSubstr("The games are in \"Complete List\""));
-    Form().UAE_Short.Clear();
-    Form().WIthoutDoubles.Clear();
-    EXPECT_THAT(Described(Of("UAE_Short")), HasSubstr("No games"));
 }
 
 TEST_F(LauncherAloud, EveryControlOfTheMainWindowHasAName) {
