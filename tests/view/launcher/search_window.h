@@ -20,6 +20,7 @@ class SearchWindow : public Scenario {
         Scenario::TearDown();
     }
     void Show() {
+        view.reset();  // it looks at the form of the start before
         Start();
         view = std::make_unique<view::FormView>(Form());
         view->Show();
