@@ -37,14 +37,29 @@ if(KIVU_SANITIZE)
   target_link_options(kivu_options INTERFACE -fsanitize=${KIVU_SANITIZE})
 endif()
 
+# kivu_precompile(name headers...): what all of its sources may rely on. With a precompiled header GCC's debug
+# information differs from run to run (the order of its tables follows addresses), and so would a package's build id:
+# there each source reads the same headers as text.
+option(KIVU_PRECOMPILE "Precompile what all sources include" ON)
+function(kivu_precompile name)
+  if(KIVU_PRECOMPILE)
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+    return()
+  endif()
+  list(TRANSFORM ARGN REPLACE "(.+)" "#include \\1\n" OUTPUT_VARIABLE lines)
+  list(JOIN lines "" text)
+  set(header ${PROJECT_BINARY_DIR}/common/${name}.h)
+  file(CONFIGURE OUTPUT ${header} CONTENT "${text}" @ONLY)
+  target_compile_options(${name} PRIVATE -include ${header})
+endfunction()
+
 # kivu_library(name folder [libraries...]): a static library of all sources in src/folder.
 function(kivu_library name folder)
   file(GLOB sources CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/src/${folder}/*.cpp)
   if(sources)
     add_library(${name} STATIC ${sources})
     target_link_libraries(${name} PUBLIC kivu_options ${ARGN})
-    target_precompile_headers(${name} PRIVATE <algorithm> <functional> <memory> <optional> <string>
-                              <string_view> <utility> <vector>)
+    kivu_precompile(${name} <algorithm> <functional> <memory> <optional> <string> <string_view> <utility> <vector>)
   else()
     add_library(${name} INTERFACE)
     target_link_libraries(${name} INTERFACE kivu_options ${ARGN})
