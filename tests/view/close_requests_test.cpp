@@ -25,8 +25,8 @@ class CloseRequests : public testing::Test {
         QCoreApplication::processEvents();
         EXPECT_TRUE(modal.isMinimized());
     }
-    void Send(unsigned number) {
-        Message message{nullptr, number};
+    void Send(unsigned number, const QWidget* to = nullptr) {
+        Message message{to ? reinterpret_cast<void*>(to->winId()) : nullptr, number};
         qintptr result = 0;
         EXPECT_FALSE(requests.nativeEventFilter("windows_generic_MSG", &message, &result));
         QCoreApplication::processEvents();
@@ -44,6 +44,13 @@ TEST_F(CloseRequests, FetchTheModalWindowThatKeepsThemOff) {
     EXPECT_FALSE(modal.isMinimized());
     EXPECT_TRUE(behind.isVisible());
     EXPECT_TRUE(modal.isVisible());
+}
+
+TEST_F(CloseRequests, OfTheModalWindowItselfGoTheirOwnWay) {
+    Send(closeNumber, &modal);
+    EXPECT_TRUE(modal.isMinimized());
+    Send(closeNumber, &behind);
+    EXPECT_FALSE(modal.isMinimized());
 }
 
 TEST_F(CloseRequests, AreNobodysBusinessWithoutOne) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QWidget>
 #include <cstdint>
+#include <optional>
 
 #include "hosts/qt/x11_requests.h"
 
@@ -26,29 +27,35 @@ struct ClientMessage {
 
 #if QT_CONFIG(xcb)
 
-bool IsClose(const ClientMessage& message) {
+std::optional<WId> Closed(const ClientMessage& message) {
     constexpr std::uint8_t clientMessage = 33;
     constexpr std::uint8_t kinds = 0x7f;  // the highest bit tells that a client has sent it
     X11Requests* x11 = (message.kind & kinds) == clientMessage ? X11Requests::Instance() : nullptr;
-    if (!x11 || message.format != 32) return false;
+    if (!x11 || message.format != 32) return {};
     // ICCCM: the window manager's request.
     static const std::uint32_t protocols = x11->Atom("WM_PROTOCOLS");
     static const std::uint32_t close = x11->Atom("WM_DELETE_WINDOW");
-    return message.type == protocols && message.values[0] == close;
+    if (message.type != protocols || message.values[0] != close) return {};
+    return message.window;
 }
 
 #else
 
-bool IsClose(const ClientMessage&) {
-    return false;
+std::optional<WId> Closed(const ClientMessage&) {
+    return {};
 }
 
 #endif
 
-bool IsCloseRequest(const QByteArray& type, const void* message) {
-    if (type == "windows_generic_MSG")
-        return static_cast<const WindowsMessage*>(message)->number == closeNumber;
-    return type == "xcb_generic_event_t" && IsClose(*static_cast<const ClientMessage*>(message));
+// The window that is to be closed.
+std::optional<WId> Closed(const QByteArray& type, const void* message) {
+    if (type == "windows_generic_MSG") {
+        const auto& asked = *static_cast<const WindowsMessage*>(message);
+        if (asked.number != closeNumber) return {};
+        return reinterpret_cast<WId>(asked.window);
+    }
+    if (type != "xcb_generic_event_t") return {};
+    return Closed(*static_cast<const ClientMessage*>(message));
 }
 
 void BringToFront(QWidget& window) {
@@ -69,9 +76,9 @@ CloseRequests::~CloseRequests() {
 
 bool CloseRequests::nativeEventFilter(const QByteArray& type, void* message, qintptr*) {
     QWidget* modal = QApplication::activeModalWidget();
+    const std::optional<WId> closed = modal ? Closed(type, message) : std::nullopt;
     // Its own request goes its own way, which begins here too.
-    const bool inFront = modal && modal->isActiveWindow() && !modal->isMinimized();
-    if (modal && !inFront && IsCloseRequest(type, message)) {
+    if (closed && *closed != modal->winId()) {
         const auto come = [modal] { BringToFront(*modal); };
         QMetaObject::invokeMethod(modal, come, Qt::QueuedConnection);
     }
