@@ -138,5 +138,24 @@ TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
     EXPECT_FALSE(Visible("DeLFav"));
 }
 
+// The click on the button is refused, but gives it the focus: the Enter that starts must not press
+// it once the game is up.
+TEST_F(InTheMiddle, EnterThatStartsAGamePressesNoButtonThatIsClickedMeanwhile) {
+    int clicked = 0;
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("click", "Form1.Label3");
+        Do("select", "Form1.UAE_Short", 2);
+        Do("runs");
+        if (With(n, {{"click", "Form1.LoadBtn"}}, "key", "Form1.UAE_Short", "Enter")) ++clicked;
+        EXPECT_EQ(Do("runs")["value"].size(), 1U) << n;
+        // A rescan would take the selection away.
+        EXPECT_EQ(Get("UAE_Short.ListIndex"), 2) << n;
+        EndGame();
+        ExpectOneList(n);
+    }
+    EXPECT_GT(clicked, 3);
+}
+
 }  // namespace
 }  // namespace kivu::scenarios
