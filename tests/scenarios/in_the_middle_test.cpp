@@ -138,6 +138,30 @@ TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
     EXPECT_FALSE(Visible("DeLFav"));
 }
 
+// The drop-down can be seen there, and the keyboard goes through its rows.
+TEST_F(InTheMiddle, NoRowIsChosenInAChoiceThatCannotOpen) {
+    tree.Write("Config/Alpha/Favoriten.ini",
+               ProgramDirectory::Encoded("[Favoriten]\r\nFav0_Name=Bee\r\n"
+                                         "Fav0_FullPath=/Roms/Alpha/Bee (1991)(Maker).adf\r\n"));
+    prepare = [this](driver::Session&) { Do("device", "add", "Pad", 18); };
+    for (const Json& command :
+         {Json{"click", "Form1.JoystickIcon"}, Json{"call", "RepairFavoriten"},
+          Json{"tick", "Form1.EmuActiveTimer", 3}}) {
+        int chosen = 0;
+        for (int n = 1; n < 5; ++n) {
+            Start();
+            if (command[0] == "tick") LaunchBee();
+            Do("meanwhile", "events", n, Json{"select", "Form1.EmuListbox", 1});
+            const Json meanwhile = interpreter->Execute(command)["meanwhile"];
+            if (!meanwhile.empty() && meanwhile[0]["ok"] == true) ++chosen;
+            EXPECT_EQ(InFront().size(), 1U) << command << n;
+            EXPECT_EQ(Get("ListMode"), Visible("FavoritenListe") ? "1" : "2") << command << n;
+            EXPECT_EQ(Get("EmuListbox.ListIndex"), Get("CurrentEmuIndex")) << command << n;
+        }
+        EXPECT_GT(chosen, 0) << command;
+    }
+}
+
 // The click on the button is refused, but gives it the focus: the Enter that starts must not press
 // it once the game is up.
 TEST_F(InTheMiddle, EnterThatStartsAGamePressesNoButtonThatIsClickedMeanwhile) {
