@@ -124,6 +124,23 @@ TEST_F(InTheMiddle, RescanAsksWithoutATabAlone) {
     }
 }
 
+TEST_F(InTheMiddle, StartAsksWithoutATabAlone) {
+    int asked = 0, alone = 0;
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("type", "Form1.SearchDblsTxt", "maker");
+        Do("select", "Form1.SuchErgList", 0);
+        Host().dialogs.onShow = [&] {
+            ++asked;
+            if (Visible("Label4") && !Visible("Label3")) ++alone;
+        };
+        With(n, {{"close", "Form1"}}, "key", "Form1.SuchErgList", "Enter");
+        EndGame();
+    }
+    EXPECT_GT(asked, 3);
+    EXPECT_EQ(alone, 0);
+}
+
 // A favourite is looked for in the list, and the complete one comes to the front meanwhile.
 TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
     tree.Write("Config/Alpha/Favoriten.ini",
