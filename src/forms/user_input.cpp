@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "forms/access_keys.h"
+#include "forms/button_keys.h"
 #include "forms/controls.h"
 #include "forms/directory_controls.h"
 #include "forms/list_control.h"
@@ -268,11 +269,7 @@ bool UserInput::UseKey(Control& control, Key key) {
     if (auto* slider = dynamic_cast<Slider*>(&control)) return MoveSlider(*slider, key.code);
     auto* option = dynamic_cast<OptionButton*>(&control);
     if (option && MoveOption(*option, key.code)) return true;
-    const bool command =
-        control.GetKind() == Kind::commandButton || control.GetKind() == Kind::label;
-    const bool button = command || dynamic_cast<ValueButton*>(&control);
-    const bool pressed = key.code == keys::space || (key.code == keys::enter && command);
-    if (!button || !pressed) return false;
+    if (!IsPressedBy(control, key)) return false;
     Press(control);
     return true;
 }
@@ -358,6 +355,7 @@ bool UserInput::EditCharacter(Character character) {
 }
 
 void UserInput::Stroke(Key key, Character typed) {
+    const Control* const struckOn = form.Focus();
     const Key left = KeyDown(key);
     if (left.code == 0) return;
     Character character = left == key ? typed : CharacterOf(left);
@@ -365,6 +363,7 @@ void UserInput::Stroke(Key key, Character typed) {
         character = KeyPress(character);
         if (character.code == 0 || EditCharacter(character)) return;
     }
+    if (PressesAnother(struckOn, form.Focus(), left)) return;
     if (!DefaultKey(left)) EditKey(left);
 }
 

@@ -115,10 +115,10 @@ void GameLaunch::Prepare(Run& run) {
                                                          : support::ShortFileName(files, run.path));
     form.TmpBatName = text::RemoveQuotes(form.TmpBatName);
     routines.alwaysOnTop.SetToNormal();
-    busy.HideAll(false);
-    hooks.SetVorschau();
     // The one tab that the busy state leaves; it would stand there alone.
     form.Label4.SetVisible(false);
+    busy.HideAll(false);
+    hooks.SetVorschau();
     // Relative paths in the profile are meant from here.
     (void)services.files.ChangeDirectory(form.AppDir);
     std::string entry = run.argument;

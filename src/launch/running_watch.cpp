@@ -31,9 +31,9 @@ void RunningWatch::WatchOnce() {
 
 void RunningWatch::HideListsOfRunning() {
     if (!form.EmulatorRuns()) return;
-    busy.HideAll(false);
     // The one tab that the busy state leaves; it would stand there alone.
     form.Label4.SetVisible(false);
+    busy.HideAll(false);
 }
 
 void RunningWatch::ShowRunning() {

@@ -148,6 +148,13 @@ void EmulatorBox::LeaveChoice() {
 }
 
 void EmulatorBox::EmuListbox_Click() {
+    // The choice stays closed now, and so no row is chosen in it. Where the drop-down is hidden,
+    // what is under way has set the row.
+    if (Rests() && !choiceOpen && form.EmuListbox.Visible()) {
+        form.EmuListbox.SetListIndex(form.CurrentEmuIndex);
+        if (form.CurrentEmuIndex < 0) WritePrompt();
+        return;
+    }
     form.EmulatorLongListbox.SetListIndex(form.EmuListbox.ListIndex());
     form.EmuListbox.SetSelection(form.EmuListbox.SelStart(), 0);
     form.SetMode(Front::choice);

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <utility>
 
+#include "forms/button_keys.h"
 #include "forms/controls.h"
 #include "view/keys.h"
 #include "view/text.h"
@@ -39,6 +40,7 @@ void Keyboard::Press(QWidget& widget, QKeyEvent& event) {
         static_cast<QObject&>(widget).event(&event);
         return;
     }
+    const forms::Control* const struckOn = form.Focus();
     const forms::Key left = input.KeyDown(key);
     if (left.code == 0) return;
     const std::vector<forms::Character> typed = CharactersOf(event, left);
@@ -51,7 +53,7 @@ void Keyboard::Press(QWidget& widget, QKeyEvent& event) {
         mirror->ShowRows();
         return;
     }
-    if (input.DefaultKey(left)) return;
+    if (forms::PressesAnother(struckOn, focus, left) || input.DefaultKey(left)) return;
     if (left.code == keys::f4 && left.shift == shifts::alt) {
         if (onCloseKey) onCloseKey();
         return;

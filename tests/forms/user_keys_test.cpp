@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "forms_testing.h"
 
 namespace kivu::forms {
@@ -311,6 +313,23 @@ TEST_F(KeysTest, KeyHandlerThatHidesItsControlStopsTheTyping) {
     user.Type(text, "ab");
     EXPECT_EQ(text.Text(), "");
     EXPECT_EQ(form.Focus(), nullptr);
+}
+
+// A click that comes while the handler lets events run.
+TEST_F(KeysTest, KeyPressesNoButtonThatGotTheFocusMeanwhile) {
+    for (Control* clicked : std::initializer_list<Control*>{&button, &check}) {
+        clicked->onClick = [this] { log.push_back("pressed"); };
+        list.onKeyPress = [clicked](Character&) { clicked->SetFocus(); };
+        for (const char* key : {"Enter", "Space"}) {
+            list.SetFocus();
+            log.clear();
+            Press(key);
+            EXPECT_EQ(form.Focus(), clicked);
+            EXPECT_EQ(std::count(log.begin(), log.end(), "pressed"), 0) << key;
+        }
+        Press("Space");
+        EXPECT_EQ(std::count(log.begin(), log.end(), "pressed"), 1);
+    }
 }
 
 }  // namespace

@@ -124,6 +124,23 @@ TEST_F(InTheMiddle, RescanAsksWithoutATabAlone) {
     }
 }
 
+TEST_F(InTheMiddle, StartAsksWithoutATabAlone) {
+    int asked = 0, alone = 0;
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("type", "Form1.SearchDblsTxt", "maker");
+        Do("select", "Form1.SuchErgList", 0);
+        Host().dialogs.onShow = [&] {
+            ++asked;
+            if (Visible("Label4") && !Visible("Label3")) ++alone;
+        };
+        With(n, {{"close", "Form1"}}, "key", "Form1.SuchErgList", "Enter");
+        EndGame();
+    }
+    EXPECT_GT(asked, 3);
+    EXPECT_EQ(alone, 0);
+}
+
 // A favourite is looked for in the list, and the complete one comes to the front meanwhile.
 TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
     tree.Write("Config/Alpha/Favoriten.ini",
@@ -136,6 +153,49 @@ TEST_F(InTheMiddle, FavouriteThatIsLookedForOffersNoButtonsInAnotherList) {
     EXPECT_TRUE(With(1, {{"click", "Form1.Label3"}}, "select", "Form1.FavoritenListe", 1));
     EXPECT_TRUE(Visible("UAE_Short"));
     EXPECT_FALSE(Visible("DeLFav"));
+}
+
+// The drop-down can be seen there, and the keyboard goes through its rows.
+TEST_F(InTheMiddle, NoRowIsChosenInAChoiceThatCannotOpen) {
+    tree.Write("Config/Alpha/Favoriten.ini",
+               ProgramDirectory::Encoded("[Favoriten]\r\nFav0_Name=Bee\r\n"
+                                         "Fav0_FullPath=/Roms/Alpha/Bee (1991)(Maker).adf\r\n"));
+    prepare = [this](driver::Session&) { Do("device", "add", "Pad", 18); };
+    for (const Json& command :
+         {Json{"click", "Form1.JoystickIcon"}, Json{"call", "RepairFavoriten"},
+          Json{"tick", "Form1.EmuActiveTimer", 3}}) {
+        int chosen = 0;
+        for (int n = 1; n < 5; ++n) {
+            Start();
+            if (command[0] == "tick") LaunchBee();
+            Do("meanwhile", "events", n, Json{"select", "Form1.EmuListbox", 1});
+            const Json meanwhile = interpreter->Execute(command)["meanwhile"];
+            if (!meanwhile.empty() && meanwhile[0]["ok"] == true) ++chosen;
+            EXPECT_EQ(InFront().size(), 1U) << command << n;
+            EXPECT_EQ(Get("ListMode"), Visible("FavoritenListe") ? "1" : "2") << command << n;
+            EXPECT_EQ(Get("EmuListbox.ListIndex"), Get("CurrentEmuIndex")) << command << n;
+        }
+        EXPECT_GT(chosen, 0) << command;
+    }
+}
+
+// The click on the button is refused, but gives it the focus: the Enter that starts must not press
+// it once the game is up.
+TEST_F(InTheMiddle, EnterThatStartsAGamePressesNoButtonThatIsClickedMeanwhile) {
+    int clicked = 0;
+    for (int n = 1; n < moments; ++n) {
+        Start();
+        Do("click", "Form1.Label3");
+        Do("select", "Form1.UAE_Short", 2);
+        Do("runs");
+        if (With(n, {{"click", "Form1.LoadBtn"}}, "key", "Form1.UAE_Short", "Enter")) ++clicked;
+        EXPECT_EQ(Do("runs")["value"].size(), 1U) << n;
+        // A rescan would take the selection away.
+        EXPECT_EQ(Get("UAE_Short.ListIndex"), 2) << n;
+        EndGame();
+        ExpectOneList(n);
+    }
+    EXPECT_GT(clicked, 3);
 }
 
 }  // namespace

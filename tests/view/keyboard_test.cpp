@@ -193,5 +193,21 @@ TEST_F(KeyboardTest, ShowsATextThatTheChangeHandlerReplaces) {
     EXPECT_EQ(Find<QLineEdit>("Text")->text(), "other");
 }
 
+// A click that comes while the handler lets events run.
+TEST_F(KeyboardTest, PressesNoButtonThatGotTheFocusMeanwhile) {
+    form.button.onClick = form.Note("pressed");
+    form.list.onKeyPress = [this](forms::Character&) { form.button.SetFocus(); };
+    form.list.SetFocus();
+    Show();
+    for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Space}) {
+        form.list.SetFocus();
+        Key(key);
+        EXPECT_EQ(form.Focus(), &form.button);
+        EXPECT_TRUE(form.log.empty());
+    }
+    Key(Qt::Key_Return);
+    EXPECT_EQ(form.log, std::vector<std::string>{"pressed"});
+}
+
 }  // namespace
 }  // namespace kivu::tests
