@@ -18,7 +18,7 @@ mkdir -p "$folder/Config" "$folder/docs" "$folder/Skins"
 cp "$program" "$folder/"
 cp LICENSE "$folder/LICENSE.txt"
 cp README.md CHANGELOG.md "$folder/"
-cp -R docs/book docs/*.md docs/*.sh "$folder/docs/"
+cp -R docs/book docs/{install,profiles,skins}.md docs/*.sh "$folder/docs/"
 cp -R assets/skins/* "$folder/Skins/"
 # The same files give the same bytes.
 SetTimes "$folder"

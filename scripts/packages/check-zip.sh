@@ -12,9 +12,10 @@ shots=${2:-$here/tour/zip}
 place="$work/Jörg & Söhne"
 mkdir "$place"
 unzip -q "$zip" -d "$place"
-for file in Kivu.exe LICENSE.txt README.md CHANGELOG.md docs/guide.md Skins/Papier/Skin.ini; do
+for file in Kivu.exe LICENSE.txt README.md CHANGELOG.md docs/book/README.md Skins/Papier/Skin.ini; do
   [ -s "$place/Kivu/$file" ] || Fail "the zip lacks $file"
 done
+"$here/scripts/packages/dead-links.sh" "$place/Kivu" || Fail "a document leads to none that is there"
 [ "$(cd "$place" && echo *)" = Kivu ] || Fail "the zip spills more than its directory: $(ls "$place")"
 
 StartWindows
