@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and tries every package. For CI, which calls it behind scripts/build-windows.sh; by hand, too.
+# Builds and tries every package. For CI, which calls it at its end; by hand behind scripts/build-windows.sh, too.
 #
 #     scripts/ci-packages.sh [--all]      (--all: as for a release)
 #
