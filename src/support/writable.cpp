@@ -10,9 +10,10 @@ bool CanWriteIn(platform::FileSystem& files, const std::string& directory) {
         const std::string probe = inside + "Kivu" + std::to_string(number) + ".tmp";
         if (files.FileExists(probe) || files.IsDirectory(probe) || files.IsLink(probe)) continue;
         // Appending waits for no disk, and every start asks.
-        if (files.AppendFile(probe, "-")) return false;
+        const bool written = !files.AppendFile(probe, "-");
+        // Also where it is there and empty: a full disk makes it and takes no byte.
         (void)files.DeleteFile(probe);
-        return true;
+        return written;
     }
     return false;
 }

@@ -26,6 +26,22 @@ TEST(Writable, OneThatTakesNoneOrIsNotThereIsNot) {
     EXPECT_FALSE(CanWriteIn(files, "/k"));
 }
 
+// A full disk makes a file and takes no byte of it.
+class FullDisk : public testing::MemoryFileSystem {
+ public:
+    std::error_code AppendFile(const std::string& path, std::string_view) override {
+        AddFile(path, "");
+        return std::make_error_code(std::errc::no_space_on_device);
+    }
+};
+
+TEST(Writable, NothingIsLeftOnAFullDisk) {
+    FullDisk files;
+    files.AddDirectory("/k");
+    EXPECT_FALSE(CanWriteIn(files, "/k"));
+    EXPECT_FALSE(files.FileExists("/k/Kivu0.tmp"));
+}
+
 TEST(Writable, PathsAreTheHosts) {
     testing::MemoryFileSystem files{'\\'};
     files.AddDirectory("C:\\Kivu");
